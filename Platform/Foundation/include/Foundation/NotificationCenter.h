@@ -1,0 +1,48 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace velmar {
+
+/// Named notifications within the process. Posting is synchronous: every observer of the name has run, on the poster's
+/// thread and in the order of registration, when `post` returns. An observer may post, add and remove in its turn; one
+/// that is removed during a post is not called any more. Any thread.
+class NotificationCenter {
+public:
+    using Handler = std::function<void()>;
+
+    /// Keeps one registration; destroying it ends the registration. It may outlive the centre.
+    class Token {
+    public:
+        Token() = default;
+        Token(Token &&) noexcept = default;
+        Token &operator=(Token &&) noexcept;
+        ~Token();
+
+    private:
+        friend class NotificationCenter;
+        struct Registration;
+        explicit Token(std::shared_ptr<Registration> registration);
+        std::shared_ptr<Registration> registration_;
+    };
+
+    NotificationCenter();
+    ~NotificationCenter();
+    NotificationCenter(const NotificationCenter &) = delete;
+    NotificationCenter &operator=(const NotificationCenter &) = delete;
+
+    [[nodiscard]] Token addObserver(std::string name, Handler handler);
+    void post(std::string_view name);
+
+    /// The centre of the process.
+    static NotificationCenter &defaultCenter();
+
+private:
+    struct State;
+    std::shared_ptr<State> state_;
+};
+
+} // namespace velmar

@@ -1,0 +1,28 @@
+# Everything that comes from outside, found once; scripts/dependencies.txt lists the packages.
+
+find_package(Threads REQUIRED)
+find_package(PkgConfig REQUIRED)
+find_package(ICU REQUIRED COMPONENTS uc i18n)
+find_package(pugixml REQUIRED)
+find_package(fmt REQUIRED)
+find_package(CLI11 REQUIRED)
+find_package(nlohmann_json REQUIRED)
+find_package(Boost 1.81 REQUIRED)
+pkg_check_modules(libsystemd REQUIRED IMPORTED_TARGET libsystemd)
+
+# Asio comes as headers without a package file.
+find_path(ASIO_INCLUDE_DIR asio.hpp REQUIRED)
+add_library(asio_headers INTERFACE)
+target_include_directories(asio_headers SYSTEM INTERFACE ${ASIO_INCLUDE_DIR})
+target_compile_definitions(asio_headers INTERFACE ASIO_STANDALONE ASIO_NO_DEPRECATED)
+target_link_libraries(asio_headers INTERFACE Threads::Threads)
+
+if(BUILD_TESTING)
+    find_package(GTest REQUIRED)
+endif()
+if(VELMAR_BENCHMARKS)
+    find_package(benchmark REQUIRED)
+endif()
+if(VELMAR_WITH_QT)
+    find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets LinguistTools)
+endif()
