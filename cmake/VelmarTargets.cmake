@@ -8,7 +8,8 @@
 #   velmar_add_fuzzer(<name> SOURCES ... [DEPS ...])
 #
 # A library <name> is the target velmar_<name> with the alias velmar::<name>. Its public headers lie below HEADER_ROOT
-# (by default the folder "include" beside its CMakeLists.txt), which is the only include directory that it hands on.
+# (by default the folder "include" beside its CMakeLists.txt), which is the only include directory that it hands on. One
+# without SOURCES consists of its headers.
 # LAYER is the floor of the house; a dependency on a higher floor stops the configuration.
 
 include(GNUInstallDirs)
@@ -67,15 +68,22 @@ function(velmar_add_library name)
         get_filename_component(root ${ARG_HEADER_ROOT} ABSOLUTE BASE_DIR ${CMAKE_CURRENT_SOURCE_DIR})
     endif()
     set(target velmar_${name})
-    add_library(${target} STATIC ${ARG_SOURCES})
+    set(own PUBLIC)
+    if(ARG_SOURCES)
+        add_library(${target} STATIC ${ARG_SOURCES})
+        target_link_libraries(${target} PRIVATE velmar_options ${ARG_PRIVATE_DEPS})
+    else()
+        add_library(${target} INTERFACE)
+        set(own INTERFACE)
+    endif()
     add_library(velmar::${name} ALIAS ${target})
     set_target_properties(${target} PROPERTIES VELMAR_LAYER ${ARG_LAYER} VERIFY_INTERFACE_HEADER_SETS ON)
     if(ARG_HEADERS)
-        target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS ${root} FILES ${ARG_HEADERS})
+        target_sources(${target} ${own} FILE_SET HEADERS BASE_DIRS ${root} FILES ${ARG_HEADERS})
     else()
-        target_include_directories(${target} PUBLIC ${root})
+        target_include_directories(${target} ${own} ${root})
     endif()
-    target_link_libraries(${target} PUBLIC ${ARG_PUBLIC_DEPS} PRIVATE velmar_options ${ARG_PRIVATE_DEPS})
+    target_link_libraries(${target} ${own} ${ARG_PUBLIC_DEPS})
     _velmar_check_layers(${target} ${ARG_PUBLIC_DEPS} ${ARG_PRIVATE_DEPS})
 endfunction()
 

@@ -1,0 +1,204 @@
+#pragma once
+
+#include <Foundation/LineIndex.h>
+#include <Foundation/PropertyListError.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace velmar {
+
+/// One value of a property list: what its files hold, whatever their form. A plain value of 40 bytes;
+/// equality looks at kind and contents and not at places in a file. Readers never share parts between values,
+/// so a tree is no larger than what was read allows.
+class PropertyList {
+public:
+    static constexpr std::uint32_t noOffset = std::numeric_limits<std::uint32_t>::max();
+    static constexpr std::size_t maximumDepth = 256; ///< Of arrays and dictionaries within each other.
+
+    /// Bytes of a <data> element.
+    struct Data {
+        std::vector<std::byte> bytes;
+        bool operator==(const Data &) const = default;
+    };
+
+    /// A point in time, as seconds since 2001-01-01T00:00:00Z (the epoch of the format).
+    struct Date {
+        double secondsSinceReferenceDate = 0;
+        bool operator==(const Date &) const = default;
+    };
+
+    using Array = std::vector<PropertyList>;
+
+    /// Values by key, in the order of the file or of their setting. Looking up is linear, which suits the few
+    /// keys of an item; iterate where there are thousands. Equality ignores the order.
+    class Dictionary {
+    public:
+        struct Entry;
+
+        Dictionary() noexcept;
+        /// Takes entries as they are: their keys must differ.
+        explicit Dictionary(std::vector<Entry> entries) noexcept;
+        Dictionary(const Dictionary &);
+        Dictionary(Dictionary &&) noexcept;
+        Dictionary &operator=(const Dictionary &);
+        Dictionary &operator=(Dictionary &&) noexcept;
+        ~Dictionary();
+
+        /// The value of the key, or null.
+        [[nodiscard]] const PropertyList *find(std::string_view key) const noexcept;
+        [[nodiscard]] PropertyList *find(std::string_view key) noexcept;
+
+        /// Replaces the value of the key at its place, or adds it at the end.
+        void set(std::string_view key, PropertyList value);
+
+        [[nodiscard]] std::size_t size() const noexcept;
+        [[nodiscard]] bool empty() const noexcept { return size() == 0; }
+        [[nodiscard]] const Entry *begin() const noexcept;
+        [[nodiscard]] const Entry *end() const noexcept;
+
+        bool operator==(const Dictionary &other) const;
+
+    private:
+        std::vector<Entry> entries_;
+    };
+
+    enum class Kind : std::uint8_t {
+        Boolean,
+        Integer,
+        UnsignedInteger,
+        Real,
+        String,
+        Data,
+        Date,
+        Array,
+        Dictionary
+    };
+
+    PropertyList() noexcept; ///< An empty dictionary.
+    PropertyList(bool value) noexcept;
+    PropertyList(std::int64_t value) noexcept;
+    PropertyList(int value) noexcept : PropertyList(static_cast<std::int64_t>(value)) {}
+    PropertyList(
+        std::uint64_t value) noexcept; ///< Kind Integer where it fits, UnsignedInteger above 2^63 - 1.
+    PropertyList(double value) noexcept;
+    PropertyList(std::string value) noexcept;
+    PropertyList(std::string_view value);
+    PropertyList(const char *value);
+    PropertyList(Data value) noexcept;
+    PropertyList(Date value) noexcept;
+    PropertyList(Array value) noexcept;
+    PropertyList(Dictionary value) noexcept;
+    PropertyList(const PropertyList &other);
+    PropertyList(PropertyList &&other) noexcept; ///< What was moved from is an empty dictionary.
+    PropertyList &operator=(const PropertyList &other);
+    PropertyList &operator=(PropertyList &&other) noexcept;
+    ~PropertyList() { destroy(); }
+
+    [[nodiscard]] Kind kind() const noexcept { return kind_; }
+
+    /// Each gives the value where it is of that kind, otherwise null. An Integer is never a Boolean or a Real
+    /// here: what counts as what is the reader's decision.
+    [[nodiscard]] const bool *boolean() const noexcept;
+    [[nodiscard]] const std::int64_t *integer() const noexcept;
+    [[nodiscard]] const std::uint64_t *unsignedInteger() const noexcept;
+    [[nodiscard]] const double *real() const noexcept;
+    [[nodiscard]] const std::string *string() const noexcept;
+    [[nodiscard]] const Data *data() const noexcept;
+    [[nodiscard]] const Date *date() const noexcept;
+    [[nodiscard]] const Array *array() const noexcept;
+    [[nodiscard]] const Dictionary *dictionary() const noexcept;
+    [[nodiscard]] Array *array() noexcept;
+    [[nodiscard]] Dictionary *dictionary() noexcept;
+
+    /// Where the value stands in the bytes that it was read from, in bytes; noOffset for a value that was
+    /// made.
+    [[nodiscard]] std::uint32_t offset() const noexcept { return offset_; }
+    void setOffset(std::uint32_t offset) noexcept { offset_ = offset; }
+
+    /// A real that is not a number equals another one, so that a value always equals its copy.
+    bool operator==(const PropertyList &other) const;
+
+    /// A short text for messages, in the manner of `{Size = 12; Items = [a, b]}`.
+    [[nodiscard]] std::string text() const;
+
+    /// A key that a dictionary of the file gives more than once; the last one counts.
+    struct DuplicateKey {
+        std::string key;
+        std::uint32_t offset = noOffset; ///< Of the later key.
+        std::string path; ///< Dotted path of the dictionary, array indexes as numbers; empty for the root.
+    };
+
+    struct Document;
+
+    /// Reads the XML or the binary form, whichever the bytes are. Throws PropertyListError. Any thread.
+    ///
+    /// Limits: less than 4 GiB; maximumDepth. XML must be UTF-8; no entities beyond the five of XML and
+    /// characters by number, nothing is fetched. References of the binary form may be shared, and what they
+    /// expand to takes at most 64 MiB and 16 times the size of the bytes.
+    [[nodiscard]] static Document read(std::span<const std::byte> bytes);
+    [[nodiscard]] static Document read(std::string_view bytes);
+
+    /// Writes the XML form, indented by tabs, with the usual document type line, or the binary form
+    /// ("bplist00"). What is written reads back equal, but for dates in XML, which have whole seconds there.
+    /// Throws PropertyListError for what a form cannot hold: a depth beyond maximumDepth, text that is not
+    /// UTF-8, a date that is not a number; in XML also control characters and dates outside of the years 0 to
+    /// 9999.
+    [[nodiscard]] std::string xml() const;
+    [[nodiscard]] std::vector<std::byte> binary() const;
+
+private:
+    void destroy() noexcept;
+    void takeFrom(PropertyList &other) noexcept;
+
+    union {
+        bool boolean_;
+        std::int64_t integer_;
+        std::uint64_t unsignedInteger_;
+        double real_;
+        std::string string_;
+        Data data_;
+        Date date_;
+        Array array_;
+        Dictionary dictionary_;
+    };
+    std::uint32_t offset_ = noOffset;
+    Kind kind_;
+};
+
+struct PropertyList::Dictionary::Entry {
+    std::string key;
+    PropertyList value;
+    std::uint32_t keyOffset = noOffset; ///< Where the key stands, as PropertyList::offset().
+};
+
+/// What a reader found.
+struct PropertyList::Document {
+    enum class Form : std::uint8_t { Xml, Binary };
+
+    PropertyList value;
+    Form form = Form::Xml;
+    /// By offset; as many as fit into 1 MiB.
+    std::vector<DuplicateKey> duplicates;
+    LineIndex lines;
+
+    /// The line of a value's or key's offset, counted from 1; 0 for the binary form and for noOffset.
+    [[nodiscard]] std::size_t lineOf(std::uint32_t offset) const noexcept;
+};
+
+inline std::size_t PropertyList::Dictionary::size() const noexcept {
+    return entries_.size();
+}
+inline const PropertyList::Dictionary::Entry *PropertyList::Dictionary::begin() const noexcept {
+    return entries_.data();
+}
+inline const PropertyList::Dictionary::Entry *PropertyList::Dictionary::end() const noexcept {
+    return entries_.data() + entries_.size();
+}
+
+} // namespace velmar
