@@ -15,7 +15,8 @@ public:
     virtual void fire() = 0;
 };
 
-/// Makes timers. The desktop's implementation runs on its event loop, the tests' one on a clock moved by hand.
+/// Makes timers. The desktop's implementation runs on its event loop, the tests' one on a clock moved by
+/// hand.
 class TimerScheduler {
 public:
     virtual ~TimerScheduler() = default;

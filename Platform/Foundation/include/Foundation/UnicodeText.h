@@ -1,0 +1,28 @@
+#pragma once
+
+#include <compare>
+#include <string>
+#include <string_view>
+
+/// Comparison and case of UTF-8 texts that people see or write. Two texts are equal when they are canonically
+/// equivalent: "é" as one character and as "e" with an accent are the same text. Ill-formed bytes count as
+/// U+FFFD. Nothing depends on a locale. Any thread.
+namespace velmar::UnicodeText {
+
+[[nodiscard]] bool isAscii(std::string_view text) noexcept;
+[[nodiscard]] bool isValidUtf8(std::string_view text) noexcept;
+
+[[nodiscard]] bool isEqual(std::string_view left, std::string_view right);
+/// The order of the code points of the composed forms (NFC).
+[[nodiscard]] std::weak_ordering compare(std::string_view left, std::string_view right);
+
+/// A part counts where its two ends don't separate a character from its combining marks: "e" is not contained
+/// in "é", however that is written. The empty text is contained in every text.
+[[nodiscard]] bool contains(std::string_view text, std::string_view part);
+[[nodiscard]] bool hasPrefix(std::string_view text, std::string_view prefix);
+[[nodiscard]] bool hasSuffix(std::string_view text, std::string_view suffix);
+
+[[nodiscard]] std::string lowercased(std::string_view text);
+[[nodiscard]] std::string uppercased(std::string_view text);
+
+} // namespace velmar::UnicodeText

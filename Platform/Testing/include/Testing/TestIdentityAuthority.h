@@ -1,0 +1,42 @@
+#pragma once
+
+#include <System/IdentityAuthority.h>
+
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+
+namespace velmar {
+
+/// Users and groups that a test makes up.
+class TestIdentityAuthority final : public IdentityAuthority {
+public:
+    struct User {
+        UserIds ids;
+        std::string fullName;         ///< Empty for none.
+        std::set<std::string> groups; ///< The primary one included.
+    };
+
+    std::map<std::string, User> users;
+    std::string processUser = "tester";
+    std::string consoleUser = "tester";
+
+    [[nodiscard]] bool isMember(const std::string &userName, const std::string &groupName) const override {
+        const auto user = users.find(userName);
+        return user != users.end() && user->second.groups.contains(groupName);
+    }
+    [[nodiscard]] std::optional<std::string> fullName(const std::string &userName) const override {
+        const auto user = users.find(userName);
+        return user == users.end() || user->second.fullName.empty() ? std::nullopt
+                                                                    : std::optional(user->second.fullName);
+    }
+    [[nodiscard]] std::optional<UserIds> ids(const std::string &userName) const override {
+        const auto user = users.find(userName);
+        return user == users.end() ? std::nullopt : std::optional(user->second.ids);
+    }
+    [[nodiscard]] std::string processUserName() const override { return processUser; }
+    [[nodiscard]] std::string consoleUserName() const override { return consoleUser; }
+};
+
+} // namespace velmar
