@@ -1,0 +1,30 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+namespace velmar {
+
+/// The levels in ascending order.
+enum class LogLevel : std::uint8_t { verbose, debug, info, warning, error };
+
+inline constexpr std::size_t logLevelCount = 5;
+
+/// One text for each level, UTF-8.
+class LevelTexts {
+public:
+    LevelTexts() = default;
+    LevelTexts(std::string verbose, std::string debug, std::string info, std::string warning,
+               std::string error);
+
+    [[nodiscard]] const std::string &operator[](LogLevel level) const {
+        return texts_[static_cast<std::size_t>(level)];
+    }
+
+private:
+    std::array<std::string, logLevelCount> texts_;
+};
+
+} // namespace velmar

@@ -1,0 +1,54 @@
+#include <logger/BaseDestination.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <utility>
+
+#include <fmt/core.h>
+
+namespace velmar {
+
+namespace {
+
+// Lines are handed on together up to this size, so that a burst of messages costs few system calls.
+constexpr std::size_t bytesOfBatch = 64 * 1024;
+
+} // namespace
+
+BaseDestination::BaseDestination(DestinationSettings settings)
+    : settings_(std::move(settings)), formatter_(settings_.format) {}
+
+void BaseDestination::setFormat(std::string format, LevelTexts levelString) {
+    settings_.format = std::move(format);
+    settings_.levelString = std::move(levelString);
+    formatter_ = LogFormat(settings_.format);
+}
+
+bool BaseDestination::shouldBeLogged(LogLevel level, const SourceLocation &where) const {
+    return level >= settings_.minLevel &&
+           std::all_of(settings_.filters.begin(), settings_.filters.end(),
+                       [&](const LogFilter &filter) { return filter(level, where); });
+}
+
+void BaseDestination::write(std::span<const LogRecord> records) {
+    std::string lines;
+    for (const LogRecord &record : records) {
+        formatter_.append(lines, record, settings_, printsColors());
+        lines += '\n';
+        if (lines.size() >= bytesOfBatch) {
+            output(lines);
+            lines.clear();
+        }
+    }
+    if (!lines.empty()) {
+        output(lines);
+    }
+}
+
+void BaseDestination::reportFailure(std::string_view reason) const {
+    if (settings_.debugPrint) {
+        fmt::print(stderr, "velmar: a line of the log was lost: {}\n", reason);
+    }
+}
+
+} // namespace velmar

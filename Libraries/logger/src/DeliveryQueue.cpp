@@ -1,0 +1,171 @@
+#include "DeliveryQueue.h"
+
+#include <condition_variable>
+#include <csignal>
+#include <cstdint>
+#include <mutex>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include <pthread.h>
+
+#include <fmt/core.h>
+
+#include <logger/BaseDestination.h>
+
+namespace velmar {
+
+namespace {
+
+// A thread takes over the signal mask of its creator: the logger's threads handle no signals of the process.
+class AllSignalsBlocked {
+public:
+    AllSignalsBlocked() {
+        sigset_t all;
+        sigfillset(&all);
+        pthread_sigmask(SIG_SETMASK, &all, &previous_);
+    }
+    ~AllSignalsBlocked() { pthread_sigmask(SIG_SETMASK, &previous_, nullptr); }
+    AllSignalsBlocked(const AllSignalsBlocked &) = delete;
+    AllSignalsBlocked &operator=(const AllSignalsBlocked &) = delete;
+
+private:
+    sigset_t previous_{};
+};
+
+std::size_t bytesOf(const LogRecord &record) {
+    return record.message.size() + record.context.size();
+}
+
+LogRecord recordOfLoss(std::uint64_t lost) {
+    LogRecord record;
+    record.level = LogLevel::warning;
+    record.time = std::chrono::system_clock::now();
+    record.where = SourceLocation::current();
+    record.message = fmt::format("{} messages were lost because they could not be written in time", lost);
+    return record;
+}
+
+} // namespace
+
+// Shared by the queue and its thread, so that the process can go on without waiting for a thread that hangs.
+class DeliveryQueue::Worker : public std::enable_shared_from_this<Worker> {
+public:
+    explicit Worker(std::shared_ptr<BaseDestination> destination) : destination_(std::move(destination)) {}
+
+    void push(LogRecord &&record) {
+        const std::lock_guard lock(mutex_);
+        if (waiting_.size() >= maximumRecords || (waitingBytes_ > 0 && waitingBytes_ >= maximumBytes)) {
+            ++lost_;
+            return;
+        }
+        waitingBytes_ += bytesOf(record);
+        waiting_.push_back(std::move(record));
+        ++accepted_;
+        if (!started_) {
+            start();
+        } else if (idle_) {
+            idle_ = false;
+            arrived_.notify_one();
+        }
+    }
+
+    bool drain(std::chrono::steady_clock::time_point deadline) {
+        std::unique_lock lock(mutex_);
+        const std::uint64_t target = accepted_;
+        return written_.wait_until(lock, deadline, [&] { return writtenCount_ >= target; });
+    }
+
+    void stop() {
+        const std::lock_guard lock(mutex_);
+        stopping_ = true;
+        arrived_.notify_one();
+    }
+
+private:
+    void start() {
+        const AllSignalsBlocked blocked;
+        std::thread([self = shared_from_this()] { self->run(); }).detach();
+        started_ = true;
+    }
+
+    void run() {
+        pthread_setname_np(pthread_self(), "velmar-log");
+        std::vector<LogRecord> batch;
+        while (take(batch)) {
+            try {
+                if (lostBeforeTaking_ > 0) {
+                    batch.push_back(recordOfLoss(lostBeforeTaking_));
+                }
+                destination_->write(batch);
+            } catch (...) {
+                // A line that cannot be written is dropped; there is no other place to tell it.
+            }
+            finish(batch);
+        }
+    }
+
+    // Moves all that waits into the empty batch, waiting for it. False at the end of the queue.
+    bool take(std::vector<LogRecord> &batch) {
+        std::unique_lock lock(mutex_);
+        while (waiting_.empty()) {
+            if (stopping_) {
+                return false;
+            }
+            idle_ = true;
+            arrived_.wait(lock);
+        }
+        idle_ = false;
+        batch.swap(waiting_);
+        waitingBytes_ = 0;
+        taken_ = batch.size();
+        lostBeforeTaking_ = std::exchange(lost_, 0);
+        return true;
+    }
+
+    void finish(std::vector<LogRecord> &batch) {
+        batch.clear();
+        if (batch.capacity() > keptCapacity) {
+            batch.shrink_to_fit();
+        }
+        const std::lock_guard lock(mutex_);
+        writtenCount_ += taken_;
+        written_.notify_all();
+    }
+
+    static constexpr std::size_t keptCapacity = 4096;
+
+    const std::shared_ptr<BaseDestination> destination_;
+    std::mutex mutex_;
+    std::condition_variable arrived_;
+    std::condition_variable written_;
+    std::vector<LogRecord> waiting_;
+    std::size_t waitingBytes_ = 0;
+    std::uint64_t accepted_ = 0;
+    std::uint64_t writtenCount_ = 0;
+    std::uint64_t lost_ = 0;
+    // Of the batch in the hands of the thread.
+    std::size_t taken_ = 0;
+    std::uint64_t lostBeforeTaking_ = 0;
+    bool started_ = false;
+    bool idle_ = false;
+    bool stopping_ = false;
+};
+
+DeliveryQueue::DeliveryQueue(std::shared_ptr<BaseDestination> destination)
+    : worker_(std::make_shared<Worker>(std::move(destination))) {}
+
+DeliveryQueue::~DeliveryQueue() {
+    worker_->stop();
+}
+
+void DeliveryQueue::push(LogRecord &&record) {
+    worker_->push(std::move(record));
+}
+
+bool DeliveryQueue::drain(std::chrono::steady_clock::time_point deadline) {
+    return worker_->drain(deadline);
+}
+
+} // namespace velmar
