@@ -1,0 +1,94 @@
+#include <Managers/AppManager.h>
+
+#include <Configuration/Configuration.h>
+#include <Foundation/UnicodeText.h>
+#include <Managers/ConfigurationFile.h>
+#include <logger/Logger.h>
+
+#include <fmt/format.h>
+
+#include <cstdlib>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace velmar {
+
+namespace {
+
+// The code points of a text in upper case, each as its bytes.
+std::set<std::string> charactersInUpperCase(std::string_view text) {
+    const std::string upper = UnicodeText::uppercased(text);
+    std::set<std::string> characters;
+    for (std::size_t start = 0; start < upper.size();) {
+        std::size_t end = start + 1;
+        while (end < upper.size() && (static_cast<unsigned char>(upper[end]) & 0xC0U) == 0x80U) {
+            ++end;
+        }
+        characters.insert(upper.substr(start, end - start));
+        start = end;
+    }
+    return characters;
+}
+
+} // namespace
+
+AppManager::AppManager(const Surroundings &surroundings)
+    : configurationFileURL_(
+          surroundings.locator.findConfigurationFile(surroundings.locator.configurationName())),
+      terminate_(surroundings.terminate) {
+    {
+        const ConfigurationFile file(configurationFileURL_);
+        file.hasConfigFileCorrectPermissions(surroundings.identityAuthority);
+        configuration_ = file.retrieveConfiguration();
+    }
+    Logger::info("Successfully decoded configuration file");
+
+    if (configuration_->_appTermination()._isForceQuitShortcutEnabled()) {
+        keyDownMonitor_ = surroundings.addKeyDownMonitor(
+            [this](const KeyEvent &event) { return keyDownEventHandler(event); });
+    }
+}
+
+AppManager::~AppManager() = default;
+
+std::shared_ptr<const Configuration> AppManager::configuration() const {
+    const std::lock_guard lock(mutex_);
+    return configuration_;
+}
+
+void AppManager::reloadInterface(bool /*byResetingVariables*/) {
+    try {
+        auto configuration = ConfigurationFile(configurationFileURL_).retrieveConfiguration();
+        const std::lock_guard lock(mutex_);
+        configuration_.swap(configuration);
+    } catch (const std::exception &error) {
+        Logger::error([&] { return error.what(); });
+    }
+}
+
+bool AppManager::keyDownEventHandler(const KeyEvent &event) const {
+    const KeyModifiers &held = event.modifiers;
+    if (!(held.command && held.control && held.option && held.shift)) {
+        return false;
+    }
+    const std::string key = configuration()->_appTermination()._forceQuitShortcutKey();
+    if (charactersInUpperCase(key) != charactersInUpperCase(event.characters)) {
+        return false;
+    }
+    Logger::info("Force quit shortcut detected. Forcing the application termination");
+    terminate_();
+    return true;
+}
+
+void ConfigurationRefusal::exitBecauseOf(const std::exception &error) const {
+    Logger::error(
+        [&] { return fmt::format("A problem occurred while retrieving configuration: {}", error.what()); });
+    alert("The configuration file is incorrect", "Quit");
+    Logger::flush();
+    exit(0);
+    std::abort();
+}
+
+} // namespace velmar

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <Foundation/URL.h>
+#include <Managers/ConfigurationLocator.h>
+#include <Managers/Shared.h>
+
+#include <exception>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <string>
+
+namespace velmar {
+
+struct Configuration;
+class IdentityAuthority;
+
+/// Owns the decoded configuration, which a reload replaces as a whole. One instance is shared by the process;
+/// it is made in the first launching event. Main thread, except for `configuration()` and `shared()`, which
+/// any thread calls.
+class AppManager {
+public:
+    /// The four modifier keys of the force quit shortcut.
+    struct KeyModifiers {
+        bool command = false;
+        bool control = false;
+        bool option = false;
+        bool shift = false;
+    };
+
+    /// A key pressed while the application is active; a modifier key alone makes no event.
+    struct KeyEvent {
+        std::string characters; ///< What the key gives without its modifiers, UTF-8.
+        KeyModifiers modifiers;
+    };
+
+    /// True if the event goes no further.
+    using KeyDownHandler = std::function<bool(const KeyEvent &)>;
+
+    /// A running monitor of key-down events; letting go of it removes it.
+    using KeyDownMonitor = std::shared_ptr<void>;
+
+    /// What the manager needs of the place that it runs in.
+    struct Surroundings {
+        ConfigurationLocator locator;
+        /// Must outlive the making of the manager.
+        const IdentityAuthority &identityAuthority;
+        /// Starts a monitor whose handler sees each key-down event of the application before anything else
+        /// does.
+        std::function<KeyDownMonitor(KeyDownHandler)> addKeyDownMonitor;
+        /// Ends the application by its regular way, past the conditions that hold a quit back.
+        std::function<void()> terminate;
+    };
+
+    /// Finds, admits and decodes the configuration, then starts the monitor of the force quit shortcut unless
+    /// the configuration switches it off. Throws whatever refuses the configuration: VelmarError,
+    /// ConfigurationError, PropertyListError; and MissingOptionValue.
+    explicit AppManager(const Surroundings &surroundings);
+    ~AppManager();
+    AppManager(const AppManager &) = delete;
+    AppManager &operator=(const AppManager &) = delete;
+
+    /// The process's instance; it is shared by whoever made it, with a Shared<AppManager>::Scope.
+    [[nodiscard]] static std::shared_ptr<AppManager> shared() { return Shared<AppManager>::instance(); }
+
+    /// The configuration of this moment, never null. Any thread.
+    [[nodiscard]] std::shared_ptr<const Configuration> configuration() const;
+
+    /// The admitted file, which a reload reads again.
+    [[nodiscard]] const URL &configurationFileURL() const noexcept { return configurationFileURL_; }
+
+    /// Reads the configuration's file again and replaces the configuration; the file was admitted at the
+    /// start and is not judged again. A failure is logged and leaves the configuration as it is. Never
+    /// throws.
+    void reloadInterface(bool byResetingVariables);
+
+    /// Ends the application if the event is the force quit shortcut: all four modifiers (and any others) with
+    /// the keys of AppTermination.ForceQuitShortcutKey, as sets of characters in upper case. True if it was.
+    bool keyDownEventHandler(const KeyEvent &event) const;
+
+private:
+    mutable std::mutex mutex_; // Guards configuration_, the pointer and not what it points to.
+    std::shared_ptr<const Configuration> configuration_;
+    URL configurationFileURL_;
+    std::function<void()> terminate_;
+    KeyDownMonitor keyDownMonitor_;
+};
+
+/// What a refused configuration does to the process.
+struct ConfigurationRefusal {
+    /// Shows a modal alert of the critical style with one button, and returns when it was pressed. It runs
+    /// its own loop, so it is never called while the AppManager is being made.
+    std::function<void(const std::string &message, const std::string &button)> alert;
+    /// Ends the process with a status, at once and without the application's termination. Must not return.
+    std::function<void(int status)> exit;
+
+    /// Logs what the making of the AppManager threw, shows the alert, waits for the log to be written and
+    /// ends the process with status 0. Main thread.
+    [[noreturn]] void exitBecauseOf(const std::exception &error) const;
+};
+
+} // namespace velmar
