@@ -1,0 +1,86 @@
+"""A run of one of the two programs."""
+
+import os
+import signal
+import subprocess
+import tempfile
+from pathlib import Path
+
+from . import machine
+from .waiting import DEADLINE, until
+
+
+class Process:
+    """Started by the constructor as a user of the machine; standard output and error go to files, so that it never
+    waits for a reader. Its use of time and memory is known when it has ended."""
+
+    def __init__(self, program, *arguments, user="root"):
+        self.user = user
+        self._output, self._errors = tempfile.TemporaryFile("w+"), tempfile.TemporaryFile("w+")
+        number, group = machine.user_number(user), machine.group_number(machine.primary_group(user))
+        groups = [machine.group_number(name) for own, _, _, names in machine.USERS if own == user for name in names]
+        self._popen = subprocess.Popen([machine.BINARIES / program, *arguments], stdin=subprocess.DEVNULL,
+                                       stdout=self._output, stderr=self._errors, env=self._environment(),
+                                       user=number, group=group, extra_groups=groups, cwd="/")
+        self.pid = self._popen.pid
+        self.usage = None
+        self.status = None
+
+    def _environment(self):
+        home = machine.home(self.user)
+        runtime = Path("/run/user") / str(machine.user_number(self.user))
+        runtime.mkdir(parents=True, exist_ok=True, mode=0o700)
+        os.chown(runtime, machine.user_number(self.user), -1)
+        environment = {"PATH": os.environ["PATH"], "DISPLAY": os.environ["DISPLAY"], "LANG": "C.UTF-8",
+                       "HOME": str(home), "USER": self.user, "XDG_CONFIG_HOME": str(home / ".config"),
+                       "XDG_RUNTIME_DIR": str(runtime), "DBUS_SYSTEM_BUS_ADDRESS": "unix:path=/nonexistent",
+                       "QT_ACCESSIBILITY": "1", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
+        # The session bus lets in only the user who started it.
+        environment["DBUS_SESSION_BUS_ADDRESS"] = (
+            os.environ["DBUS_SESSION_BUS_ADDRESS"] if self.user == "root" else "unix:path=/nonexistent")
+        return environment
+
+    def ended(self):
+        """Takes the status when there is one. A death by a signal is a negative number."""
+        if self.status is None:
+            pid, status, usage = os.wait4(self.pid, os.WNOHANG)
+            if pid:
+                self.usage = usage
+                self.status = self._popen.returncode = os.waitstatus_to_exitcode(status)
+        return self.status is not None
+
+    def wait(self, deadline=DEADLINE):
+        """The exit status."""
+        until(lambda: f"the end of the program\n{self.story()}", self.ended, deadline)
+        return self.status
+
+    def send(self, number):
+        os.kill(self.pid, number)
+
+    def close(self):
+        if not self.ended():
+            self.send(signal.SIGKILL)
+            self.wait()
+        self._output.close()
+        self._errors.close()
+
+    def output(self):
+        return self._read(self._output)
+
+    def errors(self):
+        return self._read(self._errors)
+
+    def story(self):
+        return f"--- output:\n{self.output()[-3000:]}--- errors:\n{self.errors()[-2000:]}"
+
+    @staticmethod
+    def _read(file):
+        # By another description: the position of the program's own must not move.
+        with open(f"/proc/self/fd/{file.fileno()}", encoding="utf-8", errors="replace") as reader:
+            return reader.read()
+
+    def cpu_seconds(self):
+        return self.usage.ru_utime + self.usage.ru_stime
+
+    def peak_megabytes(self):
+        return self.usage.ru_maxrss / 1024
