@@ -30,10 +30,11 @@ bool BaseDestination::shouldBeLogged(LogLevel level, const SourceLocation &where
                        [&](const LogFilter &filter) { return filter(level, where); });
 }
 
-void BaseDestination::write(std::span<const LogRecord> records) {
+void BaseDestination::formatLines(std::span<const LogRecord> records, bool colored,
+                                  const std::function<void(std::string_view lines)> &output) const {
     std::string lines;
     for (const LogRecord &record : records) {
-        formatter_.append(lines, record, settings_, printsColors());
+        formatter_.append(lines, record, settings_, colored);
         lines += '\n';
         if (lines.size() >= bytesOfBatch) {
             output(lines);
@@ -45,9 +46,9 @@ void BaseDestination::write(std::span<const LogRecord> records) {
     }
 }
 
-void BaseDestination::reportFailure(std::string_view reason) const {
+void BaseDestination::reportLoss(std::string_view reason) const {
     if (settings_.debugPrint) {
-        fmt::print(stderr, "velmar: a line of the log was lost: {}\n", reason);
+        fmt::print(stderr, "velmar: lines of the log were lost: {}\n", reason);
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -37,15 +38,15 @@ public:
     /// Writes messages in their order. Calls never overlap; they come from the destination's queue, or from
     /// the callers' threads where it is not asynchronous. It must not log itself; what it throws loses the
     /// batch.
-    virtual void write(std::span<const LogRecord> records);
+    virtual void write(std::span<const LogRecord> records) = 0;
 
 protected:
-    /// Writes complete lines, each with its line feed.
-    virtual void output(std::string_view lines) = 0;
-    /// Whether $C and $c print anything.
-    [[nodiscard]] virtual bool printsColors() const { return false; }
-    /// Reports why lines are lost, where the settings want to know.
-    void reportFailure(std::string_view reason) const;
+    /// Gives the records' lines, each with its line feed, several at a time, in their order. `colored` tells
+    /// whether $C and $c print anything.
+    void formatLines(std::span<const LogRecord> records, bool colored,
+                     const std::function<void(std::string_view lines)> &output) const;
+    /// Tells on standard error why lines were lost, where the settings ask for it.
+    void reportLoss(std::string_view reason) const;
 
 private:
     DestinationSettings settings_;

@@ -74,6 +74,20 @@ public:
         return static_cast<std::uint8_t>(level) >= minimumLevel_.load(std::memory_order_relaxed);
     }
 
+    /// The text of a message: what its function gives, or itself.
+    template <class Message>
+    [[nodiscard]] static std::string textOf(Message &&message) {
+        if constexpr (std::is_invocable_v<Message &>) {
+            return textOf(message());
+        } else if constexpr (std::is_convertible_v<Message, std::string>) {
+            return std::forward<Message>(message);
+        } else if constexpr (std::is_convertible_v<Message, std::string_view>) {
+            return std::string(std::string_view(message));
+        } else {
+            return fmt::format("{}", message);
+        }
+    }
+
     /// Appends a destination to the list; messages of calls that began before may not reach it. A destination
     /// stands in the list once.
     static void addDestination(std::shared_ptr<BaseDestination> destination);
@@ -101,23 +115,7 @@ private:
         template <class Message>
         static std::string makeFrom(const void *address) {
             // Made from a reference to Message, const or not, in the constructor.
-            Message &message = *static_cast<Message *>(const_cast<void *>(address));
-            if constexpr (std::is_invocable_v<Message &>) {
-                return textOf(message());
-            } else {
-                return textOf(message);
-            }
-        }
-
-        template <class Value>
-        static std::string textOf(Value &&value) {
-            if constexpr (std::is_convertible_v<Value, std::string>) {
-                return std::forward<Value>(value);
-            } else if constexpr (std::is_convertible_v<Value, std::string_view>) {
-                return std::string(std::string_view(value));
-            } else {
-                return fmt::format("{}", value);
-            }
+            return textOf(*static_cast<Message *>(const_cast<void *>(address)));
         }
 
         const void *message_;

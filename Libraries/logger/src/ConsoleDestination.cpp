@@ -1,0 +1,58 @@
+#include <logger/ConsoleDestination.h>
+
+#include <csignal>
+#include <ctime>
+#include <system_error>
+
+#include <pthread.h>
+
+#include "FileDescriptor.h"
+
+namespace velmar {
+
+namespace {
+
+// A reader that is gone raises SIGPIPE, which would end the process: it is held back for this thread, and
+// taken away if it was this writing that raised it.
+class PipeSignalHeldBack {
+public:
+    PipeSignalHeldBack() {
+        sigset_t pending;
+        sigpending(&pending);
+        wasPending_ = sigismember(&pending, SIGPIPE) == 1;
+        sigemptyset(&pipe_);
+        sigaddset(&pipe_, SIGPIPE);
+        pthread_sigmask(SIG_BLOCK, &pipe_, &previous_);
+    }
+    ~PipeSignalHeldBack() {
+        if (!wasPending_) {
+            const timespec atOnce{};
+            sigtimedwait(&pipe_, nullptr, &atOnce);
+        }
+        pthread_sigmask(SIG_SETMASK, &previous_, nullptr);
+    }
+    PipeSignalHeldBack(const PipeSignalHeldBack &) = delete;
+    PipeSignalHeldBack &operator=(const PipeSignalHeldBack &) = delete;
+
+private:
+    sigset_t pipe_{};
+    sigset_t previous_{};
+    bool wasPending_ = false;
+};
+
+} // namespace
+
+ConsoleDestination::ConsoleDestination(DestinationSettings settings, bool useTerminalColors, int descriptor)
+    : BaseDestination(std::move(settings)), useTerminalColors_(useTerminalColors), descriptor_(descriptor) {}
+
+void ConsoleDestination::write(std::span<const LogRecord> records) {
+    const PipeSignalHeldBack heldBack;
+    try {
+        formatLines(records, useTerminalColors_,
+                    [this](std::string_view lines) { writeAll(descriptor_, lines); });
+    } catch (const std::system_error &error) {
+        reportLoss(error.what());
+    }
+}
+
+} // namespace velmar

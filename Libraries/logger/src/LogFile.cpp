@@ -1,0 +1,75 @@
+#include "LogFile.h"
+
+#include <cerrno>
+#include <system_error>
+
+#include <sys/stat.h>
+
+#include "FileCreation.h"
+
+namespace velmar {
+
+namespace {
+
+// Nonblocking, so that a pipe in the file's place is refused and not waited for.
+constexpr int openFlags = O_WRONLY | O_APPEND | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+// Others can remove and create the file in turn while it is being opened.
+constexpr int attempts = 8;
+
+[[noreturn]] void refuse(int error, const std::string &what) {
+    throw std::system_error(error, std::generic_category(), what);
+}
+
+FileDescriptor openOrCreate(const FileCreation &creation, const LogFileSettings &settings) {
+    const FileDescriptor folder =
+        creation.openFolder(settings.logFileURL.parent_path(), settings.requiredFolder);
+    const std::string name = settings.logFileURL.filename();
+    for (int attempt = 0; attempt < attempts; ++attempt) {
+        // Without O_CREAT first: in a sticky folder the kernel may refuse it for a file that is there.
+        FileDescriptor file(openat(folder.get(), name.c_str(), openFlags));
+        if (!file.isOpen() && errno == ENOENT) {
+            file = creation.createFile(folder.get(), name, openFlags);
+        }
+        if (file.isOpen()) {
+            return file;
+        }
+        if (errno != EEXIST) {
+            refuse(errno, settings.logFileURL);
+        }
+    }
+    refuse(EEXIST, settings.logFileURL);
+}
+
+} // namespace
+
+LogFile::LogFile(const LogFileSettings &settings)
+    : path_(settings.logFileURL), syncAfterEachWrite_(settings.syncAfterEachWrite) {
+    const FileCreation creation(settings.owner);
+    if (!settings.logFileURL.is_absolute() || !settings.logFileURL.has_filename()) {
+        refuse(EINVAL, path_);
+    }
+    descriptor_ = openOrCreate(creation, settings);
+    struct stat found {};
+    if (fstat(descriptor_.get(), &found) != 0) {
+        refuse(errno, path_);
+    }
+    if (!S_ISREG(found.st_mode) || found.st_nlink != 1 || !creation.mayOwn(found.st_uid)) {
+        refuse(EPERM, path_);
+    }
+    device_ = found.st_dev;
+    number_ = found.st_ino;
+}
+
+bool LogFile::isCurrent() const {
+    struct stat found {};
+    return lstat(path_.c_str(), &found) == 0 && found.st_dev == device_ && found.st_ino == number_;
+}
+
+void LogFile::append(std::string_view text) {
+    writeAll(descriptor_.get(), text);
+    if (syncAfterEachWrite_ && fdatasync(descriptor_.get()) != 0) {
+        refuse(errno, path_);
+    }
+}
+
+} // namespace velmar
