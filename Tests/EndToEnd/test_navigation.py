@@ -1,6 +1,7 @@
 """The window, its slides and the way through them."""
 
 import plistlib
+import subprocess
 
 from harness import machine
 from harness.scenario import Scenario, configuration, slide
@@ -72,3 +73,18 @@ class Navigation(Scenario):
                 screen.wait_for_text(text)
             screen.key("Return")
         self.assertEqual(0, process.wait(), process.story())
+
+    def test_takes_the_colour_of_the_appearance(self):
+        font = {"Size": 60, "SystemFontWeight": "Heavy", "Color": {"LightMode": "#1B5FC1", "DarkMode": "#7FB4FF"}}
+        text = {"Type": "Text", "Text": "Coloured", "TextFontConfiguration": font}
+        self.install(configuration({"Containers": [{"Components": [text]}]}))
+        for appearance, colour in [("light", "#1B5FC1"), ("dark", "#7FB4FF")]:
+            with self.subTest(appearance=appearance):
+                with subprocess.Popen([machine.SOURCES / "scripts/settings-service", appearance],
+                                      stdout=subprocess.PIPE, text=True) as service:
+                    self.addCleanup(service.kill)
+                    self.assertEqual("ready\n", service.stdout.readline())
+                    process, screen = self.velmar()
+                    screen.wait_for_colour(colour)
+                    process.close()
+                    service.terminate()

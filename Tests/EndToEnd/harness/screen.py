@@ -86,6 +86,13 @@ class Screen:
     def wait_for_title(self, title):
         self._wait(f"a window titled '{title}'", lambda: title in self.titles())
 
+    def wait_for_colour(self, colour):
+        """Until some point of the whole screen has exactly the colour "#RRGGBB"."""
+        def colours():
+            return subprocess.run(["import", "-silent", "-window", "root", "-depth", "8", "-format", "%c",
+                                   "histogram:info:-"], capture_output=True, text=True, check=True).stdout
+        self._wait(f"the colour {colour}", lambda: colour in colours())
+
     def wait_for_text(self, text):
         self._wait(f"the text '{text}'", lambda: text in self.texts())
 
