@@ -1,0 +1,76 @@
+#include <Dispatch/DispatchGroup.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <stdexcept>
+#include <vector>
+
+namespace velmar {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+
+TEST(DispatchGroup, TellsWhenEverythingHasLeft) {
+    const DispatchQueue queue("group");
+    const DispatchGroup group;
+    std::vector<int> told; // touched on the queue, read after waiting for it
+    group.enter();
+    group.enter();
+    group.notify(queue, [&] { told.push_back(1); });
+    group.notify(queue, [&] { told.push_back(2); });
+    group.leave();
+    ASSERT_TRUE(queue.waitUntilIdle(30s));
+    EXPECT_TRUE(told.empty());
+    group.leave();
+    ASSERT_TRUE(queue.waitUntilIdle(30s));
+    EXPECT_THAT(told, ElementsAre(1, 2));
+
+    group.notify(queue, [&] { told.push_back(3); }); // nothing is under way
+    group.enter();
+    group.leave(); // tells nothing twice
+    ASSERT_TRUE(queue.waitUntilIdle(30s));
+    EXPECT_THAT(told, ElementsAre(1, 2, 3));
+}
+
+TEST(DispatchGroup, CountsAcrossThreads) {
+    const DispatchQueue queue("group");
+    const DispatchGroup group;
+    std::atomic<int> done = 0;
+    int doneWhenTold = 0;
+    for (int number = 0; number < 500; ++number) {
+        group.enter();
+        DispatchQueue::global().async([&done, group] {
+            ++done;
+            group.leave();
+        });
+    }
+    group.notify(queue, [&] { doneWhenTold = done; });
+    ASSERT_TRUE(DispatchQueue::global().waitUntilIdle(30s));
+    ASSERT_TRUE(queue.waitUntilIdle(30s));
+    EXPECT_EQ(doneWhenTold, 500);
+}
+
+TEST(DispatchGroup, ForgetsWhatItWasToTellWhenItGoes) {
+    const DispatchQueue queue("group");
+    const auto held = std::make_shared<int>(1);
+    {
+        const DispatchGroup group;
+        group.enter();
+        group.notify(queue, [held] { ADD_FAILURE() << "told"; });
+    }
+    ASSERT_TRUE(queue.waitUntilIdle(30s));
+    EXPECT_EQ(held.use_count(), 1);
+}
+
+TEST(DispatchGroup, RefusesOneLeaveTooMany) {
+    const DispatchGroup group;
+    group.enter();
+    group.leave();
+    EXPECT_THROW(group.leave(), std::logic_error);
+}
+
+} // namespace
+} // namespace velmar

@@ -1,0 +1,184 @@
+#include <Dispatch/DispatchQueue.h>
+#include <Dispatch/UncaughtHandler.h>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <cstdlib>
+#include <future>
+#include <numeric>
+#include <stdexcept>
+#include <thread>
+#include <vector>
+
+namespace velmar {
+namespace {
+
+using namespace std::chrono_literals;
+
+TEST(DispatchQueue, RunsInOrderAndOneAtATimeForEachPoster) {
+    const DispatchQueue queue("order");
+    constexpr int posters = 4;
+    constexpr int each = 2000;
+    std::vector<std::vector<int>> seen(posters); // written by the queue alone, without a lock
+    std::vector<std::thread> threads;
+    for (int poster = 0; poster < posters; ++poster) {
+        threads.emplace_back([&, poster] {
+            for (int number = 0; number < each; ++number)
+                queue.async(
+                    [&, poster, number] { seen[static_cast<std::size_t>(poster)].push_back(number); });
+        });
+    }
+    for (auto &thread : threads)
+        thread.join();
+    ASSERT_TRUE(queue.waitUntilIdle(30s));
+    std::vector<int> expected(each);
+    std::iota(expected.begin(), expected.end(), 0);
+    for (const auto &numbers : seen)
+        EXPECT_EQ(numbers, expected);
+}
+
+TEST(DispatchQueue, RunsSeveralQueuesSideBySide) {
+    const DispatchQueue first("first");
+    const DispatchQueue second("second");
+    std::promise<void> reached;
+    std::atomic<bool> isMet = false;
+    first.async([&] { isMet = reached.get_future().wait_for(30s) == std::future_status::ready; });
+    second.async([&] { reached.set_value(); });
+    ASSERT_TRUE(first.waitUntilIdle(30s));
+    EXPECT_TRUE(isMet);
+}
+
+TEST(DispatchQueue, RunsTheGlobalQueueSideBySide) {
+    std::promise<void> reached;
+    std::atomic<bool> isMet = false;
+    DispatchQueue::global().async(
+        [&] { isMet = reached.get_future().wait_for(30s) == std::future_status::ready; });
+    DispatchQueue::global().async([&] { reached.set_value(); });
+    ASSERT_TRUE(DispatchQueue::global().waitUntilIdle(30s));
+    EXPECT_TRUE(isMet);
+}
+
+TEST(DispatchQueue, WaitsForWhatWasPostedBeforeOnly) {
+    const DispatchQueue queue("endless");
+    std::atomic<bool> goesOn = true;
+    std::function<void()> again = [&] {
+        if (goesOn)
+            queue.async(again);
+    };
+    queue.async(again);
+    EXPECT_TRUE(queue.waitUntilIdle(30s));
+    goesOn = false;
+    while (!queue.waitUntilIdle(0ms))
+        EXPECT_TRUE(queue.waitUntilIdle(30s));
+}
+
+TEST(DispatchQueue, GivesUpWaitingAtTheTimeout) {
+    const DispatchQueue queue("stuck");
+    std::promise<void> release;
+    queue.async([future = release.get_future().share()] { future.wait(); });
+    EXPECT_FALSE(queue.waitUntilIdle(1ms));
+    release.set_value();
+    EXPECT_TRUE(queue.waitUntilIdle(30s));
+}
+
+TEST(DispatchQueue, DoesNotWaitOnAThreadOfThePool) {
+    const DispatchQueue queue("itself");
+    std::atomic<bool> wasIdle = true;
+    queue.async([&] { wasIdle = queue.waitUntilIdle(1h); });
+    ASSERT_TRUE(queue.waitUntilIdle(30s));
+    EXPECT_FALSE(wasIdle);
+}
+
+TEST(DispatchQueue, RunsWhatWaitsWhenTheLastHandleGoes) {
+    std::promise<void> release;
+    std::promise<int> result;
+    {
+        const DispatchQueue queue("gone");
+        queue.async([future = release.get_future().share()] { future.wait(); });
+        queue.async([&] { result.set_value(7); });
+    }
+    release.set_value();
+    EXPECT_EQ(result.get_future().get(), 7);
+}
+
+TEST(DispatchQueue, ReleasesCapturesBeforeTheWaitingEnds) {
+    const DispatchQueue queue("captures");
+    auto held = std::make_shared<int>(1);
+    queue.async([held] {});
+    ASSERT_TRUE(queue.waitUntilIdle(30s));
+    EXPECT_EQ(held.use_count(), 1);
+}
+
+TEST(DispatchQueue, ReportsWhatAFunctionThrowsAndGoesOn) {
+    std::vector<std::string> reports;
+    setUncaughtHandler([&](std::string_view label, const std::exception_ptr &exception) {
+        reports.push_back(std::string(label) + ": " + std::string(textOf(exception)));
+        throw std::runtime_error("from the handler"); // is dropped
+    });
+    const DispatchQueue queue("faulty");
+    bool hasGoneOn = false;
+    queue.async([] { throw std::runtime_error("out of paper"); });
+    queue.async([] { throw 3; });
+    queue.async([&] { hasGoneOn = true; });
+    ASSERT_TRUE(queue.waitUntilIdle(30s));
+    setUncaughtHandler({});
+    EXPECT_TRUE(hasGoneOn);
+    EXPECT_EQ(reports, (std::vector<std::string>{"faulty: out of paper",
+                                                 "faulty: an object that is no std::exception"}));
+}
+
+// The end of a process is tried in processes of their own; "threadsafe" starts them from the program's
+// beginning.
+class DispatchQueueDeathTest : public testing::Test {
+protected:
+    void SetUp() override { testing::FLAGS_gtest_death_test_style = "threadsafe"; }
+};
+
+TEST_F(DispatchQueueDeathTest, ExitWaitsForWhatRunsAndStartsNothing) {
+    EXPECT_EXIT(
+        {
+            const DispatchQueue queue("busy");
+            std::promise<void> started;
+            queue.async([&] {
+                started.set_value();
+                std::fputs("begun ", stderr);
+                std::this_thread::sleep_for(50ms); // work, not a wait
+                std::fputs("ended", stderr);
+            });
+            queue.async([] { std::fputs("never", stderr); });
+            started.get_future().wait();
+            std::exit(3);
+        },
+        testing::ExitedWithCode(3), "^begun ended$");
+}
+
+TEST_F(DispatchQueueDeathTest, ShutdownIsBounded) {
+    EXPECT_EXIT(
+        {
+            const DispatchQueue queue("hanging");
+            std::promise<void> started;
+            queue.async([&] {
+                started.set_value();
+                std::promise<void>().get_future().wait_for(1h);
+            });
+            started.get_future().wait();
+            const bool hasEnded = DispatchQueue::shutdown(10ms);
+            queue.async([] { std::fputs("never", stderr); });
+            std::_Exit(hasEnded || queue.waitUntilIdle(1h) ? 1 : 4);
+        },
+        testing::ExitedWithCode(4), "^$");
+}
+
+TEST_F(DispatchQueueDeathTest, ShutdownJoinsAnIdlePoolAndStartsNone) {
+    EXPECT_EXIT(
+        {
+            const bool beforeUse = DispatchQueue::shutdown(0ms);
+            DispatchQueue("late").async([] { std::fputs("never", stderr); });
+            std::exit(beforeUse && DispatchQueue::shutdown(30s) ? 5 : 1);
+        },
+        testing::ExitedWithCode(5), "^$");
+}
+
+} // namespace
+} // namespace velmar

@@ -1,0 +1,48 @@
+#include <Dispatch/DispatchGroup.h>
+
+#include <cstddef>
+#include <mutex>
+#include <stdexcept>
+#include <utility>
+#include <vector>
+
+namespace velmar {
+
+struct DispatchGroup::State {
+    struct Notification {
+        DispatchQueue queue;
+        std::function<void()> function;
+    };
+
+    std::mutex mutex;
+    std::size_t underWay = 0;
+    std::vector<Notification> notifications;
+};
+
+DispatchGroup::DispatchGroup() : state_(std::make_shared<State>()) {}
+
+void DispatchGroup::enter() const {
+    const std::lock_guard lock(state_->mutex);
+    ++state_->underWay;
+}
+
+void DispatchGroup::leave() const {
+    const std::lock_guard lock(state_->mutex);
+    if (state_->underWay == 0)
+        throw std::logic_error("DispatchGroup::leave without enter");
+    if (--state_->underWay > 0)
+        return;
+    // Under the lock, so that what another thread asks for later is posted later.
+    for (auto &[queue, function] : std::exchange(state_->notifications, {}))
+        queue.async(std::move(function));
+}
+
+void DispatchGroup::notify(DispatchQueue queue, std::function<void()> function) const {
+    const std::lock_guard lock(state_->mutex);
+    if (state_->underWay == 0)
+        queue.async(std::move(function));
+    else
+        state_->notifications.push_back({std::move(queue), std::move(function)});
+}
+
+} // namespace velmar

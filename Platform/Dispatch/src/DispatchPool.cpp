@@ -1,0 +1,98 @@
+#include "DispatchPool.h"
+
+#include <algorithm>
+#include <csignal>
+#include <cstdlib>
+#include <thread>
+
+namespace velmar {
+
+namespace {
+
+constexpr unsigned mostThreads = 8;
+constexpr std::chrono::seconds exitTimeout(2);
+
+std::atomic<DispatchPool *> startedPool{nullptr};
+std::atomic<bool> isEnded{false};
+thread_local bool isPoolThread = false;
+
+// Threads inherit the mask of the one that starts them: the signals that others send stay with the main
+// thread.
+class SignalsBlocked {
+public:
+    SignalsBlocked() {
+        sigset_t blocked;
+        sigfillset(&blocked);
+        for (const int fault : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGTRAP, SIGABRT, SIGSYS})
+            sigdelset(&blocked, fault);
+        pthread_sigmask(SIG_SETMASK, &blocked, &former_);
+    }
+    ~SignalsBlocked() { pthread_sigmask(SIG_SETMASK, &former_, nullptr); }
+    SignalsBlocked(const SignalsBlocked &) = delete;
+    SignalsBlocked &operator=(const SignalsBlocked &) = delete;
+
+private:
+    sigset_t former_{};
+};
+
+} // namespace
+
+DispatchPool::DispatchPool() : threads_(std::clamp(std::thread::hardware_concurrency(), 2U, mostThreads)) {}
+
+DispatchPool &DispatchPool::shared() {
+    static DispatchPool &pool = []() -> DispatchPool & {
+        const SignalsBlocked blocked;
+        auto *made = new DispatchPool;
+        startedPool = made;
+        // For a process that leaves by `exit` alone: no function runs beside the destructors of what it may
+        // use.
+        std::atexit([] { static_cast<void>(shutdown(exitTimeout)); });
+        return *made;
+    }();
+    return pool;
+}
+
+bool DispatchPool::isShutDown() noexcept {
+    return isEnded;
+}
+
+bool DispatchPool::isOnPoolThread() noexcept {
+    return isPoolThread;
+}
+
+bool DispatchPool::begin() noexcept {
+    isPoolThread = true;
+    // Counted first, so that `shutdown` either sees this one running or keeps it from beginning.
+    ++running_;
+    return !isEnded;
+}
+
+void DispatchPool::end() noexcept {
+    --running_;
+    if (isEnded) {
+        const std::lock_guard lock(mutex_);
+        ended_.notify_all();
+    }
+}
+
+bool DispatchPool::shutdown(std::chrono::milliseconds timeout) {
+    isEnded = true;
+    DispatchPool *pool = startedPool;
+    return pool == nullptr || pool->stop(timeout);
+}
+
+bool DispatchPool::stop(std::chrono::milliseconds timeout) {
+    threads_.stop();
+    // A function that ends the process would wait for itself.
+    const std::size_t own = isPoolThread ? 1 : 0;
+    {
+        std::unique_lock lock(mutex_);
+        if (!ended_.wait_for(lock, timeout, [&] { return running_ <= own; }))
+            return false;
+    }
+    if (own == 0)
+        std::call_once(joined_, [this] { threads_.join(); });
+    return true;
+}
+
+} // namespace velmar

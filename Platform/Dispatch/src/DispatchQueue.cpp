@@ -1,0 +1,102 @@
+#include <Dispatch/DispatchQueue.h>
+
+#include <Dispatch/UncaughtHandler.h>
+
+#include "DispatchPool.h"
+
+#include <asio/post.hpp>
+#include <asio/strand.hpp>
+
+#include <cstdint>
+#include <optional>
+#include <utility>
+
+namespace velmar {
+
+struct DispatchQueue::State {
+    explicit State(std::string name) : label(std::move(name)) {}
+
+    std::string label;
+    bool isSerial = true;
+    // Made at the first use: a queue that nothing is posted to starts no threads.
+    std::once_flag strandMade;
+    std::optional<asio::strand<asio::thread_pool::executor_type>> strand;
+
+    std::atomic<std::uint64_t> posted{0};
+    std::atomic<std::uint64_t> done{0};
+    std::atomic<unsigned> waiters{0};
+    std::mutex mutex;
+    std::condition_variable changed;
+
+    void finishOne() {
+        ++done;
+        if (waiters == 0)
+            return;
+        const std::lock_guard lock(mutex);
+        changed.notify_all();
+    }
+};
+
+DispatchQueue::DispatchQueue(std::string label) : state_(std::make_shared<State>(std::move(label))) {}
+
+DispatchQueue::DispatchQueue(std::shared_ptr<State> state) : state_(std::move(state)) {}
+
+const DispatchQueue &DispatchQueue::global() {
+    // Never destroyed, like the pool.
+    static const auto &queue = *[] {
+        auto state = std::make_shared<State>("global");
+        state->isSerial = false;
+        return new DispatchQueue(std::move(state));
+    }();
+    return queue;
+}
+
+void DispatchQueue::async(std::function<void()> function) const {
+    if (DispatchPool::isShutDown())
+        return;
+    DispatchPool &pool = DispatchPool::shared();
+    ++state_->posted;
+    auto task = [&pool, state = state_, work = std::move(function)]() mutable {
+        const bool hasRun = pool.run([&] {
+            runReportingUncaught(state->label, [&] {
+                work();
+                // What it holds goes with it: whoever has waited for the queue finds the captures gone, too.
+                work = nullptr;
+            });
+        });
+        if (hasRun)
+            state->finishOne();
+    };
+    if (!state_->isSerial) {
+        asio::post(pool.executor(), std::move(task));
+        return;
+    }
+    std::call_once(state_->strandMade, [&] { state_->strand.emplace(asio::make_strand(pool.executor())); });
+    asio::post(*state_->strand, std::move(task));
+}
+
+bool DispatchQueue::waitUntilIdle(std::chrono::milliseconds timeout) const {
+    State &state = *state_;
+    const std::uint64_t target = state.posted;
+    // A serial queue ends its functions in the order of posting, so a count tells which have run.
+    const auto isIdle = [&] { return state.done >= (state.isSerial ? target : state.posted.load()); };
+    if (isIdle())
+        return true;
+    if (DispatchPool::isOnPoolThread() || DispatchPool::isShutDown())
+        return false;
+    ++state.waiters;
+    std::unique_lock lock(state.mutex);
+    const bool isDone = state.changed.wait_for(lock, timeout, isIdle);
+    --state.waiters;
+    return isDone;
+}
+
+const std::string &DispatchQueue::label() const noexcept {
+    return state_->label;
+}
+
+bool DispatchQueue::shutdown(std::chrono::milliseconds timeout) {
+    return DispatchPool::shutdown(timeout);
+}
+
+} // namespace velmar
