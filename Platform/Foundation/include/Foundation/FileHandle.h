@@ -1,5 +1,6 @@
 #pragma once
 
+#include <Foundation/Descriptor.h>
 #include <Foundation/FileAttributes.h>
 
 #include <cstddef>
@@ -10,16 +11,12 @@ namespace velmar {
 
 /// One open item of the file system, held by its descriptor: whatever happens to the path meanwhile,
 /// attributes and content are those of the item that was opened. Closed with the handle; not inherited by
-/// child processes. One thread at a time.
+/// child processes.
 class FileHandle {
 public:
     /// Holds the item of that path itself: a symbolic link as the link, which then cannot be read. Opening
     /// neither needs the right to read nor waits for a pipe's other end. Throws FileError.
     [[nodiscard]] static FileHandle openItself(const std::string &path);
-
-    FileHandle(FileHandle &&other) noexcept;
-    FileHandle &operator=(FileHandle &&other) noexcept;
-    ~FileHandle();
 
     [[nodiscard]] const std::string &path() const noexcept { return path_; }
 
@@ -32,9 +29,9 @@ public:
     [[nodiscard]] std::string readAll(std::size_t limit) const;
 
 private:
-    FileHandle(std::string path, int descriptor) : path_(std::move(path)), descriptor_(descriptor) {}
+    FileHandle(std::string path, Descriptor item) : path_(std::move(path)), item_(std::move(item)) {}
     std::string path_;
-    int descriptor_;
+    Descriptor item_; // names the item only; reading opens it anew
 };
 
 } // namespace velmar

@@ -41,7 +41,7 @@ struct RegularExpressionFailure {
         std::string reason; ///< The engine's name of the fault, with line and column where it knows them.
         [[nodiscard]] std::string errorDescription() const;
     };
-    /// Matching took more steps than allowed: the pattern backtracks too much on this text.
+    /// Matching took more steps or time than allowed: the pattern backtracks too much on this text.
     struct StepLimitReached {
         std::string pattern;
         [[nodiscard]] std::string errorDescription() const;
@@ -71,12 +71,14 @@ public:
 /// A compiled regular expression in ICU's syntax. An immutable value: copies share the compiled form, and any
 /// number of threads may match with it at once. Equality and hash are those of pattern and options.
 ///
-/// Texts are UTF-8; ill-formed bytes match as U+FFFD each. Matching throws RegularExpressionError.
+/// Texts are UTF-8; each ill-formed sequence of bytes matches as one U+FFFD. Matching throws
+/// RegularExpressionError.
 class RegularExpression {
 public:
-    /// Steps are the engine's unit of work, ten thousand backtracking points each: a few seconds at the
-    /// default.
-    static constexpr std::int32_t defaultStepLimit = 5000;
+    /// Steps are the engine's unit of work, ten thousand backtracking points each. The default is about half
+    /// a second of one processor; what matches at all takes a small part of it. Besides, a search that has
+    /// taken two seconds of its thread's processor time ends as if it had reached the limit.
+    static constexpr std::int32_t defaultStepLimit = 2000;
 
     /// Throws RegularExpressionError (InvalidPattern).
     explicit RegularExpression(std::string_view pattern, RegularExpressionOptions options = {},

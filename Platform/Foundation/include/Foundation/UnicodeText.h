@@ -5,8 +5,8 @@
 #include <string_view>
 
 /// Comparison and case of UTF-8 texts that people see or write. Two texts are equal when they are canonically
-/// equivalent: "é" as one character and as "e" with an accent are the same text. Ill-formed bytes count as
-/// U+FFFD. Nothing depends on a locale. Any thread.
+/// equivalent: "é" as one character and as "e" with an accent are the same text. Ill-formed bytes
+/// equal themselves; a change of case makes U+FFFD of them. Nothing depends on a locale. Any thread.
 namespace velmar::UnicodeText {
 
 [[nodiscard]] bool isAscii(std::string_view text) noexcept;

@@ -28,6 +28,9 @@ public:
                                 std::chrono::milliseconds timeout = std::chrono::seconds(10));
 
 private:
+    // Waits for a function and runs it; false if none has come until then.
+    bool runNext(std::chrono::steady_clock::time_point deadline);
+
     const std::thread::id mainThread_ = std::this_thread::get_id();
     std::mutex mutex_;
     std::condition_variable posted_;

@@ -1,0 +1,89 @@
+#include <Foundation/UnicodeText.h>
+
+#include <gtest/gtest.h>
+
+namespace velmar {
+namespace {
+
+constexpr std::string_view composed = "caf\u00E9";
+constexpr std::string_view decomposed = "cafe\u0301";
+
+TEST(UnicodeText, EqualsByCanonicalEquivalence) {
+    const struct {
+        std::string_view left;
+        std::string_view right;
+        bool isEqual;
+    } cases[] = {
+        {"", "", true},
+        {"abc", "abc", true},
+        {"abc", "abC", false},
+        {composed, decomposed, true},
+        {composed, "cafe", false},
+        {"\u212B", "A\u030A", true},              // the sign of the Ångström
+        {"a\u0323\u0307", "a\u0307\u0323", true}, // marks in another order
+        {"\uFB01", "fi", false},                  // compatible only
+        {"\U0001100A", "\U0001100B", false},
+        {"\xFF"
+         "e\u0301",
+         "\xFF\u00E9", true}, // ill-formed bytes stay
+    };
+    for (const auto &each : cases) {
+        EXPECT_EQ(UnicodeText::isEqual(each.left, each.right), each.isEqual)
+            << each.left << " " << each.right;
+        EXPECT_EQ(UnicodeText::compare(each.left, each.right) == 0, each.isEqual)
+            << each.left << " " << each.right;
+    }
+}
+
+TEST(UnicodeText, OrdersByComposedCodePoints) {
+    const std::string_view ascending[] = {"",       "B", "a",      "ab",     "b",
+                                          composed, "d", "\u00E9", "\uFFFD", "\U00010000"};
+    for (std::size_t index = 1; index < std::size(ascending); ++index)
+        EXPECT_TRUE(UnicodeText::compare(ascending[index - 1], ascending[index]) < 0) << ascending[index];
+    // "e" and its accent sort as "é", behind "z".
+    EXPECT_TRUE(UnicodeText::compare("e\u0301", "z") > 0);
+}
+
+TEST(UnicodeText, FindsPartsBetweenCharacters) {
+    EXPECT_TRUE(UnicodeText::contains("un café noir", decomposed));
+    EXPECT_FALSE(UnicodeText::contains(decomposed, "cafe"));
+    EXPECT_FALSE(UnicodeText::contains("q\u0323", "q")); // has no composed form
+    EXPECT_TRUE(UnicodeText::contains("q\u0323q", "q"));
+    EXPECT_FALSE(UnicodeText::contains("q\u0323", "\u0323"));
+    EXPECT_TRUE(UnicodeText::contains("", ""));
+    EXPECT_TRUE(UnicodeText::contains("q\u0323", ""));
+    EXPECT_FALSE(UnicodeText::contains("a", "ab"));
+
+    EXPECT_TRUE(UnicodeText::hasPrefix("\u00E9t\u00E9", "e\u0301"));
+    EXPECT_FALSE(UnicodeText::hasPrefix("e\u0301t", "e"));
+    EXPECT_FALSE(UnicodeText::hasPrefix("q\u0323", "q"));
+    EXPECT_TRUE(UnicodeText::hasPrefix("abc", ""));
+    EXPECT_TRUE(UnicodeText::hasSuffix("abc", "abc"));
+    EXPECT_TRUE(UnicodeText::hasSuffix("et\u00E9", "te\u0301"));
+    EXPECT_FALSE(UnicodeText::hasSuffix("q\u0323", "\u0323"));
+    EXPECT_FALSE(UnicodeText::hasSuffix("abc", "ABC"));
+}
+
+TEST(UnicodeText, ChangesCaseWithoutALocale) {
+    EXPECT_EQ(UnicodeText::lowercased("Firefox [ID@_`{"), "firefox [id@_`{");
+    EXPECT_EQ(UnicodeText::uppercased("Firefox [id@_`{"), "FIREFOX [ID@_`{");
+    EXPECT_EQ(UnicodeText::lowercased("ÉTÉ ΣΑΣ İ"), "été σας i\u0307");
+    EXPECT_EQ(UnicodeText::uppercased("straße i ı"), "STRASSE I I");
+}
+
+TEST(UnicodeText, KnowsValidUtf8) {
+    for (const std::string_view valid : {"", "ascii only, and longer than a word", "é€😀", "\u0001\x7F"})
+        EXPECT_TRUE(UnicodeText::isValidUtf8(valid)) << valid;
+    EXPECT_TRUE(UnicodeText::isValidUtf8(std::string_view("a\0b", 3)));
+    const std::string_view invalid[] = {
+        "\x80", "abcdefghijk\xC3", "\xC0\xAF", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xE2\x82",
+        "\xFF", "\xC3(",
+    };
+    for (const auto text : invalid)
+        EXPECT_FALSE(UnicodeText::isValidUtf8(text)) << testing::PrintToString(text);
+    EXPECT_FALSE(UnicodeText::isAscii("abcdefgh\xC3\xA9"));
+    EXPECT_TRUE(UnicodeText::isAscii("abcdefghi"));
+}
+
+} // namespace
+} // namespace velmar

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <utility>
+
+#include <unistd.h>
+
+namespace velmar {
+
+/// Owns a file descriptor of the operating system.
+class Descriptor {
+public:
+    /// Takes over an open descriptor; a negative number is none.
+    explicit Descriptor(int number = -1) noexcept : number_(number) {}
+    Descriptor(Descriptor &&other) noexcept : number_(std::exchange(other.number_, -1)) {}
+    Descriptor &operator=(Descriptor &&other) noexcept {
+        if (this != &other)
+            reset(std::exchange(other.number_, -1));
+        return *this;
+    }
+    ~Descriptor() { reset(-1); }
+
+    [[nodiscard]] int number() const noexcept { return number_; }
+    [[nodiscard]] explicit operator bool() const noexcept { return number_ >= 0; }
+
+private:
+    void reset(int number) noexcept {
+        if (number_ >= 0)
+            close(number_);
+        number_ = number;
+    }
+
+    int number_;
+};
+
+} // namespace velmar

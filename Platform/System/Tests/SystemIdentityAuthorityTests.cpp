@@ -1,0 +1,117 @@
+#include <System/SystemIdentityAuthority.h>
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <string>
+
+#include <sched.h>
+#include <stdlib.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace velmar {
+namespace {
+
+// Puts databases of its own over those of the machine, seen by this process alone.
+class SystemIdentityAuthorityTest : public testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        if (geteuid() != 0 || unshare(CLONE_NEWNS) != 0 ||
+            mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0)
+            return;
+        std::string manyUsers;
+        for (int number = 0; number < 2000; ++number)
+            manyUsers += (number == 0 ? "" : ",") + ("filler" + std::to_string(number));
+        isPrivate_ = put("/etc/passwd", "root:x:0:0:root:/root:/bin/sh\n"
+                                        "mira:x:1201:1301:Mira Holm,Room 4,555:/Users/mira:/bin/sh\n"
+                                        "otto:x:1202:1302:& Berg:/Users/otto:/bin/sh\n"
+                                        "plain:x:1203:1302::/Users/plain:/bin/sh\n") &&
+                     put("/etc/group", "root:x:0:\nstaff:x:1302:\nadmin:x:1301:otto\n"
+                                       "crowd:x:1303:" +
+                                           manyUsers + ",mira\n");
+    }
+
+    void SetUp() override {
+        if (!isPrivate_)
+            GTEST_SKIP() << "needs root and mount namespaces";
+    }
+
+    const SystemIdentityAuthority authority;
+
+private:
+    static bool put(const char *place, const std::string &contents) {
+        char path[] = "/tmp/velmar-identities-XXXXXX";
+        const int descriptor = mkstemp(path);
+        std::ofstream(path) << contents;
+        const bool isPut =
+            descriptor >= 0 && chmod(path, 0644) == 0 && mount(path, place, nullptr, MS_BIND, nullptr) == 0;
+        close(descriptor);
+        unlink(path);
+        return isPut;
+    }
+
+    static inline bool isPrivate_ = false;
+};
+
+TEST_F(SystemIdentityAuthorityTest, FindsMembersOfPrimaryAndOtherGroups) {
+    const struct {
+        const char *user;
+        const char *group;
+        bool isMember;
+    } cases[] = {
+        {"mira", "admin", true},   // primary
+        {"otto", "admin", true},   // listed
+        {"mira", "crowd", true},   // in a record larger than the first buffer
+        {"plain", "admin", false}, //
+        {"root", "admin", false},  // being root is not being a member
+        {"nobody-here", "admin", false}, {"otto", "no-such-group", false}, {"", "", false},
+    };
+    for (const auto &each : cases)
+        EXPECT_EQ(authority.isMember(each.user, each.group), each.isMember)
+            << each.user << " in " << each.group;
+}
+
+TEST_F(SystemIdentityAuthorityTest, TellsFullNamesAndNumbers) {
+    EXPECT_EQ(authority.fullName("mira"), "Mira Holm");
+    EXPECT_EQ(authority.fullName("otto"), "Otto Berg");
+    EXPECT_EQ(authority.fullName("plain"), std::nullopt);
+    EXPECT_EQ(authority.fullName("nobody-here"), std::nullopt);
+    EXPECT_EQ(authority.ids("mira"), (UserIds{1201, 1301}));
+    EXPECT_EQ(authority.ids("nobody-here"), std::nullopt);
+}
+
+TEST_F(SystemIdentityAuthorityTest, TakesTheActiveSessionsUserInPlaceOfRoot) {
+    int asked = 0;
+    const SystemIdentityAuthority atScreen([&] {
+        ++asked;
+        return std::optional<std::uint32_t>(1201);
+    });
+    EXPECT_EQ(atScreen.processUserName(), "root");
+    EXPECT_EQ(atScreen.consoleUserName(), "mira");
+    EXPECT_EQ(atScreen.consoleUserName(), "mira");
+    EXPECT_EQ(asked, 1);
+
+    const SystemIdentityAuthority nobody([] { return std::nullopt; });
+    EXPECT_EQ(nobody.consoleUserName(), "root");
+    const SystemIdentityAuthority unknown([] { return std::optional<std::uint32_t>(4242); });
+    EXPECT_EQ(unknown.consoleUserName(), "root");
+}
+
+TEST_F(SystemIdentityAuthorityTest, NeverAsksForTheSessionWhenNotRoot) {
+    ASSERT_EQ(seteuid(1202), 0);
+    const SystemIdentityAuthority authorityOfOtto([]() -> std::optional<std::uint32_t> {
+        ADD_FAILURE() << "asked";
+        return 1201;
+    });
+    EXPECT_EQ(authorityOfOtto.consoleUserName(), "otto");
+    ASSERT_EQ(seteuid(0), 0);
+    ASSERT_EQ(seteuid(4242), 0);
+    EXPECT_EQ(geteuid(), 4242U);
+    EXPECT_EQ(authorityOfOtto.processUserName(), "4242");
+    ASSERT_EQ(seteuid(0), 0);
+}
+
+} // namespace
+} // namespace velmar
