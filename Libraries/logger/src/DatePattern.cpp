@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <ctime>
 #include <iterator>
 #include <utility>
@@ -9,8 +10,8 @@
 #include <fmt/core.h>
 #include <fmt/format.h>
 
+#include <unicode/simpletz.h>
 #include <unicode/smpdtfmt.h>
-#include <unicode/timezone.h>
 
 namespace velmar {
 
@@ -59,20 +60,20 @@ class DatePattern::Icu {
 public:
     explicit Icu(std::string_view pattern) : pattern_(pattern) {}
 
-    void append(std::string &text, std::chrono::system_clock::time_point time) {
+    // The offset of the local time from UTC at that time, in seconds: the system's own, since ICU does not
+    // know every way in which TZ can name a zone.
+    void append(std::string &text, std::chrono::system_clock::time_point time, long offset) {
         if (!format_) {
             UErrorCode status = U_ZERO_ERROR;
             format_ = std::make_unique<icu::SimpleDateFormat>(icu::UnicodeString::fromUTF8(pattern_),
                                                               icu::Locale("en", "US", "POSIX"), status);
-            if (U_SUCCESS(status)) {
-                format_->adoptTimeZone(icu::TimeZone::detectHostTimeZone());
-            }
             usable_ = U_SUCCESS(status);
         }
         if (!usable_) {
             text += pattern_;
             return;
         }
+        format_->setTimeZone(icu::SimpleTimeZone(static_cast<std::int32_t>(offset * 1000), "local"));
         icu::UnicodeString printed;
         const auto sinceEpoch = std::chrono::floor<milliseconds>(time.time_since_epoch());
         format_->format(static_cast<UDate>(sinceEpoch.count()), printed).toUTF8String(text);
@@ -122,14 +123,14 @@ bool DatePattern::parse(std::string_view pattern) {
 }
 
 void DatePattern::append(std::string &text, std::chrono::system_clock::time_point time) const {
-    if (icu_) {
-        icu_->append(text, time);
-        return;
-    }
     const auto second = std::chrono::floor<std::chrono::seconds>(time);
     const std::time_t seconds = std::chrono::system_clock::to_time_t(second);
     std::tm local{};
     localtime_r(&seconds, &local);
+    if (icu_) {
+        icu_->append(text, time, local.tm_gmtoff);
+        return;
+    }
     for (const Field &field : fields_) {
         if (field.letter == '\0') {
             text += field.literal;

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include <pthread.h>
+#include <sched.h>
 
 #include <fmt/core.h>
 
@@ -92,6 +93,9 @@ private:
 
     void run() {
         pthread_setname_np(pthread_self(), "velmar-log");
+        // A woken thread of this kind does not take the processor from the caller.
+        const sched_param priority{};
+        pthread_setschedparam(pthread_self(), SCHED_BATCH, &priority);
         std::vector<LogRecord> batch;
         while (take(batch)) {
             try {

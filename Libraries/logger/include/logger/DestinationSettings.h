@@ -26,7 +26,7 @@ struct DestinationSettings {
     std::string reset = "\x1b[0m";
     std::string escape = "\x1b[38;5;";
     /// All must agree.
-    std::vector<LogFilter> filters;
+    std::vector<LogFilter> filters = {};
     /// Whether lines that cannot be written are reported on standard error.
     bool debugPrint = false;
 };

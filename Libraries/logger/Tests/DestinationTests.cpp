@@ -1,0 +1,272 @@
+#include <csignal>
+#include <fstream>
+#include <sstream>
+#include <thread>
+#include <type_traits>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <sys/fsuid.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <logger/ConsoleDestination.h>
+#include <logger/FileDestination.h>
+#include <logger/ScopedDestinations.h>
+#include <logger/VelmarLogFilePermanentDestination.h>
+
+namespace velmar {
+namespace {
+
+namespace fs = std::filesystem;
+
+void log(BaseDestination &destination, std::string message) {
+    LogRecord record;
+    record.message = std::move(message);
+    destination.write(std::span(&record, 1));
+}
+
+std::string contentOf(const fs::path &path) {
+    std::ostringstream content;
+    content << std::ifstream(path, std::ios::binary).rdbuf();
+    return content.str();
+}
+
+struct stat attributesOf(const fs::path &path) {
+    struct stat found {};
+    EXPECT_EQ(lstat(path.c_str(), &found), 0) << path;
+    return found;
+}
+
+class FileDestinationTest : public testing::Test {
+protected:
+    void SetUp() override {
+        char pattern[] = "/tmp/velmar-logger-XXXXXX";
+        ASSERT_NE(mkdtemp(pattern), nullptr);
+        folder_ = pattern;
+    }
+    void TearDown() override { fs::remove_all(folder_); }
+
+    [[nodiscard]] fs::path at(std::string_view name) const { return folder_ / name; }
+    [[nodiscard]] static DestinationSettings plain() { return {.format = "$M"}; }
+
+private:
+    fs::path folder_;
+};
+
+TEST_F(FileDestinationTest, AppendsToWhatIsThereAndCreatesWhatIsMissing) {
+    const auto path = at("a/b/velmar.log");
+    for (const auto *line : {"one", "two"}) {
+        FileDestination destination({.logFileURL = path, .syncAfterEachWrite = true}, plain());
+        log(destination, line);
+    }
+    EXPECT_EQ(contentOf(path), "one\ntwo\n");
+    EXPECT_EQ(attributesOf(path).st_mode & 07777, 0600U);
+}
+
+TEST_F(FileDestinationTest, WritesAnyBytesOfAMessage) {
+    FileDestination destination({.logFileURL = at("log")}, plain());
+    const std::string bytes("a\nb\0\xff$M", 8);
+    log(destination, bytes);
+    EXPECT_EQ(contentOf(at("log")), bytes + "\n");
+}
+
+TEST_F(FileDestinationTest, NoticesThatItsFileWasRemovedOrReplaced) {
+    FileDestination destination({.logFileURL = at("log")}, plain());
+    log(destination, "one");
+    fs::rename(at("log"), at("old"));
+    log(destination, "two");
+    EXPECT_EQ(contentOf(at("old")), "one\n");
+    EXPECT_EQ(contentOf(at("log")), "two\n");
+    std::ofstream(at("new")) << "new\n";
+    fs::rename(at("new"), at("log"));
+    log(destination, "three");
+    EXPECT_EQ(contentOf(at("log")), "new\nthree\n");
+}
+
+TEST_F(FileDestinationTest, NeverCreatesTheRequiredFolder) {
+    FileDestination destination({.logFileURL = at("ada/Library/log"), .requiredFolder = at("ada")}, plain());
+    log(destination, "lost");
+    EXPECT_FALSE(fs::exists(at("ada")));
+    fs::create_directory(at("ada"));
+    log(destination, "written");
+    EXPECT_EQ(contentOf(at("ada/Library/log")), "written\n");
+}
+
+TEST_F(FileDestinationTest, RefusesWhatIsNoFileOfItsOwn) {
+    std::ofstream(at("target")) << "";
+    fs::create_symlink(at("target"), at("link"));
+    fs::create_symlink(at("missing"), at("dangling"));
+    std::ofstream(at("first")) << "";
+    fs::create_hard_link(at("first"), at("second"));
+    ASSERT_EQ(mkfifo(at("pipe").c_str(), 0600), 0);
+    const int reader = open(at("pipe").c_str(), O_RDONLY | O_NONBLOCK);
+    fs::create_directory(at("folder"));
+    for (const auto *name : {"link", "dangling", "second", "pipe", "folder", "target/log", "folder/"}) {
+        FileDestination destination({.logFileURL = at(name)}, plain());
+        log(destination, "lost");
+    }
+    char byte = 0;
+    EXPECT_EQ(read(reader, &byte, 1), 0);
+    close(reader);
+    EXPECT_EQ(contentOf(at("target")) + contentOf(at("first")), "");
+    EXPECT_FALSE(fs::exists(at("missing")));
+    EXPECT_TRUE(fs::is_empty(at("folder")));
+}
+
+TEST_F(FileDestinationTest, TellsALossOnStandardErrorIfAsked) {
+    testing::internal::CaptureStderr();
+    for (const bool asked : {false, true}) {
+        FileDestination destination({.logFileURL = at("")}, {.format = "$M", .debugPrint = asked});
+        log(destination, "lost");
+        const std::string told = testing::internal::GetCapturedStderr();
+        EXPECT_EQ(told.empty(), !asked) << told;
+        testing::internal::CaptureStderr();
+    }
+    testing::internal::GetCapturedStderr();
+}
+
+// Root writes for a user who controls the folder "home".
+class RootsFileDestinationTest : public FileDestinationTest {
+protected:
+    static constexpr FileOwner ada{.user = 61'001, .group = 61'002};
+
+    void SetUp() override {
+        if (geteuid() != 0) {
+            GTEST_SKIP() << "needs root";
+        }
+        FileDestinationTest::SetUp();
+        fs::permissions(at(""), fs::perms(0755));
+        fs::create_directory(at("home"));
+        ASSERT_EQ(chown(at("home").c_str(), ada.user, ada.group), 0);
+    }
+
+    void logTo(std::string_view path) {
+        FileDestination destination({.logFileURL = at(path), .owner = ada}, plain());
+        log(destination, "line");
+    }
+};
+
+TEST_F(RootsFileDestinationTest, GivesWhatItCreatesToTheOwner) {
+    // The first stands where only root may write.
+    for (const auto *top : {"roots", "home/Library"}) {
+        const auto log = fs::path(top) / "Logs/velmar.log";
+        logTo(log.string());
+        EXPECT_EQ(contentOf(at(log.string())), "line\n");
+        for (const auto &path : {fs::path(top), log.parent_path(), log}) {
+            EXPECT_EQ(attributesOf(at(path.string())).st_uid, ada.user) << path;
+            EXPECT_EQ(attributesOf(at(path.string())).st_gid, ada.group) << path;
+        }
+    }
+    EXPECT_EQ(attributesOf(at("home/..")).st_uid, 0U) << "what was there keeps its owner";
+    EXPECT_EQ(setfsuid(static_cast<uid_t>(-1)), 0) << "the thread has its own rights again";
+}
+
+TEST_F(RootsFileDestinationTest, FollowsNoLinkOfTheOwner) {
+    fs::create_directory(at("secret"));
+    std::ofstream(at("secret/velmar.log")) << "";
+    fs::create_directory_symlink(at("secret"), at("home/Library"));
+    fs::create_symlink(at("secret/new"), at("home/velmar.log"));
+    for (const auto *path : {"home/Library/velmar.log", "home/Library/other.log",
+                             "home/Library/deep/velmar.log", "home/velmar.log"}) {
+        logTo(path);
+    }
+    EXPECT_EQ(contentOf(at("secret/velmar.log")), "");
+    EXPECT_EQ(std::distance(fs::directory_iterator(at("secret")), {}), 1);
+}
+
+TEST_F(RootsFileDestinationTest, WritesFilesOfRootAndTheOwnerAlone) {
+    const struct {
+        uid_t user;
+        std::string_view expected;
+    } cases[] = {{0, "line\n"}, {ada.user, "line\n"}, {61'003, ""}};
+    for (const auto &[user, expected] : cases) {
+        const auto name = "home/" + std::to_string(user);
+        std::ofstream(at(name)) << "";
+        ASSERT_EQ(chown(at(name).c_str(), user, ada.group), 0);
+        logTo(name);
+        EXPECT_EQ(contentOf(at(name)), expected) << user;
+    }
+}
+
+TEST(ConsoleDestination, PrintsColorsOnlyIfAsked) {
+    int ends[2];
+    ASSERT_EQ(pipe(ends), 0);
+    for (const bool colors : {false, true}) {
+        ConsoleDestination destination({.format = "$C$M$c"}, colors, ends[1]);
+        log(destination, "a");
+        char text[64];
+        const auto length = static_cast<std::size_t>(read(ends[0], text, sizeof text));
+        EXPECT_EQ(std::string(text, length), colors ? "\x1b[38;5;251ma\x1b[0m\n" : "a\n");
+    }
+    close(ends[0]);
+    close(ends[1]);
+}
+
+TEST(ConsoleDestination, SurvivesAReaderThatWentAway) {
+    int ends[2];
+    ASSERT_EQ(pipe(ends), 0);
+    close(ends[0]);
+    ConsoleDestination destination({}, false, ends[1]);
+    log(destination, "lost");
+    close(ends[1]);
+    sigset_t pending;
+    sigpending(&pending);
+    EXPECT_EQ(sigismember(&pending, SIGPIPE), 0);
+}
+
+TEST(ConsoleDestination, WaitsOnItsQueueForAReaderThatIsSlow) {
+    for (const int flags : {0, O_NONBLOCK}) {
+        int ends[2];
+        ASSERT_EQ(pipe2(ends, flags), 0);
+        fcntl(ends[0], F_SETFL, 0);
+        const std::string big(1 << 20, 'x');
+        std::size_t received = 0;
+        {
+            const ScopedDestinations scope(
+                {std::make_shared<ConsoleDestination>(DestinationSettings{.format = "$M"}, false, ends[1])});
+            Logger::info(big);
+            EXPECT_FALSE(Logger::flush(std::chrono::milliseconds(20)));
+            std::string block(1 << 16, '\0');
+            while (received < big.size() + 1) {
+                const auto count = read(ends[0], block.data(), block.size());
+                ASSERT_GT(count, 0);
+                received += static_cast<std::size_t>(count);
+            }
+            EXPECT_TRUE(Logger::flush());
+        }
+        close(ends[0]);
+        close(ends[1]);
+        EXPECT_EQ(received, big.size() + 1);
+    }
+}
+
+TEST(VelmarLogDestination, WritesTheApplicationsLines) {
+    static_assert(!std::is_default_constructible_v<VelmarLogDestination>);
+    const std::string user = "velmar-test-" + std::to_string(getpid());
+    const fs::path path = "/tmp/" + user + "-velmar.log";
+    {
+        const ScopedDestinations scope(
+            {std::make_shared<VelmarLogFileDestination>("Velmar", user, std::nullopt),
+             std::make_shared<VelmarLogFilePermanentDestination>("Velmar", user, std::nullopt),
+             std::make_shared<VelmarLogFileDestination>("Velmar", "../" + user, std::nullopt)});
+        Logger::info("Found configuration file at /a.plist");
+        Logger::error("An error occurred while retrieving the configuration file",
+                      "[The file doesn't exist.]");
+        EXPECT_TRUE(Logger::flush());
+    }
+    const std::string content = contentOf(path);
+    fs::remove(path);
+    EXPECT_THAT(
+        content,
+        testing::MatchesRegex(
+            "\\[Velmar\\] [0-2][0-9]:[0-5][0-9]:[0-6][0-9] ℹ️ > Found configuration file at /a.plist \n"
+            "\\[Velmar\\] [0-2][0-9]:[0-5][0-9]:[0-6][0-9] 🛑 > An error occurred while retrieving the "
+            "configuration file \\[The file doesn't exist.\\]\n"));
+    EXPECT_FALSE(fs::exists("/Users/" + user));
+}
+
+} // namespace
+} // namespace velmar

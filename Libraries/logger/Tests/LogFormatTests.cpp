@@ -1,0 +1,118 @@
+#include <logger/LogFormat.h>
+
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include <unicode/smpdtfmt.h>
+
+namespace velmar {
+namespace {
+
+using namespace std::chrono_literals;
+
+// 2024-02-09 14:02:11.0459 in the time zone of this test, five and a half hours east of Greenwich.
+const auto time = std::chrono::system_clock::time_point(1'707'467'531s + 45'900us);
+
+std::string printed(std::string_view format, bool colored = false, LogLevel level = LogLevel::warning,
+                    std::string context = "[The file doesn't exist.]") {
+    LogRecord record;
+    record.level = level;
+    record.time = time;
+    record.where = {"/home/ada/Sources/App.Manager.cpp", "loadFile", 42};
+    record.message = std::string("done $L $M\0\xff", 12);
+    record.context = std::move(context);
+    record.thread = "worker";
+    std::string line;
+    LogFormat(format).append(
+        line, record, {.levelColor = {"1m", "2m", "3m", "4m", "5m"}, .reset = "<", .escape = ">"}, colored);
+    return line;
+}
+
+TEST(LogFormat, PrintsEachTokenAndAnyOtherTextAsItStands) {
+    const std::string message("done $L $M\0\xff", 12);
+    const struct {
+        std::string_view format;
+        std::string expected;
+    } cases[] = {
+        {"[Velmar] $DHH:mm:ss$d $L > $M $X",
+         "[Velmar] 14:02:11 ⚠️ > " + message + " [The file doesn't exist.]"},
+        {"$N|$F|$l|$T", "App.Manager|loadFile|42|worker"},
+        {"$M$M", message + message},
+        {"$$L$", "$⚠️$"},
+        {"$Q $DHH:mm $L", "$Q $DHH:mm ⚠️"},
+        {"$d$D$d!", "$d!"},
+        {"a$Dyyyy$db$Dss$d", "a2024b11"},
+        {"$C$L$c", "⚠️"},
+        {"", ""},
+    };
+    for (const auto &[format, expected] : cases) {
+        EXPECT_EQ(printed(format), expected) << format;
+    }
+    EXPECT_EQ(printed("$C$L$c", true), ">4m⚠️<");
+}
+
+TEST(LogFormat, LeavesTheBlankOfTheFormatWhereThereIsNoContext) {
+    EXPECT_EQ(printed("$L > $X", false, LogLevel::error, ""), "🛑 > ");
+}
+
+TEST(LogFormat, PrintsTheLevelsWithTheirPresentationSelectors) {
+    const struct {
+        LogLevel level;
+        std::string_view expected;
+    } cases[] = {{LogLevel::verbose, "\xF0\x9F\x96\xA8"},
+                 {LogLevel::debug, "\xE2\x9A\x99\xEF\xB8\x8F"},
+                 {LogLevel::info, "\xE2\x84\xB9\xEF\xB8\x8F"},
+                 {LogLevel::warning, "\xE2\x9A\xA0\xEF\xB8\x8F"},
+                 {LogLevel::error, "\xF0\x9F\x9B\x91"}};
+    for (const auto &[level, expected] : cases) {
+        EXPECT_EQ(printed("$L", false, level), expected);
+    }
+}
+
+TEST(LogFormat, KnowsWhetherItNeedsTheThread) {
+    EXPECT_TRUE(LogFormat("$T").printsThread());
+    EXPECT_FALSE(LogFormat("T $M").printsThread());
+}
+
+std::string dated(std::string_view pattern, std::chrono::system_clock::time_point at) {
+    std::string text;
+    DatePattern(pattern).append(text, at);
+    return text;
+}
+
+TEST(DatePattern, PrintsTheUsualFieldsLikeIcu) {
+    const std::string_view patterns[] = {
+        "HH:mm:ss",  "yyyy-MM-dd'T'HH:mm:ss.SSS", "d/M/yy H:m:s", "hh h", "y yyyyy MM M",
+        "SSSS S SS", "''yyyy'' 'it''s' 'M'",      "'open HH",     "",     "ä日HH€"};
+    for (const auto at : {time, time + 10h, time - 1'200'000h, time + 14'278ms, time - 14h - 2min}) {
+        for (const auto pattern : patterns) {
+            UErrorCode status = U_ZERO_ERROR;
+            icu::SimpleDateFormat oracle(icu::UnicodeString::fromUTF8(icu::StringPiece(
+                                             pattern.data(), static_cast<int>(pattern.size()))),
+                                         icu::Locale("en", "US", "POSIX"), status);
+            ASSERT_TRUE(U_SUCCESS(status));
+            oracle.adoptTimeZone(icu::TimeZone::createTimeZone("GMT+05:30"));
+            icu::UnicodeString expected;
+            const auto milliseconds = std::chrono::floor<std::chrono::milliseconds>(at.time_since_epoch());
+            oracle.format(static_cast<UDate>(milliseconds.count()), expected);
+            std::string text;
+            expected.toUTF8String(text);
+            // ICU counts milliseconds only.
+            EXPECT_EQ(dated(pattern, std::chrono::system_clock::time_point(milliseconds)), text) << pattern;
+        }
+    }
+}
+
+TEST(DatePattern, LeavesOtherFieldsToIcuInTheLocalTimeZone) {
+    EXPECT_EQ(dated("EEE d MMM yyyy, h:mm a", time), "Fri 9 Feb 2024, 2:02 PM");
+    EXPECT_EQ(dated("HH Z", time), "14 +0530");
+}
+
+TEST(DatePattern, CutsTheFractionOff) {
+    EXPECT_EQ(dated("SSSSSSS", time), "0459000");
+    EXPECT_EQ(dated("ss.S", std::chrono::system_clock::time_point(-1ms)), "59.9");
+}
+
+} // namespace
+} // namespace velmar
