@@ -95,10 +95,10 @@ public:
     PropertyList(Array value) noexcept;
     PropertyList(Dictionary value) noexcept;
     PropertyList(const PropertyList &other);
-    PropertyList(PropertyList &&other) noexcept; ///< What was moved from is an empty dictionary.
+    PropertyList(PropertyList &&other) noexcept;
     PropertyList &operator=(const PropertyList &other);
     PropertyList &operator=(PropertyList &&other) noexcept;
-    ~PropertyList() { destroy(); }
+    ~PropertyList();
 
     [[nodiscard]] Kind kind() const noexcept { return kind_; }
 
@@ -140,15 +140,15 @@ public:
     ///
     /// Limits: less than 4 GiB; maximumDepth. XML must be UTF-8; no entities beyond the five of XML and
     /// characters by number, nothing is fetched. References of the binary form may be shared, and what they
-    /// expand to takes at most 64 MiB and 16 times the size of the bytes.
+    /// expand to takes at most 16 MiB and 16 times the size of the bytes.
     [[nodiscard]] static Document read(std::span<const std::byte> bytes);
     [[nodiscard]] static Document read(std::string_view bytes);
 
     /// Writes the XML form, indented by tabs, with the usual document type line, or the binary form
-    /// ("bplist00"). What is written reads back equal, but for dates in XML, which have whole seconds there.
-    /// Throws PropertyListError for what a form cannot hold: a depth beyond maximumDepth, text that is not
-    /// UTF-8, a date that is not a number; in XML also control characters and dates outside of the years 0 to
-    /// 9999.
+    /// ("bplist00"). What is written reads back equal within the limits above, but for dates in XML, which
+    /// have whole seconds there. Throws PropertyListError for what a form cannot hold: a depth beyond
+    /// maximumDepth, text that is not UTF-8, a date that is not a number; in XML also control characters and
+    /// dates outside of the years 0 to 9999.
     [[nodiscard]] std::string xml() const;
     [[nodiscard]] std::vector<std::byte> binary() const;
 

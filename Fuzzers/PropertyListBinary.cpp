@@ -1,0 +1,45 @@
+#include "PropertyListChecks.h"
+
+#include <cmath>
+
+using namespace velmar;
+
+static bool hasWholeDates(const PropertyList &value) {
+    if (const PropertyList::Date *date = value.date()) {
+        return std::floor(date->secondsSinceReferenceDate) == date->secondsSinceReferenceDate;
+    }
+    if (const PropertyList::Array *array = value.array()) {
+        for (const PropertyList &element : *array) {
+            if (!hasWholeDates(element)) {
+                return false;
+            }
+        }
+    }
+    if (const PropertyList::Dictionary *dictionary = value.dictionary()) {
+        for (const auto &entry : *dictionary) {
+            if (!hasWholeDates(entry.value)) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+/// What reads as binary is written as binary and reads back equal, and as XML if XML can hold it.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t size) {
+    const auto document = readIfValid({bytes, size});
+    if (!document || document->form != PropertyList::Document::Form::Binary) {
+        return 0;
+    }
+    const auto binary = document->value.binary();
+    require(PropertyList::read(binary).value.binary() == binary);
+    require(PropertyList::read(binary).value == document->value);
+    std::string xml;
+    try {
+        xml = document->value.xml();
+    } catch (const PropertyListError &) {
+        return 0;
+    }
+    require(!hasWholeDates(document->value) || PropertyList::read(xml).value == document->value);
+    return 0;
+}

@@ -1,0 +1,219 @@
+#include "PropertyListSamples.h"
+
+#include <sys/resource.h>
+
+using namespace velmar;
+
+static std::string number(std::uint64_t value, int width) {
+    std::string bytes;
+    for (int byte = width - 1; byte >= 0; --byte) {
+        bytes += static_cast<char>(value >> (8 * byte) & 0xFF);
+    }
+    return bytes;
+}
+
+/// A file of these objects, the first being the root, with references of one byte.
+static std::string fileOf(const std::vector<std::string> &objects, const std::string &offsetPatch = "") {
+    std::string bytes = "bplist00";
+    std::string table;
+    for (const std::string &object : objects) {
+        table += number(bytes.size(), 2);
+        bytes += object;
+    }
+    if (!offsetPatch.empty()) {
+        table.replace(0, offsetPatch.size(), offsetPatch);
+    }
+    const std::size_t tableOffset = bytes.size();
+    return bytes + table + number(0, 6) + "\x02\x01" + number(objects.size(), 8) + number(0, 8) +
+           number(tableOffset, 8);
+}
+
+static std::string bytesOf(const PropertyList &value) {
+    const std::vector<std::byte> bytes = value.binary();
+    return std::string(reinterpret_cast<const char *>(bytes.data()), bytes.size());
+}
+
+using namespace std::string_literals;
+
+TEST(PropertyListBinary, ReadsEveryFormOfAValue) {
+    const std::pair<std::string, PropertyList> cases[] = {
+        {"\x08"s, false},
+        {"\x09"s, true},
+        {"\x10\xFF"s, 255},
+        {"\x11\x80\x00"s, 32768},
+        {"\x12\xFF\xFF\xFF\xFF"s, std::int64_t{4294967295}},
+        {"\x13"s + number(~std::uint64_t{0}, 8), -1},
+        {"\x14"s + number(0, 8) + number(~std::uint64_t{0}, 8), ~std::uint64_t{0}},
+        {"\x14"s + number(~std::uint64_t{0}, 8) + number(~std::uint64_t{4}, 8), -5},
+        {"\x22"s + number(0x3FC00000, 4), 1.5},
+        {"\x23"s + number(0xBFF8000000000000, 8), -1.5},
+        {"\x33"s + number(0x3FF8000000000000, 8), PropertyList::Date{1.5}},
+        {"\x42\x01\x02"s, PropertyList::Data{{std::byte{1}, std::byte{2}}}},
+        {"\x52hi"s, "hi"},
+        {"\x5F\x10\x02hi"s, "hi"},
+        {"\x5F\x13"s + number(2, 8) + "hi", "hi"},
+        {"\x50"s, ""},
+        {"\x63\x20\xAC\xD8\x3D\xDE\x00"s, "€\U0001F600"},
+        {"\xA0"s, PropertyList::Array{}},
+        {"\xD0"s, PropertyList()},
+    };
+    for (const auto &[object, value] : cases) {
+        const std::string file = fileOf({object});
+        ASSERT_NO_THROW(EXPECT_EQ(PropertyList::read(file).value, value) << value.text()) << value.text();
+        EXPECT_EQ(PropertyList::read(file).value.offset(), 8U);
+    }
+}
+
+TEST(PropertyListBinary, RefusesDamage) {
+    const std::pair<std::string, std::string> cases[] = {
+        {fileOf({"\x00"s}), "null and fill"},
+        {fileOf({"\x0F"s}), "null and fill"},
+        {fileOf({"\x15"s + number(0, 32)}), "an integer is not valid"},
+        {fileOf({"\x13\x00"s}), "an integer is not valid"},
+        {fileOf({"\x14"s + number(1, 8) + number(0, 8)}), "between -2^63"},
+        {fileOf({"\x21\x00\x00"s}), "a real number is not valid"},
+        {fileOf({"\x23\x00"s}), "a real number is not valid"},
+        {fileOf({"\x32"s + number(0, 4)}), "a date is not valid"},
+        {fileOf({"\x33"s + number(0x7FF8000000000000, 8)}), "a date is not valid"},
+        {fileOf({"\x80\x01"s}), "type 0x8 are not supported"},
+        {fileOf({"\xC0"s}), "type 0xC are not supported"},
+        {fileOf({"\x52h"s}), "outside of the file"},
+        {fileOf({"\x5F"s}), "outside of the file"},
+        {fileOf({"\x5F\x22"s}), "count of an object"},
+        {fileOf({"\x5F\x14"s + number(2, 16)}), "count of an object"},
+        {fileOf({"\x5F\x13"s + number(~std::uint64_t{0}, 8)}), "outside of the file"},
+        {fileOf({"\x6F\x13"s + number(std::uint64_t{1} << 63, 8)}), "outside of the file"},
+        {fileOf({"\xDF\x13"s + number(std::uint64_t{1} << 63, 8)}), "outside of the file"},
+        {fileOf({"\x51\x80"s}), "an ASCII string has other"},
+        {fileOf({"\x61\xD8\x00"s}), "half of a surrogate"},
+        {fileOf({"\x61\xDC\x00"s}), "half of a surrogate"},
+        {fileOf({"\x62\xD8\x00\x00\x41"s}), "half of a surrogate"},
+        {fileOf({"\xA1\x01"s}), "a reference leads to no object"},
+        {fileOf({"\xA1\x00"s}), "a value contains itself"},
+        {fileOf({"\xA1\x01"s, "\xD1\x02\x00"s, "\x51k"s}), "a value contains itself"},
+        {fileOf({"\xD1\x01\x01"s, "\x10\x01"s}), "a key is not a string"},
+        {fileOf({"\x09"s}, number(7, 2)), "an object is outside"},
+        {fileOf({"\x09"s}, number(9, 2)), "an object is outside"},
+        {"bplist01" + fileOf({"\x09"s}).substr(8), "version of the binary form"},
+        {"bplist00", "ends too early"},
+    };
+    for (const auto &[file, fragment] : cases) {
+        const PropertyListError error = errorOfReading(file);
+        EXPECT_EQ(error.line(), 0U);
+        EXPECT_NE(error.errorDescription().find(fragment), std::string::npos)
+            << error.errorDescription() << " and not " << fragment;
+    }
+    EXPECT_EQ(errorOfReading(fileOf({"\xA1\x00"s})).errorDescription(),
+              "The property list is not valid at byte 8: a value contains itself.");
+}
+
+TEST(PropertyListBinary, RefusesATrailerThatDoesNotFit) {
+    const std::string good = fileOf({"\x09"s});
+    const std::size_t trailer = good.size() - 32;
+    const std::pair<std::size_t, std::string> patches[] = {
+        {6, "\x00"s},
+        {6, "\x09"s},
+        {6, "\x01"s},
+        {7, "\x00"s},
+        {7, "\x09"s},
+        {8, number(0, 8)},
+        {8, number(2, 8)},
+        {8, number(std::uint64_t{1} << 63, 8)},
+        {16, number(1, 8)},
+        {24, number(8, 8)},
+        {24, number(~std::uint64_t{0}, 8)},
+        {24, number(good.size(), 8)},
+    };
+    ASSERT_NO_THROW(static_cast<void>(PropertyList::read(good)));
+    for (const auto &[place, bytes] : patches) {
+        std::string damaged = good;
+        damaged.replace(trailer + place, bytes.size(), bytes);
+        EXPECT_NE(errorOfReading(damaged).errorDescription().find("the trailer does not fit"),
+                  std::string::npos)
+            << place;
+    }
+}
+
+TEST(PropertyListBinary, RefusesEveryStrictPrefixAndBearsEveryChangedByte) {
+    PropertyList::Dictionary dictionary;
+    dictionary.set("Title", "Grüße");
+    dictionary.set("Items", PropertyList::Array{1, 0.5, true, PropertyList::Data{{std::byte{1}}}});
+    const std::string whole = bytesOf(dictionary);
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        EXPECT_FALSE(errorOfReading(whole.substr(0, length)).errorDescription().empty());
+    }
+    for (std::size_t place = 0; place < whole.size(); ++place) {
+        for (int value = 0; value < 256; ++value) {
+            std::string damaged = whole;
+            damaged[place] = static_cast<char>(value);
+            try {
+                const PropertyList read = PropertyList::read(damaged).value;
+                EXPECT_EQ(PropertyList::read(read.binary()).value, read);
+            } catch (const PropertyListError &error) {
+                EXPECT_LE(error.offset(), whole.size());
+            }
+        }
+    }
+}
+
+TEST(PropertyListBinary, RefusesSharedValuesThatExpandToGigabytes) {
+    std::vector<std::string> arrays; // Ten references each to the next: 10^9 texts.
+    std::vector<std::string> dictionaries;
+    std::vector<std::string> texts = {"\xAF\x11"s + number(4000, 2) + std::string(4000, '\1'),
+                                      "\x5F\x11"s + number(50000, 2) + std::string(50000, 'x')};
+    for (int level = 1; level <= 9; ++level) {
+        arrays.push_back("\xAA"s + std::string(10, static_cast<char>(level)));
+        dictionaries.push_back("\xDA"s + std::string(10, '\xA') + std::string(10, static_cast<char>(level)));
+    }
+    arrays.push_back("\x54text");
+    dictionaries.push_back("\xA0"s);
+    dictionaries.push_back("\x51k");
+    for (const std::vector<std::string> &objects : {arrays, dictionaries, texts}) {
+        EXPECT_NE(errorOfReading(fileOf(objects)).errorDescription().find("expand to more than is allowed"),
+                  std::string::npos);
+    }
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+    rusage usage{};
+    ASSERT_EQ(getrusage(RUSAGE_SELF, &usage), 0);
+    EXPECT_LT(usage.ru_maxrss, 200 * 1024);
+#endif
+}
+
+TEST(PropertyListBinary, RefusesDepth) {
+    std::vector<std::string> objects;
+    for (int level = 1; level <= 255; ++level) {
+        objects.push_back("\xA1"s + static_cast<char>(level));
+    }
+    objects.push_back("\xA0");
+    EXPECT_NO_THROW(static_cast<void>(PropertyList::read(fileOf(objects))));
+    // References of two bytes from the 257th object on.
+    std::string deep = "bplist00";
+    std::string table;
+    for (unsigned level = 1; level <= 1000; ++level) {
+        table += number(deep.size(), 2);
+        deep += "\xA1"s + number(level, 2);
+    }
+    table += number(deep.size(), 2);
+    deep += "\xA0";
+    const std::size_t tableOffset = deep.size();
+    deep += table + number(0, 6) + "\x02\x02" + number(1001, 8) + number(0, 8) + number(tableOffset, 8);
+    EXPECT_NE(errorOfReading(deep).errorDescription().find("nested more than 256 deep"), std::string::npos);
+}
+
+TEST(PropertyListBinary, NotesKeysGivenTwice) {
+    const PropertyList::Document document = PropertyList::read(
+        fileOf({"\xD1\x01\x02"s, "\x51r"s, "\xD2\x03\x04\x05\x06"s, "\x51k"s, "\x51k"s, "\x09"s, "\x08"s}));
+    ASSERT_EQ(document.duplicates.size(), 1U);
+    EXPECT_EQ(document.duplicates[0].path, "r");
+    EXPECT_EQ(document.form, PropertyList::Document::Form::Binary);
+    EXPECT_EQ(document.lineOf(document.value.offset()), 0U);
+    EXPECT_EQ(*document.value.dictionary()->find("r")->dictionary()->find("k"), PropertyList(false));
+}
+
+TEST(PropertyListBinary, WritesEqualTextsAndNumbersOnce) {
+    PropertyList::Array array;
+    for (int count = 0; count < 100; ++count) {
+        array.push_back(PropertyList::Array{"a text that is written once", 12345678, 0.5});
+    }
+    EXPECT_LT(bytesOf(array).size(), 1200U);
+}

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "PropertyListBuilder.h"
+
+#include <Foundation/PropertyList.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace velmar {
+
+/// Reads one binary property list: a header, the objects, a table with the offset of each, and a trailer of
+/// 32 bytes that says where the table is and how wide the numbers are. Arrays and dictionaries refer to their
+/// members by the index in the table. Everything throws PropertyListError.
+class PropertyListBinaryReader {
+public:
+    /// The bytes must outlive the reader and be less than 4 GiB.
+    explicit PropertyListBinaryReader(std::span<const std::byte> bytes) noexcept : bytes_(bytes) {}
+
+    [[nodiscard]] PropertyList::Document read();
+
+private:
+    /// An object's place and first byte taken apart.
+    struct Object {
+        std::size_t offset;
+        std::size_t contents; ///< Offset after the marker and the count.
+        std::size_t count;    ///< Of bytes, characters or members; for numbers the exponent of their width.
+        std::uint8_t type;    ///< Upper half of the marker.
+    };
+
+    /// A container whose members are being read.
+    struct Frame {
+        std::uint64_t index;
+        Object object;
+        std::size_t next;
+        bool isDictionary;
+    };
+
+    void readTrailer();
+    void readTree();
+    void readObject(std::uint64_t index);
+    void openContainer(std::uint64_t index, const Object &object);
+    [[nodiscard]] Object objectAt(std::uint64_t index) const;
+    [[nodiscard]] std::uint64_t member(const Frame &frame, std::size_t number) const;
+    [[nodiscard]] PropertyList scalar(const Object &object);
+    [[nodiscard]] PropertyList simple(const Object &object) const;
+    [[nodiscard]] PropertyList integer(const Object &object) const;
+    [[nodiscard]] double real(const Object &object) const;
+    [[nodiscard]] std::string asciiString(const Object &object);
+    [[nodiscard]] std::string utf16String(const Object &object);
+    [[nodiscard]] std::string key(std::uint64_t index);
+    [[nodiscard]] std::span<const std::byte> contents(const Object &object, std::size_t width) const;
+    [[nodiscard]] std::uint64_t number(std::size_t offset, std::size_t width) const noexcept;
+    void charge(std::size_t bytes, const Object &object);
+    [[noreturn]] void fail(std::string_view reason, std::size_t offset) const;
+
+    std::span<const std::byte> bytes_;
+    std::size_t offsetWidth_ = 0;
+    std::size_t referenceWidth_ = 0;
+    std::size_t tableOffset_ = 0;
+    std::uint64_t objectCount_ = 0;
+    std::uint64_t rootIndex_ = 0;
+    std::size_t budget_ = 0;
+    std::vector<bool> isOpen_;
+    std::vector<Frame> frames_;
+    PropertyListBuilder builder_;
+};
+
+} // namespace velmar
