@@ -1,0 +1,15 @@
+#pragma once
+
+#include <Configuration/KeyWrapper.h>
+
+namespace velmar {
+
+/// What the person who sets the session up may do beside its user.
+struct AdminSection {
+    static constexpr std::string_view typeName = "AdminSection";
+
+    KeyWrapper<bool> _isAdminModeOn{false, "IsAdminModeEnabled", required};
+    KeyWrapper<bool> _isMenuBarSemiTransient{false, "IsMenuBarSemiTransient", optional};
+};
+
+} // namespace velmar

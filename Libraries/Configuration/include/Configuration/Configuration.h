@@ -1,0 +1,58 @@
+#pragma once
+
+#include <Configuration/APIRequestsSection.h>
+#include <Configuration/AdminSection.h>
+#include <Configuration/AppTerminationSection.h>
+#include <Configuration/Book.h>
+#include <Configuration/ColorItem.h>
+#include <Configuration/DecodingNotes.h>
+#include <Configuration/FontItem.h>
+#include <Configuration/InputSection.h>
+#include <Configuration/MonitoringSection.h>
+#include <Configuration/NavigationSection.h>
+#include <Configuration/SideContainerSection.h>
+#include <Configuration/SlideItem.h>
+#include <Configuration/WindowSection.h>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace velmar {
+
+/// The root of a configuration file. Its keys are decoded in the order of the members: the first fault is the one that
+/// is told.
+struct Configuration {
+    static constexpr std::string_view typeName = "Configuration";
+
+    KeyWrapper<AdminSection> _admin{"Admin", optional};
+    KeyWrapper<InputSection> _input{"Input", optional};
+    KeyWrapper<Book<ColorItem>> _colorStyles{"ColorStyles", optional};
+    KeyWrapper<Book<FontItem>> _fontStyles{"FontStyles", optional};
+    KeyWrapper<NavigationSection> _navigation{"Navigation", optional};
+    KeyWrapper<AppTerminationSection> _appTermination{"AppTermination", optional};
+    KeyWrapper<WindowSection> _window{"Window", optional};
+    KeyWrapper<std::vector<SlideItem>> _slides{"Slides", optional};
+    KeyWrapper<SlideItem> _menuBarSlideSection{"MenuBarSlide", optional};
+    KeyWrapper<std::optional<SideContainerSection>> _sideContainer{"SideContainer", optional};
+    KeyWrapper<MonitoringSection> _monitoring{"Monitoring", optional};
+    KeyWrapper<APIRequestsSection> _apiRequests{"APIRequests", optional};
+
+    [[nodiscard]] bool slidesWereSpecified() const { return _slides.wasGivenValueWhileDecoding(); }
+    [[nodiscard]] bool menuBarSlideWasSpecified() const {
+        return _menuBarSlideSection.wasGivenValueWhileDecoding();
+    }
+
+    /// Decodes a file and settles its references; the result never changes. Throws ConfigurationError. `notes`, where
+    /// given, takes what the decoding passes over in silence and the place of its failure.
+    [[nodiscard]] static std::shared_ptr<const Configuration> decode(const PropertyList &file,
+                                                                     DecodingNotes *notes = nullptr);
+
+    /// The mirror of decoding: what was given or is required.
+    [[nodiscard]] PropertyList encode() const;
+
+    /// There is something to show in the mode of the window. Throws ConfigurationError.
+    void validate(const CodingPath &path) const;
+};
+
+} // namespace velmar

@@ -1,0 +1,111 @@
+#pragma once
+
+#include <Foundation/LocalizedError.h>
+
+#include <optional>
+#include <string>
+
+namespace velmar {
+
+/// A requirement among the keys of one item that the file breaks.
+class KeyValidationError final : public LocalizedError {
+public:
+    explicit KeyValidationError(std::string description) : LocalizedError(std::move(description)) {}
+};
+
+/// An interval with both its bounds.
+struct ClosedRange {
+    double lower = 0;
+    double upper = 0;
+    [[nodiscard]] bool contains(double value) const { return value >= lower && value <= upper; }
+};
+
+namespace ConfigurationErrors {
+
+struct MissingValue {
+    std::string key;
+    [[nodiscard]] std::string errorDescription() const;
+};
+struct MissingValueWithPath {
+    std::string key;
+    std::string path;
+    [[nodiscard]] std::string errorDescription() const;
+};
+struct WrongValue {
+    std::string key;
+    std::string path;
+    [[nodiscard]] std::string errorDescription() const;
+};
+struct WrongValueInRange {
+    double value = 0;
+    ClosedRange range;
+    std::string path;
+    [[nodiscard]] std::string errorDescription() const;
+};
+struct DecodingError {
+    std::string path;
+    std::string description;
+    [[nodiscard]] std::string errorDescription() const;
+};
+struct ArrayCodingStrategyFailed {
+    std::string path;
+    [[nodiscard]] std::string errorDescription() const;
+};
+struct ValidationError {
+    KeyValidationError error;
+    [[nodiscard]] std::string errorDescription() const;
+};
+struct RequestBodyCoding {
+    std::string codingPath;
+    [[nodiscard]] std::string errorDescription() const;
+};
+struct RequestBodyGroup {
+    enum class Group { dictionary, array };
+    Group group = Group::dictionary;
+    [[nodiscard]] std::string errorDescription() const;
+};
+struct InvalidRegex {
+    std::string pattern;
+    std::string path;
+    [[nodiscard]] std::string errorDescription() const;
+};
+struct CopyTypeError {
+    std::string keyDescription;
+    std::string otherKeyDescription;
+    [[nodiscard]] std::string errorDescription() const;
+};
+struct UnexpectedError {
+    std::string description;
+    [[nodiscard]] std::string errorDescription() const;
+};
+struct ColorSpecification {
+    std::optional<std::string> string; ///< Absent where the file's value is no text.
+    std::string path;
+    [[nodiscard]] std::string errorDescription() const;
+};
+struct Custom {
+    std::string path;
+    std::string description;
+    [[nodiscard]] std::string errorDescription() const;
+};
+
+} // namespace ConfigurationErrors
+
+/// Why a configuration is refused. Paths are those of CodingPath::text().
+class ConfigurationError final
+    : public ErrorOfCases<
+          ConfigurationErrors::MissingValue, ConfigurationErrors::MissingValueWithPath,
+          ConfigurationErrors::WrongValue, ConfigurationErrors::WrongValueInRange,
+          ConfigurationErrors::DecodingError, ConfigurationErrors::ArrayCodingStrategyFailed,
+          ConfigurationErrors::ValidationError, ConfigurationErrors::RequestBodyCoding,
+          ConfigurationErrors::RequestBodyGroup, ConfigurationErrors::InvalidRegex,
+          ConfigurationErrors::CopyTypeError, ConfigurationErrors::UnexpectedError,
+          ConfigurationErrors::ColorSpecification, ConfigurationErrors::Custom> {
+public:
+    using ErrorOfCases::ErrorOfCases;
+};
+
+/// The text of a real number in messages: the shortest that reads back the same, with a fraction ("0.6", "1.0").
+[[nodiscard]] std::string textOf(double number);
+
+} // namespace velmar

@@ -1,0 +1,189 @@
+#pragma once
+
+#include <Configuration/ConfigurationEnum.h>
+#include <Configuration/ConfigurationError.h>
+#include <Configuration/DecodingContext.h>
+#include <Foundation/PropertyList.h>
+
+#include <fmt/format.h>
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace velmar {
+
+/// What a value type means in the file. A specialisation has
+///     static T decode(const Decoding &);                           throws ConfigurationError
+///     static std::optional<PropertyList> encode(const T &);        none where there is nothing to write
+///     static std::string plistType();                              the type as an administrator reads it
+/// The one for items lies in ItemCoding.h.
+template <class T>
+struct Decodable;
+
+/// "a string 'abc'": what the file has in place of what was expected.
+[[nodiscard]] std::string foundText(const PropertyList &value);
+
+/// Throws the ConfigurationError of a value that is not of the expected type.
+[[noreturn]] void throwWrongType(const Decoding &decoding, const std::string &expectedType);
+[[noreturn]] void throwWrongType(const Decoding &decoding, const std::string &description,
+                                 const std::string &expectedType);
+
+template <>
+struct Decodable<bool> {
+    static bool decode(const Decoding &decoding);
+    static std::optional<PropertyList> encode(bool value) { return PropertyList(value); }
+    static std::string plistType() { return "boolean"; }
+};
+
+template <>
+struct Decodable<std::int64_t> {
+    static std::int64_t decode(const Decoding &decoding);
+    static std::optional<PropertyList> encode(std::int64_t value) { return PropertyList(value); }
+    static std::string plistType() { return "integer (number)"; }
+};
+
+/// Finite numbers only.
+template <>
+struct Decodable<double> {
+    static double decode(const Decoding &decoding);
+    static std::optional<PropertyList> encode(double value) { return PropertyList(value); }
+    static std::string plistType() { return "real (number)"; }
+};
+
+template <>
+struct Decodable<std::string> {
+    static std::string decode(const Decoding &decoding);
+    static std::optional<PropertyList> encode(const std::string &value) { return PropertyList(value); }
+    static std::string plistType() { return "string"; }
+};
+
+template <ConfigurationEnum E>
+struct Decodable<E> {
+    static E decode(const Decoding &decoding) {
+        const std::string *text = decoding.value.string();
+        if (text == nullptr) {
+            throwWrongType(decoding, plistType());
+        }
+        if (const auto value = enumValue<E>(*text)) {
+            return *value;
+        }
+        if (decoding.context.notes() != nullptr) {
+            decoding.context.noteEnumerationCase(decoding.path, *text, decoding.value.offset(), rawStringList<E>());
+        }
+        throwWrongType(decoding, plistType());
+    }
+    static std::optional<PropertyList> encode(E value) { return PropertyList(rawString(value)); }
+    static std::string plistType() { return possibleValuesText(rawStringList<E>()); }
+};
+
+/// An optional is absent where its key is; a value that is there must be right.
+template <class T>
+struct Decodable<std::optional<T>> {
+    static std::optional<T> decode(const Decoding &decoding) { return Decodable<T>::decode(decoding); }
+    static std::optional<PropertyList> encode(const std::optional<T> &value) {
+        return value ? Decodable<T>::encode(*value) : std::nullopt;
+    }
+    static std::string plistType() { return Decodable<T>::plistType(); }
+};
+
+template <class T>
+struct Decodable<std::vector<T>> {
+    static std::vector<T> decode(const Decoding &decoding) {
+        const PropertyList::Array *array = decoding.value.array();
+        if (array == nullptr) {
+            throwWrongType(decoding, plistType());
+        }
+        std::vector<T> elements;
+        elements.reserve(array->size());
+        for (std::size_t index = 0; index < array->size(); ++index) {
+            const CodingPath path(decoding.path, index);
+            try {
+                elements.push_back(Decodable<T>::decode({(*array)[index], path, decoding.context}));
+            } catch (...) {
+                decoding.context.noteFailure(path.text(), (*array)[index].offset());
+                throw;
+            }
+        }
+        return elements;
+    }
+    static std::optional<PropertyList> encode(const std::vector<T> &elements) {
+        PropertyList::Array array;
+        array.reserve(elements.size());
+        for (const T &element : elements) {
+            if (auto value = Decodable<T>::encode(element)) {
+                array.push_back(*std::move(value));
+            }
+        }
+        return PropertyList(std::move(array));
+    }
+    static std::string plistType() { return fmt::format("array of {}", Decodable<T>::plistType()); }
+};
+
+template <class T>
+struct Decodable<std::map<std::string, T>> {
+    static std::map<std::string, T> decode(const Decoding &decoding) {
+        const PropertyList::Dictionary *dictionary = decoding.value.dictionary();
+        if (dictionary == nullptr) {
+            throwWrongType(decoding, plistType());
+        }
+        std::map<std::string, T> values;
+        for (const auto &entry : *dictionary) {
+            const CodingPath path(decoding.path, entry.key);
+            try {
+                values.emplace(entry.key, Decodable<T>::decode({entry.value, path, decoding.context}));
+            } catch (...) {
+                decoding.context.noteFailure(path.text(), entry.value.offset());
+                throw;
+            }
+        }
+        return values;
+    }
+    static std::optional<PropertyList> encode(const std::map<std::string, T> &values) {
+        PropertyList::Dictionary dictionary;
+        for (const auto &[key, value] : values) {
+            if (auto encoded = Decodable<T>::encode(value)) {
+                dictionary.set(key, *std::move(encoded));
+            }
+        }
+        return PropertyList(std::move(dictionary));
+    }
+    static std::string plistType() { return fmt::format("dictionary of {}", Decodable<T>::plistType()); }
+};
+
+/// The types whose keys can have a range.
+template <class T>
+concept HasRange = std::is_same_v<T, double> || std::is_same_v<T, std::optional<double>> ||
+                   std::is_same_v<T, std::int64_t> || std::is_same_v<T, std::optional<std::int64_t>>;
+
+template <HasRange T>
+void checkRange(const T &value, const ClosedRange &range, const Decoding &decoding) {
+    const double number = [&] {
+        if constexpr (requires { *value; }) {
+            return static_cast<double>(*value);
+        } else {
+            return static_cast<double>(value);
+        }
+    }();
+    if (!range.contains(number)) {
+        throw ConfigurationError(
+            ConfigurationErrors::WrongValueInRange{number, range, decoding.path.text()});
+    }
+}
+
+/// The types whose keys can have an array coding strategy.
+template <class T>
+concept CanBeDecodedAsTexts =
+    std::is_same_v<T, std::vector<std::string>> || std::is_same_v<T, std::optional<std::vector<std::string>>>;
+
+/// An array all of texts, all of integers or all of reals, each as its text. Throws ArrayCodingStrategyFailed.
+[[nodiscard]] std::vector<std::string> decodeTexts(const Decoding &decoding);
+
+template <CanBeDecodedAsTexts T>
+T decodeAsTexts(const Decoding &decoding) {
+    return decodeTexts(decoding);
+}
+
+} // namespace velmar

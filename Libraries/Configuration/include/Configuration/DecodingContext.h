@@ -1,0 +1,58 @@
+#pragma once
+
+#include <Configuration/CodingPath.h>
+#include <Configuration/DecodingNotes.h>
+#include <Foundation/PropertyList.h>
+
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace velmar {
+
+struct Library;
+
+/// The surroundings of one decoding, from its root to the settling of the references. Used by one thread.
+class DecodingContext {
+public:
+    explicit DecodingContext(DecodingNotes *notes = nullptr) : notes_(notes) {}
+
+    /// Where to note what is passed over; null when nobody asked.
+    [[nodiscard]] DecodingNotes *notes() const { return notes_; }
+
+    /// Keeps a reference to another part of the file until all of the file is decoded.
+    void addReference(std::string path, std::uint32_t offset, std::function<void(const Library &)> settle);
+
+    /// Settles the references in the order in which they were met; what fails throws ConfigurationError with the
+    /// path of the reference.
+    void settleReferences(const Library &library);
+
+    void noteFailure(const std::string &keyPath, std::uint32_t offset);
+    void noteUnknownKey(const CodingPath &item, const std::string &key, std::uint32_t offset,
+                        std::span<const std::string_view> knownKeys);
+    void noteEnumerationCase(const CodingPath &path, const std::string &value, std::uint32_t offset,
+                             std::span<const std::string_view> rawStrings);
+
+private:
+    struct Reference {
+        std::string path;
+        std::uint32_t offset;
+        std::function<void(const Library &)> settle;
+    };
+
+    DecodingNotes *notes_;
+    std::vector<Reference> references_;
+};
+
+/// One value about to be decoded, and where it stands.
+struct Decoding {
+    const PropertyList &value;
+    const CodingPath &path;
+    DecodingContext &context;
+    /// Keys of the value's dictionary that an enclosing item has read: they are known ones.
+    std::span<const std::string_view> keysReadBefore{};
+};
+
+} // namespace velmar

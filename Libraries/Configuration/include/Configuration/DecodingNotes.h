@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace velmar {
+
+/// What a decoding passed over in silence, and the place where it failed: for a tool that explains a file to its
+/// author. A decoding fills it where it is given one; the offsets are those of PropertyList::offset().
+struct DecodingNotes {
+    enum class Kind {
+        unknownKey,      ///< A key of the file that no item names.
+        enumerationCase, ///< A value that is one of the possible ones but for the case of its letters.
+    };
+
+    struct Note {
+        Kind kind = Kind::unknownKey;
+        std::string keyPath;
+        std::uint32_t offset = 0;
+        std::string message;
+    };
+
+    struct Failure {
+        std::string keyPath;
+        std::uint32_t offset = 0;
+    };
+
+    std::vector<Note> notes;
+    std::optional<Failure> failure; ///< The innermost key of the first failure.
+};
+
+} // namespace velmar

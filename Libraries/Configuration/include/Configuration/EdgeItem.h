@@ -1,0 +1,17 @@
+#pragma once
+
+#include <Configuration/ConfigurationEnum.h>
+
+namespace velmar {
+
+/// A side of something on screen.
+enum class EdgeItem { top, right, bottom, left };
+
+constexpr auto casesOf(EdgeItem) {
+    return std::to_array<EnumCase<EdgeItem>>({{EdgeItem::top, "Top"},
+                                              {EdgeItem::right, "Right"},
+                                              {EdgeItem::bottom, "Bottom"},
+                                              {EdgeItem::left, "Left"}});
+}
+
+} // namespace velmar

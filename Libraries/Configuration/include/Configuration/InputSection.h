@@ -1,0 +1,21 @@
+#pragma once
+
+#include <Configuration/KeyWrapper.h>
+
+namespace velmar {
+
+/// The file of what the user entered.
+struct InputSection {
+    static constexpr std::string_view typeName = "InputSection";
+
+    enum class InputFileFormat { plist, json };
+    friend constexpr auto casesOf(InputFileFormat) {
+        return std::to_array<EnumCase<InputFileFormat>>(
+            {{InputFileFormat::plist, "PLIST"}, {InputFileFormat::json, "JSON"}});
+    }
+
+    KeyWrapper<InputFileFormat> _fileFormat{InputFileFormat::json, "FileFormat", required};
+    KeyWrapper<std::optional<std::string>> _filePath{"FilePath", optional};
+};
+
+} // namespace velmar

@@ -1,0 +1,201 @@
+#pragma once
+
+#include <Configuration/ConfigurationError.h>
+#include <Configuration/DecodingContext.h>
+#include <Configuration/Decodable.h>
+#include <Configuration/Plugin.h>
+#include <Configuration/Requirement.h>
+#include <Foundation/PropertyList.h>
+
+#include <boost/smart_ptr/intrusive_ptr.hpp>
+#include <boost/smart_ptr/intrusive_ref_counter.hpp>
+
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace velmar {
+
+/// How an array of texts may be given.
+enum class ArrayCodingStrategy {
+    customStringConvertible, ///< All as texts, all as integers or all as reals; read as text.
+};
+
+/// Holds one key of an item: what the file may give for it, and what it gave.
+///
+///     struct SizeItem {
+///         static constexpr std::string_view typeName = "SizeItem";
+///         KeyWrapper<double> _height{0.0, "Height", required};
+///         KeyWrapper<double> _width{0.0, "Width", required};
+///     };
+///
+/// The declaration (default, name, requirement, range) stands once for all instances that are copies of one default
+/// instance; an instance has its value, shared between copies until one is set, and two flags. The value's type may
+/// still be incomplete where the item is declared. A holder is called to read it: `size._height()`.
+///
+/// A decoded holder is read from any thread; setting belongs to the one owner of an item that nobody reads yet.
+template <class T>
+class KeyWrapper {
+public:
+    using Value = T;
+
+    /// What reading gives: texts pass through the plugins and come as new values, all else as it is held.
+    using Read = std::conditional_t<IsPluggable<T>::value, T, const T &>;
+
+    KeyWrapper(T defaultValue, ConfigCodingKey name, Requirement requirement)
+        : declaration_(new Declaration{std::move(defaultValue), name, std::move(requirement)}) {}
+    KeyWrapper(T defaultValue, ConfigCodingKey name, Requirement requirement, ClosedRange range)
+        : declaration_(new Declaration{std::move(defaultValue), name, std::move(requirement), range}) {}
+    KeyWrapper(T defaultValue, ConfigCodingKey name, Requirement requirement, ArrayCodingStrategy strategy)
+        : declaration_(new Declaration{std::move(defaultValue), name, std::move(requirement), {}, strategy}) {}
+    /// With the default T{}: absent, empty, or the default item.
+    KeyWrapper(ConfigCodingKey name, Requirement requirement)
+        : declaration_(new Declaration{T{}, name, std::move(requirement)}) {}
+
+    KeyWrapper(const KeyWrapper &) = default;
+    KeyWrapper(KeyWrapper &&) noexcept = default;
+    KeyWrapper &operator=(const KeyWrapper &) = default;
+    KeyWrapper &operator=(KeyWrapper &&) noexcept = default;
+    ~KeyWrapper() = default;
+
+    /// The value for its reader.
+    Read operator()() const { return wrappedValue(); }
+    [[nodiscard]] Read wrappedValue() const {
+        if constexpr (IsPluggable<T>::value) {
+            return pluggedValue();
+        } else {
+            return rawValue();
+        }
+    }
+
+    /// The value after all plugins.
+    [[nodiscard]] T pluggedValue() const { return plugged(rawValue()); }
+
+    /// The value as the file has it.
+    [[nodiscard]] const T &rawValue() const { return value_ ? value_->value : declaration_->defaultValue; }
+
+    /// Assigns by code.
+    void set(T value) {
+        value_ = new Node(std::move(value));
+        valueWasSet_ = true;
+    }
+
+    /// Changes the value in place; other copies of the holder keep theirs.
+    template <class Change>
+    void modify(Change change) {
+        T value = rawValue();
+        change(value);
+        set(std::move(value));
+    }
+
+    /// Takes the value of another holder of the same key, for a model that inherits it.
+    void inherit(const KeyWrapper &parent) {
+        value_ = parent.value_;
+        valueWasSet_ = parent.valueWasSet_;
+    }
+
+    /// Back to the default.
+    void reset() {
+        value_ = nullptr;
+        valueWasSet_ = false;
+    }
+
+    [[nodiscard]] bool wasGivenValueWhileDecoding() const { return wasGivenValueWhileDecoding_; }
+    [[nodiscard]] bool valueWasSet() const { return valueWasSet_; }
+    [[nodiscard]] const T &initialDefaultValue() const { return declaration_->defaultValue; }
+    [[nodiscard]] const ConfigCodingKey &name() const { return declaration_->name; }
+    [[nodiscard]] const Requirement &requirement() const { return declaration_->requirement; }
+    [[nodiscard]] const std::optional<ClosedRange> &range() const { return declaration_->range; }
+    [[nodiscard]] const std::optional<ArrayCodingStrategy> &arrayCodingStrategy() const {
+        return declaration_->strategy;
+    }
+
+    /// Reads the key from the dictionary of its item, if it is there. Throws ConfigurationError.
+    void decode(const PropertyList::Dictionary &item, const CodingPath &itemPath, DecodingContext &context) {
+        decodeWith(item, itemPath, context, [this](const Decoding &decoding) { return decodeValue(decoding); });
+    }
+
+    /// Writes the key where it is required or has been set.
+    void encode(PropertyList::Dictionary &item) const {
+        if (mustBeEncoded()) {
+            if (auto value = encodeValue()) {
+                item.set(std::string(name().stringValue), *std::move(value));
+            }
+        }
+    }
+
+    [[nodiscard]] SiblingKey asSibling() const { return {name(), wasGivenValueWhileDecoding_}; }
+
+protected:
+    struct Declaration : boost::intrusive_ref_counter<Declaration> {
+        Declaration(T value, ConfigCodingKey key, Requirement need, std::optional<ClosedRange> bounds = {},
+                    std::optional<ArrayCodingStrategy> arrays = {})
+            : defaultValue(std::move(value)), name(key), requirement(std::move(need)), range(bounds),
+              strategy(arrays) {}
+        T defaultValue;
+        ConfigCodingKey name;
+        Requirement requirement;
+        std::optional<ClosedRange> range;
+        std::optional<ArrayCodingStrategy> strategy;
+    };
+
+    struct Node : boost::intrusive_ref_counter<Node> {
+        explicit Node(T held) : value(std::move(held)) {}
+        T value;
+    };
+
+    /// The common course of decoding a key; `read` makes the value.
+    template <class ReadValue>
+    void decodeWith(const PropertyList::Dictionary &item, const CodingPath &itemPath, DecodingContext &context,
+                    ReadValue read) {
+        const std::string_view key = name().stringValue;
+        const PropertyList *value = item.find(key);
+        if (value == nullptr) {
+            if (requirement().type == RequirementType::required) {
+                throw ConfigurationError(
+                    ConfigurationErrors::MissingValueWithPath{std::string(key), itemPath.text()});
+            }
+            return;
+        }
+        const CodingPath path(itemPath, key);
+        try {
+            set(read(Decoding{*value, path, context}));
+        } catch (...) {
+            context.noteFailure(path.text(), value->offset());
+            throw;
+        }
+        wasGivenValueWhileDecoding_ = true;
+    }
+
+    [[nodiscard]] T decodeValue(const Decoding &decoding) const {
+        if constexpr (CanBeDecodedAsTexts<T>) {
+            if (arrayCodingStrategy()) {
+                return decodeAsTexts<T>(decoding);
+            }
+        }
+        T value = Decodable<T>::decode(decoding);
+        if constexpr (HasRange<T>) {
+            if (range()) {
+                checkRange(value, *range(), decoding);
+            }
+        }
+        return value;
+    }
+
+    [[nodiscard]] bool mustBeEncoded() const {
+        return requirement().type == RequirementType::required || valueWasSet_;
+    }
+
+    /// None for an absent optional.
+    [[nodiscard]] std::optional<PropertyList> encodeValue() const { return Decodable<T>::encode(rawValue()); }
+
+    [[nodiscard]] const boost::intrusive_ptr<Node> &node() const { return value_; }
+
+private:
+    boost::intrusive_ptr<const Declaration> declaration_;
+    boost::intrusive_ptr<Node> value_; // Null while the default stands.
+    bool wasGivenValueWhileDecoding_ = false;
+    bool valueWasSet_ = false;
+};
+
+} // namespace velmar

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <Configuration/ColorItem.h>
+#include <Configuration/InheritableKeyWrapper.h>
+
+namespace velmar {
+
+/// The buttons that lead through the slides, and what is said when they can't.
+struct NavigationSection {
+    static constexpr std::string_view typeName = "NavigationSection";
+
+    KeyWrapper<bool> _isHidden{false, "IsHidden", optional};
+    KeyWrapper<std::optional<std::string>> _previousButtonText{"PreviousButtonText", optional};
+    InheritableKeyWrapper<std::optional<ColorItem>> _previousButtonTextColor{"PreviousButtonTextColor", optional,
+                                                                             &Library::colorStyles};
+    KeyWrapper<std::optional<std::string>> _nextButtonText{"NextButtonText", optional};
+    InheritableKeyWrapper<std::optional<ColorItem>> _nextButtonTextColor{"NextButtonTextColor", optional,
+                                                                         &Library::colorStyles};
+    KeyWrapper<std::optional<std::string>> _quitButtonText{"QuitButtonText", optional};
+    KeyWrapper<std::optional<std::string>> _installationIncompleteQuitText{"InstallationIncompleteQuitText",
+                                                                           optional};
+    KeyWrapper<bool> _userCanQuitIfInstallationIsIncomplete{false, "UserCanQuitIfInstallationIsIncomplete",
+                                                            optional};
+    KeyWrapper<std::optional<std::string>> _mandatoryFilesMissingQuitText{"MandatoryFilesMissingQuitText",
+                                                                          optional};
+};
+
+} // namespace velmar

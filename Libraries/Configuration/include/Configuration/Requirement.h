@@ -1,0 +1,60 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+namespace velmar {
+
+/// The name of a key. The text is that of a literal, or otherwise outlives the key.
+struct ConfigCodingKey {
+    std::string_view stringValue;
+    std::optional<int> intValue;
+
+    constexpr ConfigCodingKey(const char *name) : stringValue(name) {} // NOLINT(google-explicit-constructor)
+    constexpr explicit ConfigCodingKey(int index) : intValue(index) {}
+
+    bool operator==(const ConfigCodingKey &) const = default;
+};
+
+enum class RequirementType {
+    requiredIfSpecified,    ///< Must be given when all the listed keys are given.
+    requiredIfNotSpecified, ///< Must be given when at least one listed key is missing.
+    exclude,                ///< Must not be given together with a listed key.
+    requiredExcluding,      ///< Exactly one of this key and the listed keys must be given.
+    optional,               ///< May be absent; the default then stands.
+    required,               ///< Must be given.
+};
+
+/// What a key asks of itself and of its siblings in the same item.
+struct Requirement {
+    RequirementType type = RequirementType::optional;
+    std::vector<ConfigCodingKey> keys;
+};
+
+inline const Requirement optional{RequirementType::optional, {}};
+inline const Requirement required{RequirementType::required, {}};
+
+inline Requirement requiredIfSpecified(std::vector<ConfigCodingKey> keys) {
+    return {RequirementType::requiredIfSpecified, std::move(keys)};
+}
+inline Requirement requiredIfNotSpecified(std::vector<ConfigCodingKey> keys) {
+    return {RequirementType::requiredIfNotSpecified, std::move(keys)};
+}
+inline Requirement exclude(std::vector<ConfigCodingKey> keys) { return {RequirementType::exclude, std::move(keys)}; }
+inline Requirement requiredExcluding(std::vector<ConfigCodingKey> keys) {
+    return {RequirementType::requiredExcluding, std::move(keys)};
+}
+
+/// A key of an item as its siblings see it.
+struct SiblingKey {
+    ConfigCodingKey name;
+    bool wasGivenValueWhileDecoding = false;
+};
+
+/// Checks the requirement of `key` against the keys of its item, itself included. Throws ConfigurationError: a
+/// KeyValidationError with the broken rule, or MissingValue where the requirement lists a key that the item lacks.
+void validate(const SiblingKey &key, const Requirement &requirement, std::span<const SiblingKey> siblings);
+
+} // namespace velmar

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <Configuration/KeyWrapper.h>
+
+namespace velmar {
+
+/// Where a window opens on its screen; the padding, in points, counts from an edge and not in a centred axis.
+struct WindowPositionItem {
+    static constexpr std::string_view typeName = "WindowPositionItem";
+
+    enum class Horizontal { left, center, right };
+    friend constexpr auto casesOf(Horizontal) {
+        return std::to_array<EnumCase<Horizontal>>(
+            {{Horizontal::left, "Left"}, {Horizontal::center, "Center"}, {Horizontal::right, "Right"}});
+    }
+
+    enum class Vertical { top, center, bottom };
+    friend constexpr auto casesOf(Vertical) {
+        return std::to_array<EnumCase<Vertical>>(
+            {{Vertical::top, "Top"}, {Vertical::center, "Center"}, {Vertical::bottom, "Bottom"}});
+    }
+
+    KeyWrapper<Horizontal> _horizontal{Horizontal::center, "Horizontal", required};
+    KeyWrapper<Vertical> _vertical{Vertical::center, "Vertical", required};
+    KeyWrapper<double> _padding{20.0, "Padding", optional};
+};
+
+} // namespace velmar

@@ -1,0 +1,110 @@
+#include <Configuration/ConfigurationError.h>
+#include <Configuration/DecodingContext.h>
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <optional>
+
+namespace velmar {
+
+namespace {
+
+char lowered(char letter) { return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter; }
+
+bool equalButForCase(std::string_view left, std::string_view right) {
+    return std::ranges::equal(left, right, {}, lowered, lowered);
+}
+
+/// The number of letters to insert, delete, replace or swap with their neighbour (the optimal string alignment
+/// distance), the case of letters left aside.
+std::size_t distance(std::string_view from, std::string_view to) {
+    std::vector<std::size_t> beforeLast;
+    std::vector<std::size_t> last(to.size() + 1);
+    std::vector<std::size_t> row(to.size() + 1);
+    for (std::size_t j = 0; j <= to.size(); ++j) {
+        row[j] = j;
+    }
+    for (std::size_t i = 1; i <= from.size(); ++i) {
+        beforeLast = last;
+        last = row;
+        row[0] = i;
+        for (std::size_t j = 1; j <= to.size(); ++j) {
+            const bool same = lowered(from[i - 1]) == lowered(to[j - 1]);
+            row[j] = std::min({last[j] + 1, row[j - 1] + 1, last[j - 1] + (same ? 0 : 1)});
+            if (i > 1 && j > 1 && lowered(from[i - 1]) == lowered(to[j - 2]) &&
+                lowered(from[i - 2]) == lowered(to[j - 1])) {
+                row[j] = std::min(row[j], beforeLast[j - 2] + 1);
+            }
+        }
+    }
+    return row[to.size()];
+}
+
+/// The known text that was most likely meant, if any comes near.
+std::optional<std::string_view> nearest(std::string_view given, std::span<const std::string_view> known) {
+    // No key of any item is nearly as long, and the comparison takes the product of the lengths.
+    constexpr std::size_t longestTaken = 80;
+    if (given.size() > longestTaken) {
+        return std::nullopt;
+    }
+    std::optional<std::string_view> best;
+    std::size_t bestDistance = std::max<std::size_t>(given.size() / 3, 1) + 1;
+    for (const std::string_view candidate : known) {
+        const std::size_t candidateDistance = distance(given, candidate);
+        if (candidateDistance < bestDistance) {
+            best = candidate;
+            bestDistance = candidateDistance;
+        }
+    }
+    return best;
+}
+
+} // namespace
+
+void DecodingContext::addReference(std::string path, std::uint32_t offset,
+                                   std::function<void(const Library &)> settle) {
+    references_.push_back({std::move(path), offset, std::move(settle)});
+}
+
+void DecodingContext::settleReferences(const Library &library) {
+    for (const Reference &reference : references_) {
+        try {
+            reference.settle(library);
+        } catch (const LocalizedError &error) {
+            noteFailure(reference.path, reference.offset);
+            throw ConfigurationError(ConfigurationErrors::Custom{reference.path, error.errorDescription()});
+        }
+    }
+    references_.clear();
+}
+
+void DecodingContext::noteFailure(const std::string &keyPath, std::uint32_t offset) {
+    if (notes_ != nullptr && !notes_->failure) {
+        notes_->failure = DecodingNotes::Failure{keyPath, offset};
+    }
+}
+
+void DecodingContext::noteUnknownKey(const CodingPath &item, const std::string &key, std::uint32_t offset,
+                                     std::span<const std::string_view> knownKeys) {
+    std::string message = fmt::format("Unknown key '{}'", key);
+    if (const auto meant = nearest(key, knownKeys)) {
+        message += fmt::format(" (did you mean '{}'?)", *meant);
+    }
+    notes_->notes.push_back(
+        {DecodingNotes::Kind::unknownKey, CodingPath(item, key).text(), offset, std::move(message)});
+}
+
+void DecodingContext::noteEnumerationCase(const CodingPath &path, const std::string &value, std::uint32_t offset,
+                                          std::span<const std::string_view> rawStrings) {
+    for (const std::string_view rawString : rawStrings) {
+        if (equalButForCase(value, rawString)) {
+            notes_->notes.push_back({DecodingNotes::Kind::enumerationCase, path.text(), offset,
+                                     fmt::format("'{}' differs from '{}' in the case of its letters only", value,
+                                                 rawString)});
+            return;
+        }
+    }
+}
+
+} // namespace velmar

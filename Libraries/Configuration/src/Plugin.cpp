@@ -1,0 +1,61 @@
+#include <Configuration/Plugin.h>
+
+#include <algorithm>
+#include <atomic>
+#include <mutex>
+
+namespace velmar {
+
+namespace {
+
+using PluginList = std::vector<std::shared_ptr<const Plugin>>;
+
+struct State {
+    std::mutex mutex;
+    std::shared_ptr<const PluginList> plugins = std::make_shared<const PluginList>();
+    std::atomic<bool> isEmpty{true}; // The usual case of a decoding takes no lock.
+
+    template <class Change>
+    void change(Change change) {
+        const std::scoped_lock lock(mutex);
+        auto list = std::make_shared<PluginList>(*plugins);
+        change(*list);
+        isEmpty = list->empty();
+        plugins = std::move(list);
+    }
+};
+
+State &state() {
+    static State instance;
+    return instance;
+}
+
+} // namespace
+
+Plugins::Registration Plugins::registerPlugin(std::shared_ptr<const Plugin> plugin) {
+    state().change([&](PluginList &list) { list.push_back(plugin); });
+    return Registration(std::move(plugin));
+}
+
+Plugins::Registration::~Registration() {
+    if (plugin_) {
+        state().change([this](PluginList &list) { std::erase(list, plugin_); });
+    }
+}
+
+std::string Plugins::apply(std::string text) {
+    if (state().isEmpty) {
+        return text;
+    }
+    std::shared_ptr<const PluginList> plugins;
+    {
+        const std::scoped_lock lock(state().mutex);
+        plugins = state().plugins;
+    }
+    for (const auto &plugin : *plugins) {
+        text = plugin->value(std::move(text));
+    }
+    return text;
+}
+
+} // namespace velmar

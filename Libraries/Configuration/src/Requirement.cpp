@@ -1,0 +1,80 @@
+#include <Configuration/ConfigurationError.h>
+#include <Configuration/Requirement.h>
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <string>
+
+namespace velmar {
+
+namespace {
+
+/// `["A", "B"]`
+std::string listText(std::span<const ConfigCodingKey> keys) {
+    std::string text = "[";
+    for (const ConfigCodingKey &key : keys) {
+        text += fmt::format("{}\"{}\"", text.size() > 1 ? ", " : "", key.stringValue);
+    }
+    return text + "]";
+}
+
+std::string brokenRule(std::string_view key, const Requirement &requirement) {
+    const std::string keys = listText(requirement.keys);
+    switch (requirement.type) {
+    case RequirementType::requiredIfSpecified:
+        return fmt::format("The key '{}' is required when the key(s) '{}' is/are specified.", key, keys);
+    case RequirementType::requiredIfNotSpecified:
+        return fmt::format("The key {} is required when one of the following keys is missing: {}", key, keys);
+    case RequirementType::exclude:
+        return fmt::format("The key {} excludes a key specified in {}.", key, keys);
+    case RequirementType::requiredExcluding:
+        return fmt::format("One of the keys {} has to be specified. But only one can be specified.", keys);
+    case RequirementType::required:
+    case RequirementType::optional:
+        break;
+    }
+    return fmt::format("Missing required key {}", key);
+}
+
+} // namespace
+
+void validate(const SiblingKey &key, const Requirement &requirement, std::span<const SiblingKey> siblings) {
+    const auto isGiven = [&](const ConfigCodingKey &name) {
+        const auto sibling = std::ranges::find(siblings, name, &SiblingKey::name);
+        if (sibling == siblings.end()) {
+            throw ConfigurationError(ConfigurationErrors::MissingValue{std::string(name.stringValue)});
+        }
+        return sibling->wasGivenValueWhileDecoding;
+    };
+    // Every listed name is looked up, so that a mistake in a declaration shows whatever the file holds.
+    const auto given = static_cast<std::size_t>(std::ranges::count_if(requirement.keys, isGiven));
+    const bool own = key.wasGivenValueWhileDecoding;
+
+    bool fails = false;
+    switch (requirement.type) {
+    case RequirementType::requiredIfSpecified:
+        fails = !own && given == requirement.keys.size();
+        break;
+    case RequirementType::requiredIfNotSpecified:
+        fails = !own && given < requirement.keys.size();
+        break;
+    case RequirementType::exclude:
+        fails = own && given > 0;
+        break;
+    case RequirementType::requiredExcluding:
+        fails = own == (given > 0);
+        break;
+    case RequirementType::required:
+        fails = !own;
+        break;
+    case RequirementType::optional:
+        break;
+    }
+    if (fails) {
+        throw ConfigurationError(
+            ConfigurationErrors::ValidationError{KeyValidationError(brokenRule(key.name.stringValue, requirement))});
+    }
+}
+
+} // namespace velmar
