@@ -28,12 +28,14 @@ TEST(Configuration, IsAdmittedOrRefusedAsAWhole) {
         {"<key>Slides</key><array><dict/></array>", "Missing required key 'Containers' at 'Slides.0'"},
         {"<key>Slides</key><array><dict><key>Containers</key><array><dict/></array></dict></array>",
          "Missing required key 'Components' at 'Slides.0.Containers.0'"},
-        {"<key>Slides</key><array><dict><key>Containers</key><array><dict><key>Components</key><array><dict/></array>"
+        {"<key>Slides</key><array><dict><key>Containers</key><array><dict><key>Components</key><array><dict/"
+         "></array>"
          "</dict></array></dict></array>",
          "Missing required key 'Type' at 'Slides.0.Containers.0.Components.0'"},
         {"<key>Slides</key><array><dict><key>Containers</key><array><dict><key>Components</key><array>"
          "<dict><key>Type</key><string>text</string></dict></array></dict></array></dict></array>",
-         "Decoding error at 'Slides.0.Containers.0.Components.0.Type'. The value is 'text'.\nExpected type: string | "
+         "Decoding error at 'Slides.0.Containers.0.Components.0.Type'. The value is 'text'.\nExpected type: "
+         "string | "
          "Possible values: 'Text', 'Spacer'."},
     };
     for (const auto &[content, expected] : rows) {
@@ -60,7 +62,8 @@ TEST(Configuration, ChecksASectionOnlyWhereItIsGiven) {
          "<key>Width</key><real>4</real></dict></dict>",
          "Missing required key 'Height' at 'Window.MinimumSize'"},
         {"<key>APIRequests</key><dict><key>DefaultMDMApi</key><string>AirWatch</string></dict>",
-         "Decoding error at 'APIRequests.DefaultMDMApi'. The value is 'AirWatch'.\nExpected type: string | Possible "
+         "Decoding error at 'APIRequests.DefaultMDMApi'. The value is 'AirWatch'.\nExpected type: string | "
+         "Possible "
          "values: 'Jamf', 'JamfPro', 'Airwatch'."},
         {"<key>Zebra</key><true/>", "decoded"},
     };
@@ -97,18 +100,21 @@ TEST(Configuration, WritesWhatItHasRead) {
     const PropertyList once = Configuration::decode(file)->encode();
     const auto again = Configuration::decode(once);
     EXPECT_EQ(again->encode(), once);
-    const auto &text = std::get<ComponentItem::Text>(again->_sideContainer()->_container()._components()[1].value);
+    const auto &text =
+        std::get<ComponentItem::Text>(again->_sideContainer()->_container()._components()[1].value);
     EXPECT_EQ(text._font()->_color()->_lightMode(), (ColorItem::Specification{0x11, 0x22, 0x33, 0xFF}));
     EXPECT_EQ(text._font()->_color()->_alphaLight(), 0.5);
     EXPECT_EQ(text.common._border()->_edge(), BorderItem::Edge::bottom);
 }
 
-// The widths of the containers of one slide: L and l give "IsLarge" true and false, numbers "WidthRatio", - neither.
+// The widths of the containers of one slide: L and l give "IsLarge" true and false, numbers "WidthRatio", -
+// neither.
 TEST(SlideItem, SharesItsWidth) {
     const std::string error = "Error at 'Slides.0.Containers'. ";
-    const std::string atOne = error + "Widths ratios sum for containers is equal to 1 but other containers have no "
-                                      "width specified.\nPlease specify a 'WidthRatio' for the remaining containers "
-                                      "or make the sum lesser than 1.";
+    const std::string atOne = error +
+                              "Widths ratios sum for containers is equal to 1 but other containers have no "
+                              "width specified.\nPlease specify a 'WidthRatio' for the remaining containers "
+                              "or make the sum lesser than 1.";
     const std::string mixed =
         error + "It's not possible to mix 'IsLarge' and 'WidthRatio' options for containers in a slide";
     const std::string onlyTwo = error + "'IsLarge' containers option only be used with 2 containers";
@@ -130,7 +136,8 @@ TEST(SlideItem, SharesItsWidth) {
          error + "The sum of widths ratios should be equal to 1 (currently equal to 0.9999999999999999)"},
         {{"0.1", "0.2", "0.7"}, "0.1 0.2 0.7"},
         {{"0.6", "0.6"},
-         error + "Widths ratios sum for containers should be lesser than or equal to 1 (currently equal to 1.2)"},
+         error +
+             "Widths ratios sum for containers should be lesser than or equal to 1 (currently equal to 1.2)"},
         {{"1", "-"}, atOne},
         {{"1.5"}, "Wrong value 1.5 in allowed range 0.0...1.0 at Slides.0.Containers.0.WidthRatio"},
     };
@@ -144,11 +151,12 @@ TEST(SlideItem, SharesItsWidth) {
                                           : fmt::format("<key>WidthRatio</key><real>{}</real>", container);
             content += fmt::format("<dict><key>Components</key><array/>{}</dict>", width);
         }
-        const auto file = fileWith(
-            fmt::format("<key>Slides</key><array><dict><key>Containers</key><array>{}</array></dict></array>", content));
+        const auto file = fileWith(fmt::format(
+            "<key>Slides</key><array><dict><key>Containers</key><array>{}</array></dict></array>", content));
         std::string outcome = outcomeOf(file);
         if (outcome == "decoded") {
-            const auto composition = Configuration::decode(file)->_slides().front().containersComposition().value;
+            const auto composition =
+                Configuration::decode(file)->_slides().front().containersComposition().value;
             const auto *ratio = std::get_if<SlideItem::ContainersComposition::Ratio>(&composition);
             outcome = ratio == nullptr ? "equal" : "";
             for (const double share : ratio != nullptr ? ratio->ratios : std::vector<double>()) {
@@ -157,9 +165,10 @@ TEST(SlideItem, SharesItsWidth) {
         }
         EXPECT_EQ(outcome, expected) << content;
     }
-    EXPECT_EQ(outcomeOf(fileWith("<key>Slides</key><array><dict><key>Containers</key><array><dict><key>Components</key>"
-                                 "<array/><key>IsLarge</key><true/><key>WidthRatio</key><real>1</real></dict></array>"
-                                 "</dict></array>")),
+    EXPECT_EQ(outcomeOf(fileWith(
+                  "<key>Slides</key><array><dict><key>Containers</key><array><dict><key>Components</key>"
+                  "<array/><key>IsLarge</key><true/><key>WidthRatio</key><real>1</real></dict></array>"
+                  "</dict></array>")),
               "Key validation error. The key IsLarge excludes a key specified in [\"WidthRatio\"].");
 }
 

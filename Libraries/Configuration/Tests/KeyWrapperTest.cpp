@@ -6,8 +6,8 @@
 #include <gtest/gtest.h>
 
 using namespace velmar;
-using velmar::test::fileWith;
 using testing::HasSubstr;
+using velmar::test::fileWith;
 
 namespace {
 
@@ -19,7 +19,7 @@ struct TestItem {
     KeyWrapper<std::optional<double>> _share{std::nullopt, "Share", optional, {0, 1}};
     KeyWrapper<bool> _flag{true, "Flag", optional};
     KeyWrapper<std::vector<std::string>> _list{
-        std::vector<std::string>{"default"}, "List", optional, ArrayCodingStrategy::customStringConvertible};
+        {}, "List", optional, ArrayCodingStrategy::customStringConvertible};
     KeyWrapper<std::map<std::string, std::string>> _texts{"Texts", optional};
 };
 
@@ -85,7 +85,8 @@ TEST(KeyWrapper, DecodesOrFailsWithItsText) {
         {"<key>Name</key><string/><key>Count</key><real>1.5</real>",
          "Decoding error at 'Item.Count'. The value is the real 1.5.\nExpected type: integer (number)."},
         {"<key>Name</key><string/><key>Count</key><integer>18446744073709551615</integer>",
-         "Decoding error at 'Item.Count'. The value is the integer 18446744073709551615.\nExpected type: integer "
+         "Decoding error at 'Item.Count'. The value is the integer 18446744073709551615.\nExpected type: "
+         "integer "
          "(number)."},
         {"<key>Name</key><string/><key>Share</key><integer>1</integer>", "decoded"},
         {"<key>Name</key><string/><key>Share</key><real>1.01</real>",
@@ -104,15 +105,16 @@ TEST(KeyWrapper, DecodesOrFailsWithItsText) {
     for (const Row &row : rows) {
         EXPECT_EQ(outcome<TestItem>(fileWith(row.content)), row.outcome) << row.content;
     }
-    EXPECT_EQ(outcome<TestItem>(PropertyList("text")),
-              "Decoding error at 'Item'. Missing required key 'Item' or wrong value. Expected type: dictionary "
-              "(TestItem)");
+    EXPECT_EQ(
+        outcome<TestItem>(PropertyList("text")),
+        "Decoding error at 'Item'. Missing required key 'Item' or wrong value. Expected type: dictionary "
+        "(TestItem)");
 }
 
 TEST(KeyWrapper, ReadsNumbersInArraysAsTexts) {
     const auto listOf = [](const char *elements) {
-        return decodeAt<TestItem>(fileWith(fmt::format("<key>Name</key><string/><key>List</key><array>{}</array>",
-                                                       elements)))
+        return decodeAt<TestItem>(fileWith(fmt::format(
+                                      "<key>Name</key><string/><key>List</key><array>{}</array>", elements)))
             ._list();
     };
     using List = std::vector<std::string>;
@@ -161,7 +163,8 @@ TEST(Requirement, HoldsOrFailsWithItsText) {
         {{"A", "Either"}, ifNotBoth},
         {{"Either"}, ifNotBoth},
         {{"B", "IfNotBoth", "NotWithA", "Either"}, "decoded"},
-        {{"A", "IfNotBoth", "NotWithA", "Either"}, bad + "The key NotWithA excludes a key specified in [\"A\"]."},
+        {{"A", "IfNotBoth", "NotWithA", "Either"},
+         bad + "The key NotWithA excludes a key specified in [\"A\"]."},
         {{"IfNotBoth", "Either", "Other"}, either},
         {{"IfNotBoth"}, either},
     };
@@ -198,7 +201,8 @@ TEST(Plugin, FiltersTextsWhenTheyAreRead) {
         EXPECT_EQ(item._list(), std::vector<std::string>{"b12"});
         EXPECT_EQ(item._texts().at("k"), "c12");
         EXPECT_EQ(item._name.rawValue(), "a");
-        EXPECT_EQ(*Decodable<TestItem>::encode(item), fileWith(content)) << "what is written is as it was read";
+        EXPECT_EQ(*Decodable<TestItem>::encode(item), fileWith(content))
+            << "what is written is as it was read";
     }
     EXPECT_EQ(item._name(), "a1");
 }

@@ -9,17 +9,19 @@ using velmar::test::validFileWith;
 namespace {
 
 std::string colorFile(std::string_view value) {
-    return fmt::format("<key>ColorStyles</key><dict><key>C</key><dict><key>DarkMode</key>{}<key>LightMode</key>"
-                       "<string>#000000</string></dict></dict>",
-                       value);
+    return fmt::format(
+        "<key>ColorStyles</key><dict><key>C</key><dict><key>DarkMode</key>{}<key>LightMode</key>"
+        "<string>#000000</string></dict></dict>",
+        value);
 }
 
 TEST(ColorItem, ReadsHexadecimalSpecifications) {
     using Specification = ColorItem::Specification;
     const auto invalid = [](const char *text) {
-        return fmt::format("Invalid string color specification '{}' at ColorStyles.C.DarkMode. Color specification: "
-                           "'#NNNNNN' where N is a number between 0 and F.",
-                           text);
+        return fmt::format(
+            "Invalid string color specification '{}' at ColorStyles.C.DarkMode. Color specification: "
+            "'#NNNNNN' where N is a number between 0 and F.",
+            text);
     };
     const std::vector<std::pair<const char *, Specification>> good = {
         {"#112233", {0x11, 0x22, 0x33, std::nullopt}},
@@ -34,8 +36,10 @@ TEST(ColorItem, ReadsHexadecimalSpecifications) {
             Configuration::decode(validFileWith(colorFile(fmt::format("<string>{}</string>", text))));
         EXPECT_EQ(configuration->_colorStyles().models().at("C")._darkMode(), expected) << text;
     }
-    for (const char *text : {"#GGGGGG", "112233", "#ABC", "#", "", "#1122334", "#112233445", " #112233", "#ÄÄÄ"}) {
-        EXPECT_EQ(outcomeOf(validFileWith(colorFile(fmt::format("<string>{}</string>", text)))), invalid(text));
+    for (const char *text :
+         {"#GGGGGG", "112233", "#ABC", "#", "", "#1122334", "#112233445", " #112233", "#ÄÄÄ"}) {
+        EXPECT_EQ(outcomeOf(validFileWith(colorFile(fmt::format("<string>{}</string>", text)))),
+                  invalid(text));
     }
     EXPECT_EQ(outcomeOf(validFileWith(colorFile("<integer>112233</integer>"))), invalid(""));
     EXPECT_EQ((Specification{0x0A, 0xFF, 0, 0x7}.text()), "#AFF07");
@@ -45,10 +49,12 @@ TEST(Styles, FailWithTheirTexts) {
     const auto color = [](std::string_view keys) {
         return fmt::format("<key>ColorStyles</key><dict><key>C</key><dict>{}</dict></dict>", keys);
     };
-    const std::string both = "<key>DarkMode</key><string>#000000</string><key>LightMode</key><string>#000000</string>";
+    const std::string both =
+        "<key>DarkMode</key><string>#000000</string><key>LightMode</key><string>#000000</string>";
     const std::vector<std::pair<std::string, std::string>> rows = {
         {color("<key>LightMode</key><string>#000000</string>"),
-         "Key validation error. The key DarkMode is required when one of the following keys is missing: [\"Style\"]"},
+         "Key validation error. The key DarkMode is required when one of the following keys is missing: "
+         "[\"Style\"]"},
         {color(both + "<key>AlphaDark</key><real>1.5</real>"),
          "Wrong value 1.5 in allowed range 0.0...1.0 at ColorStyles.C.AlphaDark"},
         {color(both + "<key>AlphaDark</key><integer>1</integer>"), "decoded"},
@@ -61,26 +67,32 @@ TEST(Styles, FailWithTheirTexts) {
          "Error at 'ColorStyles'. Circular reference for ColorItems involving B"},
         {"<key>Navigation</key><dict><key>NextButtonTextColor</key><string>Nowhere</string></dict>",
          "Error at 'Navigation.NextButtonTextColor'. Undefined has an undefined parent Nowhere"},
-        {"<key>FontStyles</key><dict><key>F</key><dict><key>Color</key><string>Nowhere</string></dict></dict>",
+        {"<key>FontStyles</key><dict><key>F</key><dict><key>Color</key><string>Nowhere</string></dict></"
+         "dict>",
          "Error at 'FontStyles.F.Color'. Undefined has an undefined parent Nowhere"},
         {"<key>Navigation</key><dict><key>NextButtonTextColor</key><true/></dict>",
-         "Decoding error at 'Navigation.NextButtonTextColor'. Missing required key 'NextButtonTextColor' or wrong "
+         "Decoding error at 'Navigation.NextButtonTextColor'. Missing required key 'NextButtonTextColor' or "
+         "wrong "
          "value. Expected type: dictionary (ColorItem)"},
     };
     for (const auto &[content, expected] : rows) {
         EXPECT_EQ(outcomeOf(validFileWith(content)), expected) << content;
     }
     const auto border = [](std::string_view keys) {
-        return validFileWith(fmt::format("<key>SideContainer</key><dict><key>Container</key><dict><key>Components</key>"
-                                         "<array><dict><key>Type</key><string>Spacer</string><key>Border</key>"
-                                         "<dict>{}</dict></dict></array></dict></dict>",
-                                         keys));
+        return validFileWith(
+            fmt::format("<key>SideContainer</key><dict><key>Container</key><dict><key>Components</key>"
+                        "<array><dict><key>Type</key><string>Spacer</string><key>Border</key>"
+                        "<dict>{}</dict></dict></array></dict></dict>",
+                        keys));
     };
     EXPECT_EQ(outcomeOf(border("<key>Edge</key><string>Left</string>")),
-              "Decoding error at 'SideContainer.Container.Components.0.Border.Edge'. The value is 'Left'.\nExpected "
+              "Decoding error at 'SideContainer.Container.Components.0.Border.Edge'. The value is "
+              "'Left'.\nExpected "
               "type: string | Possible values: 'Top', 'Bottom'.");
-    EXPECT_EQ(outcomeOf(border("<key>Edge</key><string>Top</string><key>WidthPercent</key><integer>2</integer>")),
-              "Wrong value 2.0 in allowed range 0.0...1.0 at SideContainer.Container.Components.0.Border.WidthPercent");
+    EXPECT_EQ(
+        outcomeOf(border("<key>Edge</key><string>Top</string><key>WidthPercent</key><integer>2</integer>")),
+        "Wrong value 2.0 in allowed range 0.0...1.0 at "
+        "SideContainer.Container.Components.0.Border.WidthPercent");
 }
 
 // Grandparent, parent and child, given in an order that is none of inheritance.
@@ -131,7 +143,8 @@ TEST(Styles, TakeAChainOfAnyLength) {
                          "<string>#080808</string></dict>";
     constexpr int length = 50'000;
     for (int index = 1; index <= length; ++index) {
-        models += fmt::format("<key>M{}</key><dict><key>Style</key><string>M{}</string></dict>", index, index - 1);
+        models +=
+            fmt::format("<key>M{}</key><dict><key>Style</key><string>M{}</string></dict>", index, index - 1);
     }
     const auto configuration =
         Configuration::decode(validFileWith(fmt::format("<key>ColorStyles</key><dict>{}</dict>", models)));

@@ -19,7 +19,8 @@ inline PropertyList fileWith(std::string_view content) {
 
 /// A file with one slide, so that the root is valid, and `content`.
 inline PropertyList validFileWith(std::string_view content) {
-    return fileWith(fmt::format("<key>Slides</key><array><dict><key>Containers</key><array/></dict></array>{}", content));
+    return fileWith(
+        fmt::format("<key>Slides</key><array><dict><key>Containers</key><array/></dict></array>{}", content));
 }
 
 /// The text of the error of decoding a file, or "decoded".

@@ -9,15 +9,16 @@ namespace velmar {
 
 namespace {
 
-/// The number that the text begins with, as the scanners of numbers read it: "0x" may precede it, and what follows the
-/// last digit is not looked at. None where no digit stands at the beginning.
+/// The number that the text begins with, as the scanners of numbers read it: "0x" may precede it, and what
+/// follows the last digit is not looked at. None where no digit stands at the beginning.
 std::optional<std::uint64_t> scanHexadecimal(std::string_view text) {
     const auto digit = [](char letter) -> std::optional<unsigned> {
         if (letter >= '0' && letter <= '9') {
             return static_cast<unsigned>(letter - '0');
         }
         const char lower = static_cast<char>(letter | 0x20);
-        return lower >= 'a' && lower <= 'f' ? std::optional(static_cast<unsigned>(lower - 'a' + 10)) : std::nullopt;
+        return lower >= 'a' && lower <= 'f' ? std::optional(static_cast<unsigned>(lower - 'a' + 10))
+                                            : std::nullopt;
     };
     if ((text.starts_with("0x") || text.starts_with("0X")) && text.size() > 2 && digit(text[2])) {
         text.remove_prefix(2);
@@ -34,8 +35,8 @@ std::optional<std::uint64_t> scanHexadecimal(std::string_view text) {
 }
 
 std::size_t characterCount(std::string_view utf8) {
-    return static_cast<std::size_t>(
-        std::ranges::count_if(utf8, [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }));
+    return static_cast<std::size_t>(std::ranges::count_if(
+        utf8, [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }));
 }
 
 } // namespace

@@ -37,7 +37,8 @@ std::shared_ptr<const Configuration> Configuration::decode(const PropertyList &f
             std::make_shared<Configuration>(Decodable<Configuration>::decode({file, CodingPath(), context}));
         resolve(configuration->_colorStyles, file, context);
         resolve(configuration->_fontStyles, file, context);
-        context.settleReferences({&configuration->_fontStyles.rawValue(), &configuration->_colorStyles.rawValue()});
+        context.settleReferences(
+            {&configuration->_fontStyles.rawValue(), &configuration->_colorStyles.rawValue()});
         return configuration;
     } catch (const LocalizedError &) {
         throw;
@@ -46,7 +47,9 @@ std::shared_ptr<const Configuration> Configuration::decode(const PropertyList &f
     }
 }
 
-PropertyList Configuration::encode() const { return *Decodable<Configuration>::encode(*this); }
+PropertyList Configuration::encode() const {
+    return *Decodable<Configuration>::encode(*this);
+}
 
 void Configuration::validate(const CodingPath & /*path*/) const {
     if (_window()._onScreen() == WindowSection::OnScreen::menuBar) {

@@ -19,7 +19,9 @@ std::string textOf(double number) {
 
 namespace ConfigurationErrors {
 
-std::string MissingValue::errorDescription() const { return fmt::format("Missing value for key {}", key); }
+std::string MissingValue::errorDescription() const {
+    return fmt::format("Missing value for key {}", key);
+}
 
 std::string MissingValueWithPath::errorDescription() const {
     return fmt::format("Missing required key '{}' at '{}'", key, path);
@@ -64,15 +66,20 @@ std::string CopyTypeError::errorDescription() const {
                        otherKeyDescription);
 }
 
-std::string UnexpectedError::errorDescription() const { return description; }
-
-std::string ColorSpecification::errorDescription() const {
-    return fmt::format("Invalid string color specification '{}' at {}. Color specification: '#NNNNNN' where N is a "
-                       "number between 0 and F.",
-                       string.value_or(""), path);
+std::string UnexpectedError::errorDescription() const {
+    return description;
 }
 
-std::string Custom::errorDescription() const { return fmt::format("Error at '{}'. {}", path, description); }
+std::string ColorSpecification::errorDescription() const {
+    return fmt::format(
+        "Invalid string color specification '{}' at {}. Color specification: '#NNNNNN' where N is a "
+        "number between 0 and F.",
+        string.value_or(""), path);
+}
+
+std::string Custom::errorDescription() const {
+    return fmt::format("Error at '{}'. {}", path, description);
+}
 
 } // namespace ConfigurationErrors
 

@@ -37,7 +37,8 @@ std::string foundText(const PropertyList &value) {
     return "a dictionary";
 }
 
-void throwWrongType(const Decoding &decoding, const std::string &description, const std::string &expectedType) {
+void throwWrongType(const Decoding &decoding, const std::string &description,
+                    const std::string &expectedType) {
     throw ConfigurationError(ConfigurationErrors::DecodingError{
         decoding.path.text(), fmt::format("{}\nExpected type: {}.", description, expectedType)});
 }
@@ -92,11 +93,15 @@ std::string Decodable<std::string>::decode(const Decoding &decoding) {
 }
 
 std::vector<std::string> decodeTexts(const Decoding &decoding) {
-    const auto isWholeNumber = [](const PropertyList &value) { return value.integer() || value.unsignedInteger(); };
+    const auto isWholeNumber = [](const PropertyList &value) {
+        return value.integer() || value.unsignedInteger();
+    };
     if (const PropertyList::Array *array = decoding.value.array()) {
-        const bool areTexts = std::ranges::all_of(*array, [](const PropertyList &value) { return value.string(); });
+        const bool areTexts =
+            std::ranges::all_of(*array, [](const PropertyList &value) { return value.string(); });
         const bool areIntegers = std::ranges::all_of(*array, isWholeNumber);
-        const bool areReals = std::ranges::all_of(*array, [](const PropertyList &value) { return value.real(); });
+        const bool areReals =
+            std::ranges::all_of(*array, [](const PropertyList &value) { return value.real(); });
         if (areTexts || areIntegers || areReals) {
             std::vector<std::string> texts;
             texts.reserve(array->size());

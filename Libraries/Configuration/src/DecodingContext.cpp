@@ -10,14 +10,16 @@ namespace velmar {
 
 namespace {
 
-char lowered(char letter) { return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter; }
+char lowered(char letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
 
 bool equalButForCase(std::string_view left, std::string_view right) {
     return std::ranges::equal(left, right, {}, lowered, lowered);
 }
 
-/// The number of letters to insert, delete, replace or swap with their neighbour (the optimal string alignment
-/// distance), the case of letters left aside.
+/// The number of letters to insert, delete, replace or swap with their neighbour (the optimal string
+/// alignment distance), the case of letters left aside.
 std::size_t distance(std::string_view from, std::string_view to) {
     std::vector<std::size_t> beforeLast;
     std::vector<std::size_t> last(to.size() + 1);
@@ -95,13 +97,14 @@ void DecodingContext::noteUnknownKey(const CodingPath &item, const std::string &
         {DecodingNotes::Kind::unknownKey, CodingPath(item, key).text(), offset, std::move(message)});
 }
 
-void DecodingContext::noteEnumerationCase(const CodingPath &path, const std::string &value, std::uint32_t offset,
+void DecodingContext::noteEnumerationCase(const CodingPath &path, const std::string &value,
+                                          std::uint32_t offset,
                                           std::span<const std::string_view> rawStrings) {
     for (const std::string_view rawString : rawStrings) {
         if (equalButForCase(value, rawString)) {
-            notes_->notes.push_back({DecodingNotes::Kind::enumerationCase, path.text(), offset,
-                                     fmt::format("'{}' differs from '{}' in the case of its letters only", value,
-                                                 rawString)});
+            notes_->notes.push_back(
+                {DecodingNotes::Kind::enumerationCase, path.text(), offset,
+                 fmt::format("'{}' differs from '{}' in the case of its letters only", value, rawString)});
             return;
         }
     }

@@ -72,8 +72,8 @@ void validate(const SiblingKey &key, const Requirement &requirement, std::span<c
         break;
     }
     if (fails) {
-        throw ConfigurationError(
-            ConfigurationErrors::ValidationError{KeyValidationError(brokenRule(key.name.stringValue, requirement))});
+        throw ConfigurationError(ConfigurationErrors::ValidationError{
+            KeyValidationError(brokenRule(key.name.stringValue, requirement))});
     }
 }
 

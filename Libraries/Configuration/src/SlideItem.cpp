@@ -8,8 +8,12 @@ namespace velmar {
 
 namespace {
 
-bool givesLarge(const ContainerItem &container) { return container._isLarge.wasGivenValueWhileDecoding(); }
-bool givesRatio(const ContainerItem &container) { return container._widthRatio.wasGivenValueWhileDecoding(); }
+bool givesLarge(const ContainerItem &container) {
+    return container._isLarge.wasGivenValueWhileDecoding();
+}
+bool givesRatio(const ContainerItem &container) {
+    return container._widthRatio.wasGivenValueWhileDecoding();
+}
 
 /// The sum in the order of the array: the texts show it, and it is compared exactly.
 double sumOfRatios(const std::vector<ContainerItem> &containers) {
@@ -39,15 +43,18 @@ std::optional<std::string> faultOfRatios(const std::vector<ContainerItem> &conta
     const double sum = sumOfRatios(containers);
     const bool allGiveRatio = std::ranges::all_of(containers, givesRatio);
     if (sum > 1.0) {
-        return fmt::format("Widths ratios sum for containers should be lesser than or equal to 1 (currently equal to {})",
-                           textOf(sum));
+        return fmt::format(
+            "Widths ratios sum for containers should be lesser than or equal to 1 (currently equal to {})",
+            textOf(sum));
     }
     if (sum == 1.0 && !allGiveRatio) {
-        return "Widths ratios sum for containers is equal to 1 but other containers have no width specified.\n"
+        return "Widths ratios sum for containers is equal to 1 but other containers have no width "
+               "specified.\n"
                "Please specify a 'WidthRatio' for the remaining containers or make the sum lesser than 1.";
     }
     if (sum < 1.0 && allGiveRatio) {
-        return fmt::format("The sum of widths ratios should be equal to 1 (currently equal to {})", textOf(sum));
+        return fmt::format("The sum of widths ratios should be equal to 1 (currently equal to {})",
+                           textOf(sum));
     }
     return std::nullopt;
 }
@@ -77,7 +84,8 @@ SlideItem::ContainersComposition SlideItem::containersComposition() const {
         const bool firstIsLarge = containers.front()._isLarge();
         constexpr double large = 2.0 / 3.0;
         constexpr double small = 1.0 / 3.0;
-        return {ContainersComposition::Ratio{firstIsLarge ? std::vector{large, small} : std::vector{small, large}}};
+        return {ContainersComposition::Ratio{firstIsLarge ? std::vector{large, small}
+                                                          : std::vector{small, large}}};
     }
     const auto withRatio = std::ranges::count_if(containers, givesRatio);
     if (withRatio == 0) {

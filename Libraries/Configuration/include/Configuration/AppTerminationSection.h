@@ -11,8 +11,8 @@ struct AppTerminationSection {
     KeyWrapper<bool> _isQuitShortcutEnabled{true, "QuitShortcutIsEnabled", optional};
     KeyWrapper<bool> _isForceQuitShortcutEnabled{true, "ForceQuitShortcutIsEnabled", optional};
     KeyWrapper<std::string> _forceQuitShortcutKey{"F", "ForceQuitShortcutKey", optional};
-    KeyWrapper<std::optional<std::string>> _incompleteInstallationScriptPath{"IncompleteInstallationScriptPath",
-                                                                             optional};
+    KeyWrapper<std::optional<std::string>> _incompleteInstallationScriptPath{
+        "IncompleteInstallationScriptPath", optional};
     KeyWrapper<std::optional<std::string>> _completeInstallationScriptPath{"CompleteInstallationScriptPath",
                                                                            optional};
     KeyWrapper<bool> _waitForExecutionScriptExecution{false, "WaitForTerminationScriptExecution", optional};

@@ -15,9 +15,9 @@
 
 namespace velmar {
 
-/// An item that can be a model of a book and can take what it does not give from a parent model. Its first members
-/// are `_parentModelName` (the key "Style"), `modelName` (its name in its book, absent for an item that stands
-/// elsewhere) and `isParentStyleApplied`.
+/// An item that can be a model of a book and can take what it does not give from a parent model. Its first
+/// members are `_parentModelName` (the key "Style"), `modelName` (its name in its book, absent for an item
+/// that stands elsewhere) and `isParentStyleApplied`.
 template <class T>
 concept Inheritable = requires(T &item) {
     { item._parentModelName.rawValue() } -> std::convertible_to<std::optional<std::string>>;
@@ -61,15 +61,16 @@ struct UndefinedParentModel {
 struct ParentModelNotApplied {
     std::string type;
     [[nodiscard]] std::string errorDescription() const {
-        return fmt::format("{} model doesn't change its isParentModelApplied property when applying parent model",
-                           type);
+        return fmt::format(
+            "{} model doesn't change its isParentModelApplied property when applying parent model", type);
     }
 };
 
 } // namespace BookErrors
 
-class BookError final : public ErrorOfCases<BookErrors::OwnDefinition, BookErrors::CircularReference,
-                                            BookErrors::UndefinedParentModel, BookErrors::ParentModelNotApplied> {
+class BookError final
+    : public ErrorOfCases<BookErrors::OwnDefinition, BookErrors::CircularReference,
+                          BookErrors::UndefinedParentModel, BookErrors::ParentModelNotApplied> {
 public:
     using ErrorOfCases::ErrorOfCases;
 };
@@ -110,7 +111,8 @@ public:
         areModelsResolved_ = true;
     }
 
-    /// Applies the parent of an item that stands outside of the book, which is resolved already. Throws BookError.
+    /// Applies the parent of an item that stands outside of the book, which is resolved already. Throws
+    /// BookError.
     void applyParent(T &item) const {
         if (!item.isParentStyleApplied && item._parentModelName.rawValue()) {
             applyResolved(item, parentOf(*this, item));
@@ -137,8 +139,8 @@ private:
         }
     }
 
-    /// Climbs to the first ancestor without an open parent, then comes down again; no recursion, because the file
-    /// decides how long a chain is.
+    /// Climbs to the first ancestor without an open parent, then comes down again; no recursion, because the
+    /// file decides how long a chain is.
     void applyChain(T &first) {
         std::vector<T *> chain;
         std::set<std::string_view> names;

@@ -4,7 +4,8 @@
 
 namespace velmar {
 
-/// A colour with a form for the dark and one for the light appearance; it can be a model of the book "ColorStyles".
+/// A colour with a form for the dark and one for the light appearance; it can be a model of the book
+/// "ColorStyles".
 struct ColorItem {
     static constexpr std::string_view typeName = "ColorItem";
 

@@ -9,8 +9,8 @@
 
 namespace velmar {
 
-/// The kinds of components; the names to use are those within ComponentItem. They stand outside of it because a
-/// variant wants its alternatives whole.
+/// The kinds of components; the names to use are those within ComponentItem. They stand outside of it because
+/// a variant wants its alternatives whole.
 namespace ComponentItems {
 
 enum class TypeIdentifier { text, spacer };
@@ -34,7 +34,8 @@ struct Text {
 
     ComponentItemProtocol common;
     KeyWrapper<std::string> _text{"Text", required};
-    InheritableKeyWrapper<std::optional<FontItem>> _font{"TextFontConfiguration", optional, &Library::fontStyles};
+    InheritableKeyWrapper<std::optional<FontItem>> _font{"TextFontConfiguration", optional,
+                                                         &Library::fontStyles};
 };
 
 struct Spacer {
@@ -51,7 +52,8 @@ namespace Inputs {
 enum class Distribution { fit, center };
 
 constexpr auto casesOf(Distribution) {
-    return std::to_array<EnumCase<Distribution>>({{Distribution::fit, "Fit"}, {Distribution::center, "Center"}});
+    return std::to_array<EnumCase<Distribution>>(
+        {{Distribution::fit, "Fit"}, {Distribution::center, "Center"}});
 }
 
 } // namespace Inputs

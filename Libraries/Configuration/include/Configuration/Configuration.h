@@ -20,8 +20,8 @@
 
 namespace velmar {
 
-/// The root of a configuration file. Its keys are decoded in the order of the members: the first fault is the one that
-/// is told.
+/// The root of a configuration file. Its keys are decoded in the order of the members: the first fault is the
+/// one that is told.
 struct Configuration {
     static constexpr std::string_view typeName = "Configuration";
 
@@ -43,8 +43,8 @@ struct Configuration {
         return _menuBarSlideSection.wasGivenValueWhileDecoding();
     }
 
-    /// Decodes a file and settles its references; the result never changes. Throws ConfigurationError. `notes`, where
-    /// given, takes what the decoding passes over in silence and the place of its failure.
+    /// Decodes a file and settles its references; the result never changes. Throws ConfigurationError.
+    /// `notes`, where given, takes what the decoding passes over in silence and the place of its failure.
     [[nodiscard]] static std::shared_ptr<const Configuration> decode(const PropertyList &file,
                                                                      DecodingNotes *notes = nullptr);
 

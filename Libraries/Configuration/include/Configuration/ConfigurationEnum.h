@@ -17,7 +17,8 @@ struct EnumCase {
     std::string_view rawString;
 };
 
-/// An enumeration of the file. Beside its declaration stands its one table, which decoding, encoding and messages use:
+/// An enumeration of the file. Beside its declaration stands its one table, which decoding, encoding and
+/// messages use:
 ///
 ///     enum class Edge { top, bottom };
 ///     friend constexpr auto casesOf(Edge) {

@@ -93,19 +93,19 @@ struct Custom {
 
 /// Why a configuration is refused. Paths are those of CodingPath::text().
 class ConfigurationError final
-    : public ErrorOfCases<
-          ConfigurationErrors::MissingValue, ConfigurationErrors::MissingValueWithPath,
-          ConfigurationErrors::WrongValue, ConfigurationErrors::WrongValueInRange,
-          ConfigurationErrors::DecodingError, ConfigurationErrors::ArrayCodingStrategyFailed,
-          ConfigurationErrors::ValidationError, ConfigurationErrors::RequestBodyCoding,
-          ConfigurationErrors::RequestBodyGroup, ConfigurationErrors::InvalidRegex,
-          ConfigurationErrors::CopyTypeError, ConfigurationErrors::UnexpectedError,
-          ConfigurationErrors::ColorSpecification, ConfigurationErrors::Custom> {
+    : public ErrorOfCases<ConfigurationErrors::MissingValue, ConfigurationErrors::MissingValueWithPath,
+                          ConfigurationErrors::WrongValue, ConfigurationErrors::WrongValueInRange,
+                          ConfigurationErrors::DecodingError, ConfigurationErrors::ArrayCodingStrategyFailed,
+                          ConfigurationErrors::ValidationError, ConfigurationErrors::RequestBodyCoding,
+                          ConfigurationErrors::RequestBodyGroup, ConfigurationErrors::InvalidRegex,
+                          ConfigurationErrors::CopyTypeError, ConfigurationErrors::UnexpectedError,
+                          ConfigurationErrors::ColorSpecification, ConfigurationErrors::Custom> {
 public:
     using ErrorOfCases::ErrorOfCases;
 };
 
-/// The text of a real number in messages: the shortest that reads back the same, with a fraction ("0.6", "1.0").
+/// The text of a real number in messages: the shortest that reads back the same, with a fraction ("0.6",
+/// "1.0").
 [[nodiscard]] std::string textOf(double number);
 
 } // namespace velmar

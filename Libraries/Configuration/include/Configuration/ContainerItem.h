@@ -19,7 +19,8 @@ struct ContainerItem {
     KeyWrapper<std::optional<ComponentItem::Input::Distribution>> _inputComponentDistribution{
         "InputComponentsDistribution", optional};
     KeyWrapper<std::optional<double>> _inputComponentPercentWidth{"InputComponentPercentWidth", optional};
-    InheritableKeyWrapper<std::optional<ColorItem>> _borderColor{"BorderColor", optional, &Library::colorStyles};
+    InheritableKeyWrapper<std::optional<ColorItem>> _borderColor{"BorderColor", optional,
+                                                                 &Library::colorStyles};
     KeyWrapper<std::optional<double>> _widthRatio{std::nullopt, "WidthRatio", exclude({"IsLarge"}), {0, 1}};
 };
 

@@ -71,7 +71,8 @@ struct Decodable<E> {
             return *value;
         }
         if (decoding.context.notes() != nullptr) {
-            decoding.context.noteEnumerationCase(decoding.path, *text, decoding.value.offset(), rawStringList<E>());
+            decoding.context.noteEnumerationCase(decoding.path, *text, decoding.value.offset(),
+                                                 rawStringList<E>());
         }
         throwWrongType(decoding, plistType());
     }
@@ -156,7 +157,7 @@ struct Decodable<std::map<std::string, T>> {
 /// The types whose keys can have a range.
 template <class T>
 concept HasRange = std::is_same_v<T, double> || std::is_same_v<T, std::optional<double>> ||
-                   std::is_same_v<T, std::int64_t> || std::is_same_v<T, std::optional<std::int64_t>>;
+    std::is_same_v<T, std::int64_t> || std::is_same_v<T, std::optional<std::int64_t>>;
 
 template <HasRange T>
 void checkRange(const T &value, const ClosedRange &range, const Decoding &decoding) {
@@ -168,8 +169,7 @@ void checkRange(const T &value, const ClosedRange &range, const Decoding &decodi
         }
     }();
     if (!range.contains(number)) {
-        throw ConfigurationError(
-            ConfigurationErrors::WrongValueInRange{number, range, decoding.path.text()});
+        throw ConfigurationError(ConfigurationErrors::WrongValueInRange{number, range, decoding.path.text()});
     }
 }
 
@@ -178,7 +178,8 @@ template <class T>
 concept CanBeDecodedAsTexts =
     std::is_same_v<T, std::vector<std::string>> || std::is_same_v<T, std::optional<std::vector<std::string>>>;
 
-/// An array all of texts, all of integers or all of reals, each as its text. Throws ArrayCodingStrategyFailed.
+/// An array all of texts, all of integers or all of reals, each as its text. Throws
+/// ArrayCodingStrategyFailed.
 [[nodiscard]] std::vector<std::string> decodeTexts(const Decoding &decoding);
 
 template <CanBeDecodedAsTexts T>

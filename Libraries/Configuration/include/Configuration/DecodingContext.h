@@ -25,8 +25,8 @@ public:
     /// Keeps a reference to another part of the file until all of the file is decoded.
     void addReference(std::string path, std::uint32_t offset, std::function<void(const Library &)> settle);
 
-    /// Settles the references in the order in which they were met; what fails throws ConfigurationError with the
-    /// path of the reference.
+    /// Settles the references in the order in which they were met; what fails throws ConfigurationError with
+    /// the path of the reference.
     void settleReferences(const Library &library);
 
     void noteFailure(const std::string &keyPath, std::uint32_t offset);

@@ -7,8 +7,8 @@
 
 namespace velmar {
 
-/// What a decoding passed over in silence, and the place where it failed: for a tool that explains a file to its
-/// author. A decoding fills it where it is given one; the offsets are those of PropertyList::offset().
+/// What a decoding passed over in silence, and the place where it failed: for a tool that explains a file to
+/// its author. A decoding fills it where it is given one; the offsets are those of PropertyList::offset().
 struct DecodingNotes {
     enum class Kind {
         unknownKey,      ///< A key of the file that no item names.

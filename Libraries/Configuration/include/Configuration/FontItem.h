@@ -37,7 +37,8 @@ struct FontItem {
     KeyWrapper<std::optional<TextAlignment>> _textAlignment{"TextAlignment", optional};
     KeyWrapper<std::optional<double>> _size{"Size", optional}; ///< In points.
     InheritableKeyWrapper<std::optional<ColorItem>> _color{"Color", optional, &Library::colorStyles};
-    KeyWrapper<std::optional<std::string>> _name{"Name", optional}; ///< A family; absent is the system's font.
+    KeyWrapper<std::optional<std::string>> _name{"Name",
+                                                 optional}; ///< A family; absent is the system's font.
     KeyWrapper<std::optional<SystemFontWeight>> _systemFontWeight{"SystemFontWeight", optional};
 };
 

@@ -9,8 +9,8 @@
 
 namespace velmar {
 
-/// Holds a key that takes an item or the name of a model of a book. Its parent is applied when the references of the
-/// file are settled; from then on reading writes nothing.
+/// Holds a key that takes an item or the name of a model of a book. Its parent is applied when the references
+/// of the file are settled; from then on reading writes nothing.
 template <class T>
 class InheritableKeyWrapper;
 
@@ -36,11 +36,10 @@ public:
         const auto &held = Base::node();
         if (held && held->value && held->value->_parentModelName.rawValue()) {
             // Models of books are moved about until the end; the value behind the holder stays where it is.
-            context.addReference(CodingPath(itemPath, Base::name().stringValue).text(),
-                                 item.find(Base::name().stringValue)->offset(),
-                                 [held, book = book_](const Library &library) {
-                                     (library.*book)->applyParent(*held->value);
-                                 });
+            context.addReference(
+                CodingPath(itemPath, Base::name().stringValue).text(),
+                item.find(Base::name().stringValue)->offset(),
+                [held, book = book_](const Library &library) { (library.*book)->applyParent(*held->value); });
         }
     }
 
@@ -48,7 +47,8 @@ public:
     void encode(PropertyList::Dictionary &item) const {
         const std::optional<Model> &model = Base::rawValue();
         if (model && Base::mustBeEncoded() && isNameOnly(*model)) {
-            item.set(std::string(Base::name().stringValue), PropertyList(*model->_parentModelName.rawValue()));
+            item.set(std::string(Base::name().stringValue),
+                     PropertyList(*model->_parentModelName.rawValue()));
         } else {
             Base::encode(item);
         }

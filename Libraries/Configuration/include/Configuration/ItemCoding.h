@@ -1,7 +1,7 @@
 #pragma once
 
-// The shared routines of all items, by reflection over their members. Included by the one source of a group of items,
-// never by the headers that declare them: reflection is what costs time to compile.
+// The shared routines of all items, by reflection over their members. Included by the one source of a group
+// of items, never by the headers that declare them: reflection is what costs time to compile.
 
 #include <Configuration/Book.h>
 #include <Configuration/Decodable.h>
@@ -22,7 +22,8 @@ namespace velmar {
 /// One of several items, told apart by a key of its dictionary. It has
 ///     static constexpr std::string_view typeKey;                            such as "Type"
 ///     enum class TypeIdentifier                                             with its table
-///     std::variant<...> value                                               each with a constant `typeIdentifier`
+///     std::variant<...> value                                               each with a constant
+///     `typeIdentifier`
 template <class T>
 concept TaggedItem = requires(T item) {
     typename T::TypeIdentifier;
@@ -38,11 +39,15 @@ concept KeysCodableItem = std::is_aggregate_v<T> && !TaggedItem<T> && requires {
 
 /// An item that checks itself once all its keys are in; its `validate` throws ConfigurationError.
 template <class T>
-concept PostDecodingValidatable = requires(const T &item, const CodingPath &path) { item.validate(path); };
+concept PostDecodingValidatable = requires(const T &item, const CodingPath &path) {
+    item.validate(path);
+};
 
 /// Holders that several items have in common, nested in each as its first member.
 template <class T>
-concept KeyGroup = std::is_aggregate_v<T> && requires { typename T::IsKeyGroup; };
+concept KeyGroup = std::is_aggregate_v<T> && requires {
+    typename T::IsKeyGroup;
+};
 
 /// Calls `function` with every holder of an item, in the order of declaration.
 template <class T, class Function>
@@ -133,8 +138,9 @@ struct Decodable<T> {
         const PropertyList::Dictionary *dictionary = decoding.value.dictionary();
         if (dictionary == nullptr) {
             throw ConfigurationError(ConfigurationErrors::DecodingError{
-                decoding.path.text(), fmt::format("Missing required key '{}' or wrong value. Expected type: {}",
-                                                  decoding.path.lastKey(), plistType())});
+                decoding.path.text(),
+                fmt::format("Missing required key '{}' or wrong value. Expected type: {}",
+                            decoding.path.lastKey(), plistType())});
         }
         T item = makeDefault<T>();
         visitKeys(item, [&](auto &key) { key.decode(*dictionary, decoding.path, decoding.context); });
@@ -177,7 +183,8 @@ struct Decodable<T> {
             throw;
         }
 
-        std::vector<std::string_view> keysRead(decoding.keysReadBefore.begin(), decoding.keysReadBefore.end());
+        std::vector<std::string_view> keysRead(decoding.keysReadBefore.begin(),
+                                               decoding.keysReadBefore.end());
         keysRead.push_back(T::typeKey);
         return decodeAlternative(identifier, {decoding.value, decoding.path, decoding.context, keysRead},
                                  std::make_index_sequence<std::variant_size_v<Value>>());

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <Configuration/ConfigurationError.h>
-#include <Configuration/DecodingContext.h>
 #include <Configuration/Decodable.h>
+#include <Configuration/DecodingContext.h>
 #include <Configuration/Plugin.h>
 #include <Configuration/Requirement.h>
 #include <Foundation/PropertyList.h>
@@ -29,11 +29,13 @@ enum class ArrayCodingStrategy {
 ///         KeyWrapper<double> _width{0.0, "Width", required};
 ///     };
 ///
-/// The declaration (default, name, requirement, range) stands once for all instances that are copies of one default
-/// instance; an instance has its value, shared between copies until one is set, and two flags. The value's type may
-/// still be incomplete where the item is declared. A holder is called to read it: `size._height()`.
+/// The declaration (default, name, requirement, range) stands once for all instances that are copies of one
+/// default instance; an instance has its value, shared between copies until one is set, and two flags. The
+/// value's type may still be incomplete where the item is declared. A holder is called to read it:
+/// `size._height()`.
 ///
-/// A decoded holder is read from any thread; setting belongs to the one owner of an item that nobody reads yet.
+/// A decoded holder is read from any thread; setting belongs to the one owner of an item that nobody reads
+/// yet.
 template <class T>
 class KeyWrapper {
 public:
@@ -47,7 +49,8 @@ public:
     KeyWrapper(T defaultValue, ConfigCodingKey name, Requirement requirement, ClosedRange range)
         : declaration_(new Declaration{std::move(defaultValue), name, std::move(requirement), range}) {}
     KeyWrapper(T defaultValue, ConfigCodingKey name, Requirement requirement, ArrayCodingStrategy strategy)
-        : declaration_(new Declaration{std::move(defaultValue), name, std::move(requirement), {}, strategy}) {}
+        : declaration_(new Declaration{std::move(defaultValue), name, std::move(requirement), {}, strategy}) {
+    }
     /// With the default T{}: absent, empty, or the default item.
     KeyWrapper(ConfigCodingKey name, Requirement requirement)
         : declaration_(new Declaration{T{}, name, std::move(requirement)}) {}
@@ -83,9 +86,11 @@ public:
     /// Changes the value in place; other copies of the holder keep theirs.
     template <class Change>
     void modify(Change change) {
-        T value = rawValue();
-        change(value);
-        set(std::move(value));
+        if (!value_ || value_->use_count() > 1) {
+            value_ = new Node(rawValue());
+        }
+        change(value_->value);
+        valueWasSet_ = true;
     }
 
     /// Takes the value of another holder of the same key, for a model that inherits it.
@@ -112,7 +117,8 @@ public:
 
     /// Reads the key from the dictionary of its item, if it is there. Throws ConfigurationError.
     void decode(const PropertyList::Dictionary &item, const CodingPath &itemPath, DecodingContext &context) {
-        decodeWith(item, itemPath, context, [this](const Decoding &decoding) { return decodeValue(decoding); });
+        decodeWith(item, itemPath, context,
+                   [this](const Decoding &decoding) { return decodeValue(decoding); });
     }
 
     /// Writes the key where it is required or has been set.
@@ -130,7 +136,10 @@ protected:
     struct Declaration : boost::intrusive_ref_counter<Declaration> {
         Declaration(T value, ConfigCodingKey key, Requirement need, std::optional<ClosedRange> bounds = {},
                     std::optional<ArrayCodingStrategy> arrays = {})
-            : defaultValue(std::move(value)), name(key), requirement(std::move(need)), range(bounds),
+            : defaultValue(std::move(value)),
+              name(key),
+              requirement(std::move(need)),
+              range(bounds),
               strategy(arrays) {}
         T defaultValue;
         ConfigCodingKey name;
@@ -146,8 +155,8 @@ protected:
 
     /// The common course of decoding a key; `read` makes the value.
     template <class ReadValue>
-    void decodeWith(const PropertyList::Dictionary &item, const CodingPath &itemPath, DecodingContext &context,
-                    ReadValue read) {
+    void decodeWith(const PropertyList::Dictionary &item, const CodingPath &itemPath,
+                    DecodingContext &context, ReadValue read) {
         const std::string_view key = name().stringValue;
         const PropertyList *value = item.find(key);
         if (value == nullptr) {

@@ -12,8 +12,8 @@ struct MonitoringSection {
     KeyWrapper<std::optional<std::string>> _airwatchInstallingLogPath{"AirWatchManagedSoftwareUpdateLogPath",
                                                                       optional};
     KeyWrapper<std::optional<std::string>> _airwatchInstalledLogPath{"AirWatchInstallLogPath", optional};
-    KeyWrapper<std::optional<std::string>> _installationCompleteSound{"InstallationCompleteSoundNameOrFilePath",
-                                                                      optional};
+    KeyWrapper<std::optional<std::string>> _installationCompleteSound{
+        "InstallationCompleteSoundNameOrFilePath", optional};
 };
 
 } // namespace velmar

@@ -11,8 +11,8 @@ struct NavigationSection {
 
     KeyWrapper<bool> _isHidden{false, "IsHidden", optional};
     KeyWrapper<std::optional<std::string>> _previousButtonText{"PreviousButtonText", optional};
-    InheritableKeyWrapper<std::optional<ColorItem>> _previousButtonTextColor{"PreviousButtonTextColor", optional,
-                                                                             &Library::colorStyles};
+    InheritableKeyWrapper<std::optional<ColorItem>> _previousButtonTextColor{"PreviousButtonTextColor",
+                                                                             optional, &Library::colorStyles};
     KeyWrapper<std::optional<std::string>> _nextButtonText{"NextButtonText", optional};
     InheritableKeyWrapper<std::optional<ColorItem>> _nextButtonTextColor{"NextButtonTextColor", optional,
                                                                          &Library::colorStyles};

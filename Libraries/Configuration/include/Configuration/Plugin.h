@@ -9,8 +9,8 @@
 
 namespace velmar {
 
-/// The application's filter of the values that holders hand out: it may, for instance, replace the variables in a
-/// text. It sees values when they are read and never while a file is decoded, checked or encoded.
+/// The application's filter of the values that holders hand out: it may, for instance, replace the variables
+/// in a text. It sees values when they are read and never while a file is decoded, checked or encoded.
 class Plugin {
 public:
     virtual ~Plugin() = default;
@@ -51,7 +51,9 @@ struct IsPluggable<std::vector<T>> : IsPluggable<T> {};
 template <class T>
 struct IsPluggable<std::map<std::string, T>> : IsPluggable<T> {};
 
-inline std::string plugged(std::string text) { return Plugins::apply(std::move(text)); }
+inline std::string plugged(std::string text) {
+    return Plugins::apply(std::move(text));
+}
 
 template <class T>
 std::optional<T> plugged(std::optional<T> value) {

@@ -42,7 +42,9 @@ inline Requirement requiredIfSpecified(std::vector<ConfigCodingKey> keys) {
 inline Requirement requiredIfNotSpecified(std::vector<ConfigCodingKey> keys) {
     return {RequirementType::requiredIfNotSpecified, std::move(keys)};
 }
-inline Requirement exclude(std::vector<ConfigCodingKey> keys) { return {RequirementType::exclude, std::move(keys)}; }
+inline Requirement exclude(std::vector<ConfigCodingKey> keys) {
+    return {RequirementType::exclude, std::move(keys)};
+}
 inline Requirement requiredExcluding(std::vector<ConfigCodingKey> keys) {
     return {RequirementType::requiredExcluding, std::move(keys)};
 }
@@ -53,8 +55,9 @@ struct SiblingKey {
     bool wasGivenValueWhileDecoding = false;
 };
 
-/// Checks the requirement of `key` against the keys of its item, itself included. Throws ConfigurationError: a
-/// KeyValidationError with the broken rule, or MissingValue where the requirement lists a key that the item lacks.
+/// Checks the requirement of `key` against the keys of its item, itself included. Throws ConfigurationError:
+/// a KeyValidationError with the broken rule, or MissingValue where the requirement lists a key that the item
+/// lacks.
 void validate(const SiblingKey &key, const Requirement &requirement, std::span<const SiblingKey> siblings);
 
 } // namespace velmar

@@ -31,7 +31,8 @@ struct SlideItem {
     /// The composition of a slide that passed `validate`.
     [[nodiscard]] ContainersComposition containersComposition() const;
 
-    /// Checks the widths of the containers against each other. Throws ConfigurationError for the key "Containers".
+    /// Checks the widths of the containers against each other. Throws ConfigurationError for the key
+    /// "Containers".
     void validate(const CodingPath &path) const;
 };
 
