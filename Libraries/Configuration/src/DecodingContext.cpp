@@ -81,6 +81,10 @@ void DecodingContext::settleReferences(const Library &library) {
     references_.clear();
 }
 
+std::shared_ptr<void> &DecodingContext::valueOfName(std::string_view typeName, const std::string &name) {
+    return valuesOfNames_[{typeName, name}];
+}
+
 void DecodingContext::noteFailure(const std::string &keyPath, std::uint32_t offset) {
     if (notes_ != nullptr && !notes_->failure) {
         notes_->failure = DecodingNotes::Failure{keyPath, offset};

@@ -5,9 +5,12 @@
 #include <Foundation/PropertyList.h>
 
 #include <functional>
+#include <map>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace velmar {
@@ -29,6 +32,10 @@ public:
     /// the path of the reference.
     void settleReferences(const Library &library);
 
+    /// What keys that name a model have in common: one value for each type and name, made by the first of
+    /// them. Null before that.
+    [[nodiscard]] std::shared_ptr<void> &valueOfName(std::string_view typeName, const std::string &name);
+
     void noteFailure(const std::string &keyPath, std::uint32_t offset);
     void noteUnknownKey(const CodingPath &item, const std::string &key, std::uint32_t offset,
                         std::span<const std::string_view> knownKeys);
@@ -44,6 +51,7 @@ private:
 
     DecodingNotes *notes_;
     std::vector<Reference> references_;
+    std::map<std::pair<std::string_view, std::string>, std::shared_ptr<void>> valuesOfNames_;
 };
 
 /// One value about to be decoded, and where it stands.

@@ -26,21 +26,9 @@ public:
 
     void decode(const PropertyList::Dictionary &item, const CodingPath &itemPath, DecodingContext &context) {
         Base::decodeWith(item, itemPath, context, [this](const Decoding &decoding) {
-            if (const std::string *modelName = decoding.value.string()) {
-                Model model = makeDefault<Model>();
-                model._parentModelName.set(*modelName);
-                return std::optional<Model>(std::move(model));
-            }
-            return Base::decodeValue(decoding);
+            const std::string *modelName = decoding.value.string();
+            return modelName != nullptr ? valueOfName(*modelName, decoding) : decodeItem(decoding);
         });
-        const auto &held = Base::node();
-        if (held && held->value && held->value->_parentModelName.rawValue()) {
-            // Models of books are moved about until the end; the value behind the holder stays where it is.
-            context.addReference(
-                CodingPath(itemPath, Base::name().stringValue).text(),
-                item.find(Base::name().stringValue)->offset(),
-                [held, book = book_](const Library &library) { (library.*book)->applyParent(*held->value); });
-        }
     }
 
     /// A reference by name alone is written as it was given.
@@ -57,6 +45,36 @@ public:
     [[nodiscard]] BookOfLibrary book() const { return book_; }
 
 private:
+    using typename Base::Held;
+    using typename Base::Node;
+
+    /// The item that all keys with this name share: it never changes once its parent is applied.
+    Held valueOfName(const std::string &modelName, const Decoding &decoding) const {
+        std::shared_ptr<void> &shared = decoding.context.valueOfName(Model::typeName, modelName);
+        if (!shared) {
+            Model model = makeDefault<Model>();
+            model._parentModelName.set(modelName);
+            const auto held = std::make_shared<Held>(new Node(std::move(model)));
+            addReference(*held, decoding);
+            shared = held;
+        }
+        return *std::static_pointer_cast<Held>(shared);
+    }
+
+    Held decodeItem(const Decoding &decoding) const {
+        const Held held(new Node(Base::decodeValue(decoding)));
+        if (held->value->_parentModelName.rawValue()) {
+            addReference(held, decoding);
+        }
+        return held;
+    }
+
+    void addReference(const Held &held, const Decoding &decoding) const {
+        decoding.context.addReference(
+            decoding.path.text(), decoding.value.offset(),
+            [held, book = book_](const Library &library) { (library.*book)->applyParent(*held->value); });
+    }
+
     /// The name came from the text form: an item in its own dictionary gives it as the key "Style".
     static bool isNameOnly(const Model &model) {
         return model._parentModelName.rawValue() && !model._parentModelName.wasGivenValueWhileDecoding();

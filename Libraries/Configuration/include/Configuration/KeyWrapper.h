@@ -118,7 +118,8 @@ public:
     /// Reads the key from the dictionary of its item, if it is there. Throws ConfigurationError.
     void decode(const PropertyList::Dictionary &item, const CodingPath &itemPath, DecodingContext &context) {
         decodeWith(item, itemPath, context,
-                   [this](const Decoding &decoding) { return decodeValue(decoding); });
+
+                   [this](const Decoding &decoding) { return Held(new Node(decodeValue(decoding))); });
     }
 
     /// Writes the key where it is required or has been set.
@@ -153,7 +154,9 @@ protected:
         T value;
     };
 
-    /// The common course of decoding a key; `read` makes the value.
+    using Held = boost::intrusive_ptr<Node>;
+
+    /// The common course of decoding a key; `read` makes the node of the value.
     template <class ReadValue>
     void decodeWith(const PropertyList::Dictionary &item, const CodingPath &itemPath,
                     DecodingContext &context, ReadValue read) {
@@ -168,11 +171,12 @@ protected:
         }
         const CodingPath path(itemPath, key);
         try {
-            set(read(Decoding{*value, path, context}));
+            value_ = read(Decoding{*value, path, context});
         } catch (...) {
             context.noteFailure(path.text(), value->offset());
             throw;
         }
+        valueWasSet_ = true;
         wasGivenValueWhileDecoding_ = true;
     }
 
@@ -198,11 +202,9 @@ protected:
     /// None for an absent optional.
     [[nodiscard]] std::optional<PropertyList> encodeValue() const { return Decodable<T>::encode(rawValue()); }
 
-    [[nodiscard]] const boost::intrusive_ptr<Node> &node() const { return value_; }
-
 private:
     boost::intrusive_ptr<const Declaration> declaration_;
-    boost::intrusive_ptr<Node> value_; // Null while the default stands.
+    Held value_; // Null while the default stands.
     bool wasGivenValueWhileDecoding_ = false;
     bool valueWasSet_ = false;
 };
