@@ -7,7 +7,7 @@ using namespace velmar;
 static std::string number(std::uint64_t value, int width) {
     std::string bytes;
     for (int byte = width - 1; byte >= 0; --byte) {
-        bytes += static_cast<char>(value >> (8 * byte) & 0xFF);
+        bytes += byte < 8 ? static_cast<char>(value >> (8 * byte) & 0xFF) : '\0';
     }
     return bytes;
 }
