@@ -1,0 +1,92 @@
+#include <Foundation/UserDefaults.h>
+
+#include <Foundation/PropertyList.h>
+#include <Testing/TemporaryDirectory.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <fstream>
+
+namespace velmar {
+namespace {
+
+class UserDefaultsTest : public testing::Test {
+protected:
+    void SetUp() override { setenv("XDG_CONFIG_HOME", directory.path().c_str(), 1); }
+    void TearDown() override { unsetenv("XDG_CONFIG_HOME"); }
+
+    void put(const std::string &contents) const {
+        std::filesystem::create_directories(directory.path("Velmar"));
+        std::ofstream(directory.path("Velmar/Velmar.plist")) << contents;
+    }
+
+    const TemporaryDirectory directory;
+    const FileManager &files = FileManager::defaultManager();
+};
+
+TEST_F(UserDefaultsTest, KeepsTextsBetweenInstances) {
+    UserDefaults defaults("Velmar");
+    EXPECT_EQ(defaults.path(), directory.path("Velmar/Velmar.plist"));
+    EXPECT_EQ(defaults.string("configuration"), std::nullopt);
+    defaults.set("configuration", "été & <co>.plist");
+    defaults.set("other", "2");
+    EXPECT_EQ(UserDefaults("Velmar").string("configuration"), "été & <co>.plist");
+    EXPECT_EQ(UserDefaults("Another").string("configuration"), std::nullopt);
+    EXPECT_EQ(files.attributesOfItem(defaults.path()).permissions, 0600U);
+
+    UserDefaults("Velmar").set("configuration", "new.plist");
+    EXPECT_EQ(defaults.string("configuration"), "new.plist") << "read at each use";
+    defaults.remove("configuration");
+    defaults.remove("never there");
+    EXPECT_EQ(defaults.string("configuration"), std::nullopt);
+    EXPECT_EQ(defaults.string("other"), "2");
+}
+
+TEST_F(UserDefaultsTest, KeepsWhatItDoesNotKnow) {
+    put(PropertyList(PropertyList::Dictionary({{"count", 7}})).xml());
+    UserDefaults defaults("Velmar");
+    EXPECT_EQ(defaults.string("count"), std::nullopt) << "no text";
+    defaults.set("configuration", "a.plist");
+    const auto document = PropertyList::read(files.contents(defaults.path(), 10000));
+    ASSERT_NE(document.value.dictionary(), nullptr);
+    EXPECT_EQ(*document.value.dictionary()->find("count"), PropertyList(7));
+}
+
+TEST_F(UserDefaultsTest, PutsADamagedFileAside) {
+    for (const std::string &damaged :
+         {std::string("<plist><dict><key>configuration</key>"), std::string("<plist><array/></plist>"),
+          std::string(2 * 1024 * 1024, 'x')}) {
+        put(damaged);
+        UserDefaults defaults("Velmar");
+        EXPECT_EQ(defaults.string("configuration"), std::nullopt);
+        defaults.set("configuration", "a.plist");
+        EXPECT_EQ(defaults.string("configuration"), "a.plist");
+        const auto names = files.contentsOfDirectory(directory.path("Velmar"));
+        ASSERT_EQ(names.size(), 2U);
+        EXPECT_THAT(names[1], testing::MatchesRegex("Velmar\\.plist\\.damaged-......"));
+        const std::string aside = directory.path("Velmar/" + names[1]);
+        EXPECT_EQ(files.contents(aside, damaged.size()), damaged);
+        files.removeItem(aside);
+    }
+}
+
+TEST_F(UserDefaultsTest, FailsWithoutLosingAnything) {
+    std::filesystem::create_directories(directory.path("Velmar/Velmar.plist"));
+    UserDefaults defaults("Velmar");
+    EXPECT_EQ(defaults.string("configuration"), std::nullopt);
+    EXPECT_THROW(defaults.set("configuration", "a.plist"), FileError);
+    EXPECT_TRUE(std::filesystem::is_directory(defaults.path()));
+}
+
+TEST_F(UserDefaultsTest, LiesInTheHomeDirectoryWithoutThatVariable) {
+    setenv("HOME", "/Users/mira", 1);
+    for (const char *relative : {"", "relative/path"}) {
+        setenv("XDG_CONFIG_HOME", relative, 1);
+        EXPECT_EQ(UserDefaults("Velmar").path(), "/Users/mira/.config/Velmar/Velmar.plist");
+    }
+}
+
+} // namespace
+} // namespace velmar
