@@ -7,9 +7,9 @@
 
 namespace velmar {
 
-/// Named notifications within the process. Posting is synchronous: every observer of the name has run, on the poster's
-/// thread and in the order of registration, when `post` returns. An observer may post, add and remove in its turn; one
-/// that is removed during a post is not called any more. Any thread.
+/// Named notifications within the process. Posting is synchronous: every observer of the name has run, on the
+/// poster's thread and in the order of registration, when `post` returns. An observer may post, add and
+/// remove in its turn; one that is removed during a post is not called any more. Any thread.
 class NotificationCenter {
 public:
     using Handler = std::function<void()>;
