@@ -8,6 +8,9 @@
 /// The application's fixed names and places in the file system.
 namespace velmar::Domain {
 
+/// What people read as the application's name.
+inline constexpr std::string_view applicationName = "Velmar";
+
 /// The directory of what applications keep for all users, as a file URL; it need not exist. Absent, with a
 /// warning in the log, if the text makes no URL.
 [[nodiscard]] std::optional<URL>

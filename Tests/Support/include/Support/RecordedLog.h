@@ -1,0 +1,62 @@
+#pragma once
+
+#include <logger/BaseDestination.h>
+#include <logger/ScopedDestinations.h>
+
+#include <fmt/format.h>
+
+#include <array>
+#include <memory>
+#include <mutex>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace velmar {
+
+/// Takes the process's log for as long as it lives.
+class RecordedLog {
+public:
+    /// The lines so far, "LEVEL: MESSAGE CONTEXT" each.
+    [[nodiscard]] std::vector<std::string> lines() const {
+        const std::lock_guard lock(destination_->mutex);
+        return destination_->lines;
+    }
+
+    /// The lines since the last call.
+    [[nodiscard]] std::vector<std::string> takeLines() {
+        const std::lock_guard lock(destination_->mutex);
+        return std::exchange(destination_->lines, {});
+    }
+
+private:
+    struct Destination final : BaseDestination {
+        Destination() : BaseDestination(synchronous()) {}
+
+        static DestinationSettings synchronous() {
+            DestinationSettings settings;
+            settings.asynchronously = false;
+            return settings;
+        }
+
+        void write(std::span<const LogRecord> records) override {
+            static constexpr std::array levels{"verbose", "debug", "info", "warning", "error"};
+            const std::lock_guard lock(mutex);
+            for (const LogRecord &record : records) {
+                lines.push_back(fmt::format("{}: {}{}{}", levels.at(static_cast<std::size_t>(record.level)),
+                                            record.message, record.context.empty() ? "" : " ",
+                                            record.context));
+            }
+        }
+
+        std::mutex mutex;
+        std::vector<std::string> lines;
+    };
+
+    std::shared_ptr<Destination> destination_ = std::make_shared<Destination>();
+    ScopedDestinations scope_{{destination_}};
+};
+
+} // namespace velmar

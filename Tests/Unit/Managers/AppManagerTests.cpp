@@ -1,0 +1,158 @@
+#include "AppManagerFixture.h"
+
+#include <Configuration/Configuration.h>
+#include <Configuration/ConfigurationError.h>
+#include <Models/VelmarError.h>
+
+#include <gmock/gmock.h>
+
+#include <stdexcept>
+
+namespace velmar {
+namespace {
+
+using AppManagerTest = AppManagerFixture;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+constexpr AppManager::KeyModifiers allFour{true, true, true, true};
+
+std::string forceQuitKey(std::string_view key) {
+    return fmt::format(
+        "<key>AppTermination</key><dict><key>ForceQuitShortcutKey</key><string>{}</string></dict>", key);
+}
+
+TEST_F(AppManagerTest, FindsAdmitsAndDecodesTheConfiguration) {
+    const std::string path = writeConfiguration(title("Welcome"));
+    const auto manager = makeAppManager();
+    EXPECT_EQ(manager->configurationFileURL().path(), path);
+    EXPECT_EQ(manager->configuration()->_window()._title(), "Welcome");
+    EXPECT_THAT(log_.lines(), ElementsAre("info: Found configuration file at " + path,
+                                          "debug: Retrieving configuration file content...",
+                                          "info: Successfully retrieved configuration file content",
+                                          "debug: Decoding configuration file...",
+                                          "info: Successfully decoded configuration file"));
+}
+
+TEST_F(AppManagerTest, IsNotMadeOfARefusedFile) {
+    EXPECT_THROW(makeAppManager(), VelmarError) << "no file";
+    writeConfiguration("", 0646);
+    EXPECT_THROW(makeAppManager(), VelmarError) << "wrong permissions";
+    writeFile("<plist><dict/></plist>");
+    EXPECT_THROW(makeAppManager(), ConfigurationError) << "no slides";
+    writeFile("no property list");
+    EXPECT_THROW(makeAppManager(), PropertyListError);
+    EXPECT_EQ(keyDownMonitor_, nullptr);
+}
+
+TEST_F(AppManagerTest, ReloadsWithoutJudgingTheFileAgain) {
+    writeConfiguration(title("One"));
+    const auto manager = makeAppManager();
+    const auto before = manager->configuration();
+    writeConfiguration(title("Two"), 0666);
+    static_cast<void>(log_.takeLines());
+
+    manager->reloadInterface(false);
+    EXPECT_EQ(manager->configuration()->_window()._title(), "Two");
+    EXPECT_EQ(before->_window()._title(), "One") << "who still reads the former one is not disturbed";
+    EXPECT_THAT(log_.lines(), ElementsAre("debug: Retrieving configuration file content...",
+                                          "info: Successfully retrieved configuration file content",
+                                          "debug: Decoding configuration file..."));
+}
+
+TEST_F(AppManagerTest, KeepsTheConfigurationWhenAReloadFails) {
+    const std::string path = writeConfiguration(title("One"));
+    const auto manager = makeAppManager();
+    const auto before = manager->configuration();
+
+    writeFile("<plist><dict/></plist>");
+    manager->reloadInterface(true);
+    EXPECT_EQ(manager->configuration(), before);
+    EXPECT_THAT(log_.lines().back(), HasSubstr("error: Error at 'Slides'. The 'Slides' configuration array"));
+
+    ::unlink(path.c_str());
+    static_cast<void>(log_.takeLines());
+    manager->reloadInterface(false);
+    EXPECT_EQ(manager->configuration(), before);
+    EXPECT_THAT(log_.lines(),
+                ElementsAre("debug: Retrieving configuration file content...",
+                            HasSubstr("error: An error occurred while retrieving the configuration file ["),
+                            "error: Configuration file is missing. [file://" + directory_.path() +
+                                "/Managed%20Preferences/x.plist]"));
+}
+
+TEST_F(AppManagerTest, EndsTheApplicationForTheForceQuitShortcut) {
+    const struct {
+        const char *key;
+        const char *pressed;
+        bool isMatch;
+    } cases[] = {
+        {"F", "f", true},   {"f", "F", true},   {"F", "g", false}, {"aab", "BA", true},
+        {"ab", "a", false}, {"a", "ab", false}, {"é", "É", true},  {"ß", "s", true},
+        {"É", "E", false},  {"я", "Я", true},   {"F", "", false},
+    };
+    for (const auto &[key, pressed, isMatch] : cases) {
+        writeConfiguration(forceQuitKey(key));
+        const auto manager = makeAppManager();
+        static_cast<void>(log_.takeLines());
+        terminations_ = 0;
+        EXPECT_EQ(keyDownHandler_({pressed, allFour}), isMatch) << key << ' ' << pressed;
+        EXPECT_EQ(terminations_, isMatch ? 1 : 0) << key << ' ' << pressed;
+        if (isMatch) {
+            EXPECT_THAT(
+                log_.lines(),
+                ElementsAre("info: Force quit shortcut detected. Forcing the application termination"));
+        }
+    }
+}
+
+TEST_F(AppManagerTest, NeedsAllFourModifiersForTheForceQuit) {
+    writeConfiguration("");
+    const auto manager = makeAppManager();
+    for (bool AppManager::KeyModifiers::*modifier :
+         {&AppManager::KeyModifiers::command, &AppManager::KeyModifiers::control,
+          &AppManager::KeyModifiers::option, &AppManager::KeyModifiers::shift}) {
+        auto held = allFour;
+        held.*modifier = false;
+        EXPECT_FALSE(manager->keyDownEventHandler({"F", held}));
+    }
+    EXPECT_EQ(terminations_, 0);
+    EXPECT_TRUE(manager->keyDownEventHandler({"F", allFour}));
+}
+
+TEST_F(AppManagerTest, MonitorsKeysForItsLifetimeUnlessSwitchedOff) {
+    writeConfiguration("");
+    auto manager = makeAppManager();
+    const std::weak_ptr<void> monitor = std::exchange(keyDownMonitor_, nullptr);
+    EXPECT_FALSE(monitor.expired());
+    manager.reset();
+    EXPECT_TRUE(monitor.expired());
+
+    writeConfiguration("<key>AppTermination</key><dict><key>ForceQuitShortcutIsEnabled</key><false/></dict>");
+    manager = makeAppManager();
+    EXPECT_EQ(keyDownMonitor_, nullptr);
+}
+
+TEST_F(AppManagerTest, ARefusalIsLoggedThenShownThenEndsTheProcessWithZero) {
+    struct Exit {
+        int status;
+    };
+    std::vector<std::string> shown;
+    const ConfigurationRefusal refusal{[&](const std::string &message, const std::string &button) {
+                                           shown = {message, button};
+                                           EXPECT_EQ(log_.lines().size(), 1U) << "logged before the alert";
+                                       },
+                                       [](int status) { throw Exit{status}; }};
+    try {
+        refusal.exitBecauseOf(VelmarError(VelmarError::MissingConfigurationFile{"file:///x"}));
+        ADD_FAILURE();
+    } catch (const Exit &exit) {
+        EXPECT_EQ(exit.status, 0);
+    }
+    EXPECT_THAT(shown, ElementsAre("The configuration file is incorrect", "Quit"));
+    EXPECT_THAT(log_.lines(), ElementsAre("error: A problem occurred while retrieving configuration: "
+                                          "Configuration file is missing. [file:///x]"));
+}
+
+} // namespace
+} // namespace velmar

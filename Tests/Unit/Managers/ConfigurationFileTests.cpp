@@ -1,0 +1,141 @@
+#include <Managers/ConfigurationFile.h>
+
+#include <Models/VelmarError.h>
+#include <Support/RecordedLog.h>
+#include <Support/TemporaryDirectory.h>
+#include <System/SystemIdentityAuthority.h>
+#include <Testing/TestIdentityAuthority.h>
+
+#include <fmt/format.h>
+#include <gmock/gmock.h>
+
+#include <filesystem>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace velmar {
+namespace {
+
+using testing::ElementsAre;
+using testing::MatchesRegex;
+
+class ConfigurationFileTest : public testing::Test {
+protected:
+    ConfigurationFile file() const { return ConfigurationFile(URL::file(path_)); }
+
+    // Refused, with this line before; where it must be the path itself it stands as {}.
+    template <class Authority>
+    void expectRefusal(const Authority &authority, const std::string &line) {
+        try {
+            file().hasConfigFileCorrectPermissions(authority);
+            ADD_FAILURE() << "admitted; expected " << line;
+        } catch (const VelmarError &error) {
+            ASSERT_TRUE(error.as<VelmarError::IncorrectPermissionsOnConfigFile>());
+            EXPECT_EQ(error.as<VelmarError::IncorrectPermissionsOnConfigFile>()->path, path_);
+        }
+        EXPECT_THAT(log_.takeLines(), ElementsAre(fmt::format(fmt::runtime(line), path_)));
+    }
+
+    void expectUnreadable() {
+        try {
+            static_cast<void>(file().content());
+            ADD_FAILURE() << "was read";
+        } catch (const VelmarError &error) {
+            ASSERT_TRUE(error.as<VelmarError::MissingConfigurationFile>());
+            EXPECT_EQ(error.as<VelmarError::MissingConfigurationFile>()->path,
+                      URL::file(path_).absoluteString());
+        }
+        EXPECT_THAT(log_.takeLines(),
+                    ElementsAre(MatchesRegex(
+                        "error: An error occurred while retrieving the configuration file \\[.+\\]")));
+    }
+
+    TemporaryDirectory directory_;
+    std::string path_ = directory_.write("a configuration.plist", "content");
+    RecordedLog log_;
+};
+
+constexpr auto unreadableOwner = "error: Unable to read the permissions and owner of the config file at '{}'";
+
+// Owners other than one's own need root.
+class RealOwnershipTest : public ConfigurationFileTest {
+protected:
+    void SetUp() override {
+        if (::geteuid() != 0) {
+            GTEST_SKIP() << "needs root";
+        }
+    }
+    void set(::uid_t user, ::gid_t group, ::mode_t mode) {
+        ASSERT_EQ(::lchown(path_.c_str(), user, group), 0);
+        ASSERT_EQ(::chmod(path_.c_str(), mode), 0);
+    }
+
+    SystemIdentityAuthority authority_{[] { return std::nullopt; }};
+};
+
+TEST_F(RealOwnershipTest, AdmitsAFileOfRootThatOthersOnlyRead) {
+    set(0, 0, 0644);
+    file().hasConfigFileCorrectPermissions(authority_);
+    EXPECT_THAT(log_.lines(), ElementsAre());
+}
+
+TEST_F(RealOwnershipTest, ReportsWhatItFound) {
+    set(0, 0, 0664);
+    expectRefusal(authority_, "error: Config file at '{}' has the following invalid owner/permissions:\n"
+                              " [root:root - rw-rw-r--]");
+    set(1, 0, 0644); // "daemon" in every Debian
+    expectRefusal(authority_, "error: Config file at '{}' has the following invalid owner/permissions:\n"
+                              " [daemon:root - rw-r--r--]");
+    set(0, 0, 01644);
+    expectRefusal(authority_, unreadableOwner);
+    set(0, 3'999'999'999U, 0644);
+    expectRefusal(authority_, unreadableOwner);
+}
+
+TEST_F(RealOwnershipTest, JudgesALinkAsTheLink) {
+    set(0, 0, 0644);
+    const std::string link = directory_.path("link.plist");
+    std::filesystem::create_symlink(path_, link);
+    path_ = link;
+    expectRefusal(authority_, "error: Config file at '{}' has the following invalid owner/permissions:\n"
+                              " [root:root - rwxrwxrwx]");
+    expectUnreadable();
+}
+
+TEST_F(RealOwnershipTest, ReadsWhatItJudged) {
+    set(0, 0, 0644);
+    const ConfigurationFile judged = file();
+    judged.hasConfigFileCorrectPermissions(authority_);
+    std::filesystem::rename(directory_.write("other", "another content"), path_);
+    ASSERT_EQ(::chmod(path_.c_str(), 0666), 0);
+    EXPECT_EQ(judged.content(), "content");
+    judged.hasConfigFileCorrectPermissions(authority_);
+    EXPECT_EQ(file().content(), "another content") << "opened anew";
+}
+
+TEST_F(ConfigurationFileTest, CountsAnItemThatIsGoneAsUnreadable) {
+    std::filesystem::remove(path_);
+    expectRefusal(TestIdentityAuthority(), unreadableOwner);
+    expectUnreadable();
+}
+
+TEST_F(ConfigurationFileTest, ReadsOnlyFilesOfUpToSixtyFourMebibytes) {
+    std::filesystem::resize_file(path_, ConfigurationFile::largestSize);
+    EXPECT_EQ(file().content().size(), ConfigurationFile::largestSize);
+    std::filesystem::resize_file(path_, ConfigurationFile::largestSize + 1);
+    expectUnreadable();
+}
+
+TEST_F(ConfigurationFileTest, ReadsNeitherDirectoriesNorPipes) {
+    std::filesystem::remove(path_);
+    std::filesystem::create_directory(path_);
+    expectUnreadable();
+    std::filesystem::remove(path_);
+    ASSERT_EQ(::mkfifo(path_.c_str(), 0600), 0);
+    expectUnreadable();
+}
+
+} // namespace
+} // namespace velmar

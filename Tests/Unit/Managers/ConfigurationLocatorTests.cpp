@@ -1,0 +1,163 @@
+#include <Managers/ConfigurationLocator.h>
+
+#include <Constants/Domain.h>
+#include <Foundation/FileManager.h>
+#include <Foundation/UserDefaults.h>
+#include <Models/VelmarError.h>
+#include <Support/RecordedLog.h>
+#include <Support/TemporaryDirectory.h>
+
+#include <fmt/format.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+
+namespace velmar {
+namespace {
+
+class ConfigurationLocatorTest : public testing::Test {
+protected:
+    ConfigurationLocatorTest() { ::setenv("XDG_CONFIG_HOME", directory_.path("config").c_str(), 1); }
+    ~ConfigurationLocatorTest() override { ::unsetenv("XDG_CONFIG_HOME"); }
+
+    ConfigurationLocator locator(const std::vector<std::string> &arguments = {}) {
+        return ConfigurationLocator(LaunchOptions::parse(arguments), defaults(),
+                                    FileManager::defaultManager(),
+                                    {URL::file(directory_.path("Managed Preferences"), true),
+                                     URL::file(directory_.path("Application Support"), true)});
+    }
+
+    // Made anew, as a later start does.
+    UserDefaults &defaults() { return defaults_.emplace(Domain::defaultsSuite); }
+
+    TemporaryDirectory directory_;
+    std::optional<UserDefaults> defaults_;
+    RecordedLog log_;
+};
+
+TEST_F(ConfigurationLocatorTest, TakesTheNameFromTheOptions) {
+    const struct {
+        std::vector<std::string> arguments;
+        const char *name;
+    } cases[] = {
+        {{"velmar"}, "Velmar.plist"},
+        {{"velmar", "-c", "foo"}, "foo.plist"},
+        {{"velmar", "-c", "foo.plist"}, "foo.plist"},
+        {{"velmar", "-c", "foo.PLIST"}, "foo.PLIST.plist"},
+        {{"velmar", "--config", "bar"}, "bar.plist"},
+        {{"velmar", "--config", "bar", "-c", "foo"}, "foo.plist"},
+        {{"velmar", "-c", "foo", "--config"}, "foo.plist"},
+        {{"velmar", "-c", "foo", "-c", "bar"}, "foo.plist"},
+        {{"velmar", "-c", "--config", "bar"}, "--config.plist"},
+        {{"velmar", "-c=foo"}, "Velmar.plist"},
+        {{"velmar", "-c", "site/foo"}, "site/foo.plist"},
+        {{"velmar", "-c", ""}, ".plist"},
+    };
+    for (const auto &[arguments, name] : cases) {
+        EXPECT_EQ(locator(arguments).configurationName(), name)
+            << fmt::format("{}", fmt::join(arguments, " "));
+    }
+    EXPECT_EQ(defaults().string("configuration"), std::nullopt);
+}
+
+TEST_F(ConfigurationLocatorTest, RemembersANameOnlyWhenAskedTo) {
+    EXPECT_EQ(locator({"--save"}).configurationName(), "Velmar.plist");
+    EXPECT_EQ(defaults().string("configuration"), std::nullopt);
+
+    EXPECT_EQ(locator({"-c", "foo", "--save"}).configurationName(), "foo.plist");
+    EXPECT_EQ(defaults().string("configuration"), "foo.plist");
+    EXPECT_EQ(locator().configurationName(), "foo.plist");
+
+    EXPECT_EQ(locator({"-c", "bar"}).configurationName(), "bar.plist");
+    EXPECT_EQ(locator().configurationName(), "foo.plist");
+
+    defaults().set("configuration", "stored");
+    EXPECT_EQ(locator().configurationName(), "stored.plist");
+}
+
+TEST_F(ConfigurationLocatorTest, GoesOnWithANameThatCannotBeRemembered) {
+    directory_.write("config", "a file where the directory belongs");
+    EXPECT_EQ(locator({"-c", "foo", "--save"}).configurationName(), "foo.plist");
+    ASSERT_EQ(log_.lines().size(), 1U);
+    EXPECT_TRUE(log_.lines()[0].starts_with("warning: Unable to save the configuration name 'foo.plist' ["));
+}
+
+TEST_F(ConfigurationLocatorTest, SearchesTheManagedPreferencesFirst) {
+    const std::string local = directory_.write("Application Support/Velmar/a b.plist", "");
+    EXPECT_EQ(locator().findConfigurationFile("a b.plist").path(), local);
+    EXPECT_EQ(log_.takeLines(), std::vector{"info: Found configuration file at " + local});
+
+    const std::string managed = directory_.write("Managed Preferences/a b.plist", "");
+    EXPECT_EQ(locator().findConfigurationFile("a b.plist").path(), managed);
+    EXPECT_EQ(log_.takeLines(), std::vector{"info: Found configuration file at " + managed});
+}
+
+TEST_F(ConfigurationLocatorTest, PassesOverALinkThatLeadsNowhereButNotOneThatLives) {
+    const std::string local = directory_.write("Application Support/Velmar/x.plist", "");
+    const std::string link = directory_.path("Managed Preferences/x.plist");
+    std::filesystem::create_directories(directory_.path("Managed Preferences"));
+    std::filesystem::create_symlink(directory_.path("nothing"), link);
+    EXPECT_EQ(locator().findConfigurationFile("x.plist").path(), local);
+
+    directory_.write("nothing", "");
+    EXPECT_EQ(locator().findConfigurationFile("x.plist").path(), link);
+}
+
+TEST_F(ConfigurationLocatorTest, KeepsAnAbsoluteNameBelowThePlaces) {
+    const std::string outside = directory_.write("outside.plist", "");
+    EXPECT_THROW(static_cast<void>(locator().findConfigurationFile(outside)), VelmarError);
+    const std::string inside = directory_.write("Managed Preferences" + outside, "");
+    EXPECT_EQ(std::filesystem::path(locator().findConfigurationFile(outside).path()).lexically_normal(),
+              inside);
+}
+
+TEST_F(ConfigurationLocatorTest, NamesBothPlacesWhenNoneHasTheFile) {
+    const auto message = [](const ConfigurationLocator &locator) -> std::string {
+        try {
+            return locator.findConfigurationFile("x.plist").path();
+        } catch (const VelmarError &error) {
+            EXPECT_TRUE(error.as<VelmarError::InternalError>());
+            return error.errorDescription();
+        }
+    };
+    const std::string start = fmt::format("Internal error: Unable to build the path to the configuration "
+                                          "file x.plist at {}/Managed Preferences or ",
+                                          directory_.path());
+    EXPECT_EQ(message(locator()), start + directory_.path("Application Support/Velmar"));
+
+    const ConfigurationLocator withOnePlace({}, defaults(), FileManager::defaultManager(),
+                                            {URL::file(directory_.path("Managed Preferences"), true), {}});
+    EXPECT_EQ(message(withOnePlace), start + "Application Support Velmar path");
+}
+
+TEST(LaunchOptions, RefuseAnOptionWithoutItsValue) {
+    const struct {
+        std::vector<std::string> arguments;
+        const char *message;
+    } cases[] = {{{"velmar", "-c"}, "The option '-c' needs a value"},
+                 {{"velmar", "--save", "--config"}, "The option '--config' needs a value"},
+                 {{"velmar", "--config", "foo", "-c"}, "The option '-c' needs a value"}};
+    for (const auto &[arguments, message] : cases) {
+        try {
+            static_cast<void>(LaunchOptions::parse(arguments));
+            ADD_FAILURE() << message;
+        } catch (const MissingOptionValue &error) {
+            EXPECT_EQ(error.errorDescription(), message);
+        }
+    }
+}
+
+TEST(Domain, HasThePlacesOfTheSystem) {
+    const auto places = ConfigurationLocator::Places::ofSystem();
+    EXPECT_EQ(places.managedPreferences.path(), "/Library/Managed Preferences");
+    EXPECT_EQ(places.applicationSupport->path(), "/Library/Application Support");
+    EXPECT_TRUE(places.applicationSupport->isFileURL());
+
+    RecordedLog log;
+    EXPECT_EQ(Domain::applicationSupportDirectory(""), std::nullopt);
+    EXPECT_EQ(log.lines(), std::vector<std::string>{"warning: Couldn't find the path at "});
+}
+
+} // namespace
+} // namespace velmar

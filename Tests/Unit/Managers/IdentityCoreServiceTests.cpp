@@ -1,0 +1,64 @@
+#include <Managers/IdentityCoreService.h>
+
+#include <gtest/gtest.h>
+
+namespace velmar::IdentityCoreService {
+namespace {
+
+TEST(PosixPermissions, ReadTheDecimalDigitsOfANumberAsOctalOnes) {
+    const PosixPermissions permissions = PosixPermissions::fromDecimal(644);
+    EXPECT_EQ(permissions, (PosixPermissions{Permission::readWrite, Permission::read, Permission::read}));
+    EXPECT_EQ(permissions.description(), "rw-r--r--");
+    EXPECT_EQ(PosixPermissions::fromDecimal(7).description(), "------rwx");
+    EXPECT_EQ(PosixPermissions::fromDecimal(124).description(), "--x-w-r--");
+    EXPECT_EQ(PosixPermissions::fromDecimal(653).description(), "rw-r-x-wx");
+}
+
+TEST(PosixPermissions, RefuseTheFirstPartThatIsNoOctalDigit) {
+    const struct {
+        int number;
+        int part;
+        const char *target;
+    } cases[] = {{888, 8, "user"},  {1644, 16, "user"}, {798, 9, "group"},
+                 {779, 9, "other"}, {-644, -6, "user"}, {-4, -4, "other"}};
+    for (const auto &[number, part, target] : cases) {
+        try {
+            static_cast<void>(PosixPermissions::fromDecimal(number));
+            ADD_FAILURE() << number << " was taken";
+        } catch (const PosixPermissions::PermissionError &error) {
+            EXPECT_EQ(error.as<PosixPermissions::InvalidNumber>()->number, part) << number;
+            EXPECT_EQ(error.as<PosixPermissions::InvalidNumber>()->target, target) << number;
+        }
+    }
+}
+
+TEST(PosixPermissions, AreThoseOfAModeUnlessItHasSpecialBits) {
+    EXPECT_EQ(PosixPermissions::fromMode(0).description(), "---------");
+    EXPECT_EQ(PosixPermissions::fromMode(0100750).description(), "rwxr-x---")
+        << "the kind of the file is no permission";
+    for (const unsigned int mode : {01644U, 02644U, 04644U, 07777U}) {
+        EXPECT_THROW(static_cast<void>(PosixPermissions::fromMode(mode)), PosixPermissions::PermissionError)
+            << mode;
+    }
+}
+
+TEST(Permission, IsOrderedByReadOneWriteTwoExecuteFour) {
+    const Permission ascending[] = {Permission::noPermissions, Permission::read,
+                                    Permission::write,         Permission::readWrite,
+                                    Permission::execute,       Permission::readExecute,
+                                    Permission::writeExecute,  Permission::readWriteExecute};
+    for (std::size_t index = 1; index < std::size(ascending); ++index) {
+        EXPECT_LT(ascending[index - 1], ascending[index]) << index;
+        EXPECT_FALSE(ascending[index] <= ascending[index - 1]) << index;
+    }
+}
+
+TEST(Permission, IsOrderedByTheMappingThatReplacesItsOwn) {
+    permissionOrder = [](Permission permission) { return -static_cast<int>(permission); };
+    EXPECT_GT(Permission::read, Permission::write);
+    permissionOrder = nullptr;
+    EXPECT_LT(Permission::read, Permission::write);
+}
+
+} // namespace
+} // namespace velmar::IdentityCoreService

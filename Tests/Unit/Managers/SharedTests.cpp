@@ -1,0 +1,43 @@
+#include <Managers/Shared.h>
+
+#include <gtest/gtest.h>
+
+namespace velmar {
+namespace {
+
+struct Counter {
+    int value = 0;
+};
+
+struct Named {
+    explicit Named(int value_) : value(value_) {}
+    int value;
+};
+
+TEST(Shared, MakesWhatNeedsNothingOnce) {
+    Shared<Counter>::instance()->value = 5;
+    EXPECT_EQ(Shared<Counter>::instance()->value, 5);
+    {
+        const Shared<Counter>::Scope scope(std::make_shared<Counter>());
+        EXPECT_EQ(Shared<Counter>::instance()->value, 0);
+    }
+    EXPECT_EQ(Shared<Counter>::instance()->value, 5);
+}
+
+TEST(Shared, GivesWhatWasInstalledForAsLongAsItIs) {
+    EXPECT_THROW(static_cast<void>(Shared<Named>::instance()), VelmarError);
+    auto first = std::make_shared<Named>(1);
+    {
+        const Shared<Named>::Scope outer(first);
+        {
+            const Shared<Named>::Scope inner(std::make_shared<Named>(2));
+            EXPECT_EQ(Shared<Named>::instance()->value, 2);
+        }
+        EXPECT_EQ(Shared<Named>::instance(), first);
+    }
+    EXPECT_THROW(static_cast<void>(Shared<Named>::instance()), VelmarError);
+    EXPECT_EQ(first.use_count(), 1) << "the end of the scope lets go of it";
+}
+
+} // namespace
+} // namespace velmar
