@@ -18,8 +18,9 @@ Atspi.set_timeout(2000, 10000)
 class Node:
     """One visible thing: its role ("push button"), its name, and the node of the bus behind it."""
 
-    def __init__(self, accessible):
+    def __init__(self, accessible, is_window):
         self._accessible = accessible
+        self.is_window = is_window
         self.role = accessible.get_role_name()
         self.name = accessible.get_name() or ""
         states = accessible.get_state_set()
@@ -45,12 +46,12 @@ class Node:
         subprocess.run(["xdotool", "mousemove", str(x + width // 2), str(y + height // 2), "click", "1"], check=True)
 
 
-def _walk(accessible):
-    yield Node(accessible)
-    for index in range(accessible.get_child_count()):
-        child = accessible.get_child_at_index(index)
+def _walk(parent, is_window=True):
+    for index in range(parent.get_child_count()):
+        child = parent.get_child_at_index(index)
         if child is not None:
-            yield from _walk(child)
+            yield Node(child, is_window)
+            yield from _walk(child, is_window=False)
 
 
 class Screen:
@@ -68,7 +69,7 @@ class Screen:
                 application = desktop.get_child_at_index(index)
                 if application is not None and application.get_process_id() == self._process.pid:
                     application.clear_cache()
-                    return list(_walk(application))[1:]
+                    return list(_walk(application))
         except GLib.Error:
             # Something went away between two questions: the next look sees what there is then.
             pass
@@ -78,7 +79,7 @@ class Screen:
         return [node.text() for node in self.nodes() if node.showing and node.text()]
 
     def titles(self):
-        return [node.name for node in self.nodes() if node.role in ("frame", "window", "dialog", "alert")]
+        return [node.name for node in self.nodes() if node.is_window and node.showing]
 
     def buttons(self):
         return [node.text() for node in self.nodes() if node.showing and node.role == "push button"]
