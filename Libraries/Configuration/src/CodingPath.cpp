@@ -1,26 +1,26 @@
 #include <Configuration/CodingPath.h>
 
-#include <vector>
-
 namespace velmar {
 
 std::string CodingPath::text() const {
-    std::vector<const CodingPath *> parts;
-    for (const CodingPath *part = this; part->parent_ != nullptr; part = part->parent_) {
-        parts.push_back(part);
-    }
     std::string text;
-    for (auto part = parts.rbegin(); part != parts.rend(); ++part) {
-        if (!text.empty()) {
-            text += '.';
-        }
-        if ((*part)->isIndex_) {
-            text += std::to_string((*part)->index_);
-        } else {
-            text += (*part)->key_;
-        }
-    }
+    appendTo(text);
     return text;
+}
+
+void CodingPath::appendTo(std::string &text) const {
+    if (parent_ == nullptr) {
+        return;
+    }
+    parent_->appendTo(text); // No deeper than a property list may be.
+    if (!text.empty()) {
+        text += '.';
+    }
+    if (isIndex_) {
+        text += std::to_string(index_);
+    } else {
+        text += key_;
+    }
 }
 
 std::string_view CodingPath::lastKey() const {

@@ -38,7 +38,7 @@ std::shared_ptr<const Configuration> Configuration::decode(const PropertyList &f
         resolve(configuration->_colorStyles, file, context);
         resolve(configuration->_fontStyles, file, context);
         context.settleReferences(
-            {&configuration->_fontStyles.rawValue(), &configuration->_colorStyles.rawValue()});
+            {&configuration->_fontStyles.rawValue(), &configuration->_colorStyles.rawValue()}, file);
         return configuration;
     } catch (const LocalizedError &) {
         throw;

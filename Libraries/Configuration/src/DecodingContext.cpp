@@ -62,20 +62,44 @@ std::optional<std::string_view> nearest(std::string_view given, std::span<const 
     return best;
 }
 
-} // namespace
-
-void DecodingContext::addReference(std::string path, std::uint32_t offset,
-                                   std::function<void(const Library &)> settle) {
-    references_.push_back({std::move(path), offset, std::move(settle)});
+/// The path of the very value `wanted` within `value`. A path is only asked for once, when a decoding fails;
+/// to keep it with each of thousands of references would cost more than the search.
+std::optional<std::string> pathOf(const PropertyList &wanted, const PropertyList &value,
+                                  const CodingPath &path) {
+    if (&wanted == &value) {
+        return path.text();
+    }
+    if (const PropertyList::Array *array = value.array()) {
+        for (std::size_t index = 0; index < array->size(); ++index) {
+            if (auto found = pathOf(wanted, (*array)[index], CodingPath(path, index))) {
+                return found;
+            }
+        }
+    }
+    if (const PropertyList::Dictionary *dictionary = value.dictionary()) {
+        for (const auto &entry : *dictionary) {
+            if (auto found = pathOf(wanted, entry.value, CodingPath(path, entry.key))) {
+                return found;
+            }
+        }
+    }
+    return std::nullopt;
 }
 
-void DecodingContext::settleReferences(const Library &library) {
+} // namespace
+
+void DecodingContext::addReference(const PropertyList &value, std::function<void(const Library &)> settle) {
+    references_.push_back({&value, std::move(settle)});
+}
+
+void DecodingContext::settleReferences(const Library &library, const PropertyList &file) {
     for (const Reference &reference : references_) {
         try {
             reference.settle(library);
         } catch (const LocalizedError &error) {
-            noteFailure(reference.path, reference.offset);
-            throw ConfigurationError(ConfigurationErrors::Custom{reference.path, error.errorDescription()});
+            const std::string path = pathOf(*reference.value, file, CodingPath()).value_or("");
+            noteFailure(path, reference.value->offset());
+            throw ConfigurationError(ConfigurationErrors::Custom{path, error.errorDescription()});
         }
     }
     references_.clear();

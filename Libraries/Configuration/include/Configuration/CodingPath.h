@@ -23,6 +23,8 @@ public:
     [[nodiscard]] std::string_view lastKey() const;
 
 private:
+    void appendTo(std::string &text) const;
+
     const CodingPath *parent_ = nullptr;
     std::string_view key_;
     std::size_t index_ = 0;

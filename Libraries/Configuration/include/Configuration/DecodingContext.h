@@ -25,12 +25,13 @@ public:
     /// Where to note what is passed over; null when nobody asked.
     [[nodiscard]] DecodingNotes *notes() const { return notes_; }
 
-    /// Keeps a reference to another part of the file until all of the file is decoded.
-    void addReference(std::string path, std::uint32_t offset, std::function<void(const Library &)> settle);
+    /// Keeps a reference to another part of the file until all of the file is decoded. `value` is where it
+    /// stands in the file.
+    void addReference(const PropertyList &value, std::function<void(const Library &)> settle);
 
     /// Settles the references in the order in which they were met; what fails throws ConfigurationError with
-    /// the path of the reference.
-    void settleReferences(const Library &library);
+    /// the path of the reference in `file`, the root of what was decoded.
+    void settleReferences(const Library &library, const PropertyList &file);
 
     /// What keys that name a model have in common: one value for each type and name, made by the first of
     /// them. Null before that.
@@ -44,8 +45,7 @@ public:
 
 private:
     struct Reference {
-        std::string path;
-        std::uint32_t offset;
+        const PropertyList *value;
         std::function<void(const Library &)> settle;
     };
 
@@ -54,13 +54,18 @@ private:
     std::map<std::pair<std::string_view, std::string>, std::shared_ptr<void>> valuesOfNames_;
 };
 
+/// A key that an enclosing item has read from the dictionary of an item: a known one.
+struct KeyReadBefore {
+    std::string_view key;
+    const KeyReadBefore *before = nullptr;
+};
+
 /// One value about to be decoded, and where it stands.
 struct Decoding {
     const PropertyList &value;
     const CodingPath &path;
     DecodingContext &context;
-    /// Keys of the value's dictionary that an enclosing item has read: they are known ones.
-    std::span<const std::string_view> keysReadBefore{};
+    const KeyReadBefore *keysReadBefore = nullptr;
 };
 
 } // namespace velmar

@@ -70,9 +70,9 @@ private:
     }
 
     void addReference(const Held &held, const Decoding &decoding) const {
-        decoding.context.addReference(
-            decoding.path.text(), decoding.value.offset(),
-            [held, book = book_](const Library &library) { (library.*book)->applyParent(*held->value); });
+        decoding.context.addReference(decoding.value, [held, book = book_](const Library &library) {
+            (library.*book)->applyParent(*held->value);
+        });
     }
 
     /// The name came from the text form: an item in its own dictionary gives it as the key "Style".

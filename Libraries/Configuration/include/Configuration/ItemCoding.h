@@ -8,6 +8,7 @@
 #include <Configuration/InheritableKeyWrapper.h>
 #include <Configuration/KeyWrapper.h>
 
+#include <boost/container/small_vector.hpp>
 #include <boost/pfr.hpp>
 
 #include <array>
@@ -86,7 +87,9 @@ namespace detail {
 template <class T>
 void noteUnknownKeys(const PropertyList::Dictionary &dictionary, const Decoding &decoding) {
     std::vector<std::string_view> known = keyNames<T>();
-    known.insert(known.end(), decoding.keysReadBefore.begin(), decoding.keysReadBefore.end());
+    for (const KeyReadBefore *read = decoding.keysReadBefore; read != nullptr; read = read->before) {
+        known.push_back(read->key);
+    }
     for (const auto &entry : dictionary) {
         if (std::ranges::find(known, entry.key) == known.end()) {
             decoding.context.noteUnknownKey(decoding.path, entry.key, entry.keyOffset, known);
@@ -96,7 +99,7 @@ void noteUnknownKeys(const PropertyList::Dictionary &dictionary, const Decoding 
 
 template <class T>
 void validateKeys(const T &item, const Decoding &decoding) {
-    std::vector<SiblingKey> siblings;
+    boost::container::small_vector<SiblingKey, 32> siblings;
     const auto needsSiblings = [](const Requirement &requirement) {
         // What remains of these two has been seen to while decoding.
         return requirement.type != RequirementType::optional && requirement.type != RequirementType::required;
@@ -109,7 +112,7 @@ void validateKeys(const T &item, const Decoding &decoding) {
             visitKeys(item, [&](const auto &sibling) { siblings.push_back(sibling.asSibling()); });
         }
         try {
-            validate(key.asSibling(), key.requirement(), siblings);
+            validate(key.asSibling(), key.requirement(), {siblings.data(), siblings.size()});
         } catch (const ConfigurationError &) {
             decoding.context.noteFailure(CodingPath(decoding.path, key.name().stringValue).text(),
                                          decoding.value.offset());
@@ -183,10 +186,8 @@ struct Decodable<T> {
             throw;
         }
 
-        std::vector<std::string_view> keysRead(decoding.keysReadBefore.begin(),
-                                               decoding.keysReadBefore.end());
-        keysRead.push_back(T::typeKey);
-        return decodeAlternative(identifier, {decoding.value, decoding.path, decoding.context, keysRead},
+        const KeyReadBefore keysRead{T::typeKey, decoding.keysReadBefore};
+        return decodeAlternative(identifier, {decoding.value, decoding.path, decoding.context, &keysRead},
                                  std::make_index_sequence<std::variant_size_v<Value>>());
     }
 
