@@ -1,26 +1,45 @@
 #include <Extensions/LoggerExtensions.h>
 
-#include <Support/RecordedLog.h>
-
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <logger/BaseDestination.h>
+#include <logger/ScopedDestinations.h>
 
 namespace velmar {
 namespace {
 
+class LastRecord : public BaseDestination {
+public:
+    LastRecord() : BaseDestination({.asynchronously = false}) {}
+    void write(std::span<const LogRecord> records) override { record = records.back(); }
+
+    LogRecord record;
+};
+
 TEST(LoggerExtensions, PutTheSymbolOfTheSubjectBeforeTheMessage) {
-    RecordedLog log;
-    LoggerExtensions::info(LogSubject::installationLogParser, [] { return "Found"; });
-    LoggerExtensions::error(LogSubject::window, "Lost", "[context]");
-    EXPECT_EQ(log.lines(), (std::vector<std::string>{"info: 🔍 Found", "error: 🪟 Lost [context]"}));
+    const auto last = std::make_shared<LastRecord>();
+    const ScopedDestinations scope({last});
+    LoggerExtensions::info(
+        LogSubject::installationLogParser, [] { return "found"; }, "[context]");
+    EXPECT_EQ(last->record.message, "🔍 found");
+    EXPECT_EQ(last->record.context, "[context]");
+    EXPECT_EQ(last->record.level, LogLevel::info);
+    LoggerExtensions::warning(LogSubject::actions, "slow");
+    EXPECT_EQ(last->record.level, LogLevel::warning);
+    LoggerExtensions::error(LogSubject::actions, "failed");
+    EXPECT_EQ(last->record.level, LogLevel::error);
+    EXPECT_THAT(last->record.where.file, testing::EndsWith("LoggerExtensionsTests.cpp"));
 }
 
-TEST(LoggerExtensions, QuoteTheSectionOfVariablesUnlikeTheErrorOfThatName) {
-    RecordedLog log;
-    LoggerExtensions::registeredVariableUsesOtherVariables("NAME", "Slides.0");
-    EXPECT_EQ(log.lines(),
-              std::vector<std::string>{"warning: The value of the variable 'NAME' at 'Slides.0' uses "
-                                       "other variables, which is not allowed outside of "
-                                       "'General.Variables'."});
+TEST(LoggerExtensions, WarnAboutVariablesInVariables) {
+    const auto last = std::make_shared<LastRecord>();
+    const ScopedDestinations scope({last});
+    LoggerExtensions::registeredVariableUsesOtherVariables("NAME", "Root.Slides[0]");
+    EXPECT_EQ(last->record.level, LogLevel::warning);
+    EXPECT_EQ(last->record.message,
+              "The value of the variable 'NAME' at 'Root.Slides[0]' uses other variables, which "
+              "is not allowed outside of 'General.Variables'.");
 }
 
 } // namespace

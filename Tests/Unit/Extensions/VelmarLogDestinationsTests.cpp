@@ -32,10 +32,10 @@ TEST(VelmarLogDestinations, WriteTheFilesOfTheUserAtTheConsole) {
     }
 
     authority.consoleUser = "nobody known";
-    const auto &file = dynamic_cast<const FileDestination &>(
-        dynamic_cast<const VelmarLogDestination &>(*makeVelmarLogDestinations(authority)[1])
-            .finalDestination());
-    EXPECT_FALSE(file.file().owner.has_value());
+    const auto unknown = makeVelmarLogDestinations(authority);
+    const auto &decorator = dynamic_cast<const VelmarLogDestination &>(*unknown[1]);
+    EXPECT_FALSE(
+        dynamic_cast<const FileDestination &>(decorator.finalDestination()).file().owner.has_value());
 }
 
 } // namespace
