@@ -1,0 +1,171 @@
+#include <Desktop/ApplicationDelegate.h>
+#include <Desktop/DesktopApplication.h>
+#include <Desktop/Display.h>
+#include <Dispatch/UncaughtHandler.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QWidget>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace velmar {
+namespace {
+
+/// Notes what it is told, and does at the end of the launch what the test wants.
+class Recorder final : public ApplicationDelegate {
+public:
+    void applicationWillFinishLaunching() override {
+        events.emplace_back("will launch");
+        if (whileLaunching) {
+            whileLaunching();
+        }
+    }
+    void applicationDidFinishLaunching() override {
+        events.emplace_back("did launch");
+        afterLaunch();
+    }
+    void applicationWillBecomeActive() override { events.emplace_back("will activate"); }
+    void applicationDidBecomeActive() override { events.emplace_back("did activate"); }
+    void applicationWillResignActive() override { events.emplace_back("will resign"); }
+    void applicationDidResignActive() override { events.emplace_back("did resign"); }
+    void applicationWillTerminate() override { events.emplace_back("will terminate"); }
+    bool applicationShouldTerminate() override {
+        events.emplace_back("should terminate");
+        return refusals-- <= 0;
+    }
+    bool applicationShouldTerminateAfterLastWindowClosed() override { return endsWithItsWindow; }
+
+    std::function<void()> whileLaunching;
+    std::function<void()> afterLaunch;
+    int refusals = 0;
+    bool endsWithItsWindow = true;
+    std::vector<std::string> events;
+};
+
+class Application : public testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        static int argumentCount = 1;
+        static char name[] = "test";
+        static char *arguments[] = {name, nullptr};
+        application_ = std::make_unique<DesktopApplication>(argumentCount, arguments);
+    }
+    static void TearDownTestSuite() { application_.reset(); }
+
+    static DesktopApplication &application() { return *application_; }
+
+    Recorder recorder;
+    const std::vector<std::string> wholeLife{"will launch", "did launch", "should terminate",
+                                             "will terminate"};
+
+private:
+    static inline std::unique_ptr<DesktopApplication> application_;
+};
+
+TEST_F(Application, TellsTheLaunchAndTheEndInTheLoop) {
+    recorder.afterLaunch = [] { application().terminate(); };
+    EXPECT_EQ(application().run(recorder), 0);
+    EXPECT_EQ(recorder.events, wholeLife);
+}
+
+TEST_F(Application, EndsInOrderBySignalsAndTheToolkitsQuit) {
+    for (const auto &end : std::vector<std::function<void()>>{
+             [] { std::raise(SIGTERM); }, [] { std::raise(SIGINT); }, [] { QCoreApplication::quit(); }}) {
+        recorder.events.clear();
+        recorder.afterLaunch = end;
+        EXPECT_EQ(application().run(recorder), 0);
+        EXPECT_EQ(recorder.events, wholeLife);
+    }
+}
+
+TEST_F(Application, GoesOnWhenTheDelegateRefuses) {
+    recorder.refusals = 1;
+    recorder.afterLaunch = [] {
+        application().terminate();
+        application().mainQueue().async([] { application().terminate(); });
+    };
+    application().run(recorder);
+    EXPECT_EQ(recorder.events, (std::vector<std::string>{"will launch", "did launch", "should terminate",
+                                                         "should terminate", "will terminate"}));
+}
+
+TEST_F(Application, TerminatesWithItsLastWindowOnlyIfTheDelegateSaysSo) {
+    QWidget window;
+    recorder.endsWithItsWindow = false;
+    recorder.afterLaunch = [&] {
+        window.show();
+        window.close();
+        application().mainQueue().async([&] {
+            recorder.endsWithItsWindow = true;
+            window.show();
+            window.close();
+        });
+    };
+    application().run(recorder);
+    EXPECT_EQ(recorder.events.back(), "will terminate");
+    EXPECT_TRUE(recorder.endsWithItsWindow);
+}
+
+TEST_F(Application, IsNotEndedByAnAlertThatClosesBeforeTheLaunchIsOver) {
+    recorder.whileLaunching = [] {
+        QDialog alert;
+        application().mainQueue().async([&alert] { alert.accept(); });
+        alert.exec();
+    };
+    recorder.afterLaunch = [] { application().terminate(); };
+    application().run(recorder);
+    EXPECT_EQ(recorder.events, wholeLife);
+}
+
+TEST_F(Application, EndsTheLoopsOfOpenAlerts) {
+    recorder.afterLaunch = [] {
+        QDialog alert;
+        application().mainQueue().async([] { std::raise(SIGTERM); });
+        alert.exec();
+    };
+    EXPECT_EQ(application().run(recorder), 0);
+    EXPECT_EQ(recorder.events, wholeLife);
+}
+
+TEST_F(Application, GivesWhatTheLaunchThrewToItsCaller) {
+    recorder.afterLaunch = [] { throw std::runtime_error("no screen"); };
+    EXPECT_THROW(application().run(recorder), std::runtime_error);
+    EXPECT_EQ(recorder.events.back(), "did launch");
+}
+
+TEST_F(Application, ReportsWhatAHandlerThrowsAndGoesOn) {
+    struct Thrower : QObject {
+        bool event(QEvent * /*event*/) override { throw std::runtime_error("handler"); }
+    } thrower;
+    std::vector<std::string> uncaught;
+    setUncaughtHandler([&](auto, std::exception_ptr exception) { uncaught.emplace_back(textOf(exception)); });
+    recorder.afterLaunch = [&] {
+        QCoreApplication::postEvent(&thrower, new QEvent(QEvent::User));
+        application().mainQueue().async([] { application().terminate(); });
+    };
+    EXPECT_EQ(application().run(recorder), 0);
+    setUncaughtHandler({});
+    EXPECT_EQ(uncaught, std::vector<std::string>{"handler"});
+}
+
+TEST(Display, IsMissedOnlyWhereThePlatformNeedsOne) {
+    ::unsetenv("DISPLAY");
+    ::unsetenv("WAYLAND_DISPLAY");
+    EXPECT_FALSE(displayProblem({})) << "offscreen by the environment";
+    const std::vector<std::string> xcb{"-platform", "xcb"};
+    EXPECT_EQ(displayProblem(xcb), "There is no display to show a window on: DISPLAY is not set.");
+    ::setenv("DISPLAY", ":4711", 1);
+    EXPECT_EQ(displayProblem(xcb), "There is no display to show a window on: ':4711' does not answer.");
+    ::unsetenv("DISPLAY");
+}
+
+} // namespace
+} // namespace velmar

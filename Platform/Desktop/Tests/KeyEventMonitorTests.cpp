@@ -1,0 +1,81 @@
+#include "QtTest.h"
+
+#include <Desktop/KeyEventMonitor.h>
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QWindow>
+
+#include <optional>
+
+namespace velmar {
+namespace {
+
+class KeyEvents : public QtTest {
+protected:
+    KeyEvents() {
+        field.show();
+        field.setFocus();
+    }
+
+    void press(int key, Qt::KeyboardModifiers modifiers, const QString &text = {}) {
+        QKeyEvent event(QEvent::KeyPress, key, modifiers, text);
+        QCoreApplication::sendEvent(field.windowHandle(), &event);
+    }
+
+    QLineEdit field;
+};
+
+TEST_F(KeyEvents, AreGivenOnceWithTheirCharacterAndModifiers) {
+    constexpr auto all = Qt::ControlModifier | Qt::MetaModifier | Qt::AltModifier | Qt::ShiftModifier;
+    struct Case {
+        int key;
+        Qt::KeyboardModifiers modifiers;
+        std::string characters;
+    };
+    for (const Case &row : {Case{Qt::Key_F, all, "F"}, Case{Qt::Key_F, Qt::NoModifier, "F"},
+                            Case{Qt::Key_1, Qt::ControlModifier, "1"}, Case{Qt::Key_F1, Qt::AltModifier, ""},
+                            Case{0x0416, Qt::MetaModifier, "Ж"}, Case{Qt::Key_A, Qt::ShiftModifier, "A"}}) {
+        std::vector<KeyEventMonitor::Event> events;
+        const KeyEventMonitor monitor([&](const KeyEventMonitor::Event &event) {
+            events.push_back(event);
+            return false;
+        });
+        press(row.key, row.modifiers);
+        ASSERT_EQ(events.size(), 1U) << row.key;
+        EXPECT_EQ(events[0].charactersIgnoringModifiers, row.characters);
+        EXPECT_EQ(events[0].command, row.modifiers.testFlag(Qt::ControlModifier));
+        EXPECT_EQ(events[0].control, row.modifiers.testFlag(Qt::MetaModifier));
+        EXPECT_EQ(events[0].option, row.modifiers.testFlag(Qt::AltModifier));
+        EXPECT_EQ(events[0].shift, row.modifiers.testFlag(Qt::ShiftModifier));
+    }
+}
+
+TEST_F(KeyEvents, GoNoFurtherWhenTheHandlerTakesThem) {
+    bool takes = true;
+    std::optional<KeyEventMonitor> monitor(std::in_place, [&](const auto &) { return takes; });
+    press(Qt::Key_X, Qt::NoModifier, "x");
+    EXPECT_EQ(field.text(), "");
+    takes = false;
+    press(Qt::Key_Y, Qt::NoModifier, "y");
+    EXPECT_EQ(field.text(), "y");
+    takes = true;
+    monitor.reset();
+    press(Qt::Key_Z, Qt::NoModifier, "z");
+    EXPECT_EQ(field.text(), "yz");
+}
+
+TEST_F(KeyEvents, AreNotWhatModifierKeysAloneGive) {
+    int count = 0;
+    const KeyEventMonitor monitor([&](const auto &) {
+        ++count;
+        return false;
+    });
+    for (const int key : {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Meta, Qt::Key_Alt, Qt::Key_AltGr}) {
+        press(key, Qt::ControlModifier | Qt::MetaModifier | Qt::AltModifier | Qt::ShiftModifier);
+    }
+    EXPECT_EQ(count, 0);
+}
+
+} // namespace
+} // namespace velmar

@@ -1,0 +1,57 @@
+#include <Desktop/LoginItem.h>
+
+#include <Testing/TemporaryDirectory.h>
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+#include <vector>
+
+namespace velmar {
+namespace {
+
+std::string execLine(const std::string &path) {
+    std::ifstream file(path);
+    for (std::string line; std::getline(file, line);) {
+        if (line.starts_with("Exec=")) {
+            return line.substr(5);
+        }
+    }
+    return {};
+}
+
+TEST(LoginItem, QuotesItsCommandTwice) {
+    const TemporaryDirectory directory;
+    const LoginItem item(directory.path() + "/autostart");
+    struct Case {
+        std::vector<std::string> command;
+        std::string line;
+    };
+    for (const Case &row :
+         {Case{{"/usr/bin/velmar"}, R"("/usr/bin/velmar")"},
+          Case{{"/opt/v", "-c", "first day"}, R"("/opt/v" "-c" "first day")"},
+          Case{{"/opt/v", R"(a"b`c$d)"}, R"("/opt/v" "a\\"b\\`c\\$d")"},
+          Case{{R"(/opt/back\slash)"}, R"("/opt/back\\\\slash")"}, Case{{"/opt/100%"}, R"("/opt/100%%")"}}) {
+        item.enable(row.command);
+        EXPECT_EQ(execLine(item.path()), row.line);
+    }
+}
+
+TEST(LoginItem, IsRemovedOnceAndMayBeMissing) {
+    const TemporaryDirectory directory;
+    const LoginItem item(directory.path());
+    EXPECT_NO_THROW(item.disable());
+    item.enable(std::vector<std::string>{"/usr/bin/velmar"});
+    EXPECT_TRUE(FileManager().fileExists(item.path()));
+    item.disable();
+    EXPECT_FALSE(FileManager().fileExists(item.path()));
+}
+
+TEST(LoginItem, TellsWhenItCannotBeWritten) {
+    const LoginItem item("/dev/null/autostart");
+    EXPECT_THROW(item.enable(std::vector<std::string>{"/usr/bin/velmar"}), FileError);
+}
+
+} // namespace
+} // namespace velmar

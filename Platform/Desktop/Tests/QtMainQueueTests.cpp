@@ -1,0 +1,120 @@
+#include "QtTest.h"
+
+#include <Desktop/QtMainQueue.h>
+#include <Desktop/QtTimerScheduler.h>
+#include <Dispatch/UncaughtHandler.h>
+
+#include <QEventLoop>
+
+#include <stdexcept>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace velmar {
+namespace {
+
+using namespace std::chrono_literals;
+
+class MainQueue : public QtTest {
+protected:
+    MainQueue() {
+        setUncaughtHandler([this](std::string_view, std::exception_ptr exception) {
+            uncaught.emplace_back(textOf(exception));
+        });
+    }
+    ~MainQueue() override { setUncaughtHandler({}); }
+
+    std::vector<std::string> uncaught;
+};
+
+TEST_F(MainQueue, RunsFunctionsOfAllThreadsOnItsOwnInTheirOrder) {
+    QtMainQueue queue;
+    QEventLoop loop;
+    std::vector<int> numbers;
+    bool wasAlwaysMain = true;
+    std::thread poster([&] {
+        for (int number = 0; number < 1000; ++number) {
+            queue.async([&, number] {
+                wasAlwaysMain = wasAlwaysMain && queue.isCurrent();
+                numbers.push_back(number);
+            });
+        }
+        EXPECT_FALSE(queue.isCurrent());
+        queue.async([&] { loop.quit(); });
+    });
+    loop.exec();
+    poster.join();
+    ASSERT_EQ(numbers.size(), 1000U);
+    EXPECT_TRUE(std::ranges::is_sorted(numbers));
+    EXPECT_TRUE(wasAlwaysMain);
+}
+
+TEST_F(MainQueue, GoesOnInTheLoopOfAFunctionInOrder) {
+    QtMainQueue queue;
+    QEventLoop loop;
+    std::string order;
+    queue.async([&] {
+        order += 'a';
+        QEventLoop nested;
+        queue.async([&] {
+            order += 'd';
+            nested.quit();
+        });
+        nested.exec();
+        order += 'e';
+        loop.quit();
+    });
+    queue.async([&] { order += 'b'; });
+    queue.async([&] { order += 'c'; });
+    loop.exec();
+    EXPECT_EQ(order, "abcde");
+}
+
+TEST_F(MainQueue, WakesTheLoopOfAFunctionForWhatWaitedBehindIt) {
+    QtMainQueue queue;
+    QEventLoop loop;
+    QEventLoop nested;
+    queue.async([&] {
+        nested.exec();
+        loop.quit();
+    });
+    queue.async([&] { nested.quit(); });
+    loop.exec();
+}
+
+TEST_F(MainQueue, ReportsWhatAFunctionThrowsAndGoesOn) {
+    QtMainQueue queue;
+    QEventLoop loop;
+    queue.async([] { throw std::runtime_error("broken"); });
+    queue.async([&] { loop.quit(); });
+    loop.exec();
+    EXPECT_EQ(uncaught, std::vector<std::string>{"broken"});
+}
+
+TEST_F(MainQueue, TimersFireFireByHandAndMayEndThemselves) {
+    QtTimerScheduler scheduler;
+    QEventLoop loop;
+    int repeated = 0;
+    std::unique_ptr<Timer> timer;
+    timer = scheduler.repeating(1ms, [&] {
+        if (++repeated == 3) {
+            timer.reset();
+            loop.quit();
+        }
+    });
+    timer->fire();
+    EXPECT_EQ(repeated, 1);
+    loop.exec();
+    EXPECT_EQ(repeated, 3);
+
+    const auto failing = scheduler.once(1ms, [&] {
+        loop.quit();
+        throw std::runtime_error("late");
+    });
+    loop.exec();
+    EXPECT_EQ(uncaught, std::vector<std::string>{"late"});
+}
+
+} // namespace
+} // namespace velmar

@@ -1,0 +1,118 @@
+#include "QtTest.h"
+
+#include <Desktop/DesktopAppearance.h>
+#include <Desktop/MainMenu.h>
+#include <Desktop/Window.h>
+
+#include <QMenuBar>
+#include <QWindow>
+
+namespace velmar {
+namespace {
+
+MenuItem entry(std::string title, int tag = 0, std::function<void()> action = {}) {
+    return {
+        .title = std::move(title), .tag = tag, .shortcut = {}, .action = std::move(action), .submenu = {}};
+}
+
+MenuItem menu(std::string title, int tag, std::vector<MenuItem> submenu) {
+    return {
+        .title = std::move(title), .tag = tag, .shortcut = {}, .action = {}, .submenu = std::move(submenu)};
+}
+
+std::string outline(const std::vector<MenuItem> &items) {
+    std::string text;
+    for (const MenuItem &item : items) {
+        text += item.title + (item.submenu.empty() ? "" : "(" + outline(item.submenu) + ")") + " ";
+    }
+    return text;
+}
+
+class Windows : public QtTest {};
+
+TEST_F(Windows, LoseTheMenuItemsOfATagWithTheOthersInTheirOrder) {
+    MainMenu mainMenu;
+    mainMenu.setItems({menu("App", 0, {entry("About"), entry("Secret", 2), entry("Quit")}),
+                       menu("Admin", 2, {entry("Reload", 2)}), menu("Help", 3, {entry("Manual")})});
+    mainMenu.removeItems(2);
+    EXPECT_EQ(outline(mainMenu.items()), "App(About Quit ) Help(Manual ) ");
+    mainMenu.removeItems(2);
+    EXPECT_EQ(mainMenu.items().size(), 2U);
+}
+
+TEST_F(Windows, KeepTheShortcutsOfAHiddenMenuBar) {
+    MainMenu mainMenu;
+    Window window({}, mainMenu);
+    auto *bar = window.findChild<QMenuBar *>();
+    int quits = 0;
+    MenuItem quit = entry("Quit", 0, [&] { ++quits; });
+    quit.shortcut = KeyShortcut{.key = 'Q', .command = true};
+    mainMenu.setItems({menu("App", 0, {quit}), menu("Admin", 2, {entry("Reload")})});
+    EXPECT_FALSE(bar->isHidden());
+    mainMenu.removeItems(2);
+    EXPECT_TRUE(bar->isHidden());
+    ASSERT_EQ(window.actions().size(), 1);
+    EXPECT_EQ(window.actions().first()->shortcut(), QKeySequence("Ctrl+Q"));
+    window.actions().first()->trigger();
+    EXPECT_EQ(quits, 1);
+}
+
+TEST_F(Windows, SurviveAnEntryThatReplacesTheMenus) {
+    MainMenu mainMenu;
+    const Window window({}, mainMenu);
+    mainMenu.setItems({menu("App", 0, {entry("Less", 0, [&] { mainMenu.setItems({}); })})});
+    window.actions().first()->trigger();
+    EXPECT_TRUE(window.actions().isEmpty());
+}
+
+TEST_F(Windows, AreClosedByTheUserOnlyWhereTheStyleSaysSo) {
+    MainMenu mainMenu;
+    struct Case {
+        Window::Style style;
+        bool closes;
+    };
+    for (const Case &row :
+         {Case{{}, true}, Case{{.isClosable = false}, false}, Case{{.hasTitleBar = false}, false}}) {
+        Window window(row.style, mainMenu);
+        window.show();
+        EXPECT_EQ(window.windowHandle()->close(), row.closes);
+        EXPECT_EQ(window.isVisible(), !row.closes);
+    }
+}
+
+TEST_F(Windows, OpenInTheirSizeAndStayWithinTheirLimits) {
+    MainMenu mainMenu;
+    Window resizable({}, mainMenu);
+    resizable.setSizes({800, 600}, {800, 600}, {1280, 768});
+    EXPECT_EQ(resizable.size(), QSize(800, 600));
+    EXPECT_EQ(resizable.maximumSize(), QSize(1280, 768));
+    resizable.setSizes({1400, 900}, {1400, 900}, {1280, 768});
+    EXPECT_EQ(resizable.size(), QSize(1400, 900)) << "the least counts more than the most";
+    Window fixed({.isResizable = false}, mainMenu);
+    fixed.setSizes({800, 600}, {800, 600}, {1280, 768});
+    EXPECT_EQ(fixed.maximumSize(), QSize(800, 600));
+    Window bare({.hasTitleBar = false}, mainMenu);
+    bare.setSizes({800, 600}, {800, 600}, {1280, 768});
+    bare.show();
+    EXPECT_EQ(bare.maximumSize(), QSize(800, 600));
+    EXPECT_FALSE(bare.mask().contains(QPoint(1, 1))) << "corners are round";
+    EXPECT_TRUE(bare.mask().contains(QPoint(1, Window::cornerRadius + 1)));
+}
+
+TEST_F(Windows, AppearanceIsThePalettesUnlessTheUserHasAPreference) {
+    const QPalette light(Qt::white);
+    QPalette dark(Qt::black);
+    dark.setColor(QPalette::WindowText, Qt::white);
+    DesktopAppearance appearance;
+    EXPECT_FALSE(appearance.prefersDark(light));
+    EXPECT_TRUE(appearance.prefersDark(dark));
+    int changes = 0;
+    QObject::connect(&appearance, &DesktopAppearance::preferenceChanged, &appearance, [&] { ++changes; });
+    appearance.setPrefersDark(true);
+    appearance.setPrefersDark(true);
+    EXPECT_TRUE(appearance.prefersDark(light));
+    EXPECT_EQ(changes, 1);
+}
+
+} // namespace
+} // namespace velmar

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <Desktop/MainMenu.h>
+
+#include <QWidget>
+
+class QVBoxLayout;
+
+namespace velmar {
+
+class MenuBar;
+
+/// A window of the desktop with the application's menus and one content. It never offers to be minimised. The
+/// menu bar is on show while there are more menus than the application's own, and comes by F10 otherwise;
+/// shortcuts work in either case. Main thread.
+class Window final : public QWidget {
+    Q_OBJECT
+
+public:
+    /// What the window manager draws and allows; fixed for the window's life.
+    struct Style {
+        bool hasTitleBar =
+            true; ///< Without one, corners are round and the user has neither button nor resizing.
+        bool isClosable = true;
+        bool isResizable = true;
+        bool isMovable = true;
+    };
+
+    /// The menu must outlive the window.
+    Window(Style style, MainMenu &menu);
+    ~Window() override;
+
+    /// Replaces the content, which is destroyed; the window owns the new one.
+    void setContent(QWidget *content);
+    [[nodiscard]] QWidget *content() const { return content_; }
+
+    /// The size of the content, and the sizes between which the user may choose.
+    void setSizes(QSize content, QSize minimum, QSize maximum);
+
+    [[nodiscard]] const Style &style() const noexcept { return style_; }
+
+    /// The radius of the corners of a window without title bar, in points.
+    static constexpr int cornerRadius = 10;
+    /// The height of the strip at the top by which a window without title bar is moved, in points.
+    static constexpr int moveStripHeight = 40;
+
+signals:
+    /// The first time that the window has its place on the screen, with the window manager's frame around it.
+    void framed();
+    void firstPainted();
+
+protected:
+    bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    Style style_;
+    MenuBar *menuBar_;
+    QVBoxLayout *layout_;
+    QWidget *content_ = nullptr;
+    bool wasFramed_ = false;
+    bool wasPainted_ = false;
+};
+
+} // namespace velmar

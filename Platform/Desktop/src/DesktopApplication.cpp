@@ -1,0 +1,134 @@
+#include <Desktop/DesktopApplication.h>
+
+#include <Desktop/ApplicationDelegate.h>
+#include <Desktop/DesktopAppearance.h>
+#include <Desktop/QtMainQueue.h>
+#include <Desktop/QtTimerScheduler.h>
+
+#include <Dispatch/UncaughtHandler.h>
+
+#include "TerminationSignals.h"
+
+#include <QApplication>
+
+#include <utility>
+
+namespace velmar {
+
+class DesktopApplication::Loop final : public QApplication {
+public:
+    Loop(int &argumentCount, char **arguments)
+        : QApplication(argumentCount, arguments), signals_([this] { terminate(); }) {
+        setQuitOnLastWindowClosed(false);
+        connect(this, &QGuiApplication::lastWindowClosed, this, [this] { lastWindowWasClosed(); });
+        connect(this, &QGuiApplication::applicationStateChanged, this,
+                [this](Qt::ApplicationState state) { stateChanged(state); });
+    }
+
+    bool notify(QObject *receiver, QEvent *event) override {
+        bool wasHandled = true;
+        runReportingUncaught("Event", [&] { wasHandled = QApplication::notify(receiver, event); });
+        return wasHandled;
+    }
+
+    int run(ApplicationDelegate &delegate) {
+        delegate_ = &delegate;
+        isLaunched_ = false;
+        isTerminating_ = false;
+        QMetaObject::invokeMethod(
+            this, [this] { launch(); }, Qt::QueuedConnection);
+        const int status = exec();
+        delegate_ = nullptr;
+        if (launchError_) {
+            std::rethrow_exception(std::exchange(launchError_, nullptr));
+        }
+        return status;
+    }
+
+    void terminate() {
+        // The delegate may run loops of its own, from which a second request comes.
+        if (delegate_ == nullptr || std::exchange(isTerminating_, true)) {
+            return;
+        }
+        if (!delegate_->applicationShouldTerminate()) {
+            isTerminating_ = false;
+            return;
+        }
+        delegate_->applicationWillTerminate();
+        exit(0);
+    }
+
+protected:
+    bool event(QEvent *event) override {
+        // The toolkit's own way to quit first asks the windows to close, each of which may refuse.
+        if (event->type() == QEvent::Quit) {
+            terminate();
+            return true;
+        }
+        return QApplication::event(event);
+    }
+
+private:
+    void launch() {
+        try {
+            delegate_->applicationWillFinishLaunching();
+            if (!isTerminating_) {
+                delegate_->applicationDidFinishLaunching();
+                isLaunched_ = true;
+            }
+        } catch (...) {
+            launchError_ = std::current_exception();
+            exit(EXIT_FAILURE);
+        }
+    }
+
+    void lastWindowWasClosed() {
+        // An alert may be the last window before the launch is over.
+        if (isLaunched_ && !isTerminating_ && delegate_->applicationShouldTerminateAfterLastWindowClosed()) {
+            terminate();
+        }
+    }
+
+    void stateChanged(Qt::ApplicationState state) {
+        if (delegate_ == nullptr || isTerminating_) {
+            return;
+        }
+        const bool isActive = state == Qt::ApplicationActive;
+        if (isActive == std::exchange(isActive_, isActive)) {
+            return;
+        }
+        // The desktop tells of it once, when it has happened.
+        if (isActive) {
+            delegate_->applicationWillBecomeActive();
+            delegate_->applicationDidBecomeActive();
+        } else {
+            delegate_->applicationWillResignActive();
+            delegate_->applicationDidResignActive();
+        }
+    }
+
+    TerminationSignals signals_;
+    ApplicationDelegate *delegate_ = nullptr;
+    std::exception_ptr launchError_;
+    bool isLaunched_ = false;
+    bool isActive_ = false;
+    bool isTerminating_ = false;
+};
+
+DesktopApplication::DesktopApplication(int &argumentCount, char **arguments)
+    : loop_(std::make_unique<Loop>(argumentCount, arguments)),
+      mainQueue_(std::make_unique<QtMainQueue>()),
+      timers_(std::make_unique<QtTimerScheduler>()),
+      appearance_(std::make_unique<DesktopAppearance>()) {}
+
+DesktopApplication::~DesktopApplication() = default;
+
+int DesktopApplication::run(ApplicationDelegate &delegate) {
+    return loop_->run(delegate);
+}
+
+void DesktopApplication::terminate() {
+    loop_->terminate();
+}
+
+} // namespace velmar

@@ -1,0 +1,70 @@
+#include <Desktop/LoginItem.h>
+
+#include <cstdlib>
+
+namespace velmar {
+
+namespace {
+
+// The value of an entry's key is unescaped once as a string of the file and once more as a command line, in
+// which "%" introduces a field code.
+std::string quoted(const std::string &argument) {
+    std::string text = "\"";
+    for (const char character : argument) {
+        switch (character) {
+        case '"':
+        case '`':
+        case '$':
+            text += "\\\\";
+            text += character;
+            break;
+        case '\\':
+            text += "\\\\\\\\";
+            break;
+        case '%':
+            text += "%%";
+            break;
+        default:
+            text += character;
+        }
+    }
+    return text + '"';
+}
+
+} // namespace
+
+LoginItem::LoginItem(std::string directory, const FileManager &fileManager)
+    : directory_(std::move(directory)),
+      path_(directory_ + "/com.nurvan.velmar.desktop"),
+      fileManager_(fileManager) {}
+
+std::string LoginItem::userDirectory() {
+    const char *configuration = std::getenv("XDG_CONFIG_HOME"); // NOLINT(concurrency-mt-unsafe)
+    if (configuration != nullptr && *configuration == '/') {
+        return std::string(configuration) + "/autostart";
+    }
+    const char *home = std::getenv("HOME"); // NOLINT(concurrency-mt-unsafe)
+    return std::string(home == nullptr ? "" : home) + "/.config/autostart";
+}
+
+void LoginItem::enable(std::span<const std::string> command) const {
+    std::string line;
+    for (const std::string &argument : command) {
+        line += (line.empty() ? "" : " ") + quoted(argument);
+    }
+    fileManager_.createDirectory(directory_, 0700);
+    fileManager_.writeAtomically(path_, "[Desktop Entry]\nType=Application\nName=Velmar\nExec=" + line + "\n",
+                                 0644);
+}
+
+void LoginItem::disable() const {
+    try {
+        fileManager_.removeItem(path_);
+    } catch (const FileError &) {
+        if (fileManager_.fileExists(path_)) {
+            throw;
+        }
+    }
+}
+
+} // namespace velmar

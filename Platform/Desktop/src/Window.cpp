@@ -1,0 +1,111 @@
+#include <Desktop/Window.h>
+
+#include "MenuBar.h"
+#include "WindowManagerHints.h"
+
+#include <QCloseEvent>
+#include <QPainterPath>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <QWindow>
+
+#include <utility>
+
+namespace velmar {
+
+namespace {
+
+Qt::WindowFlags flagsOf(const Window::Style &style) {
+    if (!style.hasTitleBar) {
+        return Qt::Window | Qt::FramelessWindowHint;
+    }
+    Qt::WindowFlags flags =
+        Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
+    flags.setFlag(Qt::WindowCloseButtonHint, style.isClosable);
+    return flags;
+}
+
+} // namespace
+
+Window::Window(Style style, MainMenu &menu)
+    : QWidget(nullptr, flagsOf(style)),
+      style_(style),
+      menuBar_(new MenuBar(menu, *this)),
+      layout_(new QVBoxLayout(this)) {
+    layout_->setContentsMargins(0, 0, 0, 0);
+    layout_->setSpacing(0);
+    layout_->setMenuBar(menuBar_);
+    winId(); // The hints belong to the native window, and are read when it is mapped.
+    windowHandle()->installEventFilter(this);
+    if (style_.hasTitleBar) {
+        setWindowManagerFunctions(
+            *windowHandle(),
+            {.resize = style_.isResizable, .move = style_.isMovable, .close = style_.isClosable});
+    }
+}
+
+Window::~Window() {
+    // The bar unregisters from the menu, and its actions from this window, while the window is still whole.
+    delete menuBar_;
+}
+
+void Window::setContent(QWidget *content) {
+    delete content_;
+    content_ = content;
+    layout_->addWidget(content_);
+}
+
+void Window::setSizes(QSize content, QSize minimum, QSize maximum) {
+    const bool isFixed = !style_.isResizable || !style_.hasTitleBar;
+    setMinimumSize(isFixed ? content : minimum);
+    setMaximumSize(isFixed ? content : maximum.expandedTo(minimum));
+    resize(content);
+}
+
+bool Window::event(QEvent *event) {
+    if (event->type() == QEvent::WindowActivate && !std::exchange(wasFramed_, true)) {
+        // The frame's margins are known now, which they were not when the window was mapped.
+        QTimer::singleShot(0, this, &Window::framed);
+    }
+    return QWidget::event(event);
+}
+
+bool Window::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::Expose && windowHandle()->isExposed() && !std::exchange(wasPainted_, true)) {
+        // The window paints itself while it handles the event.
+        QTimer::singleShot(0, this, &Window::firstPainted);
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void Window::closeEvent(QCloseEvent *event) {
+    // Window managers have a key for it even where the window has no button.
+    event->setAccepted(style_.isClosable && style_.hasTitleBar);
+}
+
+void Window::keyPressEvent(QKeyEvent *event) {
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier) {
+        menuBar_->reveal();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void Window::mousePressEvent(QMouseEvent *event) {
+    const bool isInStrip = event->position().y() < moveStripHeight;
+    if (!style_.hasTitleBar && style_.isMovable && isInStrip && event->button() == Qt::LeftButton) {
+        windowHandle()->startSystemMove();
+    }
+    QWidget::mousePressEvent(event);
+}
+
+void Window::resizeEvent(QResizeEvent *event) {
+    QWidget::resizeEvent(event);
+    if (!style_.hasTitleBar) {
+        QPainterPath path;
+        path.addRoundedRect(QRectF(rect()), cornerRadius, cornerRadius);
+        setMask(QRegion(path.toFillPolygon().toPolygon()));
+    }
+}
+
+} // namespace velmar

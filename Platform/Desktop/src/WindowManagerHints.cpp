@@ -1,0 +1,56 @@
+#include "WindowManagerHints.h"
+
+#include <QGuiApplication>
+#include <QWindow>
+
+#include <xcb/xcb.h>
+
+#include <array>
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+#include <string_view>
+
+namespace velmar {
+
+namespace {
+
+// The property's layout and bits are those of the Motif window manager, which all the others took over.
+constexpr std::uint32_t functionsAreSet = 1U << 0U;
+constexpr std::uint32_t decorationsAreSet = 1U << 1U;
+constexpr std::uint32_t functionResize = 1U << 1U;
+constexpr std::uint32_t functionMove = 1U << 2U;
+constexpr std::uint32_t functionClose = 1U << 5U;
+constexpr std::uint32_t decorationBorder = 1U << 1U;
+constexpr std::uint32_t decorationResizeHandle = 1U << 2U;
+constexpr std::uint32_t decorationTitle = 1U << 3U;
+constexpr std::uint32_t decorationMenu = 1U << 4U;
+
+xcb_atom_t atom(xcb_connection_t *connection, std::string_view name) {
+    const auto cookie = xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
+    const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> reply(
+        xcb_intern_atom_reply(connection, cookie, nullptr), &std::free);
+    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
+} // namespace
+
+void setWindowManagerFunctions(QWindow &window, WindowFunctions functions) {
+    const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    // Other platforms may have the interface too, without a connection behind it.
+    xcb_connection_t *connection = x11 == nullptr ? nullptr : x11->connection();
+    if (connection == nullptr) {
+        return;
+    }
+    const xcb_atom_t hints = atom(connection, "_MOTIF_WM_HINTS");
+    const std::array<std::uint32_t, 5> value{
+        functionsAreSet | decorationsAreSet,
+        (functions.resize ? functionResize : 0) | (functions.move ? functionMove : 0) |
+            (functions.close ? functionClose : 0),
+        decorationBorder | decorationTitle | decorationMenu | (functions.resize ? decorationResizeHandle : 0),
+        0, 0};
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window.winId()), hints,
+                        hints, 32, static_cast<std::uint32_t>(value.size()), value.data());
+}
+
+} // namespace velmar
