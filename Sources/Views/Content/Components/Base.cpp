@@ -1,0 +1,62 @@
+#include <Views/Content/Components/Base.h>
+
+#include <Desktop/DesktopAppearance.h>
+#include <Views/CustomViews/Colors.h>
+
+#include <QEvent>
+#include <QPainter>
+
+#include <cmath>
+
+namespace velmar::ComponentViews {
+
+namespace {
+
+class BorderView final : public QWidget {
+public:
+    BorderView(BorderItem item, QWidget *parent) : QWidget(parent), item_(std::move(item)) {
+        setFixedHeight(std::max(1, static_cast<int>(std::lround(item_._height().value_or(1)))));
+        updateColor();
+    }
+
+protected:
+    void changeEvent(QEvent *event) override {
+        QWidget::changeEvent(event);
+        if (event->type() == QEvent::PaletteChange) {
+            updateColor();
+        }
+    }
+
+    void paintEvent(QPaintEvent * /*event*/) override {
+        const double lineWidth = width() * item_._widthPercent();
+        QPainter(this).fillRect(QRectF((width() - lineWidth) / 2, 0, lineWidth, height()), color_);
+    }
+
+private:
+    void updateColor() {
+        const std::optional<ColorItem> item = item_._color();
+        color_ = item ? qColor(Color::of(*item, DesktopAppearance::isDark(palette())))
+                      : palette().color(QPalette::Mid);
+        update();
+    }
+
+    BorderItem item_;
+    QColor color_;
+};
+
+} // namespace
+
+QWidget *makeBorderView(const BorderItem &item, QWidget *parent) {
+    return new BorderView(item, parent);
+}
+
+QMargins marginsOf(const MarginsItem &item, const QMargins &standard) {
+    const auto side = [](const std::optional<double> &given, int otherwise) {
+        // More than any screen is as much as any screen.
+        return given ? static_cast<int>(std::lround(std::clamp(*given, 0.0, 16384.0))) : otherwise;
+    };
+    return {side(item._left(), standard.left()), side(item._top(), standard.top()),
+            side(item._right(), standard.right()), side(item._bottom(), standard.bottom())};
+}
+
+} // namespace velmar::ComponentViews

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <Views/Content/ContentView/ContentViewModel.h>
+
+#include <QVariantAnimation>
+#include <QWidget>
+
+#include <map>
+#include <memory>
+
+namespace velmar {
+
+class DesktopAppearance;
+class SlideViewController;
+
+/// Shows the current slide, and moves from one to the next. Slides are made when they are first needed, so
+/// that the number of slides costs nothing at the start. Main thread.
+class ContentViewController final : public QWidget, public ContentViewControllerProtocol {
+    Q_OBJECT
+
+public:
+    ContentViewController(std::shared_ptr<ContentViewModel> viewModel, const DesktopAppearance &appearance,
+                          QWidget *parent);
+    ~ContentViewController() override;
+
+    /// Shows the current slide without a transition, made anew from the present configuration.
+    void rebuild();
+
+    void transition(int from, int to) override;
+    [[nodiscard]] std::shared_ptr<SlideViewModel> currentSlideViewModel() const override;
+    [[nodiscard]] SlideViewController *currentSlide() const;
+    [[nodiscard]] int currentSlideIndex() const noexcept { return currentSlideIndex_; }
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    SlideViewController *slide(int index);
+    void place(double progress);
+    void finishTransition();
+
+    std::shared_ptr<ContentViewModel> viewModel_;
+    const DesktopAppearance &appearance_;
+    std::map<int, SlideViewController *> slides_;
+    int currentSlideIndex_ = 0;
+    int previousSlideIndex_ = 0; // While a transition runs.
+    QVariantAnimation animation_;
+};
+
+} // namespace velmar

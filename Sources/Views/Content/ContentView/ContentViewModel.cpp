@@ -1,0 +1,141 @@
+#include <Views/Content/ContentView/ContentViewModel.h>
+
+#include <Views/Content/Slides/SlideViewModel.h>
+#include <Views/Navigation/NavigationNotifications.h>
+
+#include <logger/Logger.h>
+
+#include <string>
+#include <utility>
+
+namespace velmar {
+
+ContentViewModel::ContentViewModel(MainQueue &mainQueue, AppTerminationManagerProtocol &appTerminationManager,
+                                   NotificationCenter &center, Settings settings)
+    : mainQueue_(mainQueue),
+      appTerminationManager_(appTerminationManager),
+      center_(center),
+      settings_(std::move(settings)) {}
+
+void ContentViewModel::setupNotifications() {
+    using namespace NavigationNotifications;
+    const auto observe = [this](std::string_view name, NotificationCenter::Handler handler) {
+        observers_.push_back(center_.addObserver(std::string(name), std::move(handler)));
+    };
+    observe(willNavigateToNextSlide, [this] { goToNextSlide(); });
+    observe(willNavigateToPreviousSlide, [this] { goToPreviousSlide(); });
+    observe(slideHasInvalidMandatoryElements, [this] { isCurrentSlideValid_ = false; });
+    observe(allMandatoryElementsInSlideAreValid, [this] { isCurrentSlideValid_ = true; });
+}
+
+std::shared_ptr<const std::vector<SlideItem>> ContentViewModel::slides() const {
+    if (settings_._onScreen() == WindowSection::OnScreen::menuBar) {
+        return std::make_shared<const std::vector<SlideItem>>(1, settings_._menubarSlide());
+    }
+    return settings_._onboardSlides.wrappedValue();
+}
+
+void ContentViewModel::setSelectedIndex(int index, bool notifyingDelegate) {
+    const int count = slidesCount();
+    if (count == 0 || index > count) {
+        return;
+    }
+    if (index > selectedSlideIndex_ && !isCurrentSlideValid_) {
+        showWarningsOfCurrentSlide();
+        Logger::warning(
+            "Transition to the next slides prevented since the slide contains invalid mandatory elements");
+    } else {
+        move(index, notifyingDelegate);
+    }
+    announcePosition();
+}
+
+void ContentViewModel::move(int index, bool notifyingDelegate) {
+    const int old = std::exchange(selectedSlideIndex_, index);
+    if (!notifyingDelegate) {
+        return;
+    }
+    mainQueue_.async([model = weak_from_this(), old, index] {
+        const auto self = model.lock();
+        if (self && self->controller_ != nullptr) {
+            self->controller_->transition(old, index);
+        }
+    });
+}
+
+void ContentViewModel::announcePosition() {
+    const auto present = slides();
+    const auto position = static_cast<std::size_t>(selectedSlideIndex_);
+    if (position >= present->size()) {
+        return;
+    }
+    const SlideItem &slide = (*present)[position];
+    if (slide._hidePreviousButton()) {
+        center_.post(NavigationNotifications::currentSlideWantsToHidePreviousButton);
+    }
+    if (slide._hideNextButton()) {
+        center_.post(NavigationNotifications::currentSlideWantsToHideNextButton);
+    }
+    if (present->size() < 2) {
+        center_.post(NavigationNotifications::willReachSoleSlide);
+    } else if (position == 0) {
+        center_.post(NavigationNotifications::willReachFirstSlide);
+    } else if (position + 1 == present->size()) {
+        center_.post(NavigationNotifications::willReachLastSlide);
+    } else {
+        center_.post(NavigationNotifications::navigateToNthSlide);
+    }
+}
+
+void ContentViewModel::goToPreviousSlide() {
+    Logger::debug("Will transition to previous slide");
+    const int target = selectedSlideIndex_ - 1;
+    if (target < 0) {
+        Logger::warning("No previous slide to transition to");
+    } else {
+        setSelectedIndex(target, true);
+    }
+}
+
+void ContentViewModel::goToNextSlide() {
+    Logger::debug("Will transition to next slide");
+    const int target = selectedSlideIndex_ + 1;
+    if (target < slidesCount()) {
+        setSelectedIndex(target, true);
+    } else {
+        tryToQuitApplication();
+    }
+}
+
+void ContentViewModel::tryToQuitApplication() {
+    if (!isCurrentSlideValid_) {
+        showWarningsOfCurrentSlide();
+        Logger::warning("App termination prevented since the slide contains invalid mandatory elements");
+        return;
+    }
+    if (terminationDelegate_ != nullptr && !terminationDelegate_->isSideContainerValid()) {
+        terminationDelegate_->showSideContainerWarnings();
+        // The warning may have made the user set it right.
+        if (!terminationDelegate_->isSideContainerValid()) {
+            return;
+        }
+    }
+    appTerminationManager_.tryToQuitApplication();
+}
+
+void ContentViewModel::reloadSlidesIfCountChanged(const std::function<void()> &reload) {
+    const int before = slidesCount();
+    reload();
+    if (slidesCount() != before) {
+        setSelectedIndex(0, false);
+    }
+    center_.post(NavigationNotifications::evaluateButtonsHide);
+}
+
+void ContentViewModel::showWarningsOfCurrentSlide() {
+    if (const auto slide = controller_ == nullptr ? nullptr : controller_->currentSlideViewModel()) {
+        slide->showWarnings();
+    }
+}
+
+} // namespace velmar

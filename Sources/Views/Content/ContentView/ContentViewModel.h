@@ -1,0 +1,125 @@
+#pragma once
+
+#include <Configuration/Configuration.h>
+#include <Dispatch/MainQueue.h>
+#include <Foundation/NotificationCenter.h>
+#include <Managers/Config.h>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace velmar {
+
+class SlideViewModel;
+
+/// The views of the slides, as the model uses them.
+class ContentViewControllerProtocol {
+public:
+    virtual ~ContentViewControllerProtocol() = default;
+
+    /// Puts another slide on show.
+    virtual void transition(int from, int to) = 0;
+
+    /// Of the slide on show; null while there is none.
+    [[nodiscard]] virtual std::shared_ptr<SlideViewModel> currentSlideViewModel() const = 0;
+};
+
+/// Who may hold the quit back for what stands beside the slides.
+class ContentViewModelTerminationDelegate {
+public:
+    virtual ~ContentViewModelTerminationDelegate() = default;
+
+    /// True also where there is no side container.
+    [[nodiscard]] virtual bool isSideContainerValid() const = 0;
+    virtual void showSideContainerWarnings() = 0;
+};
+
+/// Who decides whether the application quits.
+class AppTerminationManagerProtocol {
+public:
+    virtual ~AppTerminationManagerProtocol() = default;
+    virtual void tryToQuitApplication() = 0;
+};
+
+/// Which slide is the current one, and whether the user may leave it. Made as a shared_ptr. Main thread.
+class ContentViewModel final : public std::enable_shared_from_this<ContentViewModel> {
+public:
+    /// What the model reads of the configuration.
+    struct Settings {
+        Config<WindowSection::OnScreen> _onScreen{
+            [](const Configuration &c) -> auto &{return c._window()._onScreen();
+    }
+};
+Config<std::vector<SlideItem>> _onboardSlides{[](const Configuration &c) -> auto &{return c._slides();
+} // namespace velmar
+}
+;
+Config<SlideItem> _menubarSlide{[](const Configuration &c) -> auto &{return c._menuBarSlideSection();
+}
+}
+;
+}
+;
+
+/// The queue, the manager and the centre must outlive the model.
+ContentViewModel(MainQueue &mainQueue, AppTerminationManagerProtocol &appTerminationManager,
+                 NotificationCenter &center = NotificationCenter::defaultCenter())
+    : ContentViewModel(mainQueue, appTerminationManager, center, Settings()) {}
+ContentViewModel(MainQueue &mainQueue, AppTerminationManagerProtocol &appTerminationManager,
+                 NotificationCenter &center, Settings settings);
+
+/// Held weakly, as it were: both are taken back, with null, by whoever they are before they go.
+void setController(ContentViewControllerProtocol *controller) noexcept {
+    controller_ = controller;
+}
+void setTerminationDelegate(ContentViewModelTerminationDelegate *delegate) noexcept {
+    terminationDelegate_ = delegate;
+}
+
+/// Begins to follow the navigation's notifications.
+void setupNotifications();
+
+/// The slides of the present configuration and mode.
+[[nodiscard]] std::shared_ptr<const std::vector<SlideItem>> slides() const;
+[[nodiscard]] int selectedSlideIndex() const noexcept {
+    return selectedSlideIndex_;
+}
+[[nodiscard]] bool isCurrentSlideValid() const noexcept {
+    return isCurrentSlideValid_;
+}
+
+/// Moves to a slide unless the current one holds the user back, which it does only forward; in either case
+/// the navigation is told how the slide that is current then stands among the others.
+void setSelectedIndex(int index, bool notifyingDelegate);
+
+/// Quits unless the current slide or the side container is not yet right.
+void tryToQuitApplication();
+
+/// Runs `reload`, which may replace the configuration, and goes back to the first slide if their number
+/// changed.
+void reloadSlidesIfCountChanged(const std::function<void()> &reload);
+
+private:
+void goToPreviousSlide();
+void goToNextSlide();
+void move(int index, bool notifyingDelegate);
+void announcePosition();
+void showWarningsOfCurrentSlide();
+[[nodiscard]] int slidesCount() const {
+    return static_cast<int>(slides()->size());
+}
+
+MainQueue &mainQueue_;
+AppTerminationManagerProtocol &appTerminationManager_;
+NotificationCenter &center_;
+Settings settings_;
+ContentViewControllerProtocol *controller_ = nullptr;
+ContentViewModelTerminationDelegate *terminationDelegate_ = nullptr;
+std::vector<NotificationCenter::Token> observers_;
+bool isCurrentSlideValid_ = true;
+int selectedSlideIndex_ = 0;
+}
+;
+
+} // namespace velmar

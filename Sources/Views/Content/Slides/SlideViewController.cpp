@@ -1,0 +1,72 @@
+#include <Views/Content/Slides/SlideViewController.h>
+
+#include <Views/Content/Containers/ContainerViewController.h>
+#include <Views/Content/Containers/ContainerViewModel.h>
+#include <Views/Content/Slides/ContainerSpans.h>
+#include <Views/Content/Slides/SlideViewModel.h>
+
+#include <algorithm>
+
+namespace velmar {
+
+namespace {
+
+// Points. Containers with borders keep off the window's edges, in line with the navigation's buttons.
+constexpr int standardTopInset = 8;
+constexpr int borderedInset = 16;
+
+ContainerViewController::Kind containerKind(SlideViewController::Kind kind, std::size_t count) {
+    if (kind == SlideViewController::Kind::inMenuBar) {
+        return ContainerViewController::Kind::inMenuBarSlide;
+    }
+    return count == 1 ? ContainerViewController::Kind::inSoleSlide : ContainerViewController::Kind::inSlide;
+}
+
+} // namespace
+
+SlideViewController::SlideViewController(const SlideItem &slide, Kind kind, QWidget *parent)
+    : QWidget(parent),
+      kind_(kind),
+      viewModel_(std::make_shared<SlideViewModel>()),
+      composition_(slide.containersComposition()) {
+    const auto &containers = slide._containers();
+    for (const ContainerItem &item : containers) {
+        auto *container = new ContainerViewController(item, containerKind(kind, containers.size()),
+                                                      slide._containersBorderColor(), this);
+        container->viewModel()->setMandatorySupervisor(viewModel_);
+        containerViewControllers_.push_back(container);
+    }
+}
+
+SlideViewController::~SlideViewController() = default;
+
+void SlideViewController::viewWillAppear() {
+    viewModel_->willAppear();
+}
+
+void SlideViewController::viewWillDisappear() {
+    viewModel_->willDisappear();
+}
+
+bool SlideViewController::scroll(QKeyEvent &event) {
+    return std::ranges::any_of(containerViewControllers_,
+                               [&](auto *container) { return container->scroll(event); });
+}
+
+void SlideViewController::resizeEvent(QResizeEvent *event) {
+    QWidget::resizeEvent(event);
+    QRect room = rect().adjusted(0, kind_ == Kind::standard ? standardTopInset : 0, 0, 0);
+    if (std::ranges::any_of(containerViewControllers_, &ContainerViewController::hasBorder)) {
+        room.adjust(borderedInset, borderedInset - standardTopInset, -borderedInset, -borderedInset);
+    }
+    const auto spans =
+        containerSpans(composition_, containerViewControllers_.size(), std::max(0, room.width()));
+    for (std::size_t index = 0; index < spans.size(); ++index) {
+        const auto [start, extent] = spans[index];
+        const int x = isRightToLeft() ? room.width() - start - extent : start;
+        containerViewControllers_[index]->setGeometry(room.x() + x, room.y(), extent,
+                                                      std::max(0, room.height()));
+    }
+}
+
+} // namespace velmar

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <Configuration/SlideItem.h>
+
+#include <QWidget>
+
+#include <memory>
+#include <vector>
+
+class QKeyEvent;
+
+namespace velmar {
+
+class ContainerViewController;
+class SlideViewModel;
+
+/// A slide on screen: its containers side by side. Main thread.
+class SlideViewController final : public QWidget {
+    Q_OBJECT
+
+public:
+    enum class Kind {
+        standard,
+        inMenuBar, ///< Without the inset at the top.
+    };
+
+    SlideViewController(const SlideItem &slide, Kind kind, QWidget *parent);
+    ~SlideViewController() override;
+
+    [[nodiscard]] const std::shared_ptr<SlideViewModel> &viewModel() const noexcept { return viewModel_; }
+
+    void viewWillAppear();
+    void viewWillDisappear();
+
+    /// Passes a key on that scrolls to the first container that can.
+    bool scroll(QKeyEvent &event);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    Kind kind_;
+    std::shared_ptr<SlideViewModel> viewModel_;
+    SlideItem::ContainersComposition composition_;
+    std::vector<ContainerViewController *> containerViewControllers_; // In the order of the items.
+};
+
+} // namespace velmar

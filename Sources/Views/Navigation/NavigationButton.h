@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QPushButton>
+#include <QVariantAnimation>
+
+#include <optional>
+
+namespace velmar {
+
+/// A button of the navigation bar. It keeps its place while it is hidden, and can come and go gradually. The
+/// Return key presses it; the arrow keys are left to the bar.
+class NavigationButton final : public QPushButton {
+    Q_OBJECT
+
+public:
+    /// `isPrimary`: the one that leads on.
+    NavigationButton(bool isPrimary, QWidget *parent);
+
+    /// The colour of the label; none for that of the theme. A primary button whose accent would make the
+    /// colour hard to read is drawn as an ordinary one.
+    void setTextColor(const std::optional<QColor> &color);
+
+    /// Ends what is under way. A button that goes takes no more clicks.
+    void setConcealed(bool isConcealed);
+    void setConcealed(bool isConcealed, int milliseconds);
+    [[nodiscard]] bool isConcealed() const noexcept { return isConcealed_; }
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    bool isPrimary_;
+    bool isConcealed_ = false;
+    QVariantAnimation opacity_;
+};
+
+} // namespace velmar

@@ -1,0 +1,171 @@
+#include <Views/Navigation/NavigationViewController.h>
+
+#include <Desktop/DesktopAppearance.h>
+#include <Models/Appearance/Color.h>
+#include <Views/CustomViews/Colors.h>
+#include <Views/CustomViews/Theme.h>
+#include <Views/Navigation/NavigationButton.h>
+#include <Views/Navigation/NavigationNotifications.h>
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QPointer>
+#include <QTimer>
+
+#include <string>
+
+namespace velmar {
+
+namespace {
+
+constexpr int padding = 24; // Points.
+constexpr int animationMilliseconds = 1000;
+
+QString label(const std::optional<std::string> &configured, const QString &standard) {
+    return configured ? QString::fromStdString(*configured) : standard;
+}
+
+} // namespace
+
+NavigationViewController::NavigationViewController(const NavigationSection &section,
+                                                   Surroundings surroundings, QWidget *parent)
+    : QWidget(parent),
+      surroundings_(surroundings),
+      section_(section),
+      //% "Previous"
+      previousLabel_(label(section._previousButtonText(), qtTrId("navigation.buttons.previous"))),
+      //% "Next"
+      nextLabel_(label(section._nextButtonText(), qtTrId("navigation.buttons.next"))),
+      //% "Quit"
+      quitLabel_(label(section._quitButtonText(), qtTrId("navigation.buttons.quit"))),
+      previousButton_(new NavigationButton(false, this)),
+      nextButton_(new NavigationButton(true, this)),
+      viewModel_(*this, surroundings.center) {
+    setFixedHeight(width);
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::AlternateBase);
+    previousButton_->setText(previousLabel_);
+    nextButton_->setText(nextLabel_);
+    previousButton_->setConcealed(true);
+    auto *layout = new QHBoxLayout(this);
+    const int side = padding - Theme::focusRingRoom;
+    layout->setContentsMargins(side, 0, side, 0);
+    layout->addWidget(previousButton_);
+    layout->addStretch(1);
+    layout->addWidget(nextButton_);
+    connect(nextButton_, &QAbstractButton::clicked, this, &NavigationViewController::nextPressed);
+    connect(previousButton_, &QAbstractButton::clicked, this, &NavigationViewController::previousPressed);
+    updateTextColors();
+    setHidden(section._isHidden());
+}
+
+void NavigationViewController::pressNext() {
+    if (!isHidden() && !nextButton_->isConcealed()) {
+        nextButton_->click();
+    }
+}
+
+void NavigationViewController::pressPrevious() {
+    if (!isHidden() && !previousButton_->isConcealed()) {
+        previousButton_->click();
+    }
+}
+
+void NavigationViewController::nextPressed() {
+    if (viewModel_.isCurrentSlideValid() && !isSoleSlideReached_ && !isLastSlideReached_) {
+        previousButton_->setConcealed(false);
+    }
+    viewModel_.clearHideFlags();
+    surroundings_.center.post(NavigationNotifications::willNavigateToNextSlide);
+    hideWhatTheSlideWantsHidden();
+}
+
+void NavigationViewController::previousPressed() {
+    if (viewModel_.isCurrentSlideValid()) {
+        nextButton_->setConcealed(false);
+    }
+    nextButton_->setText(nextLabel_);
+    isLastSlideReached_ = false;
+    viewModel_.clearHideFlags();
+    surroundings_.center.post(NavigationNotifications::willNavigateToPreviousSlide);
+    hideWhatTheSlideWantsHidden();
+}
+
+void NavigationViewController::hideWhatTheSlideWantsHidden() {
+    if (viewModel_.currentSlideHideNextButton()) {
+        nextButton_->setConcealed(true);
+    }
+    if (viewModel_.currentSlideHidePreviousButton()) {
+        previousButton_->setConcealed(true);
+    }
+}
+
+void NavigationViewController::reachedFirstSlide() {
+    later([this] { nextButton_->setText(nextLabel_); });
+    previousButton_->setConcealed(true, animationDuration());
+    nextButton_->setConcealed(viewModel_.currentSlideHideNextButton(), animationDuration());
+    postAfterAnimation(NavigationNotifications::didReachFirstSlide);
+}
+
+void NavigationViewController::reachedLastSlide() {
+    isLastSlideReached_ = true;
+    later([this] { nextButton_->setText(quitLabel_); });
+    previousButton_->setConcealed(viewModel_.currentSlideHidePreviousButton(), animationDuration());
+    postAfterAnimation(NavigationNotifications::didReachLastSlide);
+}
+
+void NavigationViewController::reachedSoleSlide() {
+    isSoleSlideReached_ = true;
+    nextButton_->setConcealed(viewModel_.currentSlideHideNextButton(), animationDuration());
+    nextButton_->setText(quitLabel_);
+    postAfterAnimation(NavigationNotifications::didReachSoleSlide);
+}
+
+void NavigationViewController::reevaluateButtons() {
+    isLastSlideReached_ = false;
+    later([this] {
+        previousButton_->setConcealed(viewModel_.currentSlideHidePreviousButton());
+        nextButton_->setConcealed(viewModel_.currentSlideHideNextButton());
+    });
+}
+
+void NavigationViewController::later(std::function<void()> function) {
+    surroundings_.mainQueue.async([bar = QPointer(this), function = std::move(function)] {
+        if (bar != nullptr) {
+            function();
+        }
+    });
+}
+
+int NavigationViewController::animationDuration() const {
+    // Before the bar is on show there is nothing to watch.
+    return surroundings_.appearance.isAnimated() && isVisible() ? animationMilliseconds : 0;
+}
+
+void NavigationViewController::postAfterAnimation(std::string_view notification) {
+    QTimer::singleShot(animationDuration(), this,
+                       [this, notification] { surroundings_.center.post(notification); });
+}
+
+void NavigationViewController::updateTextColors() {
+    const bool isDark = DesktopAppearance::isDark(palette());
+    const auto color = [isDark](const std::optional<ColorItem> &item) {
+        return item ? std::optional(qColor(Color::of(*item, isDark))) : std::nullopt;
+    };
+    previousButton_->setTextColor(color(section_._previousButtonTextColor()));
+    nextButton_->setTextColor(color(section_._nextButtonTextColor()));
+}
+
+void NavigationViewController::changeEvent(QEvent *event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        updateTextColors();
+    }
+}
+
+void NavigationViewController::paintEvent(QPaintEvent * /*event*/) {
+    QPainter(this).fillRect(QRect(0, 0, QWidget::width(), 1), palette().color(QPalette::Mid));
+}
+
+} // namespace velmar

@@ -1,0 +1,109 @@
+#include <Views/VelmarViewController.h>
+
+#include <Views/Content/Containers/ContainerViewController.h>
+#include <Views/Content/Containers/ContainerViewModel.h>
+#include <Views/Content/ContentView/ContentViewController.h>
+#include <Views/Content/Slides/SlideViewController.h>
+#include <Views/Navigation/NavigationButton.h>
+#include <Views/Navigation/NavigationViewController.h>
+
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <cmath>
+
+namespace velmar {
+
+VelmarViewController::VelmarViewController(Surroundings surroundings, QWidget *parent)
+    : QWidget(parent),
+      surroundings_(std::move(surroundings)),
+      contentViewModel_(std::make_shared<ContentViewModel>(
+          surroundings_.mainQueue, surroundings_.appTerminationManager, surroundings_.center)),
+      row_(new QHBoxLayout(this)),
+      column_(new QVBoxLayout) {
+    row_->setContentsMargins(0, 0, 0, 0);
+    row_->setSpacing(0);
+    column_->setSpacing(0);
+    row_->addLayout(column_, 1);
+    contentViewModel_->setTerminationDelegate(this);
+    contentViewModel_->setupNotifications();
+    buildSideContainer();
+    buildNavigation();
+    contentViewController_ = new ContentViewController(contentViewModel_, surroundings_.appearance, this);
+    column_->insertWidget(0, contentViewController_, 1);
+    contentDidAppear();
+}
+
+VelmarViewController::~VelmarViewController() {
+    contentViewModel_->setTerminationDelegate(nullptr);
+}
+
+void VelmarViewController::buildSideContainer() {
+    delete sideContainerViewController_;
+    sideContainerViewController_ = nullptr;
+    const auto section = _sideContainer.wrappedValue();
+    if (!*section) {
+        return;
+    }
+    sideContainerViewController_ = new ContainerViewController(
+        (*section)->_container(), ContainerViewController::Kind::inSidebar, std::nullopt, this);
+    const double width = std::clamp((*section)->_width(), 0.0, 16384.0);
+    sideContainerViewController_->setFixedWidth(static_cast<int>(std::lround(width)));
+    row_->insertWidget(0, sideContainerViewController_);
+}
+
+void VelmarViewController::buildNavigation() {
+    delete navigationViewController_;
+    navigationViewController_ = new NavigationViewController(
+        *_navigation.wrappedValue(),
+        {surroundings_.mainQueue, surroundings_.center, surroundings_.appearance}, this);
+    column_->addWidget(navigationViewController_);
+}
+
+void VelmarViewController::contentDidAppear() {
+    contentViewModel_->setSelectedIndex(contentViewModel_->selectedSlideIndex(), false);
+}
+
+void VelmarViewController::reload(bool byResetingVariables) {
+    contentViewModel_->reloadSlidesIfCountChanged(
+        [this, byResetingVariables] { surroundings_.reloadInterface(byResetingVariables); });
+    buildSideContainer();
+    buildNavigation();
+    contentViewController_->rebuild();
+    contentDidAppear();
+    navigationViewController_->nextButton().setFocus();
+}
+
+bool VelmarViewController::isSideContainerValid() const {
+    return sideContainerViewController_ == nullptr || sideContainerViewController_->viewModel()->isValid();
+}
+
+void VelmarViewController::showSideContainerWarnings() {
+    if (sideContainerViewController_ != nullptr) {
+        sideContainerViewController_->viewModel()->showWarnings();
+    }
+}
+
+void VelmarViewController::showEvent(QShowEvent *event) {
+    QWidget::showEvent(event);
+    navigationViewController_->nextButton().setFocus();
+}
+
+void VelmarViewController::keyPressEvent(QKeyEvent *event) {
+    const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    const bool isFresh = isPlain && !event->isAutoRepeat();
+    const int onward = isRightToLeft() ? Qt::Key_Left : Qt::Key_Right;
+    const int back = isRightToLeft() ? Qt::Key_Right : Qt::Key_Left;
+    const int key = event->key();
+    if (isFresh && (key == onward || key == Qt::Key_Return || key == Qt::Key_Enter)) {
+        navigationViewController_->pressNext();
+    } else if (isFresh && key == back) {
+        navigationViewController_->pressPrevious();
+    } else if (SlideViewController *slide = contentViewController_->currentSlide();
+               !isPlain || slide == nullptr || !slide->scroll(*event)) {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+} // namespace velmar

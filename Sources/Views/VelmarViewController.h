@@ -1,0 +1,79 @@
+#pragma once
+
+#include <Configuration/Configuration.h>
+#include <Dispatch/MainQueue.h>
+#include <Foundation/NotificationCenter.h>
+#include <Managers/Config.h>
+#include <Views/Content/ContentView/ContentViewModel.h>
+
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+class QHBoxLayout;
+class QVBoxLayout;
+
+namespace velmar {
+
+class ContainerViewController;
+class ContentViewController;
+class DesktopAppearance;
+class NavigationViewController;
+
+/// The whole of what the user sees: the slides, the bar that leads through them, and the container beside
+/// them. Main thread.
+class VelmarViewController final : public QWidget, public ContentViewModelTerminationDelegate {
+    Q_OBJECT
+
+public:
+    /// What the controller needs; the references must outlive it.
+    struct Surroundings {
+        MainQueue &mainQueue;
+        AppTerminationManagerProtocol &appTerminationManager;
+        const DesktopAppearance &appearance;
+        /// Reads the configuration again; AppManager::reloadInterface.
+        std::function<void(bool byResetingVariables)> reloadInterface;
+        NotificationCenter &center = NotificationCenter::defaultCenter();
+    };
+
+    explicit VelmarViewController(Surroundings surroundings, QWidget *parent = nullptr);
+    ~VelmarViewController() override;
+
+    /// The administrator's menu actions: the interface is made anew from the configuration as it is then.
+    void reloadInterfaceSavingVariables() { reload(false); }
+    void reloadInterfaceResetingVariables() { reload(true); }
+
+    [[nodiscard]] bool isSideContainerValid() const override;
+    void showSideContainerWarnings() override;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void reload(bool byResetingVariables);
+    void buildSideContainer();
+    void buildNavigation();
+    /// Tells the navigation where the current slide stands.
+    void contentDidAppear();
+
+    Config<NavigationSection> _navigation{[](const Configuration &c) -> auto &{return c._navigation();
+}
+}; // namespace velmar
+Config<std::optional<SideContainerSection>> _sideContainer{
+    [](const Configuration &c) -> auto &{return c._sideContainer();
+}
+}
+;
+Surroundings surroundings_;
+std::shared_ptr<ContentViewModel> contentViewModel_;
+QHBoxLayout *row_;
+QVBoxLayout *column_;
+ContainerViewController *sideContainerViewController_ = nullptr;
+ContentViewController *contentViewController_ = nullptr;
+NavigationViewController *navigationViewController_ = nullptr;
+}
+;
+
+} // namespace velmar

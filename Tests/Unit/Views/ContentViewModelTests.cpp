@@ -1,0 +1,255 @@
+#include <Views/Content/ContentView/ContentViewModel.h>
+#include <Views/Content/Slides/SlideViewModel.h>
+#include <Views/Navigation/NavigationNotifications.h>
+
+#include <Support/RecordedLog.h>
+#include <Testing/TestMainQueue.h>
+
+#include <gtest/gtest.h>
+
+#include <fmt/format.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace velmar {
+namespace {
+
+class Element final : public MandatorySupervised {
+public:
+    [[nodiscard]] const UUID &mandatoryIdentifier() const override { return identifier_; }
+    [[nodiscard]] bool isValid() const override { return false; }
+    void setMandatorySupervisor(std::weak_ptr<MandatorySupervisor> /*supervisor*/) override {}
+    void showWarnings() override { ++warnings; }
+    int warnings = 0;
+
+private:
+    UUID identifier_;
+};
+
+class Controller final : public ContentViewControllerProtocol {
+public:
+    void transition(int from, int to) override { transitions.push_back(fmt::format("{}>{}", from, to)); }
+    [[nodiscard]] std::shared_ptr<SlideViewModel> currentSlideViewModel() const override { return slide; }
+    std::shared_ptr<SlideViewModel> slide;
+    std::vector<std::string> transitions;
+};
+
+class SideContainer final : public ContentViewModelTerminationDelegate {
+public:
+    [[nodiscard]] bool isSideContainerValid() const override { return isValid; }
+    void showSideContainerWarnings() override {
+        ++warnings;
+        isValid = isValidAfterWarning;
+    }
+    bool isValid = false;
+    bool isValidAfterWarning = false;
+    int warnings = 0;
+};
+
+class QuitAttempts final : public AppTerminationManagerProtocol {
+public:
+    void tryToQuitApplication() override { ++count; }
+    int count = 0;
+};
+
+SlideItem slide(bool hidesPrevious = false, bool hidesNext = false) {
+    SlideItem item;
+    item._hidePreviousButton.set(hidesPrevious);
+    item._hideNextButton.set(hidesNext);
+    return item;
+}
+
+class ContentModel : public testing::Test {
+protected:
+    void start(std::vector<SlideItem> slides,
+               WindowSection::OnScreen onScreen = WindowSection::OnScreen::simple) {
+        ContentViewModel::Settings settings;
+        settings._onScreen.setOverrideValue(onScreen);
+        settings._onboardSlides.setOverrideValue(std::move(slides));
+        settings._menubarSlide.setOverrideValue(slide(false, true));
+        model = std::make_shared<ContentViewModel>(queue, quits, center, settings);
+        controller.slide = std::make_shared<SlideViewModel>(center);
+        model->setController(&controller);
+        model->setupNotifications();
+        using namespace NavigationNotifications;
+        for (const auto name :
+             {currentSlideWantsToHidePreviousButton, currentSlideWantsToHideNextButton, evaluateButtonsHide,
+              willReachFirstSlide, willReachLastSlide, willReachSoleSlide, navigateToNthSlide}) {
+            tokens.push_back(
+                center.addObserver(std::string(name), [this, name] { posted.emplace_back(name); }));
+        }
+    }
+
+    /// Makes the current slide one with an element that isn't right.
+    void invalidate() {
+        controller.slide->elementDidChange(element);
+        controller.slide->willAppear();
+    }
+
+    void next() { center.post(NavigationNotifications::willNavigateToNextSlide); }
+    void previous() { center.post(NavigationNotifications::willNavigateToPreviousSlide); }
+
+    std::vector<std::string> takePosted() { return std::exchange(posted, {}); }
+    std::vector<std::string> takeTransitions() {
+        queue.runUntilEmpty();
+        return std::exchange(controller.transitions, {});
+    }
+
+    using Names = std::vector<std::string>;
+    RecordedLog log;
+    NotificationCenter center;
+    TestMainQueue queue;
+    QuitAttempts quits;
+    Controller controller;
+    std::shared_ptr<Element> element = std::make_shared<Element>();
+    std::shared_ptr<ContentViewModel> model;
+    std::vector<NotificationCenter::Token> tokens;
+    Names posted;
+};
+
+TEST_F(ContentModel, SaysWhereASlideStandsAmongTheOthers) {
+    const std::string first = "willReachFirstSlideNotification";
+    const std::string last = "willReachLastSlideNotification";
+    const std::string sole = "willReachSoleSlideNotification";
+    const std::string nth = "navigateToNthSlide";
+    struct Case {
+        std::size_t count;
+        Names positions;
+    };
+    for (const Case &row : {Case{1, {sole}}, Case{2, {first, last}}, Case{4, {first, nth, nth, last}}}) {
+        start(std::vector<SlideItem>(row.count, slide()));
+        for (std::size_t index = 0; index < row.count; ++index) {
+            takePosted();
+            model->setSelectedIndex(static_cast<int>(index), false);
+            EXPECT_EQ(posted, Names{row.positions[index]}) << row.count << " " << index;
+        }
+        tokens.clear();
+    }
+}
+
+TEST_F(ContentModel, SaysWhatTheSlideWantsHiddenBeforeWhereItStands) {
+    start({slide(true, true), slide(false, true), slide(true, false)});
+    model->setSelectedIndex(0, false);
+    EXPECT_EQ(takePosted(), (Names{"currentSlideWantsToHidePreviousButton",
+                                   "currentSlideWantsToHideNextButton", "willReachFirstSlideNotification"}));
+    model->setSelectedIndex(1, false);
+    EXPECT_EQ(takePosted(), (Names{"currentSlideWantsToHideNextButton", "navigateToNthSlide"}));
+    model->setSelectedIndex(2, false);
+    EXPECT_EQ(takePosted(),
+              (Names{"currentSlideWantsToHidePreviousButton", "willReachLastSlideNotification"}));
+}
+
+TEST_F(ContentModel, GoesOnAndBackAndQuitsBehindTheLastSlide) {
+    start({slide(), slide()});
+    previous();
+    EXPECT_EQ(model->selectedSlideIndex(), 0);
+    next();
+    EXPECT_EQ(model->selectedSlideIndex(), 1);
+    EXPECT_EQ(takeTransitions(), Names{"0>1"});
+    next();
+    EXPECT_EQ(quits.count, 1);
+    EXPECT_EQ(model->selectedSlideIndex(), 1);
+    previous();
+    EXPECT_EQ(takeTransitions(), Names{"1>0"});
+    EXPECT_EQ(log.lines(),
+              (Names{"debug: Will transition to previous slide",
+                     "warning: No previous slide to transition to", "debug: Will transition to next slide",
+                     "debug: Will transition to next slide", "debug: Will transition to previous slide"}));
+}
+
+TEST_F(ContentModel, HoldsTheUserOnAnInvalidSlideOnlyForward) {
+    start({slide(), slide(true), slide()});
+    model->setSelectedIndex(1, false);
+    invalidate();
+    takePosted();
+    static_cast<void>(log.takeLines());
+    next();
+    EXPECT_EQ(model->selectedSlideIndex(), 1);
+    EXPECT_EQ(takeTransitions(), Names{});
+    EXPECT_EQ(element->warnings, 1);
+    EXPECT_EQ(takePosted(), (Names{"currentSlideWantsToHidePreviousButton", "navigateToNthSlide"}))
+        << "the slide that stays is announced all the same";
+    EXPECT_EQ(log.takeLines(),
+              (Names{"debug: Will transition to next slide",
+                     "warning: Transition to the next slides prevented since the slide contains invalid "
+                     "mandatory elements"}));
+    previous();
+    EXPECT_EQ(takeTransitions(), Names{"1>0"});
+    EXPECT_EQ(element->warnings, 1);
+}
+
+TEST_F(ContentModel, DoesNotQuitFromAnInvalidSlide) {
+    start({slide()});
+    invalidate();
+    static_cast<void>(log.takeLines());
+    next();
+    EXPECT_EQ(quits.count, 0);
+    EXPECT_EQ(element->warnings, 1);
+    EXPECT_EQ(log.lines().back(),
+              "warning: App termination prevented since the slide contains invalid mandatory elements");
+    center.post(NavigationNotifications::allMandatoryElementsInSlideAreValid);
+    next();
+    EXPECT_EQ(quits.count, 1);
+}
+
+TEST_F(ContentModel, AsksTheSideContainerBeforeItQuits) {
+    struct Case {
+        bool isValid;
+        bool isValidAfterWarning;
+        int warnings;
+        int quits;
+    };
+    for (const Case &row : {Case{true, true, 0, 1}, Case{false, false, 1, 0}, Case{false, true, 1, 1}}) {
+        start({slide()});
+        SideContainer side;
+        side.isValid = row.isValid;
+        side.isValidAfterWarning = row.isValidAfterWarning;
+        model->setTerminationDelegate(&side);
+        quits.count = 0;
+        model->tryToQuitApplication();
+        EXPECT_EQ(side.warnings, row.warnings);
+        EXPECT_EQ(quits.count, row.quits);
+    }
+}
+
+TEST_F(ContentModel, LeavesIndexesThatAreNoneAlone) {
+    start({});
+    model->setSelectedIndex(0, true);
+    EXPECT_EQ(takePosted(), Names{});
+    start({slide(), slide()});
+    model->setSelectedIndex(3, true);
+    EXPECT_EQ(model->selectedSlideIndex(), 0);
+    EXPECT_EQ(takeTransitions(), Names{});
+}
+
+TEST_F(ContentModel, StaysWhereItIsWhenAReloadKeepsTheNumberOfSlides) {
+    start({slide(), slide()});
+    model->setSelectedIndex(1, false);
+    takePosted();
+    int reloads = 0;
+    model->reloadSlidesIfCountChanged([&] { ++reloads; });
+    EXPECT_EQ(reloads, 1);
+    EXPECT_EQ(model->selectedSlideIndex(), 1);
+    EXPECT_EQ(takePosted(), Names{"evaluateButtonsHide"});
+}
+
+TEST_F(ContentModel, ShowsTheMenuBarsSlideInItsMode) {
+    start({slide(), slide()}, WindowSection::OnScreen::menuBar);
+    model->setSelectedIndex(0, false);
+    EXPECT_EQ(takePosted(), (Names{"currentSlideWantsToHideNextButton", "willReachSoleSlideNotification"}));
+}
+
+TEST_F(ContentModel, MakesNoTransitionOnceItsControllerIsGone) {
+    start({slide(), slide()});
+    next();
+    model->setController(nullptr);
+    EXPECT_EQ(takeTransitions(), Names{});
+    next();
+    model.reset();
+    EXPECT_EQ(takeTransitions(), Names{});
+}
+
+} // namespace
+} // namespace velmar
