@@ -1,0 +1,139 @@
+#include <AppDelegate/AppDelegate.h>
+
+#include <AppDelegate/ApplicationMenu.h>
+#include <AppDelegate/Localization.h>
+#include <AppDelegate/Services/AdminModeAppDelegateService.h>
+#include <AppDelegate/Services/CustomWindowAppDelegateService.h>
+#include <AppDelegate/Services/LoginRelaunchAppDelegateService.h>
+#include <Constants/Domain.h>
+#include <Views/CustomViews/Theme.h>
+
+#include <Desktop/DesktopAppearance.h>
+#include <Desktop/KeyEventMonitor.h>
+#include <Foundation/UserDefaults.h>
+#include <logger/Logger.h>
+
+#include <cstdlib>
+#include <utility>
+
+namespace velmar {
+
+/// The quit that the last slide offers: nothing else holds it back.
+class AppDelegate::QuitAttempt final : public AppTerminationManagerProtocol {
+public:
+    explicit QuitAttempt(DesktopApplication &application) : application_(application) {}
+    void tryToQuitApplication() override { application_.terminate(); }
+
+private:
+    DesktopApplication &application_;
+};
+
+namespace {
+
+AppManager::KeyDownMonitor addKeyDownMonitor(AppManager::KeyDownHandler handler) {
+    return std::make_shared<KeyEventMonitor>(
+        [handler = std::move(handler)](const KeyEventMonitor::Event &event) {
+            return handler({.characters = event.charactersIgnoringModifiers,
+                            .modifiers = {.command = event.command,
+                                          .control = event.control,
+                                          .option = event.option,
+                                          .shift = event.shift}});
+        });
+}
+
+} // namespace
+
+AppDelegate::AppDelegate(Surroundings surroundings)
+    : surroundings_(std::move(surroundings)),
+      quitAttempt_(std::make_unique<QuitAttempt>(surroundings_.application)) {
+    DesktopApplication &application = surroundings_.application;
+    Theme::install(application.appearance());
+    Localization::install();
+    customWindow_ =
+        std::make_shared<CustomWindowAppDelegateService>(CustomWindowAppDelegateService::Surroundings{
+            .mainMenu = application.mainMenu(),
+            .screens = &Screens::current,
+            .didPaint =
+                [&application] {
+                    Logger::debug("First paint");
+                    application.appearance().followSettingsService();
+                },
+            .view = {.mainQueue = application.mainQueue(),
+                     .appTerminationManager = *quitAttempt_,
+                     .appearance = application.appearance(),
+                     .reloadInterface = [](bool byResetingVariables) {
+                         AppManager::shared()->reloadInterface(byResetingVariables);
+                     }}});
+    application.mainMenu().setItems(ApplicationMenu::items(
+        {.quit = [&application] { application.terminate(); },
+         .reloadInterfaceSavingVariables =
+             [window = customWindow_] { window->controller()->reloadInterfaceSavingVariables(); },
+         .reloadInterfaceResetingVariables =
+             [window = customWindow_] { window->controller()->reloadInterfaceResetingVariables(); }}));
+}
+
+AppDelegate::~AppDelegate() {
+    // The entries hold the window, which holds the menu bar that watches the entries.
+    surroundings_.application.mainMenu().setItems({});
+}
+
+std::vector<std::shared_ptr<AppDelegateService>> AppDelegate::services() {
+    return {customWindow_,
+            std::make_shared<AdminModeAppDelegateService>(surroundings_.application.mainMenu()),
+            std::make_shared<LoginRelaunchAppDelegateService>(LoginItem(), relaunchCommand())};
+}
+
+void AppDelegate::applicationWillFinishLaunching() {
+    try {
+        makeAppManager();
+    } catch (const std::exception &error) {
+        const ConfigurationRefusal refusal{.alert =
+                                               [this](const std::string &message, const std::string &button) {
+                                                   surroundings_.alerts.runModal(
+                                                       {.style = Alert::Style::critical,
+                                                        .messageText = message,
+                                                        .informativeText = {},
+                                                        .buttons = {button}});
+                                               },
+                                           // The toolkit's objects are still in use, so nothing is torn down.
+                                           .exit = [](int status) { std::_Exit(status); }};
+        refusal.exitBecauseOf(error);
+    }
+    ServiceableAppDelegate::applicationWillFinishLaunching();
+}
+
+void AppDelegate::makeAppManager() {
+    UserDefaults defaults(Domain::defaultsSuite);
+    appManager_.emplace(std::make_shared<AppManager>(AppManager::Surroundings{
+        .locator = ConfigurationLocator(surroundings_.options, defaults, FileManager::defaultManager()),
+        .identityAuthority = surroundings_.identityAuthority,
+        .addKeyDownMonitor = &addKeyDownMonitor,
+        .terminate = [this] { surroundings_.application.terminate(); }}));
+}
+
+void AppDelegate::applicationDidFinishLaunching() {
+    ServiceableAppDelegate::applicationDidFinishLaunching();
+    Logger::debug("Application did finish launching");
+}
+
+void AppDelegate::applicationWillTerminate() {
+    ServiceableAppDelegate::applicationWillTerminate();
+    Logger::debug("Application will terminate");
+    Logger::debug(std::string(81, '-'));
+    Logger::debug("-");
+}
+
+bool AppDelegate::applicationShouldTerminateAfterLastWindowClosed() {
+    return _onScreen() != WindowSection::OnScreen::menuBar;
+}
+
+std::vector<std::string> AppDelegate::relaunchCommand() const {
+    // Of the arguments only the configuration's name: others may be secrets.
+    std::vector<std::string> command{surroundings_.executable};
+    if (surroundings_.options.configuration) {
+        command.insert(command.end(), {"-c", *surroundings_.options.configuration});
+    }
+    return command;
+}
+
+} // namespace velmar

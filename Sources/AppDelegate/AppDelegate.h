@@ -1,0 +1,66 @@
+#pragma once
+
+#include <AppDelegate/ServiceableAppDelegate.h>
+#include <Configuration/Configuration.h>
+#include <Managers/AppManager.h>
+#include <Managers/Config.h>
+#include <Managers/LaunchOptions.h>
+#include <Managers/Shared.h>
+#include <Views/Content/ContentView/ContentViewModel.h>
+
+#include <Desktop/Alert.h>
+#include <Desktop/DesktopApplication.h>
+#include <System/IdentityAuthority.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace velmar {
+
+class CustomWindowAppDelegateService;
+
+/// The application's delegate: makes the shared AppManager at the first event, and has the services of the
+/// chain do the rest. Made after the application, and destroyed before it.
+class AppDelegate final : public ServiceableAppDelegate {
+public:
+    /// What the delegate works with; the references must outlive it.
+    struct Surroundings {
+        DesktopApplication &application;
+        AlertPresenter &alerts;
+        const IdentityAuthority &identityAuthority;
+        LaunchOptions options;
+        /// The absolute path of the program.
+        std::string executable;
+    };
+
+    explicit AppDelegate(Surroundings surroundings);
+    ~AppDelegate() override;
+
+    /// All but the first are new at each reading.
+    [[nodiscard]] std::vector<std::shared_ptr<AppDelegateService>> services() override;
+
+    /// Ends the process behind an alert if there is no configuration to be admitted.
+    void applicationWillFinishLaunching() override;
+    void applicationDidFinishLaunching() override;
+    void applicationWillTerminate() override;
+    bool applicationShouldTerminateAfterLastWindowClosed() override;
+
+private:
+    class QuitAttempt;
+
+    void makeAppManager();
+    [[nodiscard]] std::vector<std::string> relaunchCommand() const;
+
+    Config<WindowSection::OnScreen> _onScreen{
+        [](const Configuration &c) -> auto &{return c._window()._onScreen();
+}
+}; // namespace velmar
+Surroundings surroundings_;
+std::unique_ptr<QuitAttempt> quitAttempt_;
+std::shared_ptr<CustomWindowAppDelegateService> customWindow_;
+std::optional<Shared<AppManager>::Scope> appManager_;
+}
+;
+
+} // namespace velmar

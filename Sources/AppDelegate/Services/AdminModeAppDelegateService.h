@@ -1,0 +1,29 @@
+#pragma once
+
+#include <AppDelegate/AppDelegateService.h>
+#include <Configuration/Configuration.h>
+#include <Managers/Config.h>
+
+namespace velmar {
+
+class MainMenu;
+
+/// Takes the administrators' entries out of the menus unless the configuration is in admin mode.
+class AdminModeAppDelegateService final : public AppDelegateService {
+public:
+    explicit AdminModeAppDelegateService(MainMenu &mainMenu) : mainMenu_(mainMenu) {}
+    AdminModeAppDelegateService(MainMenu &mainMenu, bool isAdminModeOn) : mainMenu_(mainMenu) {
+        _isAdminModeOn.setOverrideValue(isAdminModeOn);
+    }
+
+    void applicationDidFinishLaunching() override;
+
+private:
+    Config<bool> _isAdminModeOn{[](const Configuration &c) -> auto &{return c._admin()._isAdminModeOn();
+}
+}; // namespace velmar
+MainMenu &mainMenu_;
+}
+;
+
+} // namespace velmar

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <AppDelegate/AppDelegateService.h>
+#include <Configuration/Configuration.h>
+#include <Managers/Config.h>
+
+#include <Desktop/LoginItem.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace velmar {
+
+/// Decides at each start whether the application comes back at the next login.
+class LoginRelaunchAppDelegateService final : public AppDelegateService {
+public:
+    /// `command` starts the application again as it was started.
+    LoginRelaunchAppDelegateService(LoginItem loginItem, std::vector<std::string> command,
+                                    std::optional<bool> relaunchAtLogin = std::nullopt);
+
+    void applicationDidFinishLaunching() override;
+
+private:
+    Config<bool> _relaunchAtLogin{
+        [](const Configuration &c) -> auto &{return c._appTermination()._relaunchAtLogin();
+}
+}; // namespace velmar
+LoginItem loginItem_;
+std::vector<std::string> command_;
+}
+;
+
+} // namespace velmar
