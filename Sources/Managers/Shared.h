@@ -65,7 +65,7 @@ private:
 
     static State &state() {
         // Never destroyed: a pool thread may still read while the process ends.
-        static State *const state = new State;
+        static auto *const state = new State;
         return *state;
     }
 };
