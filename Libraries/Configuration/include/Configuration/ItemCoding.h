@@ -145,11 +145,12 @@ struct Decodable<T> {
                 fmt::format("Missing required key '{}' or wrong value. Expected type: {}",
                             decoding.path.lastKey(), plistType())});
         }
-        T item = makeDefault<T>();
-        visitKeys(item, [&](auto &key) { key.decode(*dictionary, decoding.path, decoding.context); });
+        // First, because the key that is missed may be there with a slip.
         if (decoding.context.notes() != nullptr) {
             detail::noteUnknownKeys<T>(*dictionary, decoding);
         }
+        T item = makeDefault<T>();
+        visitKeys(item, [&](auto &key) { key.decode(*dictionary, decoding.path, decoding.context); });
         detail::validateKeys(item, decoding);
         if constexpr (PostDecodingValidatable<T>) {
             detail::validateItem(item, decoding);
