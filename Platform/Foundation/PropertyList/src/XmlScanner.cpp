@@ -141,7 +141,8 @@ void XmlScanner::skipPast(std::string_view terminator, std::string_view what) {
 }
 
 void XmlScanner::skipWhiteSpace() noexcept {
-    while (position_ < text_.size() && isWhiteSpace(text_[position_])) {
+    // XML has no other characters as low as these.
+    while (position_ < text_.size() && static_cast<unsigned char>(text_[position_]) <= ' ') {
         ++position_;
     }
 }
@@ -323,6 +324,10 @@ char32_t XmlScanner::characterOfNumber(std::string_view number) const noexcept {
 void XmlScanner::endTag(const Tag &start) {
     const std::size_t offset = position_;
     position_ += 2;
+    if (startsWith(start.name) && peek(start.name.size()) == '>') {
+        position_ += start.name.size() + 1;
+        return;
+    }
     const std::string_view found = name();
     if (found != start.name) {
         // A cut file is no wrong tag.
