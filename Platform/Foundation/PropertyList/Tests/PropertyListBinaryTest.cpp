@@ -12,9 +12,12 @@ static std::string number(std::uint64_t value, int width) {
     return bytes;
 }
 
-/// A file of these objects, the first being the root, with references of one byte.
-static std::string fileOf(const std::vector<std::string> &objects, const std::string &offsetPatch = "") {
+/// A file of these objects, the first being the root, with references of one byte, and of as many bytes that
+/// nothing refers to.
+static std::string fileOf(const std::vector<std::string> &objects, const std::string &offsetPatch = "",
+                          std::size_t ballast = 0) {
     std::string bytes = "bplist00";
+    bytes.reserve(ballast + (ballast >> 4)); // Copies of it would count where memory is measured.
     std::string table;
     for (const std::string &object : objects) {
         table += number(bytes.size(), 2);
@@ -23,9 +26,11 @@ static std::string fileOf(const std::vector<std::string> &objects, const std::st
     if (!offsetPatch.empty()) {
         table.replace(0, offsetPatch.size(), offsetPatch);
     }
+    bytes.append(ballast, '\0');
     const std::size_t tableOffset = bytes.size();
-    return bytes + table + number(0, 6) + "\x02\x01" + number(objects.size(), 8) + number(0, 8) +
-           number(tableOffset, 8);
+    bytes +=
+        table + number(0, 6) + "\x02\x01" + number(objects.size(), 8) + number(0, 8) + number(tableOffset, 8);
+    return bytes;
 }
 
 static std::string bytesOf(const PropertyList &value) {
@@ -156,6 +161,23 @@ TEST(PropertyListBinary, RefusesEveryStrictPrefixAndBearsEveryChangedByte) {
     }
 }
 
+static void expectRefusal(const std::vector<std::string> &objects, std::string_view reason,
+                          std::size_t ballast = 0) {
+    const std::string text = errorOfReading(fileOf(objects, "", ballast)).errorDescription();
+    EXPECT_NE(text.find(reason), std::string::npos) << text;
+}
+
+/// The most memory that the process ever had, in bytes; 0 where sanitizers take most of it.
+static std::size_t memoryPeak() {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    return 0;
+#else
+    rusage usage{};
+    EXPECT_EQ(getrusage(RUSAGE_SELF, &usage), 0);
+    return static_cast<std::size_t>(usage.ru_maxrss) * 1024;
+#endif
+}
+
 TEST(PropertyListBinary, RefusesSharedValuesThatExpandToGigabytes) {
     std::vector<std::string> arrays; // Ten references each to the next: 10^9 texts.
     std::vector<std::string> dictionaries;
@@ -168,15 +190,47 @@ TEST(PropertyListBinary, RefusesSharedValuesThatExpandToGigabytes) {
     arrays.push_back("\x54text");
     dictionaries.push_back("\xA0"s);
     dictionaries.push_back("\x51k");
-    for (const std::vector<std::string> &objects : {arrays, dictionaries, texts}) {
-        EXPECT_NE(errorOfReading(fileOf(objects)).errorDescription().find("expand to more than is allowed"),
-                  std::string::npos);
+    expectRefusal(arrays, "more than 1000000 values");
+    expectRefusal(dictionaries, "more than 1000000 values");
+    expectRefusal(texts, "expand to more than is allowed");
+    EXPECT_LT(memoryPeak(), 200'000'000U);
+}
+
+TEST(PropertyListBinary, AllowsALargeFileNoMoreSharingThanASmallOne) {
+    constexpr std::size_t ballast = 60 << 20;
+    expectRefusal({"\xAF\x11"s + number(4000, 2) + std::string(4000, '\1'),
+                   "\xAF\x11"s + number(4000, 2) + std::string(4000, '\2'), "\x09"},
+                  "more than 1000000 values", ballast);
+    expectRefusal({"\xAF\x11"s + number(4000, 2) + std::string(4000, '\1'),
+                   "\x5F\x11"s + number(50000, 2) + std::string(50000, 'x')},
+                  "expand to more than is allowed", ballast);
+    EXPECT_LT(memoryPeak(), 200'000'000U);
+}
+
+TEST(PropertyListBinary, CountsObjectsThatLieOverEachOtherAsShared) {
+    // 200 of data, each of which begins in the one before and goes on to the end of the last.
+    constexpr std::size_t count = 200;
+    constexpr std::size_t length = 400'000;
+    std::string bytes = "bplist00\xAF\x10"s + number(count, 1);
+    for (std::size_t data = 1; data <= count; ++data) {
+        bytes += static_cast<char>(data);
     }
-#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
-    rusage usage{};
-    ASSERT_EQ(getrusage(RUSAGE_SELF, &usage), 0);
-    EXPECT_LT(usage.ru_maxrss, 200 * 1024);
-#endif
+    std::string table = number(8, 4);
+    for (std::size_t data = count; data > 0; --data) {
+        table += number(bytes.size(), 4);
+        bytes += "\x4F\x12"s + number(length + 6 * (data - 1), 4);
+    }
+    const std::size_t tableOffset = bytes.size() + length;
+    bytes += std::string(length, 'x') + table + number(0, 6) + "\x04\x01" + number(count + 1, 8) +
+             number(0, 8) + number(tableOffset, 8);
+    EXPECT_NE(errorOfReading(bytes).errorDescription().find("expand to more than is allowed"),
+              std::string::npos);
+}
+
+TEST(PropertyListBinary, ReadsEachObjectOnceForNothing) {
+    const std::string text(40 << 20, 'x'); // More than may be shared.
+    EXPECT_EQ(*PropertyList::read(fileOf({"\x5F\x12"s + number(text.size(), 4) + text})).value.string(),
+              text);
 }
 
 TEST(PropertyListBinary, RefusesDepth) {

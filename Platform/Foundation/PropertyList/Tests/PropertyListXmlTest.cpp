@@ -178,6 +178,29 @@ TEST(PropertyListXml, RefusesDepthWithoutGoingThere) {
     }
 }
 
+TEST(PropertyListXml, BoundsTheNumberOfValues) {
+    const auto values = [](std::size_t count) {
+        std::string text = "<plist><array>\n";
+        for (std::size_t value = 1; value < count; ++value) {
+            text += "<true/>";
+        }
+        return text + "</array></plist>";
+    };
+    EXPECT_EQ(PropertyList::read(values(PropertyList::maximumValues)).value.array()->size(),
+              PropertyList::maximumValues - 1);
+    EXPECT_EQ(errorOfReading(values(PropertyList::maximumValues + 1)).errorDescription(),
+              "The property list is not valid at line 2: there are more than 1000000 values.");
+}
+
+TEST(PropertyListXml, RefusesALargeFileThatWasCutOffBeforeItIsRead) {
+    // Were it read, the unknown element would be what is told.
+    const std::string text = "<plist>\n<array><foo/>" + std::string(9 << 20, ' ') + "\n<true/>";
+    EXPECT_EQ(errorOfReading(text).errorDescription(),
+              "The property list is not valid at line 3: the text ends before the property list does.");
+    EXPECT_NE(errorOfReading(text + "</array></plist>\n<!-- end -->").errorDescription().find("<foo>"),
+              std::string::npos);
+}
+
 TEST(PropertyListXml, KeepsPlacesAndLinesOfKeysAndValues) {
     std::string text = "<plist>\n<dict>\n";
     for (int line = 3; line < 5000; line += 2) {

@@ -13,10 +13,10 @@ namespace velmar {
 
 static constexpr std::size_t headerSize = 8;
 static constexpr std::size_t trailerSize = 32;
-static constexpr std::size_t budgetConstant = std::size_t{16} << 20;
-static constexpr std::size_t budgetFactor = 16;
 // What an allocation takes besides its bytes.
 static constexpr std::size_t allocationOverhead = 16;
+// A text of no more bytes needs none.
+static constexpr std::size_t bytesInPlace = 15;
 
 // Upper halves of markers.
 static constexpr std::uint8_t simpleType = 0x0;
@@ -35,7 +35,9 @@ void PropertyListBinaryReader::fail(std::string_view reason, std::size_t offset)
 
 PropertyList::Document PropertyListBinaryReader::read() {
     readTrailer();
-    budget_ = budgetConstant + budgetFactor * bytes_.size();
+    unreadBytes_ = bytes_.size();
+    budget_ = PropertyList::maximumSharedBytes;
+    wasRead_.resize(objectCount_);
     isOpen_.resize(objectCount_);
     readTree();
     return {builder_.takeRoot(), PropertyList::Document::Form::Binary, builder_.takeDuplicates(),
@@ -88,10 +90,13 @@ void PropertyListBinaryReader::readTree() {
 
 void PropertyListBinaryReader::readObject(std::uint64_t index) {
     const Object object = objectAt(index);
-    charge(sizeof(PropertyList), object);
+    if (builder_.isFull()) {
+        fail(fmt::format("there are more than {} values", PropertyList::maximumValues), object.offset);
+    }
     if (object.type == arrayType || object.type == dictionaryType) {
         openContainer(index, object);
     } else {
+        charge(index, object);
         builder_.addValue(scalar(object), static_cast<std::uint32_t>(object.offset));
     }
 }
@@ -105,7 +110,7 @@ void PropertyListBinaryReader::openContainer(std::uint64_t index, const Object &
         fail(fmt::format("the values are nested more than {} deep", PropertyList::maximumDepth),
              object.offset);
     }
-    // All members are charged as they come; this only makes sure that their references are there.
+    // All members are counted as they come; this only makes sure that their references are there.
     static_cast<void>(contents(object, isDictionary ? 2 * referenceWidth_ : referenceWidth_));
     isOpen_[index] = true;
     frames_.push_back(Frame{index, object, 0, isDictionary});
@@ -165,16 +170,33 @@ std::uint64_t PropertyListBinaryReader::number(std::size_t offset, std::size_t w
     return value;
 }
 
-void PropertyListBinaryReader::charge(std::size_t bytes, const Object &object) {
-    if (bytes > budget_) {
+// Values are counted, so only their texts and data can grow. Each object is read once for nothing, as long as
+// all of them together are no more than the file: those of a good one do not overlap.
+void PropertyListBinaryReader::charge(std::uint64_t index, const Object &object) {
+    constexpr std::size_t longestUnit = 3; // Of UTF-16, in bytes of UTF-8.
+    const bool isUtf16 = object.type == utf16Type;
+    if (!isUtf16 && object.type != asciiType && object.type != dataType) {
+        return;
+    }
+    const std::size_t stored = contents(object, isUtf16 ? 2 : 1).size();
+    const std::size_t needed = isUtf16 ? object.count * longestUnit : stored;
+    if (needed <= (object.type == dataType ? 0 : bytesInPlace)) {
+        return;
+    }
+    if (!wasRead_[index] && stored <= unreadBytes_) {
+        wasRead_[index] = true;
+        unreadBytes_ -= stored;
+        return;
+    }
+    if (needed + allocationOverhead > budget_) {
         fail("shared values expand to more than is allowed", object.offset);
     }
-    budget_ -= bytes;
+    budget_ -= needed + allocationOverhead;
 }
 
 std::string PropertyListBinaryReader::key(std::uint64_t index) {
     const Object object = objectAt(index);
-    charge(sizeof(PropertyList::Dictionary::Entry) - sizeof(PropertyList), object);
+    charge(index, object);
     if (object.type == asciiType) {
         return asciiString(object);
     }
@@ -184,7 +206,7 @@ std::string PropertyListBinaryReader::key(std::uint64_t index) {
     fail("a key is not a string", object.offset);
 }
 
-PropertyList PropertyListBinaryReader::scalar(const Object &object) {
+PropertyList PropertyListBinaryReader::scalar(const Object &object) const {
     switch (object.type) {
     case simpleType:
         return simple(object);
@@ -201,7 +223,6 @@ PropertyList PropertyListBinaryReader::scalar(const Object &object) {
     }
     case dataType: {
         const std::span<const std::byte> bytes = contents(object, 1);
-        charge(bytes.size() + allocationOverhead, object);
         return PropertyList::Data{{bytes.begin(), bytes.end()}};
     }
     case asciiType:
@@ -253,9 +274,8 @@ double PropertyListBinaryReader::real(const Object &object) const {
     return width == 4 ? std::bit_cast<float>(static_cast<std::uint32_t>(bits)) : std::bit_cast<double>(bits);
 }
 
-std::string PropertyListBinaryReader::asciiString(const Object &object) {
+std::string PropertyListBinaryReader::asciiString(const Object &object) const {
     const std::span<const std::byte> bytes = contents(object, 1);
-    charge(bytes.size() + allocationOverhead, object);
     std::string text(reinterpret_cast<const char *>(bytes.data()), bytes.size());
     if (!isAscii(text)) {
         fail("an ASCII string has other characters", object.offset);
@@ -263,10 +283,8 @@ std::string PropertyListBinaryReader::asciiString(const Object &object) {
     return text;
 }
 
-std::string PropertyListBinaryReader::utf16String(const Object &object) {
-    constexpr std::size_t longestUnit = 3; // Bytes of UTF-8.
+std::string PropertyListBinaryReader::utf16String(const Object &object) const {
     const std::size_t units = contents(object, 2).size() / 2;
-    charge(units * longestUnit + allocationOverhead, object);
     const auto unit = [&](std::size_t place) {
         return static_cast<char16_t>(number(object.contents + 2 * place, 2));
     };

@@ -46,16 +46,16 @@ private:
     void openContainer(std::uint64_t index, const Object &object);
     [[nodiscard]] Object objectAt(std::uint64_t index) const;
     [[nodiscard]] std::uint64_t member(const Frame &frame, std::size_t number) const;
-    [[nodiscard]] PropertyList scalar(const Object &object);
+    [[nodiscard]] PropertyList scalar(const Object &object) const;
     [[nodiscard]] PropertyList simple(const Object &object) const;
     [[nodiscard]] PropertyList integer(const Object &object) const;
     [[nodiscard]] double real(const Object &object) const;
-    [[nodiscard]] std::string asciiString(const Object &object);
-    [[nodiscard]] std::string utf16String(const Object &object);
+    [[nodiscard]] std::string asciiString(const Object &object) const;
+    [[nodiscard]] std::string utf16String(const Object &object) const;
     [[nodiscard]] std::string key(std::uint64_t index);
     [[nodiscard]] std::span<const std::byte> contents(const Object &object, std::size_t width) const;
     [[nodiscard]] std::uint64_t number(std::size_t offset, std::size_t width) const noexcept;
-    void charge(std::size_t bytes, const Object &object);
+    void charge(std::uint64_t index, const Object &object);
     [[noreturn]] void fail(std::string_view reason, std::size_t offset) const;
 
     std::span<const std::byte> bytes_;
@@ -64,7 +64,9 @@ private:
     std::size_t tableOffset_ = 0;
     std::uint64_t objectCount_ = 0;
     std::uint64_t rootIndex_ = 0;
-    std::size_t budget_ = 0;
+    std::size_t unreadBytes_ = 0; ///< Of texts and data that may still be read for the first time.
+    std::size_t budget_ = 0;      ///< For reading them again.
+    std::vector<bool> wasRead_;
     std::vector<bool> isOpen_;
     std::vector<Frame> frames_;
     PropertyListBuilder builder_;

@@ -34,6 +34,7 @@ void PropertyListBuilder::addKey(std::string key, std::uint32_t offset) {
 
 void PropertyListBuilder::addValue(PropertyList value, std::uint32_t offset) {
     value.setOffset(offset);
+    ++valueCount_;
     if (frames_.empty()) {
         root_ = std::move(value);
         hasRoot_ = true;

@@ -25,6 +25,10 @@ public:
     [[nodiscard]] bool isAtMaximumDepth() const noexcept {
         return frames_.size() >= PropertyList::maximumDepth;
     }
+    /// Whether one more value would be more than PropertyList::maximumValues.
+    [[nodiscard]] bool isFull() const noexcept {
+        return valueCount_ + frames_.size() >= PropertyList::maximumValues;
+    }
 
     void openArray(std::uint32_t offset) { open(offset, false); }
     void openDictionary(std::uint32_t offset) { open(offset, true); }
@@ -65,6 +69,7 @@ private:
     PropertyList root_;
     std::vector<PropertyList::DuplicateKey> duplicates_;
     std::size_t bytesOfDuplicates_ = 0;
+    std::size_t valueCount_ = 0; // Without the open containers.
     bool hasRoot_ = false;
     bool keyWaits_ = false;
 };

@@ -9,6 +9,8 @@ namespace velmar {
 
 using Expected = PropertyListBuilder::Expected;
 
+static constexpr std::size_t sizeOfLargeText = std::size_t{8} << 20;
+
 static std::uint32_t placeOf(const XmlScanner::Tag &tag) noexcept {
     return static_cast<std::uint32_t>(tag.offset);
 }
@@ -18,6 +20,10 @@ PropertyList::Document PropertyListXmlReader::read() {
         scanner_.fail(reasonOfBadByte(text_, bad), bad);
     }
     const Tag root = scanner_.root();
+    // A large file that was cut off is not built first; a small one is, which tells more about the place.
+    if (text_.size() > sizeOfLargeText && text_.rfind("</plist") == text_.npos) {
+        scanner_.fail("the text ends before the property list does", text_.size());
+    }
     if (root.form == Tag::Form::Start) {
         readTree(root);
     }
@@ -102,6 +108,9 @@ void PropertyListXmlReader::requirePlaceForValue(const Tag &tag) const {
     }
     if (builder_.expected() == Expected::Nothing) {
         scanner_.fail("the element <plist> has more than one value", tag.offset);
+    }
+    if (builder_.isFull()) {
+        scanner_.fail(fmt::format("there are more than {} values", PropertyList::maximumValues), tag.offset);
     }
 }
 

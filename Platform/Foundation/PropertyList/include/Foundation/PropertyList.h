@@ -19,7 +19,10 @@ namespace velmar {
 class PropertyList {
 public:
     static constexpr std::uint32_t noOffset = std::numeric_limits<std::uint32_t>::max();
-    static constexpr std::size_t maximumDepth = 256; ///< Of arrays and dictionaries within each other.
+    static constexpr std::size_t maximumDepth = 256;        ///< Of arrays and dictionaries within each other.
+    static constexpr std::size_t maximumValues = 1'000'000; ///< In a tree that is read, the root included.
+    /// What texts and data of the binary form may take beyond one reading of each.
+    static constexpr std::size_t maximumSharedBytes = std::size_t{32} << 20;
 
     /// Bytes of a <data> element.
     struct Data {
@@ -138,9 +141,11 @@ public:
 
     /// Reads the XML or the binary form, whichever the bytes are. Throws PropertyListError. Any thread.
     ///
-    /// Limits: less than 4 GiB; maximumDepth. XML must be UTF-8; no entities beyond the five of XML and
-    /// characters by number, nothing is fetched. References of the binary form may be shared, and what they
-    /// expand to takes at most 16 MiB and 16 times the size of the bytes.
+    /// Limits: less than 4 GiB; maximumDepth; maximumValues, each of 40 bytes, or 80 with its key, and the
+    /// bytes of longer texts and of data. XML must be UTF-8; no entities beyond the five of XML and
+    /// characters by number, nothing is fetched. References of the binary form may be shared, up to
+    /// maximumValues and maximumSharedBytes when every one is followed. So a refusal takes at most the size
+    /// of the bytes (half as much again for UTF-16), and some 120 MB for the values and what they share.
     [[nodiscard]] static Document read(std::span<const std::byte> bytes);
     [[nodiscard]] static Document read(std::string_view bytes);
 
