@@ -1,17 +1,23 @@
 #include <CommandLine.h>
 
+#include <Configuration/ConfigurationVersion.h>
 #include <ConfigurationCheck.h>
 
 #include <CLI/CLI.hpp>
+#include <fmt/format.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace velmar {
 
-ExitStatus runCommandLine(std::vector<std::string> arguments, const IdentityAuthority &authority,
-                          std::ostream &out, std::ostream &err) {
+namespace {
+
+ExitStatus run(std::vector<std::string> arguments, const IdentityAuthority &authority, std::ostream &out,
+               std::ostream &err) {
     CLI::App app("The administrator's tool for Velmar.", "velmarctl");
-    app.set_version_flag("--version", "velmarctl " VELMAR_VERSION);
+    app.set_version_flag("--version", fmt::format("velmarctl {} (configuration {})", VELMAR_VERSION,
+                                                  ConfigurationVersion::version));
     app.require_subcommand(1);
 
     CLI::App *check =
@@ -29,7 +35,7 @@ ExitStatus runCommandLine(std::vector<std::string> arguments, const IdentityAuth
         std::ranges::reverse(arguments); // CLI11 takes them from the back.
         app.parse(arguments);
     } catch (const CLI::ParseError &error) {
-        return app.exit(error, out, err) == 0 ? ExitStatus::wouldRun : ExitStatus::wrongUse;
+        return app.exit(error, out, err) == 0 ? ExitStatus::wouldRun : ExitStatus::failed;
     }
 
     const ConfigurationCheck checker({.admission = !noAdmission, .strict = strict}, authority);
@@ -45,6 +51,18 @@ ExitStatus runCommandLine(std::vector<std::string> arguments, const IdentityAuth
     const bool isRefused = std::ranges::find(diagnostics, Diagnostic::Severity::error,
                                              &Diagnostic::severity) != diagnostics.end();
     return isRefused ? ExitStatus::refused : ExitStatus::wouldRun;
+}
+
+} // namespace
+
+ExitStatus runCommandLine(std::vector<std::string> arguments, const IdentityAuthority &authority,
+                          std::ostream &out, std::ostream &err) {
+    const ExitStatus status = run(std::move(arguments), authority, out, err);
+    if (!out.flush()) {
+        err << "velmarctl: The output could not be written.\n";
+        return ExitStatus::failed;
+    }
+    return status;
 }
 
 } // namespace velmar

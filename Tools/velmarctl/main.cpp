@@ -14,6 +14,6 @@ int main(int argumentCount, char **arguments) {
         return static_cast<int>(status);
     } catch (const std::exception &error) {
         std::cerr << "velmarctl: " << error.what() << '\n';
-        return static_cast<int>(velmar::ExitStatus::refused);
+        return static_cast<int>(velmar::ExitStatus::failed);
     }
 }

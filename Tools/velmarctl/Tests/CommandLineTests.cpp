@@ -8,6 +8,7 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <fstream>
 #include <sstream>
 #include <string_view>
 
@@ -16,8 +17,10 @@
 namespace velmar {
 namespace {
 
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::MatchesRegex;
 using testing::StartsWith;
 
 constexpr std::string_view slides = R"(<key>Slides</key>
@@ -156,13 +159,24 @@ TEST_F(CommandLineTest, WritesControlCharactersOut) {
                 StartsWith("x\\x1b[2J\\x0a.plist: error: "));
 }
 
+TEST_F(CommandLineTest, FailsWhenTheOutputCannotBeWritten) {
+    std::ofstream out("/dev/full");
+    std::ostringstream err;
+    EXPECT_EQ(runCommandLine({"check", directory_.path("x")}, authority_, out, err), ExitStatus::failed);
+    EXPECT_EQ(err.str(), "velmarctl: The output could not be written.\n");
+}
+
 TEST_F(CommandLineTest, ExplainsItsUse) {
-    EXPECT_THAT(run({"--help"}, ExitStatus::wouldRun), HasSubstr("check"));
-    EXPECT_THAT(run({"check", "--help"}, ExitStatus::wouldRun), HasSubstr("--no-admission"));
-    EXPECT_THAT(run({"--version"}, ExitStatus::wouldRun), StartsWith("velmarctl 0."));
+    EXPECT_THAT(run({"--help"}, ExitStatus::wouldRun),
+                AllOf(HasSubstr("The administrator's tool for Velmar."), HasSubstr("check")));
+    EXPECT_THAT(
+        run({"check", "--help"}, ExitStatus::wouldRun),
+        AllOf(HasSubstr("FILE"), HasSubstr("--no-admission"), HasSubstr("--json"), HasSubstr("--strict")));
+    EXPECT_THAT(run({"--version"}, ExitStatus::wouldRun),
+                MatchesRegex("velmarctl [0-9.]+ \\(configuration Velmar-[0-9.]+\\)\n"));
     const std::vector<std::string> wrongUses[] = {{}, {"check"}, {"chek", "x"}, {"check", "--foo", "x"}};
     for (const auto &wrong : wrongUses) {
-        EXPECT_THAT(run(wrong, ExitStatus::wrongUse), IsEmpty());
+        EXPECT_THAT(run(wrong, ExitStatus::failed), IsEmpty());
         EXPECT_FALSE(complaints_.empty());
     }
 }
