@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 #include <utility>
 
 namespace velmar {
@@ -23,6 +24,9 @@ namespace {
 
 using Severity = Diagnostic::Severity;
 
+// More warnings say no more.
+constexpr std::size_t mostWarnings = 1000;
+
 // What the application would log beside refusing the file, such as the owner that it found.
 class RecordingDestination final : public BaseDestination {
 public:
@@ -30,16 +34,12 @@ public:
 
     void write(std::span<const LogRecord> records) override {
         for (const LogRecord &record : records) {
-            Diagnostic diagnostic;
-            diagnostic.severity = record.level == LogLevel::error ? Severity::error : Severity::warning;
-            diagnostic.message = record.context.empty()
-                                     ? record.message
-                                     : fmt::format("{} {}", record.message, record.context);
-            diagnostics.push_back(std::move(diagnostic));
+            lines.push_back(record.context.empty() ? record.message
+                                                   : fmt::format("{} {}", record.message, record.context));
         }
     }
 
-    std::vector<Diagnostic> diagnostics;
+    std::vector<std::string> lines;
 
 private:
     static DestinationSettings synchronous() {
@@ -49,15 +49,6 @@ private:
         return settings;
     }
 };
-
-std::optional<std::size_t> lineOf(const PropertyList::Document &document, std::uint32_t offset) {
-    const std::size_t line = document.lineOf(offset);
-    return line == 0 ? std::nullopt : std::optional(line);
-}
-
-std::string joined(const std::string &path, const std::string &key) {
-    return path.empty() ? key : fmt::format("{}.{}", path, key);
-}
 
 void admit(const ConfigurationFile &file, const std::string &path, const ConfigurationCheck::Options &options,
            const IdentityAuthority &authority) {
@@ -70,24 +61,34 @@ void admit(const ConfigurationFile &file, const std::string &path, const Configu
     }
 }
 
-void decode(const std::string &content, std::vector<Diagnostic> &diagnostics) {
+Diagnostic makeDiagnostic(Severity severity, std::string message) {
+    Diagnostic diagnostic;
+    diagnostic.severity = severity;
+    diagnostic.message = std::move(message);
+    return diagnostic;
+}
+
+void decode(const ConfigurationFile &file, std::vector<Diagnostic> &diagnostics) {
     PropertyList::Document document;
     try {
-        document = PropertyList::read(content);
+        document = PropertyList::read(file.content());
     } catch (const PropertyListError &error) {
-        diagnostics.push_back({{}, Severity::error, {}, {}, error.errorDescription()});
+        diagnostics.push_back(makeDiagnostic(Severity::error, error.errorDescription()));
         if (error.line() != 0) {
             diagnostics.back().line = error.line();
         }
         return;
     }
+    const auto add = [&](Severity severity, std::string keyPath, std::uint32_t offset, std::string message) {
+        const std::size_t line = document.lineOf(offset);
+        Diagnostic &added = diagnostics.emplace_back(makeDiagnostic(severity, std::move(message)));
+        added.keyPath = std::move(keyPath);
+        added.line = line == 0 ? std::nullopt : std::optional(line);
+    };
     for (const auto &duplicate : document.duplicates) {
-        diagnostics.push_back(
-            {{},
-             Severity::warning,
-             joined(duplicate.path, duplicate.key),
-             lineOf(document, duplicate.offset),
-             fmt::format("The key '{}' is given more than once; the last one counts", duplicate.key)});
+        const std::string &key = duplicate.key;
+        add(Severity::warning, duplicate.path.empty() ? key : fmt::format("{}.{}", duplicate.path, key),
+            duplicate.offset, fmt::format("The key '{}' is given more than once; the last one counts", key));
     }
     DecodingNotes notes;
     std::optional<std::string> refusal;
@@ -96,16 +97,26 @@ void decode(const std::string &content, std::vector<Diagnostic> &diagnostics) {
     } catch (const LocalizedError &error) {
         refusal = error.errorDescription();
     }
-    for (const auto &note : notes.notes) {
-        diagnostics.push_back(
-            {{}, Severity::warning, note.keyPath, lineOf(document, note.offset), note.message});
+    for (auto &note : notes.notes) {
+        add(Severity::warning, std::move(note.keyPath), note.offset, std::move(note.message));
     }
-    if (refusal) {
-        diagnostics.push_back({{}, Severity::error, {}, {}, *std::move(refusal)});
-        if (notes.failure) {
-            diagnostics.back().keyPath = notes.failure->keyPath;
-            diagnostics.back().line = lineOf(document, notes.failure->offset);
-        }
+    if (refusal && notes.failure) {
+        add(Severity::error, std::move(notes.failure->keyPath), notes.failure->offset, *std::move(refusal));
+    } else if (refusal) {
+        diagnostics.push_back(makeDiagnostic(Severity::error, *std::move(refusal)));
+    }
+}
+
+// Leaves the first warnings, and every error.
+void limitWarnings(std::vector<Diagnostic> &diagnostics) {
+    std::size_t warnings = 0;
+    const std::size_t more = std::erase_if(diagnostics, [&](const Diagnostic &diagnostic) {
+        return diagnostic.severity == Severity::warning && ++warnings > mostWarnings;
+    });
+    if (more > 0) {
+        std::find_if(diagnostics.rbegin(), diagnostics.rend(), [](const Diagnostic &diagnostic) {
+            return diagnostic.severity == Severity::warning;
+        })->notes.push_back(fmt::format("and {} more", more));
     }
 }
 
@@ -122,14 +133,18 @@ std::vector<Diagnostic> ConfigurationCheck::check(const std::string &file) const
         try {
             const ConfigurationFile configurationFile(URL::file(file));
             admit(configurationFile, file, options_, authority_);
-            decode(configurationFile.content(), diagnostics);
+            decode(configurationFile, diagnostics);
         } catch (const VelmarError &error) {
-            diagnostics.push_back({{}, Severity::error, {}, {}, error.errorDescription()});
+            diagnostics.push_back(makeDiagnostic(Severity::error, error.errorDescription()));
+            diagnostics.back().notes.swap(log->lines); // One fault, whose reason is in the log.
         }
     }
-    diagnostics.insert(diagnostics.begin(), log->diagnostics.begin(), log->diagnostics.end());
+    for (std::string &line : log->lines) {
+        diagnostics.push_back(makeDiagnostic(Severity::warning, std::move(line)));
+    }
     std::ranges::stable_sort(diagnostics, {},
                              [](const Diagnostic &diagnostic) { return diagnostic.line.value_or(0); });
+    limitWarnings(diagnostics);
     for (Diagnostic &diagnostic : diagnostics) {
         diagnostic.file = file;
         if (options_.strict) {

@@ -22,7 +22,8 @@ public:
     ConfigurationCheck(Options options, const IdentityAuthority &authority);
 
     /// What there is to say, in the order of the lines; the application would refuse the file if there is an
-    /// error. The process's log is turned to this list meanwhile.
+    /// error. Of very many warnings the first 1000 stand for all. The process's log is turned to this list
+    /// meanwhile.
     [[nodiscard]] std::vector<Diagnostic> check(const std::string &file) const;
 
 private:

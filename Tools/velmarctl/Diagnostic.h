@@ -6,6 +6,7 @@
 #include <ostream>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace velmar {
 
@@ -22,10 +23,14 @@ struct Diagnostic {
     std::optional<std::size_t>
         line; ///< Counts from 1; absent where the file has no lines or the place is not known.
     std::string message;
+    std::vector<std::string> notes; ///< What explains it, such as the reason that the application logged.
 };
 
 /// One line each in the manner of compilers, "FILE:LINE: error|warning: KEYPATH: text", without the parts
-/// that are absent. Control characters are written out ("\x1b"), but for the line feeds of a message.
+/// that are absent; a line "FILE: note: text" behind it for each of its notes. Behind a line feed of a text
+/// stand four blanks, so that no value of the file makes a line that looks like a diagnostic. What would
+/// steer a terminal (controls, changes of the direction of writing) and what isn't UTF-8 is written out, as
+/// "\x1b", "\u202e" and "\xff".
 void writeText(std::ostream &out, std::span<const Diagnostic> diagnostics);
 
 /// A JSON list of objects with the members of Diagnostic; null where one is absent.
