@@ -33,6 +33,11 @@ TEST(Configuration, IsAdmittedOrRefusedAsAWhole) {
          "</dict></array></dict></array>",
          "Missing required key 'Type' at 'Slides.0.Containers.0.Components.0'"},
         {"<key>Slides</key><array><dict><key>Containers</key><array><dict><key>Components</key><array>"
+         "<string>abc</string></array></dict></array></dict></array>",
+         "Decoding error at 'Slides.0.Containers.0.Components.0'. Missing required key 'Components' or wrong "
+         "value. "
+         "Expected type: dictionary (ComponentItem). The value is 'abc'."},
+        {"<key>Slides</key><array><dict><key>Containers</key><array><dict><key>Components</key><array>"
          "<dict><key>Type</key><string>text</string></dict></array></dict></array></dict></array>",
          "Decoding error at 'Slides.0.Containers.0.Components.0.Type'. The value is 'text'.\nExpected type: "
          "string | "
@@ -90,16 +95,16 @@ TEST(Configuration, WritesWhatItHasRead) {
         <key>ColorStyles</key><dict>
             <key>Accent</key><dict><key>DarkMode</key><string>#AABBCC</string><key>LightMode</key><string>#112233FF</string></dict>
             <key>Pale</key><dict><key>Style</key><string>Accent</string><key>AlphaLight</key><real>0.5</real></dict></dict>
-        <key>FontStyles</key><dict><key>Title</key><dict><key>Size</key><integer>28</integer><key>Color</key><string>Pale</string></dict></dict>
+        <key>FontStyles</key><dict><key>Title</key><dict><key>Size</key><real>28</real><key>Color</key><string>Pale</string></dict></dict>
         <key>Navigation</key><dict><key>NextButtonTextColor</key><dict><key>Style</key><string>Pale</string></dict></dict>
         <key>SideContainer</key><dict><key>Container</key><dict><key>Components</key><array>
             <dict><key>Type</key><string>Spacer</string><key>Height</key><real>2.5</real></dict>
             <dict><key>Type</key><string>Text</string><key>Text</key><string>Hello ${NAME}</string>
                   <key>TextFontConfiguration</key><string>Title</string>
                   <key>Border</key><dict><key>Edge</key><string>Bottom</string></dict></dict></array></dict></dict>)");
-    const PropertyList once = Configuration::decode(file)->encode();
-    const auto again = Configuration::decode(once);
-    EXPECT_EQ(again->encode(), once);
+    const auto configuration = Configuration::decode(file);
+    EXPECT_EQ(configuration->encode(), file);
+    const auto again = Configuration::decode(configuration->encode());
     const auto &text =
         std::get<ComponentItem::Text>(again->_sideContainer()->_container()._components()[1].value);
     EXPECT_EQ(text._font()->_color()->_lightMode(), (ColorItem::Specification{0x11, 0x22, 0x33, 0xFF}));

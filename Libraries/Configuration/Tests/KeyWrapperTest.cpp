@@ -85,7 +85,7 @@ TEST(KeyWrapper, DecodesOrFailsWithItsText) {
         {"<key>Name</key><string/><key>Count</key><real>1.5</real>",
          "Decoding error at 'Item.Count'. The value is the real 1.5.\nExpected type: integer (number)."},
         {"<key>Name</key><string/><key>Count</key><integer>18446744073709551615</integer>",
-         "Decoding error at 'Item.Count'. The value is the integer 18446744073709551615.\nExpected type: "
+         "Decoding error at 'Item.Count'. The value 18446744073709551615 is too large.\nExpected type: "
          "integer "
          "(number)."},
         {"<key>Name</key><string/><key>Share</key><integer>1</integer>", "decoded"},
@@ -108,7 +108,7 @@ TEST(KeyWrapper, DecodesOrFailsWithItsText) {
     EXPECT_EQ(
         outcome<TestItem>(PropertyList("text")),
         "Decoding error at 'Item'. Missing required key 'Item' or wrong value. Expected type: dictionary "
-        "(TestItem)");
+        "(TestItem). The value is 'text'.");
 }
 
 TEST(KeyWrapper, ReadsNumbersInArraysAsTexts) {
@@ -120,8 +120,20 @@ TEST(KeyWrapper, ReadsNumbersInArraysAsTexts) {
     using List = std::vector<std::string>;
     EXPECT_EQ(listOf("<integer>-4</integer><integer>7</integer>"), (List{"-4", "7"}));
     EXPECT_EQ(listOf("<real>0.5</real><real>2</real>"), (List{"0.5", "2.0"}));
+    EXPECT_EQ(listOf("<integer>1</integer><real>100000</real>"), (List{"1.0", "100000.0"}));
     EXPECT_EQ(listOf("<string>0x</string>"), (List{"0x"}));
     EXPECT_EQ(listOf(""), List{});
+}
+
+TEST(Texts, WriteNumbersWithAFraction) {
+    const std::vector<std::pair<double, const char *>> rows = {
+        {0.0, "0.0"},       {-0.0, "-0.0"},     {1, "1.0"},           {0.1 + 0.2, "0.30000000000000004"},
+        {0.0001, "0.0001"}, {0.00001, "1e-05"}, {100000, "100000.0"}, {1e16, "10000000000000000.0"},
+        {1e17, "1e+17"},
+    };
+    for (const auto &[number, text] : rows) {
+        EXPECT_EQ(textOf(number), text);
+    }
 }
 
 TEST(KeyWrapper, KnowsWhetherItWasGivenOrSet) {
@@ -249,6 +261,21 @@ TEST(DecodingNotes, NameWhatIsPassedOverAndWhatFailed) {
                 ElementsAre("Unknown key 'Quite different'", "Unknown key 'Txt' (did you mean 'Text'?)"));
     EXPECT_EQ(silent.notes[1].keyPath, "Slides.0.Containers.0.Components.0.Txt");
     EXPECT_EQ(unknown.lineOf(silent.notes[1].offset), 3U);
+}
+
+TEST(DecodingNotes, LeadToTheModelThatFails) {
+    const auto file = PropertyList::read(R"(<plist version="1.0"><dict>
+<key>Slides</key><array><dict><key>Containers</key><array/></dict></array>
+<key>ColorStyles</key><dict>
+<key>A</key><dict><key>DarkMode</key><string>#000000</string><key>LightMode</key><string>#000000</string></dict>
+<key>Z</key><dict>
+<key>Style</key><string>Nope</string></dict>
+</dict></dict></plist>)");
+    DecodingNotes notes;
+    EXPECT_THROW(static_cast<void>(Configuration::decode(file.value, &notes)), ConfigurationError);
+    ASSERT_TRUE(notes.failure);
+    EXPECT_EQ(notes.failure->keyPath, "ColorStyles.Z.Style");
+    EXPECT_EQ(file.lineOf(notes.failure->offset), 6U);
 }
 
 } // namespace

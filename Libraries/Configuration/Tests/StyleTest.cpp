@@ -59,12 +59,12 @@ TEST(Styles, FailWithTheirTexts) {
          "Wrong value 1.5 in allowed range 0.0...1.0 at ColorStyles.C.AlphaDark"},
         {color(both + "<key>AlphaDark</key><integer>1</integer>"), "decoded"},
         {color("<key>Style</key><string>C</string>"),
-         "Error at 'ColorStyles'. Variable 'C' ({Style = C}) used within its own initial value"},
+         "Error at 'ColorStyles.C.Style'. Variable 'C' ({Style = C}) used within its own initial value"},
         {color("<key>Style</key><string>Nowhere</string>"),
-         "Error at 'ColorStyles'. C has an undefined parent Nowhere"},
+         "Error at 'ColorStyles.C.Style'. C has an undefined parent Nowhere"},
         {"<key>ColorStyles</key><dict><key>A</key><dict><key>Style</key><string>B</string></dict>"
          "<key>B</key><dict><key>Style</key><string>A</string></dict></dict>",
-         "Error at 'ColorStyles'. Circular reference for ColorItems involving B"},
+         "Error at 'ColorStyles.B.Style'. Circular reference for ColorItems involving B"},
         {"<key>Navigation</key><dict><key>NextButtonTextColor</key><string>Nowhere</string></dict>",
          "Error at 'Navigation.NextButtonTextColor'. Undefined has an undefined parent Nowhere"},
         {"<key>FontStyles</key><dict><key>F</key><dict><key>Color</key><string>Nowhere</string></dict></"
@@ -72,8 +72,8 @@ TEST(Styles, FailWithTheirTexts) {
          "Error at 'FontStyles.F.Color'. Undefined has an undefined parent Nowhere"},
         {"<key>Navigation</key><dict><key>NextButtonTextColor</key><true/></dict>",
          "Decoding error at 'Navigation.NextButtonTextColor'. Missing required key 'NextButtonTextColor' or "
-         "wrong "
-         "value. Expected type: dictionary (ColorItem)"},
+         "wrong value. Expected type: string (name of a model) | dictionary (ColorItem). The value is a "
+         "boolean."},
     };
     for (const auto &[content, expected] : rows) {
         EXPECT_EQ(outcomeOf(validFileWith(content)), expected) << content;

@@ -9,18 +9,36 @@ namespace velmar {
 
 namespace {
 
+/// The key within its book of the model that an error is about; empty for none.
+std::string modelOf(const BookError &error) {
+    return std::visit(
+        [](const auto &fault) -> std::string {
+            if constexpr (requires { fault.name; }) {
+                return fault.name;
+            } else {
+                return {};
+            }
+        },
+        error.value());
+}
+
 /// Applies the parents of the models in a book of the configuration.
 template <class Model>
 void resolve(KeyWrapper<Book<Model>> &holder, const PropertyList &file, DecodingContext &context) {
     if (!holder.wasGivenValueWhileDecoding()) {
         return;
     }
-    const std::string key(holder.name().stringValue);
     try {
         holder.modify([](Book<Model> &book) { book.resolve(); });
     } catch (const BookError &error) {
-        context.noteFailure(key, file.dictionary()->find(key)->offset());
-        throw ConfigurationError(ConfigurationErrors::Custom{key, error.errorDescription()});
+        const std::string key(holder.name().stringValue);
+        const std::string model = modelOf(error);
+        const std::string parent(makeDefault<Model>()._parentModelName.name().stringValue);
+        const std::string path = fmt::format("{}.{}.{}", key, model, parent);
+        const PropertyList *value = file.dictionary()->find(key)->dictionary()->find(model);
+        context.noteFailure(path,
+                            value != nullptr ? value->dictionary()->find(parent)->offset() : file.offset());
+        throw ConfigurationError(ConfigurationErrors::Custom{path, error.errorDescription()});
     }
 }
 

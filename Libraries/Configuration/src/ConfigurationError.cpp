@@ -1,21 +1,9 @@
 #include <Configuration/ConfigurationError.h>
+#include <Configuration/Texts.h>
 
 #include <fmt/format.h>
 
-#include <array>
-#include <charconv>
-
 namespace velmar {
-
-std::string textOf(double number) {
-    std::array<char, 32> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number).ptr;
-    std::string text(buffer.data(), end);
-    if (text.find_first_not_of("-0123456789") == std::string::npos) {
-        text += ".0";
-    }
-    return text;
-}
 
 namespace ConfigurationErrors {
 

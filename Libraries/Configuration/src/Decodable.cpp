@@ -5,38 +5,6 @@
 
 namespace velmar {
 
-std::string possibleValuesText(std::span<const std::string_view> rawStrings) {
-    std::string text = "string | Possible values: ";
-    for (std::size_t index = 0; index < rawStrings.size(); ++index) {
-        text += fmt::format("{}'{}'", index == 0 ? "" : ", ", rawStrings[index]);
-    }
-    return text;
-}
-
-std::string foundText(const PropertyList &value) {
-    constexpr std::size_t longestShown = 80;
-    switch (value.kind()) {
-    case PropertyList::Kind::Boolean:
-        return "a boolean";
-    case PropertyList::Kind::Integer:
-    case PropertyList::Kind::UnsignedInteger:
-        return fmt::format("the integer {}", value.text());
-    case PropertyList::Kind::Real:
-        return fmt::format("the real {}", textOf(*value.real()));
-    case PropertyList::Kind::String:
-        return value.string()->size() > longestShown ? "a long string" : fmt::format("'{}'", *value.string());
-    case PropertyList::Kind::Data:
-        return "data";
-    case PropertyList::Kind::Date:
-        return "a date";
-    case PropertyList::Kind::Array:
-        return "an array";
-    case PropertyList::Kind::Dictionary:
-        break;
-    }
-    return "a dictionary";
-}
-
 void throwWrongType(const Decoding &decoding, const std::string &description,
                     const std::string &expectedType) {
     throw ConfigurationError(ConfigurationErrors::DecodingError{
@@ -45,6 +13,13 @@ void throwWrongType(const Decoding &decoding, const std::string &description,
 
 void throwWrongType(const Decoding &decoding, const std::string &expectedType) {
     throwWrongType(decoding, fmt::format("The value is {}.", foundText(decoding.value)), expectedType);
+}
+
+void throwNoItem(const Decoding &decoding, const std::string &expectedType) {
+    throw ConfigurationError(ConfigurationErrors::DecodingError{
+        decoding.path.text(),
+        fmt::format("Missing required key '{}' or wrong value. Expected type: {}. The value is {}.",
+                    decoding.path.lastKey(), expectedType, foundText(decoding.value))});
 }
 
 bool Decodable<bool>::decode(const Decoding &decoding) {
@@ -63,6 +38,10 @@ std::int64_t Decodable<std::int64_t>::decode(const Decoding &decoding) {
         if (*value >= -limit && *value < limit && std::trunc(*value) == *value) {
             return static_cast<std::int64_t>(*value);
         }
+    }
+    if (decoding.value.unsignedInteger() != nullptr) {
+        throwWrongType(decoding, fmt::format("The value {} is too large.", decoding.value.text()),
+                       plistType());
     }
     throwWrongType(decoding, plistType());
 }
@@ -93,20 +72,22 @@ std::string Decodable<std::string>::decode(const Decoding &decoding) {
 }
 
 std::vector<std::string> decodeTexts(const Decoding &decoding) {
-    const auto isWholeNumber = [](const PropertyList &value) {
-        return value.integer() || value.unsignedInteger();
+    const auto isWhole = [](const PropertyList &value) { return value.integer() || value.unsignedInteger(); };
+    const auto isNumber = [&](const PropertyList &value) {
+        return isWhole(value) || (value.real() != nullptr && std::isfinite(*value.real()));
     };
     if (const PropertyList::Array *array = decoding.value.array()) {
         const bool areTexts =
             std::ranges::all_of(*array, [](const PropertyList &value) { return value.string(); });
-        const bool areIntegers = std::ranges::all_of(*array, isWholeNumber);
-        const bool areReals =
-            std::ranges::all_of(*array, [](const PropertyList &value) { return value.real(); });
-        if (areTexts || areIntegers || areReals) {
+        const bool areWhole = std::ranges::all_of(*array, isWhole);
+        if (areTexts || areWhole || std::ranges::all_of(*array, isNumber)) {
             std::vector<std::string> texts;
             texts.reserve(array->size());
             for (const PropertyList &value : *array) {
-                texts.push_back(areTexts ? *value.string() : areReals ? textOf(*value.real()) : value.text());
+                texts.push_back(
+                    areTexts   ? *value.string()
+                    : areWhole ? value.text()
+                               : textOf(Decodable<double>::decode({value, decoding.path, decoding.context})));
             }
             return texts;
         }

@@ -4,55 +4,62 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <array>
 #include <optional>
 
 namespace velmar {
 
 namespace {
 
+/// No key of any item is nearly as long, and a comparison takes the product of the lengths.
+constexpr std::size_t longestCompared = 80;
+
+/// More than anybody reads; a file can have a million.
+constexpr std::size_t mostNotesWithHint = 1000;
+
 char lowered(char letter) {
     return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
 }
 
-bool equalButForCase(std::string_view left, std::string_view right) {
-    return std::ranges::equal(left, right, {}, lowered, lowered);
-}
-
 /// The number of letters to insert, delete, replace or swap with their neighbour (the optimal string
 /// alignment distance), the case of letters left aside.
+/// Both are at most longestCompared long.
 std::size_t distance(std::string_view from, std::string_view to) {
-    std::vector<std::size_t> beforeLast;
-    std::vector<std::size_t> last(to.size() + 1);
-    std::vector<std::size_t> row(to.size() + 1);
+    std::array<std::array<std::size_t, longestCompared + 1>, 3> rows{};
+    auto *beforeLast = &rows[0];
+    auto *last = &rows[1];
+    auto *row = &rows[2];
     for (std::size_t j = 0; j <= to.size(); ++j) {
-        row[j] = j;
+        (*row)[j] = j;
     }
     for (std::size_t i = 1; i <= from.size(); ++i) {
-        beforeLast = last;
-        last = row;
-        row[0] = i;
+        std::swap(beforeLast, last);
+        std::swap(last, row);
+        (*row)[0] = i;
         for (std::size_t j = 1; j <= to.size(); ++j) {
             const bool same = lowered(from[i - 1]) == lowered(to[j - 1]);
-            row[j] = std::min({last[j] + 1, row[j - 1] + 1, last[j - 1] + (same ? 0 : 1)});
+            (*row)[j] = std::min({(*last)[j] + 1, (*row)[j - 1] + 1, (*last)[j - 1] + (same ? 0 : 1)});
             if (i > 1 && j > 1 && lowered(from[i - 1]) == lowered(to[j - 2]) &&
                 lowered(from[i - 2]) == lowered(to[j - 1])) {
-                row[j] = std::min(row[j], beforeLast[j - 2] + 1);
+                (*row)[j] = std::min((*row)[j], (*beforeLast)[j - 2] + 1);
             }
         }
     }
-    return row[to.size()];
+    return (*row)[to.size()];
 }
 
 /// The known text that was most likely meant, if any comes near.
 std::optional<std::string_view> nearest(std::string_view given, std::span<const std::string_view> known) {
-    // No key of any item is nearly as long, and the comparison takes the product of the lengths.
-    constexpr std::size_t longestTaken = 80;
-    if (given.size() > longestTaken) {
+    if (given.size() > longestCompared) {
         return std::nullopt;
     }
     std::optional<std::string_view> best;
     std::size_t bestDistance = std::max<std::size_t>(given.size() / 3, 1) + 1;
     for (const std::string_view candidate : known) {
+        const auto [shorter, longer] = std::minmax(given.size(), candidate.size());
+        if (longer - shorter >= bestDistance || candidate.size() > longestCompared) {
+            continue;
+        }
         const std::size_t candidateDistance = distance(given, candidate);
         if (candidateDistance < bestDistance) {
             best = candidate;
@@ -88,6 +95,10 @@ std::optional<std::string> pathOf(const PropertyList &wanted, const PropertyList
 
 } // namespace
 
+bool equalButForCase(std::string_view left, std::string_view right) {
+    return std::ranges::equal(left, right, {}, lowered, lowered);
+}
+
 void DecodingContext::addReference(const PropertyList &value, std::function<void(const Library &)> settle) {
     references_.push_back({&value, std::move(settle)});
 }
@@ -118,7 +129,8 @@ void DecodingContext::noteFailure(const std::string &keyPath, std::uint32_t offs
 void DecodingContext::noteUnknownKey(const CodingPath &item, const std::string &key, std::uint32_t offset,
                                      std::span<const std::string_view> knownKeys) {
     std::string message = fmt::format("Unknown key '{}'", key);
-    if (const auto meant = nearest(key, knownKeys)) {
+    const auto meant = notes_->notes.size() < mostNotesWithHint ? nearest(key, knownKeys) : std::nullopt;
+    if (meant) {
         message += fmt::format(" (did you mean '{}'?)", *meant);
     }
     notes_->notes.push_back(

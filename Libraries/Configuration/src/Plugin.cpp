@@ -26,7 +26,8 @@ struct State {
 };
 
 State &state() {
-    static State instance;
+    // Never destroyed: other threads may still read while the process ends.
+    static State &instance = *new State;
     return instance;
 }
 

@@ -75,17 +75,9 @@ public:
     using ErrorOfCases::ErrorOfCases;
 };
 
-/// The part of a book that does not depend on its models: who the parent of a model may be.
-class BookProtocol {
-public:
-    virtual ~BookProtocol() = default;
-    [[nodiscard]] virtual bool contains(const std::string &name) const = 0;
-    virtual void resolve() = 0;
-};
-
 /// Named models. In the file a dictionary of items.
 template <class T>
-class Book final : public BookProtocol {
+class Book {
 public:
     using Model = T;
     using ModelStorage = std::map<std::string, T>;
@@ -95,10 +87,11 @@ public:
 
     [[nodiscard]] const ModelStorage &models() const { return models_; }
     [[nodiscard]] bool areModelsResolved() const { return areModelsResolved_; }
-    [[nodiscard]] bool contains(const std::string &name) const override { return models_.contains(name); }
 
-    /// Applies the parents of all models, once. Throws BookError.
-    void resolve() override {
+    /// Applies the parents of all models, once. Throws BookError, which names the model by its key in the
+    /// book.
+    void resolve() {
+        static_assert(Inheritable<T>);
         if (areModelsResolved_) {
             return;
         }

@@ -48,7 +48,7 @@ struct Configuration {
     [[nodiscard]] static std::shared_ptr<const Configuration> decode(const PropertyList &file,
                                                                      DecodingNotes *notes = nullptr);
 
-    /// The mirror of decoding: what was given or is required.
+    /// The mirror of decoding: what was given, set by code or is required.
     [[nodiscard]] PropertyList encode() const;
 
     /// There is something to show in the mode of the window. Throws ConfigurationError.

@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <optional>
 #include <span>
-#include <string>
 #include <string_view>
 
 namespace velmar {
@@ -53,8 +52,5 @@ template <ConfigurationEnum E>
     }();
     return texts;
 }
-
-/// "string | Possible values: 'Top', 'Bottom'"
-[[nodiscard]] std::string possibleValuesText(std::span<const std::string_view> rawStrings);
 
 } // namespace velmar

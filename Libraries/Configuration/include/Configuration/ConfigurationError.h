@@ -104,8 +104,4 @@ public:
     using ErrorOfCases::ErrorOfCases;
 };
 
-/// The text of a real number in messages: the shortest that reads back the same, with a fraction ("0.6",
-/// "1.0").
-[[nodiscard]] std::string textOf(double number);
-
 } // namespace velmar

@@ -3,6 +3,7 @@
 #include <Configuration/ConfigurationEnum.h>
 #include <Configuration/ConfigurationError.h>
 #include <Configuration/DecodingContext.h>
+#include <Configuration/Texts.h>
 #include <Foundation/PropertyList.h>
 
 #include <fmt/format.h>
@@ -23,13 +24,13 @@ namespace velmar {
 template <class T>
 struct Decodable;
 
-/// "a string 'abc'": what the file has in place of what was expected.
-[[nodiscard]] std::string foundText(const PropertyList &value);
-
 /// Throws the ConfigurationError of a value that is not of the expected type.
 [[noreturn]] void throwWrongType(const Decoding &decoding, const std::string &expectedType);
 [[noreturn]] void throwWrongType(const Decoding &decoding, const std::string &description,
                                  const std::string &expectedType);
+
+/// Throws the ConfigurationError of a value that is no dictionary where an item must be.
+[[noreturn]] void throwNoItem(const Decoding &decoding, const std::string &expectedType);
 
 template <>
 struct Decodable<bool> {
@@ -178,7 +179,7 @@ template <class T>
 concept CanBeDecodedAsTexts =
     std::is_same_v<T, std::vector<std::string>> || std::is_same_v<T, std::optional<std::vector<std::string>>>;
 
-/// An array all of texts, all of integers or all of reals, each as its text. Throws
+/// An array all of texts, all of integers or all of numbers, each as its text. Throws
 /// ArrayCodingStrategyFailed.
 [[nodiscard]] std::vector<std::string> decodeTexts(const Decoding &decoding);
 

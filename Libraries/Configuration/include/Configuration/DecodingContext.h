@@ -17,6 +17,9 @@ namespace velmar {
 
 struct Library;
 
+/// ASCII letters in upper and lower case count as the same.
+[[nodiscard]] bool equalButForCase(std::string_view left, std::string_view right);
+
 /// The surroundings of one decoding, from its root to the settling of the references. Used by one thread.
 class DecodingContext {
 public:

@@ -62,6 +62,10 @@ private:
     }
 
     Held decodeItem(const Decoding &decoding) const {
+        if (decoding.value.dictionary() == nullptr) {
+            throwNoItem(decoding,
+                        fmt::format("string (name of a model) | {}", Decodable<Model>::plistType()));
+        }
         const Held held(new Node(Base::decodeValue(decoding)));
         if (held->value->_parentModelName.rawValue()) {
             addReference(held, decoding);

@@ -140,10 +140,7 @@ struct Decodable<T> {
     static T decode(const Decoding &decoding) {
         const PropertyList::Dictionary *dictionary = decoding.value.dictionary();
         if (dictionary == nullptr) {
-            throw ConfigurationError(ConfigurationErrors::DecodingError{
-                decoding.path.text(),
-                fmt::format("Missing required key '{}' or wrong value. Expected type: {}",
-                            decoding.path.lastKey(), plistType())});
+            throwNoItem(decoding, plistType());
         }
         // First, because the key that is missed may be there with a slip.
         if (decoding.context.notes() != nullptr) {
@@ -173,8 +170,12 @@ struct Decodable<T> {
 
     static T decode(const Decoding &decoding) {
         const PropertyList::Dictionary *dictionary = decoding.value.dictionary();
-        const PropertyList *type = dictionary != nullptr ? dictionary->find(T::typeKey) : nullptr;
+        if (dictionary == nullptr) {
+            throwNoItem(decoding, plistType());
+        }
+        const PropertyList *type = dictionary->find(T::typeKey);
         if (type == nullptr) {
+            noteNearMissOfType(*dictionary, decoding);
             throw ConfigurationError(
                 ConfigurationErrors::MissingValueWithPath{std::string(T::typeKey), decoding.path.text()});
         }
@@ -207,6 +208,16 @@ struct Decodable<T> {
     static std::string plistType() { return fmt::format("dictionary ({})", T::typeName); }
 
 private:
+    /// Which keys are known depends on the type; without it only a slip in the type's own key can be told.
+    static void noteNearMissOfType(const PropertyList::Dictionary &dictionary, const Decoding &decoding) {
+        constexpr std::array<std::string_view, 1> known{T::typeKey};
+        for (const auto &entry : dictionary) {
+            if (decoding.context.notes() != nullptr && equalButForCase(entry.key, T::typeKey)) {
+                decoding.context.noteUnknownKey(decoding.path, entry.key, entry.keyOffset, known);
+            }
+        }
+    }
+
     template <std::size_t... Index>
     static T decodeAlternative(typename T::TypeIdentifier identifier, const Decoding &decoding,
                                std::index_sequence<Index...>) {

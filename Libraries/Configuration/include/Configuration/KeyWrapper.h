@@ -93,13 +93,11 @@ public:
         valueWasSet_ = true;
     }
 
-    /// Takes the value of another holder of the same key, for a model that inherits it.
-    void inherit(const KeyWrapper &parent) {
-        value_ = parent.value_;
-        valueWasSet_ = parent.valueWasSet_;
-    }
+    /// Takes the value of another holder of the same key, for a model that inherits it. It does not count as
+    /// set, so that the model is written as it was given.
+    void inherit(const KeyWrapper &parent) { value_ = parent.value_; }
 
-    /// Back to the default.
+    /// Back to the default. Whether the file gave the key stays known.
     void reset() {
         value_ = nullptr;
         valueWasSet_ = false;
@@ -118,7 +116,6 @@ public:
     /// Reads the key from the dictionary of its item, if it is there. Throws ConfigurationError.
     void decode(const PropertyList::Dictionary &item, const CodingPath &itemPath, DecodingContext &context) {
         decodeWith(item, itemPath, context,
-
                    [this](const Decoding &decoding) { return Held(new Node(decodeValue(decoding))); });
     }
 
