@@ -1,7 +1,6 @@
 #include "DeliveryQueue.h"
 
 #include <condition_variable>
-#include <csignal>
 #include <cstdint>
 #include <mutex>
 #include <thread>
@@ -13,27 +12,12 @@
 
 #include <fmt/core.h>
 
+#include <Dispatch/SignalsBlocked.h>
 #include <logger/BaseDestination.h>
 
 namespace velmar {
 
 namespace {
-
-// A thread takes over the signal mask of its creator: the logger's threads handle no signals of the process.
-class AllSignalsBlocked {
-public:
-    AllSignalsBlocked() {
-        sigset_t all;
-        sigfillset(&all);
-        pthread_sigmask(SIG_SETMASK, &all, &previous_);
-    }
-    ~AllSignalsBlocked() { pthread_sigmask(SIG_SETMASK, &previous_, nullptr); }
-    AllSignalsBlocked(const AllSignalsBlocked &) = delete;
-    AllSignalsBlocked &operator=(const AllSignalsBlocked &) = delete;
-
-private:
-    sigset_t previous_{};
-};
 
 std::size_t bytesOf(const LogRecord &record) {
     return record.message.size() + record.context.size();
@@ -86,7 +70,7 @@ public:
 
 private:
     void start() {
-        const AllSignalsBlocked blocked;
+        const SignalsBlocked blocked;
         std::thread([self = shared_from_this()] { self->run(); }).detach();
         started_ = true;
     }

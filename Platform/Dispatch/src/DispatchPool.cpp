@@ -1,7 +1,8 @@
 #include "DispatchPool.h"
 
+#include <Dispatch/SignalsBlocked.h>
+
 #include <algorithm>
-#include <csignal>
 #include <cstdlib>
 #include <thread>
 
@@ -15,25 +16,6 @@ constexpr std::chrono::seconds exitTimeout(2);
 std::atomic<DispatchPool *> startedPool{nullptr};
 std::atomic<bool> isEnded{false};
 thread_local bool isPoolThread = false;
-
-// Threads inherit the mask of the one that starts them: the signals that others send stay with the main
-// thread.
-class SignalsBlocked {
-public:
-    SignalsBlocked() {
-        sigset_t blocked;
-        sigfillset(&blocked);
-        for (const int fault : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGTRAP, SIGABRT, SIGSYS})
-            sigdelset(&blocked, fault);
-        pthread_sigmask(SIG_SETMASK, &blocked, &former_);
-    }
-    ~SignalsBlocked() { pthread_sigmask(SIG_SETMASK, &former_, nullptr); }
-    SignalsBlocked(const SignalsBlocked &) = delete;
-    SignalsBlocked &operator=(const SignalsBlocked &) = delete;
-
-private:
-    sigset_t former_{};
-};
 
 } // namespace
 
