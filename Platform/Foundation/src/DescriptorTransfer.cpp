@@ -1,5 +1,6 @@
 #include "DescriptorTransfer.h"
 
+#include <Foundation/DescriptorWriting.h>
 #include <Foundation/FileError.h>
 
 #include <algorithm>
@@ -47,14 +48,8 @@ std::string readRegularFile(const Descriptor &descriptor, const std::string &pat
 }
 
 void writeWhole(const Descriptor &descriptor, const std::string &path, std::string_view contents) {
-    while (!contents.empty()) {
-        const ssize_t count = write(descriptor.number(), contents.data(), contents.size());
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count < 0)
-            throw FileError::fromErrno(path, "written", errno);
-        contents.remove_prefix(static_cast<std::size_t>(count));
-    }
+    if (const int failure = writeAll(descriptor.number(), contents))
+        throw FileError::fromErrno(path, "written", failure);
 }
 
 } // namespace velmar

@@ -1,7 +1,7 @@
 #include <Foundation/FileError.h>
 
 #include <cerrno>
-#include <system_error>
+#include <cstring>
 #include <utility>
 
 namespace velmar {
@@ -23,8 +23,9 @@ std::string FileFailure::TooLarge::errorDescription() const {
 }
 
 std::string FileFailure::SystemError::errorDescription() const {
-    return "The item at '" + path + "' couldn't be " + action + ": " + std::generic_category().message(code) +
-           ".";
+    const char *reason = strerrordesc_np(code); // Whatever the locale.
+    return "The item at '" + path + "' couldn't be " + action + ": " +
+           (reason != nullptr ? reason : "error " + std::to_string(code)) + ".";
 }
 
 FileError FileError::fromErrno(std::string path, std::string action, int code) {
