@@ -68,9 +68,8 @@ TEST_F(FileDestinationTest, AppendsToWhatIsThereAndCreatesWhatIsMissing) {
 
 TEST_F(FileDestinationTest, WritesAnyBytesOfAMessage) {
     FileDestination destination({.logFileURL = at("log")}, plain());
-    const std::string bytes("a\nb\0\xff$M", 8);
-    log(destination, bytes);
-    EXPECT_EQ(contentOf(at("log")), bytes + "\n");
+    log(destination, std::string("a\nb\0\xff$M", 7));
+    EXPECT_EQ(contentOf(at("log")), "a\nb\\x00\xff$M\n");
 }
 
 TEST_F(FileDestinationTest, NoticesThatItsFileWasRemovedOrReplaced) {

@@ -1,5 +1,7 @@
 #include <logger/LogFormat.h>
 
+#include <cstdlib>
+#include <ctime>
 #include <memory>
 
 #include <gtest/gtest.h>
@@ -13,6 +15,16 @@ using namespace std::chrono_literals;
 
 // 2024-02-09 14:02:11.0459 in the time zone of this test, five and a half hours east of Greenwich.
 const auto time = std::chrono::system_clock::time_point(1'707'467'531s + 45'900us);
+
+// Set here and not only by what runs the tests.
+class LocalTimeZone : public testing::Environment {
+public:
+    void SetUp() override {
+        setenv("TZ", "IST-5:30", 1);
+        tzset();
+    }
+};
+[[maybe_unused]] const auto *const localTimeZone = testing::AddGlobalTestEnvironment(new LocalTimeZone);
 
 std::string printed(std::string_view format, bool colored = false, LogLevel level = LogLevel::warning,
                     std::string context = "[The file doesn't exist.]") {
@@ -30,7 +42,7 @@ std::string printed(std::string_view format, bool colored = false, LogLevel leve
 }
 
 TEST(LogFormat, PrintsEachTokenAndAnyOtherTextAsItStands) {
-    const std::string message("done $L $M\0\xff", 12);
+    const std::string message("done $L $M\\x00\xff");
     const struct {
         std::string_view format;
         std::string expected;
@@ -50,6 +62,32 @@ TEST(LogFormat, PrintsEachTokenAndAnyOtherTextAsItStands) {
         EXPECT_EQ(printed(format), expected) << format;
     }
     EXPECT_EQ(printed("$C$L$c", true), ">4m⚠️<");
+}
+
+TEST(LogFormat, LetsNoMessageForgeALineOrSteerATerminal) {
+    const struct {
+        std::string message;
+        std::string context;
+        std::string expected;
+    } cases[] = {
+        {"x\n[Velmar] 00:00:00 🛑 > forged", "", "x\n [Velmar] 00:00:00 🛑 > forged "},
+        {"x\n[Velmar]", "forged", "x\n [Velmar] forged"},
+        {"x\n\n[Velmar]\n[Velmar]", "", "x\n\n [Velmar]\n [Velmar] "},
+        {"x", "y\r\n[Velmar]\tz", "x y\\x0D\n [Velmar]\tz"},
+        {"permissions:\n [root", "", "permissions:\n [root "},
+        {"x\n[Other]\ny", "", "x\n[Other]\ny "},
+        {"\x1b[2J\x7f\b", "\xC2\x9B[2J", "\\x1B[2J\\x7F\\x08 \\x9B[2J"},
+        {"50\xC2\xA0€ \xC2", "", "50\xC2\xA0€ \xC2 "},
+    };
+    for (const auto &[message, context, expected] : cases) {
+        LogRecord record;
+        record.message = message;
+        record.context = context;
+        // What stands before it is a line of its own.
+        std::string line = "[Velmar] before\n";
+        LogFormat("[Velmar] $M $X").append(line, record, {}, false);
+        EXPECT_EQ(line, "[Velmar] before\n[Velmar] " + expected);
+    }
 }
 
 TEST(LogFormat, LeavesTheBlankOfTheFormatWhereThereIsNoContext) {

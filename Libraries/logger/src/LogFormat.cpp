@@ -1,7 +1,10 @@
 #include <logger/LogFormat.h>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
+
+#include <fmt/format.h>
 
 namespace velmar {
 
@@ -11,6 +14,28 @@ std::string_view stemOf(std::string_view path) {
     path = path.substr(path.rfind('/') + 1);
     const auto dot = path.rfind('.');
     return dot == 0 ? path : path.substr(0, dot);
+}
+
+bool isControl(unsigned char byte) {
+    return (byte < 0x20 && byte != '\n' && byte != '\t') || byte == 0x7F;
+}
+
+// Appends what came from outside. The controls from U+0080 to U+009F, which terminals obey too, are two
+// bytes.
+void appendPrintable(std::string &line, std::string_view text) {
+    constexpr unsigned char leadOfUpperControls = 0xC2;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const auto byte = static_cast<unsigned char>(text[at]);
+        const auto next = static_cast<unsigned char>(at + 1 < text.size() ? text[at + 1] : '\0');
+        if (isControl(byte)) {
+            fmt::format_to(std::back_inserter(line), "\\x{:02X}", byte);
+        } else if (byte == leadOfUpperControls && next >= 0x80 && next < 0xA0) {
+            fmt::format_to(std::back_inserter(line), "\\x{:02X}", next);
+            ++at;
+        } else {
+            line += text[at];
+        }
+    }
 }
 
 } // namespace
@@ -42,6 +67,10 @@ LogFormat::LogFormat(std::string_view format) {
     if (!literal.empty()) {
         pieces_.emplace_back(std::move(literal));
     }
+    if (!pieces_.empty() && std::holds_alternative<std::string>(pieces_.front())) {
+        head_ = std::get<std::string>(pieces_.front());
+        head_.resize(head_.find_last_not_of(" \t\n") + 1);
+    }
 }
 
 std::optional<LogFormat::Token> LogFormat::tokenOf(char letter) {
@@ -71,6 +100,7 @@ std::optional<LogFormat::Token> LogFormat::tokenOf(char letter) {
 
 void LogFormat::append(std::string &line, const LogRecord &record, const DestinationSettings &settings,
                        bool colored) const {
+    const std::size_t start = line.size();
     for (const Piece &piece : pieces_) {
         if (const auto *literal = std::get_if<std::string>(&piece)) {
             line += *literal;
@@ -78,6 +108,19 @@ void LogFormat::append(std::string &line, const LogRecord &record, const Destina
             date->append(line, record.time);
         } else {
             appendToken(line, std::get<Token>(piece), record, settings, colored);
+        }
+    }
+    indentContinuations(line, start);
+}
+
+// In the finished line, since a message's end and the context may make up such a beginning together.
+void LogFormat::indentContinuations(std::string &line, std::size_t start) const {
+    if (head_.empty()) {
+        return;
+    }
+    for (auto feed = line.find('\n', start); feed != line.npos; feed = line.find('\n', feed + 1)) {
+        if (std::string_view(line).substr(feed + 1).starts_with(head_)) {
+            line.insert(feed + 1, 1, ' ');
         }
     }
 }
@@ -96,10 +139,10 @@ void LogFormat::appendToken(std::string &line, Token token, const LogRecord &rec
         line += settings.levelString[record.level];
         break;
     case Token::message:
-        line += record.message;
+        appendPrintable(line, record.message);
         break;
     case Token::context:
-        line += record.context;
+        appendPrintable(line, record.context);
         break;
     case Token::file:
         line += stemOf(record.where.file);
@@ -111,7 +154,7 @@ void LogFormat::appendToken(std::string &line, Token token, const LogRecord &rec
         line += std::to_string(record.where.line);
         break;
     case Token::thread:
-        line += record.thread;
+        appendPrintable(line, record.thread);
         break;
     case Token::colorOn:
         if (colored) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -23,6 +24,10 @@ namespace velmar {
 ///
 /// Any other text is printed as it stands, a "$D" without its "$d" too. What a token prints is not expanded
 /// again.
+///
+/// No message looks like the work of others: control characters, but for tabs and line feeds, are printed as
+/// "\x1B", and a line feed is followed by a blank where the line behind it would begin as the format does,
+/// with the text before its first token ("[Velmar]").
 class LogFormat {
 public:
     explicit LogFormat(std::string_view format);
@@ -41,8 +46,11 @@ private:
     static std::optional<Token> tokenOf(char letter);
     static void appendToken(std::string &line, Token token, const LogRecord &record,
                             const DestinationSettings &settings, bool colored);
+    void indentContinuations(std::string &line, std::size_t start) const;
 
     std::vector<Piece> pieces_;
+    // What every line begins with, without the blanks at its end.
+    std::string head_;
 };
 
 } // namespace velmar

@@ -10,8 +10,8 @@ namespace velmar {
 
 /// Gives a final destination the application's format and level strings, and forwards each message to it: a
 /// line is
-/// "[" + display name + "] 14:02:11 ℹ️ > message context", with a trailing blank where there is no context.
-/// Level, filters and queue are the decorator's own.
+/// "[" + display name + "] 14:02:11 ℹ️ > message context", with a trailing blank where there is no
+/// context. Level, filters and queue are the decorator's own.
 class VelmarLogDestination : public BaseDestination {
 public:
     VelmarLogDestination() = delete;
