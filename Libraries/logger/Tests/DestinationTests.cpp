@@ -8,8 +8,10 @@
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
+#include <linux/capability.h>
 #include <sys/fsuid.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include <logger/ConsoleDestination.h>
@@ -161,6 +163,37 @@ TEST_F(RootsFileDestinationTest, GivesWhatItCreatesToTheOwner) {
     }
     EXPECT_EQ(attributesOf(at("home/..")).st_uid, 0U) << "what was there keeps its owner";
     EXPECT_EQ(setfsuid(static_cast<uid_t>(-1)), 0) << "the thread has its own rights again";
+}
+
+TEST_F(RootsFileDestinationTest, WritesNothingWhereTheOwnersRightsCannotBeHad) {
+    for (const unsigned capability : {CAP_SETUID, CAP_SETGID}) {
+        std::thread([&] {
+            __user_cap_header_struct header{.version = _LINUX_CAPABILITY_VERSION_3, .pid = 0};
+            __user_cap_data_struct data[_LINUX_CAPABILITY_U32S_3] = {};
+            ASSERT_EQ(syscall(SYS_capget, &header, data), 0);
+            data[0].effective &= ~(1U << capability);
+            ASSERT_EQ(syscall(SYS_capset, &header, data), 0);
+            logTo("home/Library/log");
+        }).join();
+        EXPECT_TRUE(fs::is_empty(at("home"))) << capability;
+    }
+}
+
+TEST_F(RootsFileDestinationTest, LendsTheOwnerNoneOfRootsGroups) {
+    constexpr gid_t group = 61'010;
+    fs::create_directory(at("shared"));
+    ASSERT_EQ(chown(at("shared").c_str(), 0, group), 0);
+    fs::permissions(at("shared"), fs::perms(0775));
+    std::vector<gid_t> after(1);
+    std::thread([&] {
+        // For this thread alone, unlike the function of the C library.
+        ASSERT_EQ(syscall(SYS_setgroups, 1, &group), 0);
+        logTo("shared/log");
+        logTo("shared/folder/log");
+        EXPECT_EQ(getgroups(1, after.data()), 1);
+    }).join();
+    EXPECT_TRUE(fs::is_empty(at("shared")));
+    EXPECT_EQ(after[0], group) << "the thread has its own rights again";
 }
 
 TEST_F(RootsFileDestinationTest, FollowsNoLinkOfTheOwner) {

@@ -1,12 +1,12 @@
 #include <logger/ConsoleDestination.h>
 
 #include <csignal>
+#include <cstring>
 #include <ctime>
-#include <system_error>
 
 #include <pthread.h>
 
-#include "FileDescriptor.h"
+#include <Foundation/DescriptorWriting.h>
 
 namespace velmar {
 
@@ -47,12 +47,12 @@ ConsoleDestination::ConsoleDestination(DestinationSettings settings, bool useTer
 
 void ConsoleDestination::write(std::span<const LogRecord> records) {
     const PipeSignalHeldBack heldBack;
-    try {
-        formatLines(records, useTerminalColors_,
-                    [this](std::string_view lines) { writeAll(descriptor_, lines); });
-    } catch (const std::system_error &error) {
-        reportLoss(error.what());
-    }
+    formatLines(records, useTerminalColors_, [this](std::string_view lines) {
+        if (const int failure = writeAll(descriptor_, lines)) {
+            const char *reason = strerrordesc_np(failure);
+            reportLoss(reason != nullptr ? reason : "the console cannot be written");
+        }
+    });
 }
 
 } // namespace velmar

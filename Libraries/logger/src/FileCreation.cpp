@@ -3,10 +3,14 @@
 #include <algorithm>
 #include <cerrno>
 #include <iterator>
-#include <system_error>
+#include <vector>
 
 #include <sys/fsuid.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <Foundation/FileError.h>
 
 namespace velmar {
 
@@ -18,25 +22,61 @@ constexpr mode_t folderMode = S_IRWXU | S_IRGRP | S_IXGRP | S_IROTH | S_IXOTH;
 
 constexpr int folderFlags = O_PATH | O_DIRECTORY | O_CLOEXEC;
 
-// The rights of a user in the file system, for the calling thread alone.
+// The rights of a user in the file system, for the calling thread alone: the groups too are those of a
+// thread, unless they are set through the C library.
 class ActingAs {
 public:
-    explicit ActingAs(const FileOwner &owner)
-        : previousGroup_(static_cast<gid_t>(setfsgid(owner.group))),
-          previousUser_(static_cast<uid_t>(setfsuid(owner.user))) {}
+    explicit ActingAs(const FileOwner &owner) : previousGroups_(groups()) {
+        isInForce_ = setGroups({}) && groups().empty();
+        previousGroup_ = static_cast<gid_t>(setfsgid(owner.group));
+        previousUser_ = static_cast<uid_t>(setfsuid(owner.user));
+        // The calls report no failure; another one, which never succeeds, tells what is so.
+        isInForce_ = isInForce_ && static_cast<gid_t>(setfsgid(noGroup)) == owner.group &&
+                     static_cast<uid_t>(setfsuid(noUser)) == owner.user;
+    }
     ~ActingAs() {
         const int error = errno;
         setfsuid(previousUser_);
         setfsgid(previousGroup_);
+        setGroups(previousGroups_);
         errno = error;
     }
     ActingAs(const ActingAs &) = delete;
     ActingAs &operator=(const ActingAs &) = delete;
 
+    [[nodiscard]] bool isInForce() const { return isInForce_; }
+
 private:
+    static constexpr auto noGroup = static_cast<gid_t>(-1);
+    static constexpr auto noUser = static_cast<uid_t>(-1);
+
+    static std::vector<gid_t> groups() {
+        const int count = getgroups(0, nullptr);
+        std::vector<gid_t> found(count > 0 ? static_cast<std::size_t>(count) : 0);
+        found.resize(found.empty() ? 0
+                                   : static_cast<std::size_t>(std::max(getgroups(count, found.data()), 0)));
+        return found;
+    }
+    static bool setGroups(const std::vector<gid_t> &groups) {
+        return syscall(SYS_setgroups, groups.size(), groups.data()) == 0;
+    }
+
+    std::vector<gid_t> previousGroups_;
     gid_t previousGroup_;
     uid_t previousUser_;
+    bool isInForce_ = false;
 };
+
+// What `make` opens with the rights of the owner; closed, with EPERM, where they cannot be had.
+template <class Make>
+Descriptor makeAs(const FileOwner &owner, const Make &make) {
+    const ActingAs user(owner);
+    if (!user.isInForce()) {
+        errno = EPERM;
+        return Descriptor();
+    }
+    return make();
+}
 
 // Whether nobody but root can change what is in the folder.
 bool isRootsAlone(int folder) {
@@ -53,64 +93,62 @@ bool giveTo(const FileOwner &owner, int descriptor) {
 FileCreation::FileCreation(std::optional<FileOwner> owner)
     : owner_(geteuid() == 0 && owner && owner->user != 0 ? owner : std::nullopt) {}
 
-FileDescriptor FileCreation::openFolder(const std::filesystem::path &folder,
-                                        const std::filesystem::path &required) const {
+Descriptor FileCreation::openFolder(const std::filesystem::path &folder,
+                                    const std::filesystem::path &required) const {
     const auto normal = folder.lexically_normal().relative_path();
     const auto kept = required.lexically_normal().relative_path();
     auto missingFrom = std::distance(kept.begin(), kept.end());
-    FileDescriptor current(open("/", folderFlags));
+    Descriptor current(open("/", folderFlags));
     for (const auto &component : normal) {
         if (component.empty()) {
             continue; // behind a trailing slash
         }
-        current = enter(current.get(), component, missingFrom-- <= 0);
-        if (!current.isOpen()) {
-            throw std::system_error(errno, std::generic_category(), folder);
+        current = enter(current.number(), component, missingFrom-- <= 0);
+        if (!current) {
+            throw FileError::fromErrno(folder, "opened", errno);
         }
     }
     return current;
 }
 
-FileDescriptor FileCreation::enter(int parent, const std::string &name, bool create) const {
+Descriptor FileCreation::enter(int parent, const std::string &name, bool create) const {
     const int flags = folderFlags | (owner_ ? O_NOFOLLOW : 0);
-    FileDescriptor folder(openat(parent, name.c_str(), flags));
-    if (folder.isOpen() || errno != ENOENT || !create) {
+    Descriptor folder(openat(parent, name.c_str(), flags));
+    if (folder || errno != ENOENT || !create) {
         return folder;
     }
     return makeFolder(parent, name);
 }
 
-FileDescriptor FileCreation::makeFolder(int parent, const std::string &name) const {
+Descriptor FileCreation::makeFolder(int parent, const std::string &name) const {
     const auto make = [&] {
         return mkdirat(parent, name.c_str(), folderMode) == 0 || errno == EEXIST
-                   ? FileDescriptor(openat(parent, name.c_str(), folderFlags | O_NOFOLLOW))
-                   : FileDescriptor();
+                   ? Descriptor(openat(parent, name.c_str(), folderFlags | O_NOFOLLOW))
+                   : Descriptor();
     };
     if (!owner_) {
         return make();
     }
     if (!isRootsAlone(parent)) {
-        const ActingAs user(*owner_);
-        return make();
+        return makeAs(*owner_, make);
     }
     // Nobody can swap it here between the making and the giving away.
-    FileDescriptor folder = make();
-    return folder.isOpen() && giveTo(*owner_, folder.get()) ? std::move(folder) : FileDescriptor();
+    Descriptor folder = make();
+    return folder && giveTo(*owner_, folder.number()) ? std::move(folder) : Descriptor();
 }
 
-FileDescriptor FileCreation::createFile(int folder, const std::string &name, int flags) const {
+Descriptor FileCreation::createFile(int folder, const std::string &name, int flags) const {
     const auto create = [&] {
-        return FileDescriptor(openat(folder, name.c_str(), flags | O_CREAT | O_EXCL, fileMode));
+        return Descriptor(openat(folder, name.c_str(), flags | O_CREAT | O_EXCL, fileMode));
     };
     if (!owner_) {
         return create();
     }
     if (!isRootsAlone(folder)) {
-        const ActingAs user(*owner_);
-        return create();
+        return makeAs(*owner_, create);
     }
-    FileDescriptor file = create();
-    return file.isOpen() && giveTo(*owner_, file.get()) ? std::move(file) : FileDescriptor();
+    Descriptor file = create();
+    return file && giveTo(*owner_, file.number()) ? std::move(file) : Descriptor();
 }
 
 bool FileCreation::mayOwn(uid_t user) const {

@@ -7,9 +7,8 @@
 #include <fcntl.h>
 #include <sys/types.h>
 
+#include <Foundation/Descriptor.h>
 #include <logger/FileDestination.h>
-
-#include "FileDescriptor.h"
 
 namespace velmar {
 
@@ -21,19 +20,19 @@ public:
     explicit FileCreation(std::optional<FileOwner> owner);
 
     /// Opens an absolute folder for use with the *at calls and makes what is missing of it, but for
-    /// `required` and the folders above that. Throws std::system_error.
-    [[nodiscard]] FileDescriptor openFolder(const std::filesystem::path &folder,
-                                            const std::filesystem::path &required) const;
+    /// `required` and the folders above that. Throws FileError.
+    [[nodiscard]] Descriptor openFolder(const std::filesystem::path &folder,
+                                        const std::filesystem::path &required) const;
 
     /// Makes a file that is not there. Closed and errno otherwise.
-    [[nodiscard]] FileDescriptor createFile(int folder, const std::string &name, int flags) const;
+    [[nodiscard]] Descriptor createFile(int folder, const std::string &name, int flags) const;
 
     /// Whether what belongs to this user may be written.
     [[nodiscard]] bool mayOwn(uid_t user) const;
 
 private:
-    [[nodiscard]] FileDescriptor enter(int parent, const std::string &name, bool create) const;
-    [[nodiscard]] FileDescriptor makeFolder(int parent, const std::string &name) const;
+    [[nodiscard]] Descriptor enter(int parent, const std::string &name, bool create) const;
+    [[nodiscard]] Descriptor makeFolder(int parent, const std::string &name) const;
 
     // Set only where the process is root's and the owner somebody else.
     std::optional<FileOwner> owner_;

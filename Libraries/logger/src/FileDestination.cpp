@@ -1,7 +1,8 @@
 #include <logger/FileDestination.h>
 
-#include <system_error>
 #include <utility>
+
+#include <Foundation/FileError.h>
 
 #include "LogFile.h"
 
@@ -23,8 +24,8 @@ void FileDestination::append(std::string_view lines) {
             opened_ = std::make_unique<LogFile>(file_);
         }
         opened_->append(lines);
-    } catch (const std::system_error &error) {
-        reportLoss(error.what());
+    } catch (const FileError &error) {
+        reportLoss(error.errorDescription());
     }
 }
 

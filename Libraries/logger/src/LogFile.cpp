@@ -1,9 +1,11 @@
 #include "LogFile.h"
 
 #include <cerrno>
-#include <system_error>
 
 #include <sys/stat.h>
+
+#include <Foundation/DescriptorWriting.h>
+#include <Foundation/FileError.h>
 
 #include "FileCreation.h"
 
@@ -16,21 +18,20 @@ constexpr int openFlags = O_WRONLY | O_APPEND | O_NOFOLLOW | O_NONBLOCK | O_NOCT
 // Others can remove and create the file in turn while it is being opened.
 constexpr int attempts = 8;
 
-[[noreturn]] void refuse(int error, const std::string &what) {
-    throw std::system_error(error, std::generic_category(), what);
+[[noreturn]] void refuse(int error, const std::string &path) {
+    throw FileError::fromErrno(path, "written", error);
 }
 
-FileDescriptor openOrCreate(const FileCreation &creation, const LogFileSettings &settings) {
-    const FileDescriptor folder =
-        creation.openFolder(settings.logFileURL.parent_path(), settings.requiredFolder);
+Descriptor openOrCreate(const FileCreation &creation, const LogFileSettings &settings) {
+    const Descriptor folder = creation.openFolder(settings.logFileURL.parent_path(), settings.requiredFolder);
     const std::string name = settings.logFileURL.filename();
     for (int attempt = 0; attempt < attempts; ++attempt) {
         // Without O_CREAT first: in a sticky folder the kernel may refuse it for a file that is there.
-        FileDescriptor file(openat(folder.get(), name.c_str(), openFlags));
-        if (!file.isOpen() && errno == ENOENT) {
-            file = creation.createFile(folder.get(), name, openFlags);
+        Descriptor file(openat(folder.number(), name.c_str(), openFlags));
+        if (!file && errno == ENOENT) {
+            file = creation.createFile(folder.number(), name, openFlags);
         }
-        if (file.isOpen()) {
+        if (file) {
             return file;
         }
         if (errno != EEXIST) {
@@ -50,7 +51,7 @@ LogFile::LogFile(const LogFileSettings &settings)
     }
     descriptor_ = openOrCreate(creation, settings);
     struct stat found {};
-    if (fstat(descriptor_.get(), &found) != 0) {
+    if (fstat(descriptor_.number(), &found) != 0) {
         refuse(errno, path_);
     }
     if (!S_ISREG(found.st_mode) || found.st_nlink != 1 || !creation.mayOwn(found.st_uid)) {
@@ -66,8 +67,10 @@ bool LogFile::isCurrent() const {
 }
 
 void LogFile::append(std::string_view text) {
-    writeAll(descriptor_.get(), text);
-    if (syncAfterEachWrite_ && fdatasync(descriptor_.get()) != 0) {
+    if (const int failure = writeAll(descriptor_.number(), text)) {
+        refuse(failure, path_);
+    }
+    if (syncAfterEachWrite_ && fdatasync(descriptor_.number()) != 0) {
         refuse(errno, path_);
     }
 }
