@@ -96,4 +96,9 @@ void NavigationButton::paintEvent(QPaintEvent * /*event*/) {
     painter.drawControl(QStyle::CE_PushButton, option);
 }
 
+void NavigationButton::resizeEvent(QResizeEvent *event) {
+    QPushButton::resizeEvent(event);
+    setToolTip(width() < sizeHint().width() ? text() : QString());
+}
+
 } // namespace velmar

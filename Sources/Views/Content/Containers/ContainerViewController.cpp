@@ -37,6 +37,21 @@ QMargins standardMargins(ContainerViewController::Kind kind) {
     return {32, 40, 32, 40};
 }
 
+/// Leaves the keys for going from slide to slide to the window.
+class ColumnScrollArea final : public QScrollArea {
+public:
+    using QScrollArea::QScrollArea;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override {
+        if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) {
+            event->ignore();
+        } else {
+            QScrollArea::keyPressEvent(event);
+        }
+    }
+};
+
 ComponentView *makeView(const ComponentItem &item, QWidget *parent) {
     struct Maker {
         QWidget *parent;
@@ -59,7 +74,7 @@ ContainerViewController::ContainerViewController(const ContainerItem &item, Kind
       kind_(kind),
       viewModel_(std::make_shared<ContainerViewModel>()),
       borderColorItem_(item._borderColor() ? item._borderColor() : slideBorderColor),
-      scrollArea_(new QScrollArea(this)) {
+      scrollArea_(new ColumnScrollArea(this)) {
     auto *column = new QWidget;
     auto *layout = new QVBoxLayout(column);
     layout->setContentsMargins(ComponentViews::marginsOf(item._margins(), standardMargins(kind)));

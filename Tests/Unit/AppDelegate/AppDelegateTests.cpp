@@ -1,0 +1,148 @@
+#include <AppDelegate/ApplicationMenu.h>
+#include <AppDelegate/ServiceableAppDelegate.h>
+#include <AppDelegate/Services/AdminModeAppDelegateService.h>
+#include <AppDelegate/Services/LoginRelaunchAppDelegateService.h>
+#include <AppDelegate/Services/WindowPlacement.h>
+#include <Models/VelmarError.h>
+
+#include <Support/RecordedLog.h>
+#include <Support/TemporaryDirectory.h>
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+#include <vector>
+
+namespace velmar {
+namespace {
+
+using namespace WindowPlacement;
+
+class Service final : public AppDelegateService {
+public:
+    Service(std::string name, std::string &calls) : name_(std::move(name)), calls_(calls) {}
+    void applicationWillFinishLaunching() override { calls_ += name_ + "wl "; }
+    void applicationDidFinishLaunching() override { calls_ += name_ + "dl "; }
+    void applicationWillBecomeActive() override { calls_ += name_ + "wa "; }
+    void applicationDidBecomeActive() override { calls_ += name_ + "da "; }
+    void applicationWillResignActive() override { calls_ += name_ + "wr "; }
+    void applicationDidResignActive() override { calls_ += name_ + "dr "; }
+    void applicationWillTerminate() override { calls_ += name_ + "wt "; }
+
+private:
+    std::string name_;
+    std::string &calls_;
+};
+
+class Delegate final : public ServiceableAppDelegate {
+public:
+    [[nodiscard]] std::vector<std::shared_ptr<AppDelegateService>> services() override {
+        ++readings;
+        return {std::make_shared<Service>("1", calls), std::make_shared<Service>("2", calls)};
+    }
+    int readings = 0;
+    std::string calls;
+};
+
+TEST(ServiceableAppDelegate, PassesEachEventToItsServicesInTheirOrder) {
+    Delegate delegate;
+    delegate.applicationWillFinishLaunching();
+    delegate.applicationDidFinishLaunching();
+    delegate.applicationWillBecomeActive();
+    delegate.applicationDidBecomeActive();
+    delegate.applicationWillResignActive();
+    delegate.applicationDidResignActive();
+    delegate.applicationWillTerminate();
+    EXPECT_EQ(delegate.calls, "1wl 2wl 1dl 2dl 1wa 2wa 1da 2da 1wr 2wr 1dr 2dr 1wt 2wt ");
+    EXPECT_EQ(delegate.readings, 7);
+}
+
+TEST(AdminMode, LeavesTheReloadsToAdministrators) {
+    for (const bool isOn : {true, false}) {
+        MainMenu menu;
+        std::string calls;
+        menu.setItems(ApplicationMenu::items({.quit = [&] { calls += 'q'; },
+                                              .reloadInterfaceSavingVariables = [&] { calls += 's'; },
+                                              .reloadInterfaceResetingVariables = [&] { calls += 'r'; }}));
+        AdminModeAppDelegateService(menu, isOn).applicationDidFinishLaunching();
+        for (const MenuItem &item : menu.items()) {
+            for (const MenuItem &entry : item.submenu) {
+                entry.action();
+            }
+        }
+        EXPECT_EQ(calls, isOn ? "qsr" : "q");
+        EXPECT_EQ(menu.items().front().submenu.back().shortcut, (KeyShortcut{.key = 'Q', .command = true}));
+    }
+}
+
+TEST(LoginRelaunch, WritesOrRemovesTheEntryAndLogsWhatFails) {
+    const TemporaryDirectory directory;
+    const LoginItem item(directory.path());
+    const RecordedLog log;
+    LoginRelaunchAppDelegateService(item, {"/usr/bin/velmar", "-c", "first"}, true)
+        .applicationDidFinishLaunching();
+    EXPECT_TRUE(
+        FileManager().contents(item.path(), 4096).find("Exec=\"/usr/bin/velmar\" \"-c\" \"first\"\n") !=
+        std::string::npos);
+    LoginRelaunchAppDelegateService(item, {}, false).applicationDidFinishLaunching();
+    EXPECT_FALSE(FileManager().fileExists(item.path()));
+    EXPECT_TRUE(log.lines().empty());
+    LoginRelaunchAppDelegateService(LoginItem("/dev/null"), {"/usr/bin/velmar"}, true)
+        .applicationDidFinishLaunching();
+    ASSERT_EQ(log.lines().size(), 1U);
+    EXPECT_TRUE(log.lines().front().starts_with("error: Unable to set the relaunch at login. "));
+}
+
+TEST(WindowPlacement, TakesTheMainScreenForAnIndexWithoutAScreen) {
+    const ScreenFrame left{0, 0, 1280, 800};
+    const ScreenFrame right{1280, 0, 1920, 1080};
+    const Screens two{.frames = {left, right}, .main = left};
+    struct Case {
+        std::optional<std::int64_t> index;
+        ScreenFrame screen;
+    };
+    constexpr auto most = std::numeric_limits<std::int64_t>::max();
+    for (const Case &row :
+         {Case{{}, left}, Case{0, left}, Case{1, right}, Case{2, left}, Case{-1, left}, Case{most, left}}) {
+        EXPECT_EQ(chooseScreen(two, row.index), row.screen);
+    }
+    EXPECT_EQ(chooseScreen({.frames = {right}, .main = {}}, 0), right);
+    const RecordedLog log;
+    try {
+        static_cast<void>(chooseScreen({}, 0));
+        FAIL() << "there is no screen";
+    } catch (const VelmarError &error) {
+        EXPECT_NE(error.as<VelmarError::InternalError>(), nullptr);
+        EXPECT_EQ(error.errorDescription(), "Internal error: Unable to retrieve a screen");
+    }
+}
+
+TEST(WindowPlacement, PutsAWindowWhereTheTableSays) {
+    using Horizontal = WindowPositionItem::Horizontal;
+    using Vertical = WindowPositionItem::Vertical;
+    const ScreenFrame screen{100, 50, 1000, 800};
+    struct Case {
+        Horizontal horizontal;
+        Vertical vertical;
+        double padding;
+        Origin origin;
+    };
+    for (const Case &row : {Case{Horizontal::left, Vertical::top, 20, {120, 92}},
+                            Case{Horizontal::left, Vertical::top, 0, {100, 72}},
+                            Case{Horizontal::center, Vertical::center, 20, {400, 300}},
+                            Case{Horizontal::center, Vertical::center, 500, {400, 300}},
+                            Case{Horizontal::right, Vertical::bottom, 20, {680, 530}},
+                            Case{Horizontal::right, Vertical::center, 0, {700, 300}},
+                            Case{Horizontal::left, Vertical::bottom, -10, {90, 560}},
+                            Case{Horizontal::left, Vertical::top, 1e12, {32767, 32767}}}) {
+        WindowPositionItem position;
+        position._horizontal.set(row.horizontal);
+        position._vertical.set(row.vertical);
+        position._padding.set(row.padding);
+        EXPECT_EQ(originOf(position, 400, 300, screen), row.origin) << row.padding;
+    }
+}
+
+} // namespace
+} // namespace velmar

@@ -1,0 +1,312 @@
+#include <Desktop/DesktopAppearance.h>
+#include <Views/Content/ContentView/ContentViewController.h>
+#include <Views/Content/Slides/SlideViewController.h>
+#include <Views/CustomViews/Colors.h>
+#include <Views/CustomViews/Font.h>
+#include <Views/CustomViews/StyleConfigurableTextView.h>
+#include <Views/CustomViews/Theme.h>
+#include <Views/Navigation/NavigationButton.h>
+#include <Views/Navigation/NavigationNotifications.h>
+#include <Views/Navigation/NavigationViewController.h>
+
+#include <Support/RecordedLog.h>
+#include <Testing/TestMainQueue.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QScrollArea>
+#include <QScrollBar>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace velmar {
+namespace {
+
+/// The application with its theme, and a bar and slides that move at once.
+class Views : public testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        static int argumentCount = 1;
+        static char name[] = "test";
+        static char *arguments[] = {name, nullptr};
+        application_ = std::make_unique<QApplication>(argumentCount, arguments);
+        appearance_ = std::make_unique<DesktopAppearance>();
+        appearance_->setAnimated(false);
+        Theme::install(*appearance_);
+    }
+    static void TearDownTestSuite() {
+        application_.reset();
+        appearance_.reset();
+    }
+
+    static DesktopAppearance &appearance() { return *appearance_; }
+
+    static ComponentItem text(const std::string &content) {
+        ComponentItem::Text item;
+        item._text.set(content);
+        return {item};
+    }
+
+    static SlideItem slide(const std::vector<std::vector<ComponentItem>> &containers) {
+        SlideItem item;
+        std::vector<ContainerItem> items;
+        for (const auto &components : containers) {
+            ContainerItem container;
+            container._components.set(components);
+            items.push_back(container);
+        }
+        item._containers.set(items);
+        return item;
+    }
+
+    static QStringList shownTexts(const QWidget &root) {
+        QStringList texts;
+        for (const auto *view : root.findChildren<StyleConfigurableTextView *>()) {
+            if (view->isVisible()) {
+                texts.append(view->text());
+            }
+        }
+        return texts;
+    }
+
+    /// Handles what the event loop holds, timers that are due included.
+    void settle() {
+        queue.runUntilEmpty();
+        QCoreApplication::processEvents();
+    }
+
+    NotificationCenter center;
+    TestMainQueue queue;
+
+private:
+    static inline std::unique_ptr<QApplication> application_;
+    static inline std::unique_ptr<DesktopAppearance> appearance_;
+};
+
+class Attempts final : public AppTerminationManagerProtocol {
+public:
+    void tryToQuitApplication() override { ++count; }
+    int count = 0;
+};
+
+TEST_F(Views, ATextIsAsHighAsItsWidthAsksForAndNeverWiderThanItsPlace) {
+    StyleConfigurableTextView view;
+    view.setContent("One line", {});
+    const int line = view.heightForWidth(400);
+    EXPECT_GE(line, QFontMetrics(view.font()).height());
+    view.setContent("One\r\ntwo\nthree", {});
+    EXPECT_EQ(view.heightForWidth(400), 3 * line);
+    view.setContent(QString(200, 'x'), {});
+    EXPECT_GT(view.heightForWidth(200), 3 * line) << "a word without a break";
+    EXPECT_LT(view.minimumSizeHint().width(), 100);
+    view.setContent("", {});
+    EXPECT_EQ(view.accessibleName(), "");
+}
+
+TEST_F(Views, AFontIsTheItemsWhereItSaysSo) {
+    const QFont standard = Theme::font(Theme::bodySize);
+    FontItem item;
+    EXPECT_EQ(fontOf(item, standard), standard);
+    item._size.set(30);
+    item._systemFontWeight.set(FontItem::SystemFontWeight::semibold);
+    EXPECT_EQ(fontOf(item, standard).weight(), QFont::DemiBold);
+    EXPECT_NEAR(fontOf(item, standard).pointSizeF(), 2 * standard.pointSizeF(), 0.01);
+    item._name.set("DejaVu Serif");
+    EXPECT_EQ(fontOf(item, standard).families().first(), "DejaVu Serif");
+    EXPECT_EQ(fontOf(item, standard).weight(), standard.weight());
+    item._size.set(-3);
+    EXPECT_EQ(fontOf(item, standard).pointSizeF(), standard.pointSizeF());
+    EXPECT_EQ(alignmentOf(FontItem::TextAlignment::center), Qt::AlignHCenter);
+    EXPECT_EQ(alignmentOf({}), Qt::AlignLeading);
+}
+
+TEST_F(Views, ColoursFollowTheAppearanceWhileTheyAreOnShow) {
+    ColorItem color;
+    color._lightMode.set({0x1B, 0x5F, 0xC1, {}});
+    color._darkMode.set({0x7F, 0xB4, 0xFF, {}});
+    FontItem font;
+    font._color.set(color);
+    StyleConfigurableTextView view;
+    view.setContent("Coloured", font);
+    StyleConfigurableTextView plain;
+    plain.setContent("Plain", {});
+    const std::vector<std::pair<bool, const char *>> appearances{
+        {false, "#1b5fc1"}, {true, "#7fb4ff"}, {false, "#1b5fc1"}};
+    for (const auto &[isDark, expected] : appearances) {
+        appearance().setPrefersDark(isDark);
+        settle();
+        EXPECT_EQ(view.color().name().toStdString(), expected);
+        EXPECT_EQ(DesktopAppearance::isDark(plain.palette()), isDark);
+        EXPECT_GE(contrast(plain.color(), plain.palette().color(QPalette::Window)), 7);
+        EXPECT_GE(contrast(plain.palette().color(QPalette::HighlightedText),
+                           plain.palette().color(QPalette::Highlight)),
+                  4);
+    }
+    appearance().setPrefersDark({});
+}
+
+TEST_F(Views, ContainersStandSideBySideAndScrollWhenTheyAreTooHigh) {
+    std::vector<ComponentItem> many(60, text("A line of many"));
+    const SlideItem item = slide({many, {text("Short")}});
+    SlideViewController view(item, SlideViewController::Kind::standard, nullptr);
+    view.resize(800, 400);
+    view.show();
+    settle();
+    const auto areas = view.findChildren<QScrollArea *>();
+    ASSERT_EQ(areas.size(), 2);
+    EXPECT_GT(areas[0]->verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(areas[0]->focusPolicy(), Qt::TabFocus);
+    EXPECT_EQ(areas[1]->verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(areas[1]->focusPolicy(), Qt::NoFocus);
+    EXPECT_EQ(areas[0]->mapTo(&view, QPoint()).x(), 0);
+    EXPECT_EQ(areas[1]->mapTo(&view, QPoint()).x(), 400);
+    QKeyEvent pageDown(QEvent::KeyPress, Qt::Key_PageDown, Qt::NoModifier);
+    EXPECT_TRUE(view.scroll(pageDown));
+    EXPECT_GT(areas[0]->verticalScrollBar()->value(), 0);
+}
+
+TEST_F(Views, AFlexibleSpacerTakesWhatIsLeft) {
+    ComponentItem::Spacer fixed;
+    fixed._height.set(30);
+    const SlideItem item =
+        slide({{ComponentItem{fixed}, ComponentItem{ComponentItem::Spacer()}, text("Bottom")}});
+    SlideViewController view(item, SlideViewController::Kind::inMenuBar, nullptr);
+    view.resize(400, 500);
+    view.show();
+    settle();
+    const auto *bottom = view.findChild<StyleConfigurableTextView *>();
+    const int end = bottom->mapTo(&view, QPoint(0, bottom->height())).y();
+    EXPECT_GE(end, 500 - 24);
+    EXPECT_LE(end, 500);
+}
+
+class Slides : public Views {
+protected:
+    Slides() {
+        ContentViewModel::Settings settings;
+        settings._onScreen.setOverrideValue(WindowSection::OnScreen::simple);
+        settings._onboardSlides.setOverrideValue(
+            std::vector{slide({{text("First")}}), slide({{text("Second")}}), slide({{text("Third")}})});
+        model = std::make_shared<ContentViewModel>(queue, quits, center, settings);
+        model->setupNotifications();
+        bar = std::make_unique<NavigationViewController>(
+            NavigationSection(), NavigationViewController::Surroundings{queue, center, appearance()},
+            nullptr);
+        content = std::make_unique<ContentViewController>(model, appearance(), nullptr);
+        content->resize(600, 400);
+        content->show();
+        bar->show();
+        model->setSelectedIndex(0, false);
+        settle();
+    }
+    ~Slides() override { appearance().setAnimated(false); }
+
+    std::string buttons() {
+        settle();
+        std::string names;
+        for (const NavigationButton *button : {&bar->previousButton(), &bar->nextButton()}) {
+            if (button->isVisible()) {
+                names += button->text().toStdString() + " ";
+            }
+        }
+        return names;
+    }
+
+    RecordedLog log;
+    Attempts quits;
+    std::shared_ptr<ContentViewModel> model;
+    std::unique_ptr<NavigationViewController> bar;
+    std::unique_ptr<ContentViewController> content;
+};
+
+TEST_F(Slides, AreGoneThroughByTheButtons) {
+    // Without translations a text's identifier stands for it.
+    const std::string next = "navigation.buttons.next ";
+    const std::string previous = "navigation.buttons.previous ";
+    const std::string quit = "navigation.buttons.quit ";
+    EXPECT_EQ(buttons(), next);
+    EXPECT_EQ(shownTexts(*content), QStringList("First"));
+    bar->pressPrevious();
+    EXPECT_EQ(buttons(), next) << "a hidden button is not pressed";
+    bar->pressNext();
+    EXPECT_EQ(buttons(), previous + next);
+    EXPECT_EQ(shownTexts(*content), QStringList("Second"));
+    bar->pressNext();
+    EXPECT_EQ(buttons(), previous + quit);
+    bar->pressNext();
+    EXPECT_EQ(quits.count, 1);
+    bar->pressPrevious();
+    EXPECT_EQ(buttons(), previous + next);
+    bar->pressPrevious();
+    EXPECT_EQ(buttons(), next);
+    EXPECT_EQ(shownTexts(*content), QStringList("First"));
+    EXPECT_EQ(log.lines().back(), "debug: Successfully operated the slide transition [1 -> 0]");
+}
+
+TEST_F(Slides, CatchUpWhenTheUserIsFasterThanTheirAnimation) {
+    appearance().setAnimated(true);
+    bar->pressNext();
+    queue.runUntilEmpty();
+    bar->pressNext();
+    queue.runUntilEmpty();
+    EXPECT_EQ(log.lines().back(), "debug: Successfully operated the slide transition [0 -> 1]")
+        << "the first one ended when the second began";
+    EXPECT_EQ(content->currentSlideIndex(), 2);
+    content->resize(500, 400);
+    EXPECT_EQ(shownTexts(*content), QStringList("Third")) << "a new size ends a transition";
+}
+
+TEST_F(Slides, TellWhenTheAnimationOfAnEndIsOver) {
+    std::vector<std::string> reached;
+    std::vector<NotificationCenter::Token> tokens;
+    for (const auto name :
+         {NavigationNotifications::didReachFirstSlide, NavigationNotifications::didReachLastSlide}) {
+        tokens.push_back(center.addObserver(std::string(name), [&, name] { reached.emplace_back(name); }));
+    }
+    model->setSelectedIndex(2, true);
+    settle();
+    model->setSelectedIndex(0, true);
+    settle();
+    EXPECT_EQ(reached,
+              (std::vector<std::string>{"didReachLastSlideNotification", "didReachFirstSlideNotification"}));
+}
+
+TEST_F(Slides, AreMadeWhenTheyAreNeeded) {
+    EXPECT_EQ(content->findChildren<SlideViewController *>().size(), 1);
+    bar->pressNext();
+    settle();
+    EXPECT_EQ(content->findChildren<SlideViewController *>().size(), 2);
+    content->rebuild();
+    EXPECT_EQ(content->findChildren<SlideViewController *>().size(), 1);
+    EXPECT_EQ(shownTexts(*content), QStringList("Second"));
+}
+
+TEST_F(Views, AColourThatIsNotReadableOnTheAccentMakesAQuietButton) {
+    NavigationButton button(true, nullptr);
+    EXPECT_TRUE(button.isDefault());
+    button.setTextColor(button.palette().color(QPalette::Highlight));
+    EXPECT_FALSE(button.isDefault());
+    button.setTextColor(QColor(Qt::white));
+    EXPECT_TRUE(button.isDefault());
+}
+
+TEST_F(Views, AKeyHeldDownPressesAButtonOnce) {
+    NavigationButton button(true, nullptr);
+    int clicks = 0;
+    QObject::connect(&button, &QPushButton::clicked, &button, [&] { ++clicks; });
+    for (const bool repeats : {false, true, true}) {
+        QKeyEvent event(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, {}, repeats);
+        QCoreApplication::sendEvent(&button, &event);
+    }
+    EXPECT_EQ(clicks, 1);
+    QKeyEvent right(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier);
+    QCoreApplication::sendEvent(&button, &right);
+    EXPECT_FALSE(right.isAccepted());
+}
+
+} // namespace
+} // namespace velmar
