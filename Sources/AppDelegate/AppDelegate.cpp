@@ -13,6 +13,8 @@
 #include <Foundation/UserDefaults.h>
 #include <logger/Logger.h>
 
+#include <QGuiApplication>
+
 #include <cstdlib>
 #include <utility>
 
@@ -46,6 +48,8 @@ AppManager::KeyDownMonitor addKeyDownMonitor(AppManager::KeyDownHandler handler)
 AppDelegate::AppDelegate(Surroundings surroundings)
     : surroundings_(std::move(surroundings)),
       quitAttempt_(std::make_unique<QuitAttempt>(surroundings_.application)) {
+    QCoreApplication::setApplicationName(QStringLiteral("Velmar"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("com.nurvan.velmar"));
     DesktopApplication &application = surroundings_.application;
     Theme::install(application.appearance());
     Localization::install();

@@ -4,6 +4,9 @@
 #include <Desktop/MainMenu.h>
 #include <Desktop/Window.h>
 
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QMenu>
 #include <QMenuBar>
 #include <QWindow>
 
@@ -43,14 +46,28 @@ TEST_F(Windows, LoseTheMenuItemsOfATagWithTheOthersInTheirOrder) {
 TEST_F(Windows, KeepTheShortcutsOfAHiddenMenuBar) {
     MainMenu mainMenu;
     Window window({}, mainMenu);
-    auto *bar = window.findChild<QMenuBar *>();
     int quits = 0;
     MenuItem quit = entry("Quit", 0, [&] { ++quits; });
     quit.shortcut = KeyShortcut{.key = 'Q', .command = true};
     mainMenu.setItems({menu("App", 0, {quit}), menu("Admin", 2, {entry("Reload")})});
-    EXPECT_FALSE(bar->isHidden());
+    EXPECT_EQ(window.findChild<QMenuBar *>(), nullptr) << "nothing before the first paint needs it";
+    window.setSizes({400, 300}, {400, 300}, {800, 600});
+    QEventLoop loop;
+    QObject::connect(&window, &Window::firstPainted, &loop, &QEventLoop::quit);
+    window.show();
+    loop.exec();
+    const auto *bar = window.findChild<QMenuBar *>();
+    ASSERT_NE(bar, nullptr);
+    EXPECT_TRUE(bar->isVisible());
+    EXPECT_EQ(bar->actions().size(), 2);
     mainMenu.removeItems(2);
-    EXPECT_TRUE(bar->isHidden());
+    EXPECT_FALSE(bar->isVisible());
+    QKeyEvent f10(QEvent::KeyPress, Qt::Key_F10, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &f10);
+    EXPECT_TRUE(bar->isVisible());
+    ASSERT_EQ(bar->actions().size(), 1);
+    bar->actions().first()->menu()->hide();
+    EXPECT_FALSE(bar->isVisible());
     ASSERT_EQ(window.actions().size(), 1);
     EXPECT_EQ(window.actions().first()->shortcut(), QKeySequence("Ctrl+Q"));
     window.actions().first()->trigger();

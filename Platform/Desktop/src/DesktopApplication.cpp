@@ -11,6 +11,8 @@
 
 #include <QApplication>
 
+#include <fontconfig/fontconfig.h>
+
 #include <utility>
 
 namespace velmar {
@@ -116,12 +118,15 @@ private:
 };
 
 DesktopApplication::DesktopApplication(int &argumentCount, char **arguments)
-    : loop_(std::make_unique<Loop>(argumentCount, arguments)),
+    : fontLoader_([] { FcInit(); }),
+      loop_(std::make_unique<Loop>(argumentCount, arguments)),
       mainQueue_(std::make_unique<QtMainQueue>()),
       timers_(std::make_unique<QtTimerScheduler>()),
       appearance_(std::make_unique<DesktopAppearance>()) {}
 
-DesktopApplication::~DesktopApplication() = default;
+DesktopApplication::~DesktopApplication() {
+    fontLoader_.join();
+}
 
 int DesktopApplication::run(ApplicationDelegate &delegate) {
     return loop_->run(delegate);

@@ -2,7 +2,11 @@
 
 #include <Desktop/MainMenu.h>
 
+#include <QAction>
+#include <QLayout>
 #include <QMenu>
+#include <QMenuBar>
+#include <QWidget>
 
 namespace velmar {
 
@@ -19,8 +23,7 @@ QKeySequence keySequence(const KeyShortcut &shortcut) {
 
 } // namespace
 
-MenuBar::MenuBar(MainMenu &menu, QWidget &window) : QMenuBar(&window), menu_(menu), window_(window) {
-    setNativeMenuBar(false);
+MenuBar::MenuBar(MainMenu &menu, QWidget &window) : menu_(menu), window_(window) {
     rebuild();
     menu_.onChange([this] { rebuild(); });
 }
@@ -30,15 +33,14 @@ MenuBar::~MenuBar() {
 }
 
 void MenuBar::reveal() {
-    if (actions().isEmpty()) {
+    if (menu_.items().empty()) {
         return;
     }
-    show();
-    setActiveAction(actions().constFirst());
+    bar().show();
+    bar().setActiveAction(bar().actions().constFirst());
 }
 
 void MenuBar::rebuild() {
-    clear();
     if (actions_) {
         // Shortcuts end at once; the action itself may be what replaces the items, and goes when its event is
         // over.
@@ -49,21 +51,23 @@ void MenuBar::rebuild() {
     }
     actions_ = std::make_unique<QObject>();
     for (const MenuItem &item : menu_.items()) {
-        auto *menu = new QMenu(QString::fromStdString(item.title), this);
-        connect(actions_.get(), &QObject::destroyed, menu, &QObject::deleteLater);
         for (const MenuItem &entry : item.submenu) {
-            add(*menu, entry);
+            window_.addAction(makeAction(entry));
         }
-        addMenu(menu);
     }
-    const bool hasMoreThanOwnMenu = menu_.items().size() > 1;
-    setVisible(hasMoreThanOwnMenu);
-    if (!hasMoreThanOwnMenu && !actions().isEmpty()) {
-        connect(actions().constFirst()->menu(), &QMenu::aboutToHide, this, &QWidget::hide);
+    if (bar_ != nullptr) {
+        fill(*bar_);
+        bar_->setVisible(menu_.items().size() > 1);
     }
 }
 
-void MenuBar::add(QMenu &parent, const MenuItem &item) {
+void MenuBar::windowWillPaint() {
+    if (menu_.items().size() > 1) {
+        prepare();
+    }
+}
+
+QAction *MenuBar::makeAction(const MenuItem &item) {
     auto *action = new QAction(QString::fromStdString(item.title), actions_.get());
     if (item.shortcut) {
         action->setShortcut(keySequence(*item.shortcut));
@@ -73,8 +77,35 @@ void MenuBar::add(QMenu &parent, const MenuItem &item) {
             run();
         }
     });
-    parent.addAction(action);
-    window_.addAction(action);
+    return action;
+}
+
+QMenuBar &MenuBar::bar() {
+    if (bar_ == nullptr) {
+        bar_ = new QMenuBar(&window_);
+        bar_->setNativeMenuBar(false);
+        fill(*bar_);
+        window_.layout()->setMenuBar(bar_);
+        bar_->setVisible(menu_.items().size() > 1);
+    }
+    return *bar_;
+}
+
+void MenuBar::fill(QMenuBar &bar) {
+    bar.clear();
+    // The window's actions are those of the entries, in their order.
+    auto action = actions_->children().cbegin();
+    for (const MenuItem &item : menu_.items()) {
+        auto *menu = new QMenu(QString::fromStdString(item.title), &bar);
+        connect(actions_.get(), &QObject::destroyed, menu, &QObject::deleteLater);
+        for (std::size_t entry = 0; entry < item.submenu.size(); ++entry) {
+            menu->addAction(qobject_cast<QAction *>(*action++));
+        }
+        bar.addMenu(menu);
+    }
+    if (menu_.items().size() == 1) {
+        connect(bar.actions().constFirst()->menu(), &QMenu::aboutToHide, &bar, &QWidget::hide);
+    }
 }
 
 } // namespace velmar

@@ -28,13 +28,12 @@ Qt::WindowFlags flagsOf(const Window::Style &style) {
 } // namespace
 
 Window::Window(Style style, MainMenu &menu)
-    : QWidget(nullptr, flagsOf(style)),
-      style_(style),
-      menuBar_(new MenuBar(menu, *this)),
-      layout_(new QVBoxLayout(this)) {
+    : QWidget(nullptr, flagsOf(style)), style_(style), layout_(new QVBoxLayout(this)) {
     layout_->setContentsMargins(0, 0, 0, 0);
     layout_->setSpacing(0);
-    layout_->setMenuBar(menuBar_);
+    menuBar_ = std::make_unique<MenuBar>(menu, *this);
+    // Behind what else waits for the paint.
+    connect(this, &Window::firstPainted, menuBar_.get(), &MenuBar::prepare, Qt::QueuedConnection);
     winId(); // The hints belong to the native window, and are read when it is mapped.
     windowHandle()->installEventFilter(this);
     if (style_.hasTitleBar) {
@@ -46,7 +45,7 @@ Window::Window(Style style, MainMenu &menu)
 
 Window::~Window() {
     // The bar unregisters from the menu, and its actions from this window, while the window is still whole.
-    delete menuBar_;
+    menuBar_.reset();
 }
 
 void Window::setContent(QWidget *content) {
@@ -72,6 +71,7 @@ bool Window::event(QEvent *event) {
 
 bool Window::eventFilter(QObject *watched, QEvent *event) {
     if (event->type() == QEvent::Expose && windowHandle()->isExposed() && !std::exchange(wasPainted_, true)) {
+        menuBar_->windowWillPaint();
         // The window paints itself while it handles the event.
         QTimer::singleShot(0, this, &Window::firstPainted);
     }

@@ -19,7 +19,6 @@ NavigationButton::NavigationButton(bool isPrimary, QWidget *parent)
     QSizePolicy policy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     policy.setRetainSizeWhenHidden(true);
     setSizePolicy(policy);
-    setCursor(Qt::PointingHandCursor);
     opacity_.setStartValue(1.0);
     opacity_.setEndValue(1.0);
     connect(&opacity_, &QVariantAnimation::valueChanged, this, [this] { update(); });

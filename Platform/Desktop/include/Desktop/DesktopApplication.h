@@ -6,6 +6,7 @@
 #include <Dispatch/Timer.h>
 
 #include <memory>
+#include <thread>
 
 namespace velmar {
 
@@ -38,6 +39,7 @@ public:
 
 private:
     class Loop;
+    std::thread fontLoader_; // Beside the making of the loop.
     MainMenu mainMenu_;
     std::unique_ptr<Loop> loop_;
     std::unique_ptr<MainQueue> mainQueue_;

@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include <memory>
+
 class QVBoxLayout;
 
 namespace velmar {
@@ -59,8 +61,8 @@ protected:
 
 private:
     Style style_;
-    MenuBar *menuBar_;
     QVBoxLayout *layout_;
+    std::unique_ptr<MenuBar> menuBar_;
     QWidget *content_ = nullptr;
     bool wasFramed_ = false;
     bool wasPainted_ = false;
