@@ -53,14 +53,11 @@ private:
     [[nodiscard]] std::vector<std::string> relaunchCommand() const;
 
     Config<WindowSection::OnScreen> _onScreen{
-        [](const Configuration &c) -> auto &{return c._window()._onScreen();
-}
-}; // namespace velmar
-Surroundings surroundings_;
-std::unique_ptr<QuitAttempt> quitAttempt_;
-std::shared_ptr<CustomWindowAppDelegateService> customWindow_;
-std::optional<Shared<AppManager>::Scope> appManager_;
-}
-;
+        [](const Configuration &c) -> decltype(auto) { return c._window()._onScreen(); }};
+    Surroundings surroundings_;
+    std::unique_ptr<QuitAttempt> quitAttempt_;
+    std::shared_ptr<CustomWindowAppDelegateService> customWindow_;
+    std::optional<Shared<AppManager>::Scope> appManager_;
+};
 
 } // namespace velmar

@@ -58,22 +58,17 @@ private:
     /// Tells the navigation where the current slide stands.
     void contentDidAppear();
 
-    Config<NavigationSection> _navigation{[](const Configuration &c) -> auto &{return c._navigation();
-}
-}; // namespace velmar
-Config<std::optional<SideContainerSection>> _sideContainer{
-    [](const Configuration &c) -> auto &{return c._sideContainer();
-}
-}
-;
-Surroundings surroundings_;
-std::shared_ptr<ContentViewModel> contentViewModel_;
-QHBoxLayout *row_;
-QVBoxLayout *column_;
-ContainerViewController *sideContainerViewController_ = nullptr;
-ContentViewController *contentViewController_ = nullptr;
-NavigationViewController *navigationViewController_ = nullptr;
-}
-;
+    Config<NavigationSection> _navigation{
+        [](const Configuration &c) -> decltype(auto) { return c._navigation(); }};
+    Config<std::optional<SideContainerSection>> _sideContainer{
+        [](const Configuration &c) -> decltype(auto) { return c._sideContainer(); }};
+    Surroundings surroundings_;
+    std::shared_ptr<ContentViewModel> contentViewModel_;
+    QHBoxLayout *row_;
+    QVBoxLayout *column_;
+    ContainerViewController *sideContainerViewController_ = nullptr;
+    ContentViewController *contentViewController_ = nullptr;
+    NavigationViewController *navigationViewController_ = nullptr;
+};
 
 } // namespace velmar

@@ -19,11 +19,9 @@ public:
     void applicationDidFinishLaunching() override;
 
 private:
-    Config<bool> _isAdminModeOn{[](const Configuration &c) -> auto &{return c._admin()._isAdminModeOn();
-}
-}; // namespace velmar
-MainMenu &mainMenu_;
-}
-;
+    Config<bool> _isAdminModeOn{
+        [](const Configuration &c) -> decltype(auto) { return c._admin()._isAdminModeOn(); }};
+    MainMenu &mainMenu_;
+};
 
 } // namespace velmar

@@ -40,13 +40,10 @@ public:
 private:
     void place(const WindowPositionItem &position, const ScreenFrame &screen);
 
-    Config<WindowSection> _windowConfig{[](const Configuration &c) -> auto &{return c._window();
-}
-}; // namespace velmar
-Surroundings surroundings_;
-std::unique_ptr<Window> window_;
-VelmarViewController *controller_ = nullptr; // Owned by the window.
-}
-;
+    Config<WindowSection> _windowConfig{[](const Configuration &c) -> decltype(auto) { return c._window(); }};
+    Surroundings surroundings_;
+    std::unique_ptr<Window> window_;
+    VelmarViewController *controller_ = nullptr; // Owned by the window.
+};
 
 } // namespace velmar

@@ -23,12 +23,9 @@ public:
 
 private:
     Config<bool> _relaunchAtLogin{
-        [](const Configuration &c) -> auto &{return c._appTermination()._relaunchAtLogin();
-}
-}; // namespace velmar
-LoginItem loginItem_;
-std::vector<std::string> command_;
-}
-;
+        [](const Configuration &c) -> decltype(auto) { return c._appTermination()._relaunchAtLogin(); }};
+    LoginItem loginItem_;
+    std::vector<std::string> command_;
+};
 
 } // namespace velmar

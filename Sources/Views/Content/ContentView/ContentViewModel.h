@@ -48,78 +48,62 @@ public:
     /// What the model reads of the configuration.
     struct Settings {
         Config<WindowSection::OnScreen> _onScreen{
-            [](const Configuration &c) -> auto &{return c._window()._onScreen();
+            [](const Configuration &c) -> decltype(auto) { return c._window()._onScreen(); }};
+        Config<std::vector<SlideItem>> _onboardSlides{
+            [](const Configuration &c) -> decltype(auto) { return c._slides(); }};
+        Config<SlideItem> _menubarSlide{
+            [](const Configuration &c) -> decltype(auto) { return c._menuBarSlideSection(); }};
+    };
+
+    /// The queue, the manager and the centre must outlive the model.
+    ContentViewModel(MainQueue &mainQueue, AppTerminationManagerProtocol &appTerminationManager,
+                     NotificationCenter &center = NotificationCenter::defaultCenter())
+        : ContentViewModel(mainQueue, appTerminationManager, center, Settings()) {}
+    ContentViewModel(MainQueue &mainQueue, AppTerminationManagerProtocol &appTerminationManager,
+                     NotificationCenter &center, Settings settings);
+
+    /// Held weakly, as it were: both are taken back, with null, by whoever they are before they go.
+    void setController(ContentViewControllerProtocol *controller) noexcept { controller_ = controller; }
+    void setTerminationDelegate(ContentViewModelTerminationDelegate *delegate) noexcept {
+        terminationDelegate_ = delegate;
     }
-};
-Config<std::vector<SlideItem>> _onboardSlides{[](const Configuration &c) -> auto &{return c._slides();
-} // namespace velmar
-}
-;
-Config<SlideItem> _menubarSlide{[](const Configuration &c) -> auto &{return c._menuBarSlideSection();
-}
-}
-;
-}
-;
 
-/// The queue, the manager and the centre must outlive the model.
-ContentViewModel(MainQueue &mainQueue, AppTerminationManagerProtocol &appTerminationManager,
-                 NotificationCenter &center = NotificationCenter::defaultCenter())
-    : ContentViewModel(mainQueue, appTerminationManager, center, Settings()) {}
-ContentViewModel(MainQueue &mainQueue, AppTerminationManagerProtocol &appTerminationManager,
-                 NotificationCenter &center, Settings settings);
+    /// Begins to follow the navigation's notifications.
+    void setupNotifications();
 
-/// Held weakly, as it were: both are taken back, with null, by whoever they are before they go.
-void setController(ContentViewControllerProtocol *controller) noexcept {
-    controller_ = controller;
-}
-void setTerminationDelegate(ContentViewModelTerminationDelegate *delegate) noexcept {
-    terminationDelegate_ = delegate;
-}
+    /// The slides of the present configuration and mode.
+    [[nodiscard]] std::shared_ptr<const std::vector<SlideItem>> slides() const;
+    [[nodiscard]] int selectedSlideIndex() const noexcept { return selectedSlideIndex_; }
+    [[nodiscard]] bool isCurrentSlideValid() const noexcept { return isCurrentSlideValid_; }
 
-/// Begins to follow the navigation's notifications.
-void setupNotifications();
+    /// Moves to a slide unless the current one holds the user back, which it does only forward; in either
+    /// case the navigation is told how the slide that is current then stands among the others.
+    void setSelectedIndex(int index, bool notifyingDelegate);
 
-/// The slides of the present configuration and mode.
-[[nodiscard]] std::shared_ptr<const std::vector<SlideItem>> slides() const;
-[[nodiscard]] int selectedSlideIndex() const noexcept {
-    return selectedSlideIndex_;
-}
-[[nodiscard]] bool isCurrentSlideValid() const noexcept {
-    return isCurrentSlideValid_;
-}
+    /// Quits unless the current slide or the side container is not yet right.
+    void tryToQuitApplication();
 
-/// Moves to a slide unless the current one holds the user back, which it does only forward; in either case
-/// the navigation is told how the slide that is current then stands among the others.
-void setSelectedIndex(int index, bool notifyingDelegate);
-
-/// Quits unless the current slide or the side container is not yet right.
-void tryToQuitApplication();
-
-/// Runs `reload`, which may replace the configuration, and goes back to the first slide if their number
-/// changed.
-void reloadSlidesIfCountChanged(const std::function<void()> &reload);
+    /// Runs `reload`, which may replace the configuration, and goes back to the first slide if their number
+    /// changed.
+    void reloadSlidesIfCountChanged(const std::function<void()> &reload);
 
 private:
-void goToPreviousSlide();
-void goToNextSlide();
-void move(int index, bool notifyingDelegate);
-void announcePosition();
-void showWarningsOfCurrentSlide();
-[[nodiscard]] int slidesCount() const {
-    return static_cast<int>(slides()->size());
-}
+    void goToPreviousSlide();
+    void goToNextSlide();
+    void move(int index, bool notifyingDelegate);
+    void announcePosition();
+    void showWarningsOfCurrentSlide();
+    [[nodiscard]] int slidesCount() const { return static_cast<int>(slides()->size()); }
 
-MainQueue &mainQueue_;
-AppTerminationManagerProtocol &appTerminationManager_;
-NotificationCenter &center_;
-Settings settings_;
-ContentViewControllerProtocol *controller_ = nullptr;
-ContentViewModelTerminationDelegate *terminationDelegate_ = nullptr;
-std::vector<NotificationCenter::Token> observers_;
-bool isCurrentSlideValid_ = true;
-int selectedSlideIndex_ = 0;
-}
-;
+    MainQueue &mainQueue_;
+    AppTerminationManagerProtocol &appTerminationManager_;
+    NotificationCenter &center_;
+    Settings settings_;
+    ContentViewControllerProtocol *controller_ = nullptr;
+    ContentViewModelTerminationDelegate *terminationDelegate_ = nullptr;
+    std::vector<NotificationCenter::Token> observers_;
+    bool isCurrentSlideValid_ = true;
+    int selectedSlideIndex_ = 0;
+};
 
 } // namespace velmar

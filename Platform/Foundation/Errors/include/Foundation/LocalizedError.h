@@ -28,7 +28,8 @@ private:
 /// An error that is one of several cases. A case is a plain struct with its payload as members and
 /// `std::string errorDescription() const`; a caller asks for the case and not for its text:
 ///
-///     catch (const VelmarError &error) { if (const auto *missing = error.as<VelmarError::MissingFile>()) ... }
+///     catch (const VelmarError &error) { if (const auto *missing = error.as<VelmarError::MissingFile>()) ...
+///     }
 ///
 /// A family derives from it and inherits the constructors.
 template <class... Cases>
@@ -37,8 +38,8 @@ public:
     using Case = std::variant<Cases...>;
 
     template <class C>
-        requires(std::is_same_v<C, Cases> || ...)
-    ErrorOfCases(C value) // NOLINT(google-explicit-constructor): a case is its error
+    requires(std::is_same_v<C, Cases> || ...)
+        ErrorOfCases(C value) // NOLINT(google-explicit-constructor): a case is its error
         : LocalizedError(value.errorDescription()), case_(std::make_shared<const Case>(std::move(value))) {}
 
     [[nodiscard]] const Case &value() const noexcept { return *case_; }
