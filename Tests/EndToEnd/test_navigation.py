@@ -5,6 +5,8 @@ import subprocess
 
 from harness import machine
 from harness.scenario import Scenario, configuration, slide
+from harness.screen import SIZE as SCREEN
+from harness.waiting import until
 
 EXAMPLE = machine.SOURCES / "Examples" / "welcome.plist"
 THREE = configuration(slide("First text", "Below it"), slide("Second text"), slide("Third text"),
@@ -21,6 +23,25 @@ class Navigation(Scenario):
         screen.wait_for_text("Below it")
         screen.wait_for_buttons("On")
         self.assertNotIn("Second text", screen.texts())
+
+    def test_opens_at_its_smallest_where_it_was_asked_to(self):
+        minimum, padding, menu_bar = (600, 400), 30, 22
+        for horizontal, vertical in [("Left", "Bottom"), ("Right", "Top"), ("Center", "Center")]:
+            with self.subTest(horizontal=horizontal, vertical=vertical):
+                window = {"OnScreen": "Simple", "MinimumSize": {"Width": minimum[0], "Height": minimum[1]},
+                          "Position": {"Horizontal": horizontal, "Vertical": vertical, "Padding": padding}}
+                self.install(configuration(slide("Text"), Window=window))
+                process, screen = self.velmar()
+                screen.wait_for_text("Text")
+                _, _, width, height = screen.frame()
+                self.assertEqual(minimum, screen.content()[2:])
+                left = {"Left": padding, "Center": (SCREEN[0] - width) // 2, "Right": SCREEN[0] - width - padding}
+                top = {"Top": padding + menu_bar, "Center": (SCREEN[1] - height) // 2,
+                       "Bottom": SCREEN[1] - height - padding}
+                until(lambda: f"{horizontal}, {vertical}: {screen.frame()}",
+                      lambda: abs(screen.frame()[0] - left[horizontal]) <= 1 and
+                      abs(screen.frame()[1] - top[vertical]) <= 1)
+                process.close()
 
     def test_goes_on_and_back_by_the_buttons(self):
         self.install(THREE)

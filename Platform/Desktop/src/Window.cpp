@@ -1,5 +1,6 @@
 #include <Desktop/Window.h>
 
+#include "FrameWatcher.h"
 #include "MenuBar.h"
 #include "WindowManagerHints.h"
 
@@ -37,6 +38,7 @@ Window::Window(Style style, MainMenu &menu)
     winId(); // The hints belong to the native window, and are read when it is mapped.
     windowHandle()->installEventFilter(this);
     if (style_.hasTitleBar) {
+        frameWatcher_ = std::make_unique<FrameWatcher>(*windowHandle(), [this] { emit framed(); });
         setWindowManagerFunctions(
             *windowHandle(),
             {.resize = style_.isResizable, .move = style_.isMovable, .close = style_.isClosable});
@@ -46,6 +48,7 @@ Window::Window(Style style, MainMenu &menu)
 Window::~Window() {
     // The bar unregisters from the menu, and its actions from this window, while the window is still whole.
     menuBar_.reset();
+    frameWatcher_.reset();
 }
 
 void Window::setContent(QWidget *content) {
@@ -61,12 +64,13 @@ void Window::setSizes(QSize content, QSize minimum, QSize maximum) {
     resize(content);
 }
 
-bool Window::event(QEvent *event) {
-    if (event->type() == QEvent::WindowActivate && !std::exchange(wasFramed_, true)) {
-        // The frame's margins are known now, which they were not when the window was mapped.
-        QTimer::singleShot(0, this, &Window::framed);
-    }
-    return QWidget::event(event);
+QSize Window::frameSize() const {
+    // The widget remembers margins that it saw too early; the native window asks for them.
+    return windowHandle()->frameGeometry().size();
+}
+
+void Window::moveFrame(QPoint origin) {
+    windowHandle()->setFramePosition(origin);
 }
 
 bool Window::eventFilter(QObject *watched, QEvent *event) {

@@ -26,23 +26,32 @@ constexpr std::uint32_t decorationResizeHandle = 1U << 2U;
 constexpr std::uint32_t decorationTitle = 1U << 3U;
 constexpr std::uint32_t decorationMenu = 1U << 4U;
 
-xcb_atom_t atom(xcb_connection_t *connection, std::string_view name) {
+/// Null where the window system is none of X11's.
+xcb_connection_t *connectionOfWindowSystem() {
+    const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    // Other platforms may have the interface too, without a connection behind it.
+    return x11 == nullptr ? nullptr : x11->connection();
+}
+
+} // namespace
+
+std::uint32_t atomOfWindowSystem(std::string_view name) {
+    xcb_connection_t *connection = connectionOfWindowSystem();
+    if (connection == nullptr) {
+        return XCB_ATOM_NONE;
+    }
     const auto cookie = xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
     const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> reply(
         xcb_intern_atom_reply(connection, cookie, nullptr), &std::free);
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
-} // namespace
-
 void setWindowManagerFunctions(QWindow &window, WindowFunctions functions) {
-    const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    // Other platforms may have the interface too, without a connection behind it.
-    xcb_connection_t *connection = x11 == nullptr ? nullptr : x11->connection();
+    xcb_connection_t *connection = connectionOfWindowSystem();
     if (connection == nullptr) {
         return;
     }
-    const xcb_atom_t hints = atom(connection, "_MOTIF_WM_HINTS");
+    const xcb_atom_t hints = atomOfWindowSystem("_MOTIF_WM_HINTS");
     const std::array<std::uint32_t, 5> value{
         functionsAreSet | decorationsAreSet,
         (functions.resize ? functionResize : 0) | (functions.move ? functionMove : 0) |

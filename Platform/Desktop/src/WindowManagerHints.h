@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstdint>
+#include <string_view>
+
 class QWindow;
 
 namespace velmar {
@@ -10,6 +13,9 @@ struct WindowFunctions {
     bool move = true;
     bool close = true;
 };
+
+/// The number that the window system gives to a name; 0 where it is none of X11's.
+[[nodiscard]] std::uint32_t atomOfWindowSystem(std::string_view name);
 
 /// Tells the window manager what it may offer for a window with a title bar; minimising and maximising never.
 /// Window managers are free not to follow. Before the window is shown; does nothing where there is no X

@@ -75,9 +75,9 @@ void CustomWindowAppDelegateService::applicationDidFinishLaunching() {
 }
 
 void CustomWindowAppDelegateService::place(const WindowPositionItem &position, const ScreenFrame &screen) {
-    const QSize size = window_->frameGeometry().size();
+    const QSize size = window_->frameSize();
     const auto [x, y] = WindowPlacement::originOf(position, size.width(), size.height(), screen);
-    window_->move(x, y);
+    window_->moveFrame({x, y});
 }
 
 } // namespace velmar

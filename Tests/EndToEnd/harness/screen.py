@@ -14,6 +14,9 @@ from .waiting import until  # noqa: E402
 warnings.filterwarnings("ignore", category=DeprecationWarning, module=__name__)
 Atspi.set_timeout(2000, 10000)
 
+# Of the screen that scripts/with-display makes.
+SIZE = (1280, 800)
+
 
 class Node:
     """One visible thing: its role ("push button"), its name, and the node of the bus behind it."""
@@ -80,6 +83,19 @@ class Screen:
 
     def titles(self):
         return [node.name for node in self.nodes() if node.is_window and node.showing]
+
+    def content(self):
+        """Left, top, width and height of the first window, without what the window manager puts around it."""
+        return next(node.position() for node in self.nodes() if node.is_window and node.showing)
+
+    def frame(self):
+        """The same with what the window manager puts around it."""
+        window = _xdotool("search", "--onlyvisible", "--pid", self._process.pid).split()[-1]
+        extents = subprocess.run(["xprop", "-id", window, "-notype", "_NET_FRAME_EXTENTS"], capture_output=True,
+                                 text=True, check=True).stdout
+        left, right, top, bottom = (int(number) for number in extents.split("=")[1].split(","))
+        x, y, width, height = self.content()
+        return x - left, y - top, width + left + right, height + top + bottom
 
     def buttons(self):
         return [node.text() for node in self.nodes() if node.showing and node.role == "push button"]

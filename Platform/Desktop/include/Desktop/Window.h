@@ -10,6 +10,7 @@ class QVBoxLayout;
 
 namespace velmar {
 
+class FrameWatcher;
 class MenuBar;
 
 /// A window of the desktop with the application's menus and one content. It never offers to be minimised. The
@@ -39,6 +40,11 @@ public:
     /// The size of the content, and the sizes between which the user may choose.
     void setSizes(QSize content, QSize minimum, QSize maximum);
 
+    /// With what the window manager puts around the window, as far as it is known.
+    [[nodiscard]] QSize frameSize() const;
+    /// The top left corner of the frame, in the coordinates of the desktop.
+    void moveFrame(QPoint origin);
+
     [[nodiscard]] const Style &style() const noexcept { return style_; }
 
     /// The radius of the corners of a window without title bar, in points.
@@ -47,12 +53,12 @@ public:
     static constexpr int moveStripHeight = 40;
 
 signals:
-    /// The first time that the window has its place on the screen, with the window manager's frame around it.
+    /// Once, when the window manager has told what it puts around the window; never for a window without
+    /// frame.
     void framed();
     void firstPainted();
 
 protected:
-    bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -63,8 +69,8 @@ private:
     Style style_;
     QVBoxLayout *layout_;
     std::unique_ptr<MenuBar> menuBar_;
+    std::unique_ptr<FrameWatcher> frameWatcher_;
     QWidget *content_ = nullptr;
-    bool wasFramed_ = false;
     bool wasPainted_ = false;
 };
 
