@@ -61,6 +61,8 @@ qreal StyleConfigurableTextView::layOut(qreal width, QPainter *painter) const {
     content.replace(QLatin1Char('\n'), QChar::LineSeparator);
     QTextLayout layout(content, font());
     QTextOption option(alignmentOf(fontItem_ ? fontItem_->_textAlignment() : std::nullopt));
+    // The text's own, whatever the program's language: an Arabic sentence begins on the right everywhere.
+    option.setTextDirection(content.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     layout.setTextOption(option);
     const bool isLarge = font().pointSizeF() > Theme::font(largeSize).pointSizeF();

@@ -10,7 +10,7 @@ namespace velmar {
 /// alone are no key-down events. Main thread.
 class KeyEventMonitor {
 public:
-    /// The modifiers as docs/decisions/modifier-keys.md has them.
+    /// The modifiers as docs/decisions/0016-modifier-keys.md has them.
     struct Event {
         std::string charactersIgnoringModifiers; ///< UTF-8; empty for keys without a character.
         bool command = false;
