@@ -54,7 +54,21 @@ constexpr std::string_view header = R"(<?xml version="1.0" encoding="UTF-8"?>
 	<array>
 )";
 
-// A title in the style of a book, a text with a font of its own, a blank between them, in two containers.
+// A text in the style of a book.
+std::string title(std::string_view text) {
+    return fmt::format(R"(						<dict>
+							<key>Type</key>
+							<string>Text</string>
+							<key>Text</key>
+							<string>{}</string>
+							<key>TextFontConfiguration</key>
+							<string>Title</string>
+						</dict>
+)",
+                       text);
+}
+
+// A title, a text with a font of its own, a blank between them, in two containers.
 std::string slide(std::size_t number) {
     return fmt::format(R"(		<dict>
 			<key>Containers</key>
@@ -62,15 +76,7 @@ std::string slide(std::size_t number) {
 				<dict>
 					<key>Components</key>
 					<array>
-						<dict>
-							<key>Type</key>
-							<string>Text</string>
-							<key>Text</key>
-							<string>Step {0} of the first minutes</string>
-							<key>TextFontConfiguration</key>
-							<string>Title</string>
-						</dict>
-						<dict>
+{4}						<dict>
 							<key>Type</key>
 							<string>Spacer</string>
 							<key>Height</key>
@@ -110,15 +116,7 @@ std::string slide(std::size_t number) {
 				<dict>
 					<key>Components</key>
 					<array>
-						<dict>
-							<key>Type</key>
-							<string>Text</string>
-							<key>Text</key>
-							<string>Réseau, Schlüssel, 鍵: nº {0}</string>
-							<key>TextFontConfiguration</key>
-							<string>Title</string>
-						</dict>
-					</array>
+{5}					</array>
 					<key>BorderColor</key>
 					<string>Ink</string>
 					<key>WidthRatio</key>
@@ -129,7 +127,9 @@ std::string slide(std::size_t number) {
 			<{3}/>
 		</dict>
 )",
-                       number, 10 + number % 20, number * 7919 % 0xFFFFFF, number == 0 ? "true" : "false");
+                       number, 10 + number % 20, number * 7919 % 0xFFFFFF, number == 0 ? "true" : "false",
+                       title(fmt::format("Step {} of the first minutes", number)),
+                       title(fmt::format("Réseau, Schlüssel, 鍵: nº {}", number)));
 }
 
 std::string makeFile() {
