@@ -6,6 +6,7 @@
 #include <AppDelegate/Services/CustomWindowAppDelegateService.h>
 #include <AppDelegate/Services/LoginRelaunchAppDelegateService.h>
 #include <Constants/Domain.h>
+#include <Managers/ConfigurationRefusal.h>
 #include <Views/CustomViews/Theme.h>
 
 #include <Desktop/DesktopAppearance.h>

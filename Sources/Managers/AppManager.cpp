@@ -5,9 +5,6 @@
 #include <Managers/ConfigurationFile.h>
 #include <logger/Logger.h>
 
-#include <fmt/format.h>
-
-#include <cstdlib>
 #include <set>
 #include <string>
 #include <string_view>
@@ -17,9 +14,10 @@ namespace velmar {
 
 namespace {
 
-// The code points of a text in upper case, each as its bytes.
+// The characters of a text in upper case, each as its bytes: composed, for a keyboard's "é" is one code point
+// and a file's may be two.
 std::set<std::string> charactersInUpperCase(std::string_view text) {
-    const std::string upper = UnicodeText::uppercased(text);
+    const std::string upper = UnicodeText::composed(UnicodeText::uppercased(text));
     std::set<std::string> characters;
     for (std::size_t start = 0; start < upper.size();) {
         std::size_t end = start + 1;
@@ -80,15 +78,6 @@ bool AppManager::keyDownEventHandler(const KeyEvent &event) const {
     Logger::info("Force quit shortcut detected. Forcing the application termination");
     terminate_();
     return true;
-}
-
-void ConfigurationRefusal::exitBecauseOf(const std::exception &error) const {
-    Logger::error(
-        [&] { return fmt::format("A problem occurred while retrieving configuration: {}", error.what()); });
-    alert("The configuration file is incorrect", "Quit");
-    Logger::flush();
-    exit(0);
-    std::abort();
 }
 
 } // namespace velmar

@@ -4,7 +4,6 @@
 #include <Managers/ConfigurationLocator.h>
 #include <Managers/Shared.h>
 
-#include <exception>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -54,7 +53,7 @@ public:
 
     /// Finds, admits and decodes the configuration, then starts the monitor of the force quit shortcut unless
     /// the configuration switches it off. Throws whatever refuses the configuration: VelmarError,
-    /// ConfigurationError, PropertyListError; and MissingOptionValue.
+    /// ConfigurationError, PropertyListError.
     explicit AppManager(const Surroundings &surroundings);
     ~AppManager();
     AppManager(const AppManager &) = delete;
@@ -84,19 +83,6 @@ private:
     URL configurationFileURL_;
     std::function<void()> terminate_;
     KeyDownMonitor keyDownMonitor_;
-};
-
-/// What a refused configuration does to the process.
-struct ConfigurationRefusal {
-    /// Shows a modal alert of the critical style with one button, and returns when it was pressed. It runs
-    /// its own loop, so it is never called while the AppManager is being made.
-    std::function<void(const std::string &message, const std::string &button)> alert;
-    /// Ends the process with a status, at once and without the application's termination. Must not return.
-    std::function<void(int status)> exit;
-
-    /// Logs what the making of the AppManager threw, shows the alert, waits for the log to be written and
-    /// ends the process with status 0. Main thread.
-    [[noreturn]] void exitBecauseOf(const std::exception &error) const;
 };
 
 } // namespace velmar

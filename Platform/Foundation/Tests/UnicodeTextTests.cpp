@@ -32,6 +32,8 @@ TEST(UnicodeText, EqualsByCanonicalEquivalence) {
             << each.left << " " << each.right;
         EXPECT_EQ(UnicodeText::compare(each.left, each.right) == 0, each.isEqual)
             << each.left << " " << each.right;
+        EXPECT_EQ(UnicodeText::composed(each.left) == UnicodeText::composed(each.right), each.isEqual)
+            << each.left << " " << each.right;
     }
 }
 

@@ -164,6 +164,10 @@ bool hasSuffix(std::string_view text, std::string_view suffix) {
            isBoundary(composedText.view(), composedText.view().size() - composedSuffix.view().size());
 }
 
+std::string composed(std::string_view text) {
+    return std::string(Composed(text).view());
+}
+
 std::string lowercased(std::string_view text) {
     return mapped(text, 'A', 'Z', [](icu::StringPiece piece, icu::ByteSink &sink, UErrorCode &status) {
         icu::CaseMap::utf8ToLower("", 0, piece, sink, nullptr, status);

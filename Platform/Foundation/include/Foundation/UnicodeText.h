@@ -22,6 +22,9 @@ namespace velmar::UnicodeText {
 [[nodiscard]] bool hasPrefix(std::string_view text, std::string_view prefix);
 [[nodiscard]] bool hasSuffix(std::string_view text, std::string_view suffix);
 
+/// The composed form (NFC), which is the same for equal texts.
+[[nodiscard]] std::string composed(std::string_view text);
+
 [[nodiscard]] std::string lowercased(std::string_view text);
 [[nodiscard]] std::string uppercased(std::string_view text);
 
