@@ -69,11 +69,15 @@ std::string ConfigurationFile::content() const {
 }
 
 std::shared_ptr<const Configuration> ConfigurationFile::retrieveConfiguration() const {
-    Logger::debug("Retrieving configuration file content...");
-    const std::string bytes = content();
-    Logger::info("Successfully retrieved configuration file content");
-    Logger::debug("Decoding configuration file...");
-    return Configuration::decode(PropertyList::read(bytes).value);
+    // The bytes are gone before the values of the document become items.
+    const PropertyList::Document document = [this] {
+        Logger::debug("Retrieving configuration file content...");
+        const std::string bytes = content();
+        Logger::info("Successfully retrieved configuration file content");
+        Logger::debug("Decoding configuration file...");
+        return PropertyList::read(bytes);
+    }();
+    return Configuration::decode(document.value);
 }
 
 } // namespace velmar
