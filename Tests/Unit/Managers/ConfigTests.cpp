@@ -53,22 +53,30 @@ TEST_F(ConfigTest, PrefersTheOverridingValueAndNeedsNoManagerForIt) {
 }
 
 TEST_F(ConfigTest, IsReadByOtherThreadsDuringAReload) {
-    writeConfiguration(title("Title"));
+    writeConfiguration(title("One"));
     const Shared<AppManager>::Scope scope(makeAppManager());
     std::atomic<bool> isOver = false;
+    std::atomic<int> readings = 0;
     std::atomic<int> wrong = 0;
     std::thread reader([&] {
         const auto _title = windowTitle();
         while (!isOver) {
-            wrong += _title() == "Title" ? 0 : 1;
+            const auto title = _title();
+            wrong += title == "One" || title == "Two" ? 0 : 1;
+            ++readings;
+            readings.notify_one();
         }
     });
     for (int reload = 0; reload < 50; ++reload) {
+        writeConfiguration(title(reload % 2 == 0 ? "Two" : "One"));
+        const int before = readings;
         AppManager::shared()->reloadInterface(false);
+        readings.wait(before); // The reader came by since the reload began.
     }
     isOver = true;
     reader.join();
     EXPECT_EQ(wrong, 0);
+    EXPECT_EQ(windowTitle()(), "One");
 }
 
 } // namespace
