@@ -32,15 +32,5 @@ TEST(LoggerExtensions, PutTheSymbolOfTheSubjectBeforeTheMessage) {
     EXPECT_THAT(last->record.where.file, testing::EndsWith("LoggerExtensionsTests.cpp"));
 }
 
-TEST(LoggerExtensions, WarnAboutVariablesInVariables) {
-    const auto last = std::make_shared<LastRecord>();
-    const ScopedDestinations scope({last});
-    LoggerExtensions::registeredVariableUsesOtherVariables("NAME", "Root.Slides[0]");
-    EXPECT_EQ(last->record.level, LogLevel::warning);
-    EXPECT_EQ(last->record.message,
-              "The value of the variable 'NAME' at 'Root.Slides[0]' uses other variables, which "
-              "is not allowed outside of 'General.Variables'.");
-}
-
 } // namespace
 } // namespace velmar

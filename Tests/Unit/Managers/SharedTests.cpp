@@ -5,28 +5,14 @@
 namespace velmar {
 namespace {
 
-struct Counter {
-    int value = 0;
-};
-
 struct Named {
     explicit Named(int value_) : value(value_) {}
     int value;
 };
 
-TEST(Shared, MakesWhatNeedsNothingOnce) {
-    Shared<Counter>::instance()->value = 5;
-    EXPECT_EQ(Shared<Counter>::instance()->value, 5);
-    {
-        const Shared<Counter>::Scope scope(std::make_shared<Counter>());
-        EXPECT_EQ(Shared<Counter>::instance()->value, 0);
-    }
-    EXPECT_EQ(Shared<Counter>::instance()->value, 5);
-}
-
 TEST(Shared, GivesWhatWasInstalledForAsLongAsItIs) {
     EXPECT_THROW(static_cast<void>(Shared<Named>::instance()), VelmarError);
-    auto first = std::make_shared<Named>(1);
+    const auto first = std::make_shared<Named>(1);
     {
         const Shared<Named>::Scope outer(first);
         {

@@ -1,5 +1,8 @@
 #include <Models/VelmarError.h>
 
+#include <Extensions/LoggerExtensions.h>
+#include <Support/RecordedLog.h>
+
 #include <gtest/gtest.h>
 
 namespace velmar {
@@ -14,12 +17,19 @@ Allowed cases:
 - The 'user' and group are 'admin' (or group: 'wheel') and the 'other' user has no 'write' permission. Ex: '-rw-rw-r--.)");
 }
 
-TEST(VelmarError, NamesTheVerbOfATerminationEvent) {
-    const VelmarError error(
-        VelmarError::TerminationEventUnbuilt{TerminationEventSender::Event::sleep, "No."});
-    EXPECT_EQ(error.errorDescription(), "Error while building the Apple Event to sleep. No.");
-    EXPECT_EQ(error.as<VelmarError::TerminationEventUnbuilt>()->error, "No.");
-    EXPECT_EQ(error.as<VelmarError::MissingFile>(), nullptr);
+// The two differ by the quotes.
+TEST(VelmarError, TellsOfVariablesInVariablesInTheLogAndAsAnError) {
+    const RecordedLog log;
+    LoggerExtensions::registeredVariableUsesOtherVariables("NAME", "Slides[0]");
+    EXPECT_EQ(log.lines(),
+              std::vector<std::string>{
+                  "warning: The value of the variable 'NAME' at 'Slides[0]' uses other variables, "
+                  "which is not allowed outside of 'General.Variables'."});
+    EXPECT_EQ(VelmarError(VelmarError::RegisteredVariableUsesOtherVariables{"NAME", "Slides[0]"})
+                  .errorDescription(),
+              "The value of the variable 'NAME' at 'Slides[0]' uses other variables, which is not allowed "
+              "outside of "
+              "General.Variables.");
 }
 
 } // namespace
