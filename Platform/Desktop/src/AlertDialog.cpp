@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPushButton>
+#include <QScreen>
 
 namespace velmar {
 
@@ -113,6 +114,11 @@ AlertDialog::AlertDialog(const Alert &alert, QWidget *parent)
 
 std::size_t DesktopAlertPresenter::runModal(const Alert &alert) {
     AlertDialog dialog(alert, QApplication::activeWindow());
+    if (const QScreen *screen =
+            dialog.parentWidget() == nullptr ? QGuiApplication::primaryScreen() : nullptr) {
+        dialog.adjustSize();
+        dialog.move(screen->geometry().center() - dialog.rect().center());
+    }
     // Escape and the window manager's way to close a window give 0, and stand for the last button.
     const int result = dialog.exec();
     return result > 0 ? static_cast<std::size_t>(result) - 1 : alert.buttons.size() - 1;
