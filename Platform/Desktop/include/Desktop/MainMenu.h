@@ -7,7 +7,8 @@
 
 namespace velmar {
 
-/// A key with modifiers. How the four are found on this system's keyboards: docs/decisions/0016-modifier-keys.md.
+/// A key with modifiers. How the four are found on this system's keyboards:
+/// docs/decisions/0016-modifier-keys.md.
 struct KeyShortcut {
     char key = 0; ///< A letter in upper case or a digit.
     bool command = false;
