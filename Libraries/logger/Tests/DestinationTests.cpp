@@ -2,9 +2,7 @@
 #include <fstream>
 #include <sstream>
 #include <thread>
-#include <type_traits>
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
@@ -14,10 +12,10 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include <Testing/TemporaryDirectory.h>
 #include <logger/ConsoleDestination.h>
 #include <logger/FileDestination.h>
 #include <logger/ScopedDestinations.h>
-#include <logger/VelmarLogFilePermanentDestination.h>
 
 namespace velmar {
 namespace {
@@ -44,18 +42,11 @@ struct stat attributesOf(const fs::path &path) {
 
 class FileDestinationTest : public testing::Test {
 protected:
-    void SetUp() override {
-        char pattern[] = "/tmp/velmar-logger-XXXXXX";
-        ASSERT_NE(mkdtemp(pattern), nullptr);
-        folder_ = pattern;
-    }
-    void TearDown() override { fs::remove_all(folder_); }
-
-    [[nodiscard]] fs::path at(std::string_view name) const { return folder_ / name; }
+    [[nodiscard]] fs::path at(std::string_view name) const { return fs::path(folder_.path()) / name; }
     [[nodiscard]] static DestinationSettings plain() { return {.format = "$M"}; }
 
 private:
-    fs::path folder_;
+    TemporaryDirectory folder_;
 };
 
 TEST_F(FileDestinationTest, AppendsToWhatIsThereAndCreatesWhatIsMissing) {
@@ -66,12 +57,6 @@ TEST_F(FileDestinationTest, AppendsToWhatIsThereAndCreatesWhatIsMissing) {
     }
     EXPECT_EQ(contentOf(path), "one\ntwo\n");
     EXPECT_EQ(attributesOf(path).st_mode & 07777, 0600U);
-}
-
-TEST_F(FileDestinationTest, WritesAnyBytesOfAMessage) {
-    FileDestination destination({.logFileURL = at("log")}, plain());
-    log(destination, std::string("a\nb\0\xff$M", 7));
-    EXPECT_EQ(contentOf(at("log")), "a\nb\\x00\xff$M\n");
 }
 
 TEST_F(FileDestinationTest, NoticesThatItsFileWasRemovedOrReplaced) {
@@ -118,15 +103,12 @@ TEST_F(FileDestinationTest, RefusesWhatIsNoFileOfItsOwn) {
 }
 
 TEST_F(FileDestinationTest, TellsALossOnStandardErrorIfAsked) {
-    testing::internal::CaptureStderr();
     for (const bool asked : {false, true}) {
+        testing::internal::CaptureStderr();
         FileDestination destination({.logFileURL = at("")}, {.format = "$M", .debugPrint = asked});
         log(destination, "lost");
-        const std::string told = testing::internal::GetCapturedStderr();
-        EXPECT_EQ(told.empty(), !asked) << told;
-        testing::internal::CaptureStderr();
+        EXPECT_EQ(testing::internal::GetCapturedStderr().empty(), !asked);
     }
-    testing::internal::GetCapturedStderr();
 }
 
 // Root writes for a user who controls the folder "home".
@@ -138,7 +120,6 @@ protected:
         if (geteuid() != 0) {
             GTEST_SKIP() << "needs root";
         }
-        FileDestinationTest::SetUp();
         fs::permissions(at(""), fs::perms(0755));
         fs::create_directory(at("home"));
         ASSERT_EQ(chown(at("home").c_str(), ada.user, ada.group), 0);
@@ -223,20 +204,6 @@ TEST_F(RootsFileDestinationTest, WritesFilesOfRootAndTheOwnerAlone) {
     }
 }
 
-TEST(ConsoleDestination, PrintsColorsOnlyIfAsked) {
-    int ends[2];
-    ASSERT_EQ(pipe(ends), 0);
-    for (const bool colors : {false, true}) {
-        ConsoleDestination destination({.format = "$C$M$c"}, colors, ends[1]);
-        log(destination, "a");
-        char text[64];
-        const auto length = static_cast<std::size_t>(read(ends[0], text, sizeof text));
-        EXPECT_EQ(std::string(text, length), colors ? "\x1b[38;5;251ma\x1b[0m\n" : "a\n");
-    }
-    close(ends[0]);
-    close(ends[1]);
-}
-
 TEST(ConsoleDestination, SurvivesAReaderThatWentAway) {
     int ends[2];
     ASSERT_EQ(pipe(ends), 0);
@@ -273,31 +240,6 @@ TEST(ConsoleDestination, WaitsOnItsQueueForAReaderThatIsSlow) {
         close(ends[1]);
         EXPECT_EQ(received, big.size() + 1);
     }
-}
-
-TEST(VelmarLogDestination, WritesTheApplicationsLines) {
-    static_assert(!std::is_default_constructible_v<VelmarLogDestination>);
-    const std::string user = "velmar-test-" + std::to_string(getpid());
-    const fs::path path = "/tmp/" + user + "-velmar.log";
-    {
-        const ScopedDestinations scope(
-            {std::make_shared<VelmarLogFileDestination>("Velmar", user, std::nullopt),
-             std::make_shared<VelmarLogFilePermanentDestination>("Velmar", user, std::nullopt),
-             std::make_shared<VelmarLogFileDestination>("Velmar", "../" + user, std::nullopt)});
-        Logger::info("Found configuration file at /a.plist");
-        Logger::error("An error occurred while retrieving the configuration file",
-                      "[The file doesn't exist.]");
-        EXPECT_TRUE(Logger::flush());
-    }
-    const std::string content = contentOf(path);
-    fs::remove(path);
-    EXPECT_THAT(
-        content,
-        testing::MatchesRegex(
-            "\\[Velmar\\] [0-2][0-9]:[0-5][0-9]:[0-6][0-9] ℹ️ > Found configuration file at /a.plist \n"
-            "\\[Velmar\\] [0-2][0-9]:[0-5][0-9]:[0-6][0-9] 🛑 > An error occurred while retrieving the "
-            "configuration file \\[The file doesn't exist.\\]\n"));
-    EXPECT_FALSE(fs::exists("/Users/" + user));
 }
 
 } // namespace

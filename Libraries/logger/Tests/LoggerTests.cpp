@@ -32,14 +32,8 @@ TEST(Logger, MakesAMessageOnceForEachDestinationThatLogsIt) {
                                      }}});
     const ScopedDestinations scope({all, warnings, filtered});
     const auto caller = std::this_thread::get_id();
-    const struct {
-        LogLevel level;
-        int made;
-    } cases[] = {{LogLevel::verbose, 1},
-                 {LogLevel::debug, 1},
-                 {LogLevel::info, 1},
-                 {LogLevel::warning, 2},
-                 {LogLevel::error, 3}};
+    const std::pair<LogLevel, int> cases[] = {
+        {LogLevel::verbose, 1}, {LogLevel::info, 1}, {LogLevel::warning, 2}, {LogLevel::error, 3}};
     for (const auto &[level, expected] : cases) {
         int made = 0;
         Logger::log(level, [&] {
@@ -50,7 +44,7 @@ TEST(Logger, MakesAMessageOnceForEachDestinationThatLogsIt) {
     }
     EXPECT_THAT(warnings->messages(), ElementsAre("2", "2")) << "written before the call returned";
     EXPECT_TRUE(Logger::flush());
-    EXPECT_THAT(all->messages(), ElementsAre("1", "1", "1", "1", "1"));
+    EXPECT_THAT(all->messages(), ElementsAre("1", "1", "1", "1"));
     EXPECT_THAT(filtered->messages(), ElementsAre("3"));
 }
 
@@ -69,10 +63,11 @@ TEST(Logger, MakesNoMessageThatNobodyLogs) {
     Logger::error(never);
 }
 
-TEST(Logger, TakesFunctionsTextsAndValues) {
+TEST(Logger, TakesFunctionsTextsAndValuesAndLosesWhatThrows) {
     const auto destination = recording({.asynchronously = false});
     const ScopedDestinations scope({destination});
     const std::string text = "text";
+    Logger::verbose([]() -> std::string { throw std::runtime_error("no text"); });
     Logger::verbose("literal");
     Logger::debug(text);
     Logger::info(std::string_view(text).substr(1));
@@ -86,31 +81,19 @@ TEST(Logger, TakesFunctionsTextsAndValues) {
     EXPECT_THAT(last.where.file, testing::EndsWith("LoggerTests.cpp"));
 }
 
-TEST(Logger, LosesOnlyTheMessageThatThrows) {
-    const auto destination = recording();
-    const ScopedDestinations scope({destination});
-    Logger::info([]() -> std::string { throw std::runtime_error("no text"); });
-    Logger::info("next");
-    Logger::flush();
-    EXPECT_THAT(destination->messages(), ElementsAre("next"));
-}
-
-TEST(Logger, KeepsThePlacesAndTheTimesOfCalls) {
+TEST(Logger, KeepsTheNamesOfThreads) {
     const auto destination = recording({.format = "$T"});
     const ScopedDestinations scope({destination});
-    const auto before = std::chrono::system_clock::now();
     Logger::info("a");
     std::thread([] {
         pthread_setname_np(pthread_self(), "worker");
         Logger::info("b");
     }).join();
-    const auto after = std::chrono::system_clock::now();
     Logger::flush();
     const auto records = destination->records();
     ASSERT_EQ(records.size(), 2U);
     EXPECT_EQ(records[0].thread, "main");
     EXPECT_EQ(records[1].thread, "worker");
-    EXPECT_TRUE(before <= records[0].time && records[1].time <= after);
 }
 
 TEST(Logger, KeepsTheOrderOfEachThreadWhileTheListChanges) {
