@@ -54,28 +54,23 @@ TEST_F(Alerts, ShowTheirTextsAsTheyAre) {
     });
 }
 
-TEST_F(Alerts, GiveTheButtonThatWasPressed) {
-    const auto pressed = [this](const QString &text) {
-        return answer(question, [text](QWidget &dialog) { button(dialog, text).click(); });
+TEST_F(Alerts, GiveTheButtonTheFirstForReturnAndTheLastForClosing) {
+    const auto press = [](const QString &text) {
+        return [text](QWidget &dialog) { button(dialog, text).click(); };
     };
-    EXPECT_EQ(pressed("Yes"), 0U);
-    EXPECT_EQ(pressed("Maybe"), 1U);
-    EXPECT_EQ(pressed("No"), 2U);
-}
-
-TEST_F(Alerts, TakeReturnForTheFirstButtonAndClosingForTheLast) {
-    const auto key = [this](int code) {
-        return answer(question, [code](QWidget &dialog) {
+    const auto key = [](int code) {
+        return [code](QWidget &dialog) {
             QKeyEvent event(QEvent::KeyPress, code, Qt::NoModifier);
             QCoreApplication::sendEvent(&dialog, &event);
-        });
+        };
     };
-    EXPECT_EQ(key(Qt::Key_Return), 0U);
-    EXPECT_EQ(key(Qt::Key_Escape), 2U);
-    EXPECT_EQ(answer(question, [](QWidget &dialog) { dialog.close(); }), 2U);
-    const Alert sole{
-        .style = Alert::Style::critical, .messageText = "Broken", .informativeText = "", .buttons = {"Quit"}};
-    EXPECT_EQ(answer(sole, [](QWidget &dialog) { dialog.close(); }), 0U);
+    const auto close = [](QWidget &dialog) { dialog.close(); };
+    const std::pair<std::function<void(QWidget &)>, std::size_t> cases[] = {
+        {press("Yes"), 0},        {press("Maybe"), 1},      {press("No"), 2},
+        {key(Qt::Key_Return), 0}, {key(Qt::Key_Escape), 2}, {close, 2}};
+    for (const auto &[user, expected] : cases) {
+        EXPECT_EQ(answer(question, user), expected);
+    }
 }
 
 } // namespace

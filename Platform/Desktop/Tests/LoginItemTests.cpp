@@ -38,16 +38,6 @@ TEST(LoginItem, QuotesItsCommandTwice) {
     }
 }
 
-TEST(LoginItem, IsRemovedOnceAndMayBeMissing) {
-    const TemporaryDirectory directory;
-    const LoginItem item(directory.path());
-    EXPECT_NO_THROW(item.disable());
-    item.enable(std::vector<std::string>{"/usr/bin/velmar"});
-    EXPECT_TRUE(FileManager().fileExists(item.path()));
-    item.disable();
-    EXPECT_FALSE(FileManager().fileExists(item.path()));
-}
-
 TEST(LoginItem, TellsWhenItCannotBeWritten) {
     const LoginItem item("/dev/null/autostart");
     EXPECT_THROW(item.enable(std::vector<std::string>{"/usr/bin/velmar"}), FileError);

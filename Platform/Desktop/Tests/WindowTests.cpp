@@ -1,6 +1,5 @@
 #include "QtTest.h"
 
-#include <Desktop/DesktopAppearance.h>
 #include <Desktop/MainMenu.h>
 #include <Desktop/Window.h>
 
@@ -23,25 +22,7 @@ MenuItem menu(std::string title, int tag, std::vector<MenuItem> submenu) {
         .title = std::move(title), .tag = tag, .shortcut = {}, .action = {}, .submenu = std::move(submenu)};
 }
 
-std::string outline(const std::vector<MenuItem> &items) {
-    std::string text;
-    for (const MenuItem &item : items) {
-        text += item.title + (item.submenu.empty() ? "" : "(" + outline(item.submenu) + ")") + " ";
-    }
-    return text;
-}
-
 class Windows : public QtTest {};
-
-TEST_F(Windows, LoseTheMenuItemsOfATagWithTheOthersInTheirOrder) {
-    MainMenu mainMenu;
-    mainMenu.setItems({menu("App", 0, {entry("About"), entry("Secret", 2), entry("Quit")}),
-                       menu("Admin", 2, {entry("Reload", 2)}), menu("Help", 3, {entry("Manual")})});
-    mainMenu.removeItems(2);
-    EXPECT_EQ(outline(mainMenu.items()), "App(About Quit ) Help(Manual ) ");
-    mainMenu.removeItems(2);
-    EXPECT_EQ(mainMenu.items().size(), 2U);
-}
 
 TEST_F(Windows, KeepTheShortcutsOfAHiddenMenuBar) {
     MainMenu mainMenu;
@@ -84,16 +65,13 @@ TEST_F(Windows, SurviveAnEntryThatReplacesTheMenus) {
 
 TEST_F(Windows, AreClosedByTheUserOnlyWhereTheStyleSaysSo) {
     MainMenu mainMenu;
-    struct Case {
-        Window::Style style;
-        bool closes;
-    };
-    for (const Case &row :
-         {Case{{}, true}, Case{{.isClosable = false}, false}, Case{{.hasTitleBar = false}, false}}) {
-        Window window(row.style, mainMenu);
+    const std::pair<Window::Style, bool> cases[] = {
+        {{}, true}, {{.isClosable = false}, false}, {{.hasTitleBar = false}, false}};
+    for (const auto &[style, closes] : cases) {
+        Window window(style, mainMenu);
         window.show();
-        EXPECT_EQ(window.windowHandle()->close(), row.closes);
-        EXPECT_EQ(window.isVisible(), !row.closes);
+        EXPECT_EQ(window.windowHandle()->close(), closes);
+        EXPECT_EQ(window.isVisible(), !closes);
     }
 }
 
@@ -101,7 +79,6 @@ TEST_F(Windows, OpenInTheirSizeAndStayWithinTheirLimits) {
     MainMenu mainMenu;
     Window resizable({}, mainMenu);
     resizable.setSizes({800, 600}, {800, 600}, {1280, 768});
-    EXPECT_EQ(resizable.size(), QSize(800, 600));
     EXPECT_EQ(resizable.maximumSize(), QSize(1280, 768));
     resizable.setSizes({1400, 900}, {1400, 900}, {1280, 768});
     EXPECT_EQ(resizable.size(), QSize(1400, 900)) << "the least counts more than the most";
@@ -114,21 +91,6 @@ TEST_F(Windows, OpenInTheirSizeAndStayWithinTheirLimits) {
     EXPECT_EQ(bare.maximumSize(), QSize(800, 600));
     EXPECT_FALSE(bare.mask().contains(QPoint(1, 1))) << "corners are round";
     EXPECT_TRUE(bare.mask().contains(QPoint(1, Window::cornerRadius + 1)));
-}
-
-TEST_F(Windows, AppearanceIsThePalettesUnlessTheUserHasAPreference) {
-    const QPalette light(Qt::white);
-    QPalette dark(Qt::black);
-    dark.setColor(QPalette::WindowText, Qt::white);
-    DesktopAppearance appearance;
-    EXPECT_FALSE(appearance.prefersDark(light));
-    EXPECT_TRUE(appearance.prefersDark(dark));
-    int changes = 0;
-    QObject::connect(&appearance, &DesktopAppearance::preferenceChanged, &appearance, [&] { ++changes; });
-    appearance.setPrefersDark(true);
-    appearance.setPrefersDark(true);
-    EXPECT_TRUE(appearance.prefersDark(light));
-    EXPECT_EQ(changes, 1);
 }
 
 } // namespace
