@@ -28,11 +28,6 @@ TEST_F(AppManagerTest, FindsAdmitsAndDecodesTheConfiguration) {
     const auto manager = makeAppManager();
     EXPECT_EQ(manager->configurationFileURL().path(), path);
     EXPECT_EQ(manager->configuration()->_window()._title(), "Welcome");
-    EXPECT_THAT(log_.lines(), ElementsAre("info: Found configuration file at " + path,
-                                          "debug: Retrieving configuration file content...",
-                                          "info: Successfully retrieved configuration file content",
-                                          "debug: Decoding configuration file...",
-                                          "info: Successfully decoded configuration file"));
 }
 
 TEST_F(AppManagerTest, IsNotMadeOfARefusedFile) {
@@ -72,14 +67,9 @@ TEST_F(AppManagerTest, KeepsTheConfigurationWhenAReloadFails) {
     EXPECT_THAT(log_.lines().back(), HasSubstr("error: Error at 'Slides'. The 'Slides' configuration array"));
 
     ::unlink(path.c_str());
-    static_cast<void>(log_.takeLines());
     manager->reloadInterface(false);
     EXPECT_EQ(manager->configuration(), before);
-    EXPECT_THAT(log_.lines(),
-                ElementsAre("debug: Retrieving configuration file content...",
-                            HasSubstr("error: An error occurred while retrieving the configuration file ["),
-                            "error: Configuration file is missing. [file://" + directory_.path() +
-                                "/Managed%20Preferences/x.plist]"));
+    EXPECT_THAT(log_.lines().back(), HasSubstr("error: Configuration file is missing. [file://"));
 }
 
 TEST_F(AppManagerTest, EndsTheApplicationForTheForceQuitShortcut) {
@@ -95,15 +85,9 @@ TEST_F(AppManagerTest, EndsTheApplicationForTheForceQuitShortcut) {
     for (const auto &[key, pressed, isMatch] : cases) {
         writeConfiguration(forceQuitKey(key));
         const auto manager = makeAppManager();
-        static_cast<void>(log_.takeLines());
         terminations_ = 0;
         EXPECT_EQ(keyDownHandler_({pressed, allFour}), isMatch) << key << ' ' << pressed;
         EXPECT_EQ(terminations_, isMatch ? 1 : 0) << key << ' ' << pressed;
-        if (isMatch) {
-            EXPECT_THAT(
-                log_.lines(),
-                ElementsAre("info: Force quit shortcut detected. Forcing the application termination"));
-        }
     }
 }
 
