@@ -103,22 +103,6 @@ TEST_F(ConfigurationLocatorTest, KeepsAnAbsoluteNameBelowThePlaces) {
               inside);
 }
 
-TEST_F(ConfigurationLocatorTest, NamesBothPlacesWhenNoneHasTheFile) {
-    const std::string start = fmt::format("Internal error: Unable to build the path to the configuration "
-                                          "file x.plist at {}/Managed Preferences or ",
-                                          directory_.path());
-    const ConfigurationLocator withOnePlace({}, defaults(), FileManager::defaultManager(),
-                                            {URL::file(directory_.path("Managed Preferences"), true), {}});
-    const auto find = [](const ConfigurationLocator &locator) {
-        return [&locator] { static_cast<void>(locator.findConfigurationFile("x.plist")); };
-    };
-    EXPECT_THAT(find(withOnePlace),
-                testing::ThrowsMessage<VelmarError>(start + "Application Support Velmar path"));
-    const ConfigurationLocator withBoth = locator();
-    EXPECT_THAT(find(withBoth),
-                testing::ThrowsMessage<VelmarError>(start + directory_.path("Application Support/Velmar")));
-}
-
 TEST(LaunchOptions, RefuseAnOptionWithoutItsValue) {
     const std::pair<std::vector<std::string>, const char *> cases[] = {
         {{"velmar", "-c"}, "The option '-c' needs a value"},
@@ -128,17 +112,6 @@ TEST(LaunchOptions, RefuseAnOptionWithoutItsValue) {
         EXPECT_THAT([&row] { static_cast<void>(LaunchOptions::parse(row.first)); },
                     testing::ThrowsMessage<MissingOptionValue>(row.second));
     }
-}
-
-TEST(Domain, HasThePlacesOfTheSystem) {
-    const auto places = ConfigurationLocator::Places::ofSystem();
-    EXPECT_EQ(places.managedPreferences.path(), "/Library/Managed Preferences");
-    EXPECT_EQ(places.applicationSupport->path(), "/Library/Application Support");
-    EXPECT_TRUE(places.applicationSupport->isFileURL());
-
-    RecordedLog log;
-    EXPECT_EQ(Domain::applicationSupportDirectory(""), std::nullopt);
-    EXPECT_EQ(log.lines(), std::vector<std::string>{"warning: Couldn't find the path at "});
 }
 
 } // namespace
