@@ -56,7 +56,7 @@ std::optional<std::string_view> nearest(std::string_view given, std::span<const 
     std::optional<std::string_view> best;
     std::size_t bestDistance = std::max<std::size_t>(given.size() / 3, 1) + 1;
     for (const std::string_view candidate : known) {
-        const auto [shorter, longer] = std::minmax(given.size(), candidate.size());
+        const auto [shorter, longer] = std::minmax({given.size(), candidate.size()});
         if (longer - shorter >= bestDistance || candidate.size() > longestCompared) {
             continue;
         }
