@@ -101,7 +101,7 @@ void VelmarViewController::keyPressEvent(QKeyEvent *event) {
     } else if (isFresh && key == back) {
         navigationViewController_->pressPrevious();
     } else if (SlideViewController *slide = contentViewController_->currentSlide();
-               !isPlain || slide == nullptr || !slide->scroll(*event)) {
+               !isPlain || slide == nullptr || !slide->scroll(key)) {
         QWidget::keyPressEvent(event);
     }
 }

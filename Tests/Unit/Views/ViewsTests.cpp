@@ -157,9 +157,11 @@ TEST_F(Views, ContainersStandSideBySideAndScrollWhenTheyAreTooHigh) {
     EXPECT_EQ(areas[1]->focusPolicy(), Qt::NoFocus);
     EXPECT_EQ(areas[0]->mapTo(&view, QPoint()).x(), 0);
     EXPECT_EQ(areas[1]->mapTo(&view, QPoint()).x(), 400);
-    QKeyEvent pageDown(QEvent::KeyPress, Qt::Key_PageDown, Qt::NoModifier);
-    EXPECT_TRUE(view.scroll(pageDown));
+    EXPECT_TRUE(view.scroll(Qt::Key_PageDown));
     EXPECT_GT(areas[0]->verticalScrollBar()->value(), 0);
+    for (const int key : {Qt::Key_X, Qt::Key_F10, Qt::Key_Escape, Qt::Key_Return}) {
+        EXPECT_FALSE(view.scroll(key)) << key;
+    }
 }
 
 TEST_F(Views, AFlexibleSpacerTakesWhatIsLeft) {
@@ -244,6 +246,20 @@ TEST_F(Slides, AreMadeWhenTheyAreNeeded) {
     content->rebuild();
     EXPECT_EQ(content->findChildren<SlideViewController *>().size(), 1);
     EXPECT_EQ(shownTexts(*content), QStringList("Second"));
+}
+
+TEST_F(Slides, StayAsRebuiltWhateverTransitionWasStillToCome) {
+    bar->pressNext();
+    content->rebuild();
+    settle();
+    EXPECT_EQ(content->currentSlideIndex(), 1);
+    EXPECT_EQ(shownTexts(*content), QStringList("Second"));
+    bar->pressNext();
+    model->setSelectedIndex(0, false);
+    content->rebuild();
+    settle();
+    EXPECT_EQ(content->currentSlideIndex(), 0);
+    EXPECT_EQ(shownTexts(*content), QStringList("First"));
 }
 
 TEST_F(Views, AColourThatIsNotReadableOnTheAccentMakesAQuietButton) {

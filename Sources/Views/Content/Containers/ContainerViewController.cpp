@@ -6,7 +6,6 @@
 #include <Views/Content/Containers/ContainerViewModel.h>
 #include <Views/CustomViews/Colors.h>
 
-#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollArea>
@@ -37,18 +36,44 @@ QMargins standardMargins(ContainerViewController::Kind kind) {
     return {32, 40, 32, 40};
 }
 
-/// Leaves the keys for going from slide to slide to the window.
+QAbstractSlider::SliderAction scrollAction(int key) {
+    switch (key) {
+    case Qt::Key_Up:
+        return QAbstractSlider::SliderSingleStepSub;
+    case Qt::Key_Down:
+        return QAbstractSlider::SliderSingleStepAdd;
+    case Qt::Key_PageUp:
+        return QAbstractSlider::SliderPageStepSub;
+    case Qt::Key_PageDown:
+        return QAbstractSlider::SliderPageStepAdd;
+    case Qt::Key_Home:
+        return QAbstractSlider::SliderToMinimum;
+    case Qt::Key_End:
+        return QAbstractSlider::SliderToMaximum;
+    default:
+        return QAbstractSlider::SliderNoAction;
+    }
+}
+
+/// False where the key doesn't scroll or there is nothing to scroll.
+bool scrollBy(int key, QScrollBar &scrollBar) {
+    const QAbstractSlider::SliderAction action = scrollAction(key);
+    if (action == QAbstractSlider::SliderNoAction || scrollBar.maximum() == 0) {
+        return false;
+    }
+    scrollBar.triggerAction(action);
+    return true;
+}
+
+/// Leaves the keys that don't scroll, such as those for going from slide to slide, to the window.
 class ColumnScrollArea final : public QScrollArea {
 public:
     using QScrollArea::QScrollArea;
 
 protected:
     void keyPressEvent(QKeyEvent *event) override {
-        if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) {
-            event->ignore();
-        } else {
-            QScrollArea::keyPressEvent(event);
-        }
+        const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+        event->setAccepted(isPlain && scrollBy(event->key(), *verticalScrollBar()));
     }
 };
 
@@ -114,12 +139,8 @@ ContainerViewController::ContainerViewController(const ContainerItem &item, Kind
 
 ContainerViewController::~ContainerViewController() = default;
 
-bool ContainerViewController::scroll(QKeyEvent &event) {
-    if (scrollArea_->verticalScrollBar()->maximum() == 0) {
-        return false;
-    }
-    QCoreApplication::sendEvent(scrollArea_->verticalScrollBar(), &event);
-    return true;
+bool ContainerViewController::scroll(int key) {
+    return scrollBy(key, *scrollArea_->verticalScrollBar());
 }
 
 void ContainerViewController::updateBorderColor() {

@@ -8,7 +8,6 @@
 #include <memory>
 #include <vector>
 
-class QKeyEvent;
 class QScrollArea;
 
 namespace velmar {
@@ -38,8 +37,9 @@ public:
 
     [[nodiscard]] bool hasBorder() const noexcept { return borderColorItem_.has_value(); }
 
-    /// Passes a key on that scrolls; false where there is nothing to scroll.
-    bool scroll(QKeyEvent &event);
+    /// Scrolls by a `Qt::Key`: Up, Down, PageUp, PageDown, Home or End. False for any other, and where there
+    /// is nothing to scroll.
+    bool scroll(int key);
 
 protected:
     void changeEvent(QEvent *event) override;

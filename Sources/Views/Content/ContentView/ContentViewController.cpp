@@ -34,6 +34,7 @@ ContentViewController::~ContentViewController() {
 
 void ContentViewController::rebuild() {
     animation_.stop();
+    viewModel_->cancelTransitions();
     for (const auto &[index, view] : slides_) {
         view->viewWillDisappear();
         delete view;
@@ -76,13 +77,13 @@ std::shared_ptr<SlideViewModel> ContentViewController::currentSlideViewModel() c
     return current == nullptr ? nullptr : current->viewModel();
 }
 
-void ContentViewController::transition(int from, int to) {
+void ContentViewController::transition(int /*from*/, int to) {
     if (animation_.state() == QAbstractAnimation::Running) {
         animation_.stop();
         finishTransition();
     }
     SlideViewController *next = slide(to);
-    if (from == to || next == nullptr) {
+    if (to == currentSlideIndex_ || next == nullptr) {
         return;
     }
     previousSlideIndex_ = currentSlideIndex_;

@@ -55,9 +55,9 @@ void ContentViewModel::move(int index, bool notifyingDelegate) {
     if (!notifyingDelegate) {
         return;
     }
-    mainQueue_.async([model = weak_from_this(), old, index] {
+    mainQueue_.async([model = weak_from_this(), old, index, generation = transitionGeneration_] {
         const auto self = model.lock();
-        if (self && self->controller_ != nullptr) {
+        if (self && self->controller_ != nullptr && generation == self->transitionGeneration_) {
             self->controller_->transition(old, index);
         }
     });

@@ -5,6 +5,7 @@
 #include <Foundation/NotificationCenter.h>
 #include <Managers/Config.h>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -80,6 +81,10 @@ public:
     /// case the navigation is told how the slide that is current then stands among the others.
     void setSelectedIndex(int index, bool notifyingDelegate);
 
+    /// Drops the transitions that the controller has not been told of yet: it shows the current slide
+    /// without.
+    void cancelTransitions() noexcept { ++transitionGeneration_; }
+
     /// Quits unless the current slide or the side container is not yet right.
     void tryToQuitApplication();
 
@@ -104,6 +109,7 @@ private:
     std::vector<NotificationCenter::Token> observers_;
     bool isCurrentSlideValid_ = true;
     int selectedSlideIndex_ = 0;
+    std::uint64_t transitionGeneration_ = 0; // Transitions of an earlier one are dropped.
 };
 
 } // namespace velmar

@@ -48,9 +48,9 @@ void SlideViewController::viewWillDisappear() {
     viewModel_->willDisappear();
 }
 
-bool SlideViewController::scroll(QKeyEvent &event) {
+bool SlideViewController::scroll(int key) {
     return std::ranges::any_of(containerViewControllers_,
-                               [&](auto *container) { return container->scroll(event); });
+                               [key](auto *container) { return container->scroll(key); });
 }
 
 void SlideViewController::resizeEvent(QResizeEvent *event) {

@@ -7,8 +7,6 @@
 #include <memory>
 #include <vector>
 
-class QKeyEvent;
-
 namespace velmar {
 
 class ContainerViewController;
@@ -32,8 +30,8 @@ public:
     void viewWillAppear();
     void viewWillDisappear();
 
-    /// Passes a key on that scrolls to the first container that can.
-    bool scroll(QKeyEvent &event);
+    /// Scrolls the first container that can be by a `Qt::Key`; false where none can, or not by that key.
+    bool scroll(int key);
 
 protected:
     void resizeEvent(QResizeEvent *event) override;

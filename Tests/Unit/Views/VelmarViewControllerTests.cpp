@@ -1,0 +1,120 @@
+#include "../Managers/AppManagerFixture.h"
+
+#include <Desktop/DesktopAppearance.h>
+#include <Views/Content/ContentView/ContentViewController.h>
+#include <Views/CustomViews/Theme.h>
+#include <Views/VelmarViewController.h>
+
+#include <Testing/TestMainQueue.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QScrollArea>
+#include <QScrollBar>
+
+#include <string>
+
+namespace velmar {
+namespace {
+
+class QuitAttempts final : public AppTerminationManagerProtocol {
+public:
+    void tryToQuitApplication() override { ++count; }
+    int count = 0;
+};
+
+/// The whole of the views, of a configuration whose slides are one that scrolls and two that don't.
+class VelmarView : public AppManagerFixture {
+protected:
+    static void SetUpTestSuite() {
+        static int argumentCount = 1;
+        static char name[] = "test";
+        static char *arguments[] = {name, nullptr};
+        application_ = std::make_unique<QApplication>(argumentCount, arguments);
+        appearance_ = std::make_unique<DesktopAppearance>();
+        appearance_->setAnimated(false);
+        Theme::install(*appearance_);
+    }
+    static void TearDownTestSuite() {
+        application_.reset();
+        appearance_.reset();
+    }
+
+    VelmarView() {
+        std::string lines;
+        for (int index = 0; index < 60; ++index) {
+            lines += text(fmt::format("Line {}", index));
+        }
+        writeFile(
+            fmt::format("<plist version=\"1.0\"><dict><key>Window</key><dict><key>OnScreen</key>"
+                        "<string>Simple</string></dict><key>Slides</key><array>{}{}{}</array></dict></plist>",
+                        slide(lines), slide(text("Second")), slide(text("Third"))));
+        shared_ = std::make_unique<Shared<AppManager>::Scope>(makeAppManager());
+        view = std::make_unique<VelmarViewController>(
+            VelmarViewController::Surroundings{queue, quits, *appearance_, [](bool) {}, center});
+        content = view->findChild<ContentViewController *>();
+        view->resize(600, 400);
+        view->show();
+        view->activateWindow();
+        settle();
+    }
+
+    static std::string text(const std::string &content) {
+        return fmt::format(
+            "<dict><key>Type</key><string>Text</string><key>Text</key><string>{}</string></dict>", content);
+    }
+    static std::string slide(const std::string &components) {
+        return fmt::format("<dict><key>Containers</key><array><dict><key>Components</key><array>{}</array>"
+                           "</dict></array></dict>",
+                           components);
+    }
+
+    void press(int key, bool repeats = false) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, {}, repeats);
+        QCoreApplication::sendEvent(view.get(), &event);
+        settle();
+    }
+
+    void settle() {
+        queue.runUntilEmpty();
+        QCoreApplication::processEvents();
+    }
+
+    NotificationCenter center;
+    TestMainQueue queue;
+    QuitAttempts quits;
+    std::unique_ptr<VelmarViewController> view;
+    ContentViewController *content = nullptr;
+
+private:
+    static inline std::unique_ptr<QApplication> application_;
+    static inline std::unique_ptr<DesktopAppearance> appearance_;
+    std::unique_ptr<Shared<AppManager>::Scope> shared_;
+};
+
+TEST_F(VelmarView, TakesTheKeysThatScrollAndLeavesTheOthersAlone) {
+    const QScrollBar &bar = *content->findChild<QScrollArea *>()->verticalScrollBar();
+    ASSERT_GT(bar.maximum(), bar.pageStep());
+    for (const int key : {Qt::Key_X, Qt::Key_F10, Qt::Key_Escape}) {
+        press(key);
+    }
+    press(Qt::Key_Return, true);
+    EXPECT_EQ(bar.value(), 0);
+    EXPECT_EQ(content->currentSlideIndex(), 0);
+    const struct {
+        Qt::Key key;
+        int value;
+    } rows[] = {{Qt::Key_PageDown, bar.pageStep()},
+                {Qt::Key_Down, bar.pageStep() + bar.singleStep()},
+                {Qt::Key_Up, bar.pageStep()},
+                {Qt::Key_End, bar.maximum()},
+                {Qt::Key_Home, 0},
+                {Qt::Key_PageUp, 0}};
+    for (const auto &row : rows) {
+        press(row.key);
+        EXPECT_EQ(bar.value(), row.value) << row.key;
+    }
+}
+
+} // namespace
+} // namespace velmar
