@@ -7,7 +7,6 @@
 
 #include <QEvent>
 #include <QPainter>
-#include <QTextLayout>
 
 #include <cmath>
 
@@ -36,6 +35,7 @@ void StyleConfigurableTextView::setContent(const QString &content, std::optional
     const QFont standard = Theme::font(Theme::bodySize);
     setFont(fontItem_ ? fontOf(*fontItem_, standard) : standard);
     setText(content);
+    prepareLayout();
     setAccessibleName(content);
     updateColor();
     updateGeometry();
@@ -52,43 +52,51 @@ void StyleConfigurableTextView::changeEvent(QEvent *event) {
     QLabel::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) {
         updateColor();
+    } else if (event->type() == QEvent::FontChange) {
+        prepareLayout();
     }
 }
 
-qreal StyleConfigurableTextView::layOut(qreal width, QPainter *painter) const {
+void StyleConfigurableTextView::prepareLayout() {
     QString content = text();
     content.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     content.replace(QLatin1Char('\n'), QChar::LineSeparator);
-    QTextLayout layout(content, font());
     QTextOption option(alignmentOf(fontItem_ ? fontItem_->_textAlignment() : std::nullopt));
-    // The text's own, whatever the program's language: an Arabic sentence begins on the right everywhere.
-    option.setTextDirection(content.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    layout.setTextOption(option);
+    layout_.setText(content);
+    layout_.setFont(font());
+    layout_.setTextOption(option);
+    layout_.setCacheEnabled(true);
+    brokenWidth_ = -1;
+}
+
+void StyleConfigurableTextView::breakLines(int width) const {
+    if (width == brokenWidth_) {
+        return;
+    }
     const bool isLarge = font().pointSizeF() > Theme::font(largeSize).pointSizeF();
     const qreal spacing = isLarge ? largeLineSpacing : lineSpacing;
     qreal y = 0;
-    layout.beginLayout();
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+    layout_.beginLayout();
+    for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
         line.setLineWidth(width);
         const qreal height = std::ceil(line.height() * spacing);
         line.setPosition({0, y + (height - line.height()) / 2});
         y += height;
     }
-    layout.endLayout();
-    if (painter != nullptr) {
-        painter->setPen(color_);
-        layout.draw(painter, {0, 0});
-    }
-    return y;
+    layout_.endLayout();
+    brokenWidth_ = width;
+    brokenHeight_ = static_cast<int>(std::ceil(y));
 }
 
 int StyleConfigurableTextView::heightForWidth(int width) const {
-    return static_cast<int>(std::ceil(layOut(std::max(1, width), nullptr)));
+    breakLines(std::max(1, width));
+    return brokenHeight_;
 }
 
 QSize StyleConfigurableTextView::sizeHint() const {
-    return {comfortableWidth, heightForWidth(comfortableWidth)};
+    // The height follows from the width that the view is given.
+    return {comfortableWidth, fontMetrics().height()};
 }
 
 QSize StyleConfigurableTextView::minimumSizeHint() const {
@@ -97,7 +105,9 @@ QSize StyleConfigurableTextView::minimumSizeHint() const {
 
 void StyleConfigurableTextView::paintEvent(QPaintEvent * /*event*/) {
     QPainter painter(this);
-    layOut(width(), &painter);
+    painter.setPen(color_);
+    breakLines(std::max(1, width()));
+    layout_.draw(&painter, {0, 0});
 }
 
 } // namespace velmar

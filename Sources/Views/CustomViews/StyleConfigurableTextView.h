@@ -3,6 +3,7 @@
 #include <Configuration/FontItem.h>
 
 #include <QLabel>
+#include <QTextLayout>
 
 namespace velmar {
 
@@ -28,11 +29,17 @@ protected:
 
 private:
     void updateColor();
-    /// Breaks the text into lines and gives their height; draws them where there is a painter.
-    qreal layOut(qreal width, QPainter *painter) const;
+    void prepareLayout();
+    /// Breaks the text into lines of a width.
+    void breakLines(int width) const;
 
     std::optional<FontItem> fontItem_;
     QColor color_;
+    // Keeps the shaped glyphs, which cost more than the lines: layouts ask for several widths before they
+    // settle.
+    mutable QTextLayout layout_;
+    mutable int brokenWidth_ = -1; // Of the present lines.
+    mutable int brokenHeight_ = 0;
 };
 
 } // namespace velmar
