@@ -4,8 +4,13 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <cstdio>
+#include <cstdlib>
 #include <stdexcept>
+#include <utility>
 #include <vector>
+
+#include <unistd.h>
 
 namespace velmar {
 namespace {
@@ -70,6 +75,39 @@ TEST(DispatchGroup, RefusesOneLeaveTooMany) {
     group.enter();
     group.leave();
     EXPECT_THROW(group.leave(), std::logic_error);
+}
+
+// An object whose end calls back into a group.
+class Caller {
+public:
+    explicit Caller(DispatchGroup group) : group_(std::move(group)) {}
+    ~Caller() {
+        group_.enter();
+        std::fputs("back ", stderr);
+        group_.leave();
+    }
+    Caller(const Caller &) = delete;
+    Caller &operator=(const Caller &) = delete;
+
+private:
+    DispatchGroup group_;
+};
+
+TEST(DispatchGroupDeathTest, LetsGoOfRefusedFunctionsOutsideOfItsLock) {
+    testing::FLAGS_gtest_death_test_style = "threadsafe";
+    EXPECT_EXIT(
+        {
+            alarm(10); // in place of a deadlock
+            const DispatchQueue queue("ended");
+            const DispatchGroup group;
+            group.enter();
+            group.notify(queue, [held = std::make_shared<Caller>(group)] {});
+            static_cast<void>(DispatchQueue::shutdown(10s));
+            group.leave();
+            group.notify(queue, [held = std::make_shared<Caller>(group)] {});
+            std::_Exit(6);
+        },
+        testing::ExitedWithCode(6), "^back back $");
 }
 
 } // namespace

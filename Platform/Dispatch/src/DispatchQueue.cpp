@@ -52,8 +52,12 @@ const DispatchQueue &DispatchQueue::global() {
 }
 
 void DispatchQueue::async(std::function<void()> function) const {
+    static_cast<void>(post(function));
+}
+
+bool DispatchQueue::post(std::function<void()> &function) const {
     if (DispatchPool::isShutDown())
-        return;
+        return false;
     DispatchPool &pool = DispatchPool::shared();
     ++state_->posted;
     auto task = [&pool, state = state_, work = std::move(function)]() mutable {
@@ -69,10 +73,11 @@ void DispatchQueue::async(std::function<void()> function) const {
     };
     if (!state_->isSerial) {
         asio::post(pool.executor(), std::move(task));
-        return;
+        return true;
     }
     std::call_once(state_->strandMade, [&] { state_->strand.emplace(asio::make_strand(pool.executor())); });
     asio::post(*state_->strand, std::move(task));
+    return true;
 }
 
 bool DispatchQueue::waitUntilIdle(std::chrono::milliseconds timeout) const {

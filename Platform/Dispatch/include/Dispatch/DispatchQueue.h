@@ -39,7 +39,12 @@ public:
     static bool shutdown(std::chrono::milliseconds timeout);
 
 private:
+    friend class DispatchGroup;
     struct State;
+
+    // Takes the function and posts it; false after `shutdown`, with the function left where it is.
+    [[nodiscard]] bool post(std::function<void()> &function) const;
+
     explicit DispatchQueue(std::shared_ptr<State> state);
     std::shared_ptr<State> state_;
 };
