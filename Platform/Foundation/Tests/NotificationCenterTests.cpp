@@ -5,6 +5,7 @@
 
 #include <atomic>
 #include <optional>
+#include <stdexcept>
 #include <thread>
 #include <vector>
 
@@ -51,6 +52,22 @@ TEST(NotificationCenter, LetsObserversPostAddAndRemove) {
     EXPECT_THAT(called, ElementsAre(1, 4, 3));
 }
 
+TEST(NotificationCenter, CallsTheOthersWhenOneThrows) {
+    NotificationCenter centre;
+    std::vector<int> called;
+    const auto first = centre.addObserver("a", [] { throw std::runtime_error("first"); });
+    const auto second = centre.addObserver("a", [&] { called.push_back(2); });
+    const auto third = centre.addObserver("a", [] { throw 3; });
+    const auto fourth = centre.addObserver("a", [&] { called.push_back(4); });
+    try {
+        centre.post("a");
+        ADD_FAILURE() << "nothing thrown";
+    } catch (const std::runtime_error &error) {
+        EXPECT_STREQ(error.what(), "first");
+    }
+    EXPECT_THAT(called, ElementsAre(2, 4));
+}
+
 TEST(NotificationCenter, LetsTokensMoveAndOutliveIt) {
     int called = 0;
     NotificationCenter::Token token;
@@ -61,6 +78,8 @@ TEST(NotificationCenter, LetsTokensMoveAndOutliveIt) {
         centre.post("a");
         token = std::move(moved);
         token = centre.addObserver("a", [&] { called += 10; }); // ends the former
+        auto &itself = token;
+        token = std::move(itself);
         centre.post("a");
     }
     EXPECT_EQ(called, 11);

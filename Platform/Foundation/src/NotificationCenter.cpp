@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <exception>
 #include <iterator>
 #include <map>
 #include <mutex>
@@ -59,6 +60,8 @@ NotificationCenter::Token::Token(std::shared_ptr<Registration> registration)
     : registration_(std::move(registration)) {}
 
 NotificationCenter::Token &NotificationCenter::Token::operator=(Token &&other) noexcept {
+    if (this == &other)
+        return *this;
     if (const auto former = std::exchange(registration_, std::move(other.registration_)))
         former->end();
     return *this;
@@ -97,10 +100,19 @@ void NotificationCenter::post(std::string_view name) {
             return;
         observers = found->second;
     }
+    std::exception_ptr first;
     for (const auto &observer : *observers) {
-        if (observer->isActive)
+        if (!observer->isActive)
+            continue;
+        try {
             observer->handler();
+        } catch (...) {
+            if (!first)
+                first = std::current_exception();
+        }
     }
+    if (first)
+        std::rethrow_exception(first);
 }
 
 NotificationCenter &NotificationCenter::defaultCenter() {
