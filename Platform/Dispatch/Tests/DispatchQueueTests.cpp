@@ -145,6 +145,36 @@ TEST_F(DispatchQueueDeathTest, ShutdownIsBounded) {
         testing::ExitedWithCode(4), "^$");
 }
 
+TEST_F(DispatchQueueDeathTest, ShutdownIsBoundedAlsoWhereAFunctionThatNeverRanHangs) {
+    EXPECT_EXIT(
+        {
+            // Dropped by a thread of the pool: a strand takes what waits in one go, so this one stands right
+            // behind the one that runs.
+            struct Hanging {
+                ~Hanging() {
+                    std::fputs("dropped", stderr);
+                    std::promise<void>().get_future().wait_for(1h);
+                }
+            };
+            const DispatchQueue queue("dropping");
+            std::promise<void> posted;
+            std::promise<void> started;
+            std::promise<void> release;
+            queue.async([&] { posted.get_future().wait(); });
+            queue.async([&] {
+                started.set_value();
+                release.get_future().wait();
+            });
+            queue.async([held = std::make_shared<Hanging>()] {});
+            posted.set_value();
+            started.get_future().wait();
+            static_cast<void>(DispatchQueue::shutdown(0ms));
+            release.set_value();
+            std::_Exit(DispatchQueue::shutdown(200ms) ? 1 : 7);
+        },
+        testing::ExitedWithCode(7), "^dropped$");
+}
+
 TEST_F(DispatchQueueDeathTest, ShutdownJoinsAnIdlePoolAndStartsNone) {
     EXPECT_EXIT(
         {

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <thread>
+#include <utility>
 
 namespace velmar {
 
@@ -26,8 +27,8 @@ DispatchPool &DispatchPool::shared() {
         const SignalsBlocked blocked;
         auto *made = new DispatchPool;
         startedPool = made;
-        // For a process that leaves by `exit` alone: no function runs beside the destructors of what it may
-        // use.
+        // For a process that leaves by `exit` without a shutdown of its own. It runs before the destructors
+        // of static objects made before the pool, and after those of objects made later: see the header.
         std::atexit([] { static_cast<void>(shutdown(exitTimeout)); });
         return *made;
     }();
@@ -64,17 +65,30 @@ bool DispatchPool::shutdown(std::chrono::milliseconds timeout) {
 }
 
 bool DispatchPool::stop(std::chrono::milliseconds timeout) {
+    const auto deadline = std::chrono::steady_clock::now() + timeout;
     threads_.stop();
     // A function that ends the process would wait for itself.
     const std::size_t own = isPoolThread ? 1 : 0;
-    {
-        std::unique_lock lock(mutex_);
-        if (!ended_.wait_for(lock, timeout, [&] { return running_ <= own; }))
-            return false;
-    }
-    if (own == 0)
-        std::call_once(joined_, [this] { threads_.join(); });
-    return true;
+    std::unique_lock lock(mutex_);
+    if (!ended_.wait_until(lock, deadline, [&] { return running_ <= own; }))
+        return false;
+    if (own != 0)
+        return true;
+    if (!std::exchange(isJoining_, true))
+        startJoining();
+    return ended_.wait_until(lock, deadline, [&] { return hasJoined_; });
+}
+
+// A thread may still let go of a function that never ran, whose captures may do anything: joining has no
+// bound of its own.
+void DispatchPool::startJoining() {
+    const SignalsBlocked blocked;
+    std::thread([this] {
+        threads_.join();
+        const std::lock_guard lock(mutex_);
+        hasJoined_ = true;
+        ended_.notify_all();
+    }).detach();
 }
 
 } // namespace velmar

@@ -39,12 +39,14 @@ private:
     bool begin() noexcept;
     void end() noexcept;
     bool stop(std::chrono::milliseconds timeout);
+    void startJoining();
 
     asio::thread_pool threads_;
     std::atomic<std::size_t> running_{0};
     std::mutex mutex_;
     std::condition_variable ended_;
-    std::once_flag joined_;
+    bool isJoining_ = false; // both under the mutex
+    bool hasJoined_ = false;
 };
 
 } // namespace velmar

@@ -122,7 +122,8 @@ void FileManager::removeItem(const std::string &path) const {
 }
 
 const FileManager &FileManager::defaultManager() {
-    static const FileManager manager;
+    // Never destroyed, as functions of queues use it.
+    static const auto &manager = *new FileManager;
     return manager;
 }
 

@@ -170,7 +170,8 @@ struct RegularExpression::Compiled {
     }
 
     void giveBack(std::unique_ptr<icu::RegexMatcher> matcher) const {
-        static const icu::UnicodeString nothing;
+        // Never destroyed, as functions of queues match.
+        static const auto &nothing = *new icu::UnicodeString;
         matcher->reset(nothing);
         const std::lock_guard lock(mutex);
         if (idle.size() < idleMatchers)

@@ -12,6 +12,9 @@ namespace velmar {
 ///
 /// No function may wait on its thread for another one of any queue: the pool has few threads. A function that
 /// throws is reported (`Dispatch/UncaughtHandler.h`), and the queue goes on.
+///
+/// The pool's threads block all signals but those of faults, and a child process inherits the mask of the
+/// thread that starts it: whoever starts a process in a function resets the child's mask.
 class DispatchQueue {
 public:
     /// A serial queue: its functions run one after the other, in the order of posting. The label names it in
@@ -33,9 +36,13 @@ public:
     [[nodiscard]] const std::string &label() const noexcept;
 
     /// Ends the pool before the process ends: no function begins any more, those that wait are never run, and
-    /// the ones that run are waited for. False if they don't end within the timeout; their threads are then
-    /// left to the end of the process, which should come by `std::_Exit`. What has to be done still is waited
-    /// for before. A process that exits without it does the same in `exit`, for at most two seconds.
+    /// the ones that run, and the pool's threads, are waited for. False if they don't end within the timeout;
+    /// they are then left to the end of the process, which should come by `std::_Exit`. What has to be done
+    /// still is waited for before.
+    ///
+    /// A process calls it before it returns from main or calls `exit`. One that doesn't has it done in
+    /// `exit`, for at most two seconds, when static objects made after the pool's first use are destroyed
+    /// already: a static object that functions of a queue use is never destroyed.
     static bool shutdown(std::chrono::milliseconds timeout);
 
 private:
