@@ -1,29 +1,18 @@
 #include <Foundation/FileAttributes.h>
 
-#include <cerrno>
-#include <vector>
+#include <Foundation/GroupAccount.h>
+#include <Foundation/UserAccount.h>
 
-#include <grp.h>
-#include <pwd.h>
 #include <sys/stat.h>
 
 namespace velmar {
 
 namespace {
 
-// The name of a number in one of the two databases, asked for with a buffer that grows until the record fits.
-template <class Record, class Id, class Lookup, class Name>
-std::optional<std::string> nameOf(Id id, Lookup lookup, Name Record::*name) {
-    std::vector<char> buffer(1024);
-    Record record{};
-    Record *found = nullptr;
-    int failure = 0;
-    while ((failure = lookup(id, &record, buffer.data(), buffer.size(), &found)) == ERANGE ||
-           failure == EINTR) {
-        if (failure == ERANGE)
-            buffer.resize(buffer.size() * 2);
-    }
-    return found != nullptr ? std::optional<std::string>(record.*name) : std::nullopt;
+// The name of what was looked up, if it was found.
+template <class Account>
+std::optional<std::string> nameOf(const std::optional<Account> &account) {
+    return account ? std::optional(account->name) : std::nullopt;
 }
 
 FileAttributes::Kind kindOf(mode_t mode) {
@@ -47,8 +36,8 @@ FileAttributes FileAttributes::of(const struct stat &status) {
             .permissions = status.st_mode & 07777U,
             .userId = status.st_uid,
             .groupId = status.st_gid,
-            .ownerName = nameOf(status.st_uid, getpwuid_r, &passwd::pw_name),
-            .groupName = nameOf(status.st_gid, getgrgid_r, &group::gr_name)};
+            .ownerName = nameOf(UserAccount::numbered(status.st_uid)),
+            .groupName = nameOf(GroupAccount::numbered(status.st_gid))};
 }
 
 } // namespace velmar

@@ -14,6 +14,8 @@
 namespace velmar {
 namespace {
 
+using Session = SystemIdentityAuthority::Session;
+
 // Puts databases of its own over those of the machine, seen by this process alone.
 class SystemIdentityAuthorityTest : public testing::Test {
 protected:
@@ -27,6 +29,7 @@ protected:
         isPrivate_ = put("/etc/passwd", "root:x:0:0:root:/root:/bin/sh\n"
                                         "mira:x:1201:1301:Mira Holm,Room 4,555:/Users/mira:/bin/sh\n"
                                         "otto:x:1202:1302:& Berg:/Users/otto:/bin/sh\n"
+                                        "_x:x:1204:1302:&:/:/bin/sh\n"
                                         "plain:x:1203:1302::/Users/plain:/bin/sh\n") &&
                      put("/etc/group", "root:x:0:\nstaff:x:1302:\nadmin:x:1301:otto\n"
                                        "crowd:x:1303:" +
@@ -77,6 +80,7 @@ TEST_F(SystemIdentityAuthorityTest, TellsFullNamesAndNumbers) {
     EXPECT_EQ(authority.fullName("mira"), "Mira Holm");
     EXPECT_EQ(authority.fullName("otto"), "Otto Berg");
     EXPECT_EQ(authority.fullName("plain"), std::nullopt);
+    EXPECT_EQ(authority.fullName("_x"), "_x") << "no letter to make a capital one";
     EXPECT_EQ(authority.fullName("nobody-here"), std::nullopt);
     EXPECT_EQ(authority.ids("mira"), (UserIds{1201, 1301}));
     EXPECT_EQ(authority.ids("nobody-here"), std::nullopt);
@@ -86,7 +90,7 @@ TEST_F(SystemIdentityAuthorityTest, TakesTheActiveSessionsUserInPlaceOfRoot) {
     int asked = 0;
     const SystemIdentityAuthority atScreen([&] {
         ++asked;
-        return std::optional<std::uint32_t>(1201);
+        return std::optional(Session{1201, "user"});
     });
     EXPECT_EQ(atScreen.processUserName(), "root");
     EXPECT_EQ(atScreen.consoleUserName(), "mira");
@@ -95,15 +99,19 @@ TEST_F(SystemIdentityAuthorityTest, TakesTheActiveSessionsUserInPlaceOfRoot) {
 
     const SystemIdentityAuthority nobody([] { return std::nullopt; });
     EXPECT_EQ(nobody.consoleUserName(), "root");
-    const SystemIdentityAuthority unknown([] { return std::optional<std::uint32_t>(4242); });
+    const SystemIdentityAuthority unknown([] { return Session{4242, "user"}; });
     EXPECT_EQ(unknown.consoleUserName(), "root");
+    for (const char *kind : {"greeter", "lock-screen", "background", ""}) {
+        const SystemIdentityAuthority noPerson([kind] { return Session{1201, kind}; });
+        EXPECT_EQ(noPerson.consoleUserName(), "root") << kind;
+    }
 }
 
 TEST_F(SystemIdentityAuthorityTest, NeverAsksForTheSessionWhenNotRoot) {
     ASSERT_EQ(seteuid(1202), 0);
-    const SystemIdentityAuthority authorityOfOtto([]() -> std::optional<std::uint32_t> {
+    const SystemIdentityAuthority authorityOfOtto([]() -> std::optional<Session> {
         ADD_FAILURE() << "asked";
-        return 1201;
+        return Session{1201, "user"};
     });
     EXPECT_EQ(authorityOfOtto.consoleUserName(), "otto");
     ASSERT_EQ(seteuid(0), 0);

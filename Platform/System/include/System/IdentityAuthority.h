@@ -31,8 +31,8 @@ public:
     [[nodiscard]] virtual std::string processUserName() const = 0;
 
     /// The user in front of the screen: that of the process, and when that is "root" the one of the active
-    /// session of the first seat, or "root" again if there is none. Found at the first call and the same from
-    /// then on.
+    /// session of the first seat, or "root" again if there is none or it is no person's (that of a login
+    /// screen). Found at the first call and the same from then on.
     [[nodiscard]] virtual std::string consoleUserName() const = 0;
 };
 

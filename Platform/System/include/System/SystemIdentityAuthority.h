@@ -10,11 +10,17 @@ namespace velmar {
 /// The identities of this machine: its user and group databases and its login sessions.
 class SystemIdentityAuthority final : public IdentityAuthority {
 public:
-    /// Gives the user number of the active session of the first seat.
-    using ActiveUser = std::function<std::optional<std::uint32_t>()>;
+    /// A login session as the system's login manager describes it.
+    struct Session {
+        std::uint32_t userId = 0;
+        std::string kind; ///< Its class: "user", "greeter", "lock-screen", ...
+    };
+
+    /// Gives the active session of the first seat.
+    using ActiveSession = std::function<std::optional<Session>()>;
 
     SystemIdentityAuthority();
-    explicit SystemIdentityAuthority(ActiveUser activeUser);
+    explicit SystemIdentityAuthority(ActiveSession activeSession);
 
     [[nodiscard]] bool isMember(const std::string &userName, const std::string &groupName) const override;
     [[nodiscard]] std::optional<std::string> fullName(const std::string &userName) const override;
@@ -26,7 +32,7 @@ public:
     [[nodiscard]] static const SystemIdentityAuthority &shared();
 
 private:
-    ActiveUser activeUser_;
+    ActiveSession activeSession_;
     mutable std::once_flag consoleUserFound_;
     mutable std::string consoleUser_;
 };

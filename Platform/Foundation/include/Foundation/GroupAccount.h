@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace velmar {
+
+/// A record of the machine's group database, looked up like a UserAccount.
+struct GroupAccount {
+    std::string name;
+    std::uint32_t groupId = 0;
+
+    [[nodiscard]] static std::optional<GroupAccount> named(const std::string &name);
+    [[nodiscard]] static std::optional<GroupAccount> numbered(std::uint32_t groupId);
+};
+
+} // namespace velmar

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cerrno>
+#include <optional>
+#include <vector>
+
+namespace velmar {
+
+/// Asks one of the system's reentrant look-ups, with a buffer that grows until the record fits, and gives
+/// what `make` makes of the record. Absent if there is none or the look-up fails.
+template <class Account, class Record, class Key, class Lookup, class Make>
+std::optional<Account> accountFrom(Key key, Lookup lookup, const Make &make) {
+    std::vector<char> buffer(1024);
+    Record record{};
+    Record *found = nullptr;
+    for (;;) {
+        const int failure = lookup(key, &record, buffer.data(), buffer.size(), &found);
+        if (failure == ERANGE)
+            buffer.resize(buffer.size() * 2);
+        else if (failure != EINTR)
+            return found != nullptr ? std::optional<Account>(make(*found)) : std::nullopt;
+    }
+}
+
+} // namespace velmar
