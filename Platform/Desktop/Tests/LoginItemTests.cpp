@@ -1,12 +1,16 @@
 #include <Desktop/LoginItem.h>
 
+#include <Foundation/UserAccount.h>
 #include <Testing/TemporaryDirectory.h>
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <fstream>
 #include <sstream>
 #include <vector>
+
+#include <unistd.h>
 
 namespace velmar {
 namespace {
@@ -36,6 +40,26 @@ TEST(LoginItem, QuotesItsCommandTwice) {
         item.enable(row.command);
         EXPECT_EQ(execLine(item.path()), row.line);
     }
+}
+
+TEST(LoginItem, IsRemovedOnceAndMayBeMissing) {
+    const TemporaryDirectory directory;
+    const LoginItem item(directory.path());
+    EXPECT_NO_THROW(item.disable());
+    item.enable(std::vector<std::string>{"/usr/bin/velmar"});
+    EXPECT_TRUE(FileManager().fileExists(item.path()));
+    item.disable();
+    EXPECT_FALSE(FileManager().fileExists(item.path()));
+}
+
+TEST(LoginItem, LiesWithTheAccountWhereTheEnvironmentNamesNoHome) {
+    const char *home = std::getenv("HOME");
+    const std::string former = home != nullptr ? home : "";
+    unsetenv("HOME");
+    unsetenv("XDG_CONFIG_HOME");
+    EXPECT_EQ(LoginItem::userDirectory(),
+              UserAccount::numbered(geteuid()).value().homeDirectory + "/.config/autostart");
+    setenv("HOME", former.c_str(), 1);
 }
 
 TEST(LoginItem, TellsWhenItCannotBeWritten) {

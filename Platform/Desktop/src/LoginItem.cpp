@@ -1,6 +1,6 @@
 #include <Desktop/LoginItem.h>
 
-#include <cstdlib>
+#include <Foundation/UserDirectories.h>
 
 namespace velmar {
 
@@ -39,12 +39,7 @@ LoginItem::LoginItem(std::string directory, const FileManager &fileManager)
       fileManager_(fileManager) {}
 
 std::string LoginItem::userDirectory() {
-    const char *configuration = std::getenv("XDG_CONFIG_HOME"); // NOLINT(concurrency-mt-unsafe)
-    if (configuration != nullptr && *configuration == '/') {
-        return std::string(configuration) + "/autostart";
-    }
-    const char *home = std::getenv("HOME"); // NOLINT(concurrency-mt-unsafe)
-    return std::string(home == nullptr ? "" : home) + "/.config/autostart";
+    return UserDirectories::configuration() + "/autostart";
 }
 
 void LoginItem::enable(std::span<const std::string> command) const {

@@ -77,7 +77,7 @@ TEST_F(ConfigurationLocatorTest, RemembersANameOnlyWhenAskedTo) {
 }
 
 TEST_F(ConfigurationLocatorTest, GoesOnWithANameThatCannotBeRemembered) {
-    directory_.write("config", "a file where the directory belongs");
+    directory_.write("config/Velmar", "a file where the directory belongs");
     EXPECT_EQ(locator({"-c", "foo", "--save"}).configurationName(), "foo.plist");
     ASSERT_EQ(log_.lines().size(), 1U);
     EXPECT_TRUE(log_.lines()[0].starts_with("warning: Unable to save the configuration name 'foo.plist' ["));

@@ -15,7 +15,7 @@ public:
     explicit LoginItem(std::string directory = userDirectory(),
                        const FileManager &fileManager = FileManager::defaultManager());
 
-    /// `$XDG_CONFIG_HOME/autostart`, `~/.config/autostart` without that variable.
+    /// "autostart" in UserDirectories::configuration().
     [[nodiscard]] static std::string userDirectory();
 
     /// Writes the entry, in place of a former one. The command is the absolute path of a program and its
