@@ -1,5 +1,6 @@
 #include <Foundation/UserDefaults.h>
 
+#include <Foundation/Descriptor.h>
 #include <Foundation/PropertyList.h>
 #include <Testing/TemporaryDirectory.h>
 
@@ -8,6 +9,9 @@
 
 #include <cstdlib>
 #include <fstream>
+
+#include <fcntl.h>
+#include <sys/file.h>
 
 namespace velmar {
 namespace {
@@ -38,9 +42,6 @@ TEST_F(UserDefaultsTest, KeepsTextsBetweenInstances) {
 
     UserDefaults("Velmar").set("configuration", "new.plist");
     EXPECT_EQ(defaults.string("configuration"), "new.plist") << "read at each use";
-    defaults.remove("configuration");
-    defaults.remove("never there");
-    EXPECT_EQ(defaults.string("configuration"), std::nullopt);
     EXPECT_EQ(defaults.string("other"), "2");
 }
 
@@ -80,12 +81,33 @@ TEST_F(UserDefaultsTest, FailsWithoutLosingAnything) {
     EXPECT_TRUE(std::filesystem::is_directory(defaults.path()));
 }
 
-TEST_F(UserDefaultsTest, LiesInTheHomeDirectoryWithoutThatVariable) {
-    setenv("HOME", "/Users/mira", 1);
-    for (const char *relative : {"", "relative/path"}) {
-        setenv("XDG_CONFIG_HOME", relative, 1);
-        EXPECT_EQ(UserDefaults("Velmar").path(), "/Users/mira/.config/Velmar/Velmar.plist");
+TEST_F(UserDefaultsTest, RefusesTextsThatCannotBeStored) {
+    const std::string damaged = "no property list";
+    put(damaged);
+    UserDefaults defaults("Velmar");
+    for (const char *text : {"caf\xE9.plist", "a\x01.plist"}) {
+        try {
+            defaults.set("configuration", text);
+            ADD_FAILURE() << "stored";
+        } catch (const FileError &error) {
+            EXPECT_EQ(error.errorDescription(),
+                      "The item at '" + defaults.path() +
+                          "' couldn't be written: Invalid or incomplete multibyte or wide character.");
+        }
     }
+    EXPECT_EQ(files.contents(defaults.path(), 100), damaged) << "not put aside";
+}
+
+TEST_F(UserDefaultsTest, DoesNotWaitForeverForAnotherProcess) {
+    UserDefaults defaults("Velmar");
+    defaults.set("configuration", "a.plist");
+    const Descriptor other(open(directory.path("Velmar").c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    ASSERT_EQ(flock(other.number(), LOCK_EX), 0);
+    EXPECT_THROW(defaults.set("configuration", "b.plist"), FileError);
+    ASSERT_EQ(flock(other.number(), LOCK_UN), 0);
+    EXPECT_EQ(defaults.string("configuration"), "a.plist");
+    defaults.set("configuration", "b.plist");
+    EXPECT_EQ(defaults.string("configuration"), "b.plist");
 }
 
 } // namespace

@@ -2,16 +2,16 @@
 
 #include <Foundation/Descriptor.h>
 #include <Foundation/PropertyList.h>
+#include <Foundation/UserDirectories.h>
 
-#include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <iterator>
-#include <vector>
+#include <thread>
+#include <utility>
 
 #include <fcntl.h>
-#include <pwd.h>
 #include <sys/file.h>
 
 namespace velmar {
@@ -21,23 +21,8 @@ namespace {
 constexpr std::size_t sizeLimit = 1024 * 1024;
 constexpr std::uint32_t directoryMode = 0700;
 constexpr std::uint32_t fileMode = 0600;
-
-std::string homeDirectory() {
-    if (const char *home = std::getenv("HOME"); home != nullptr && *home == '/')
-        return home;
-    std::vector<char> buffer(16384);
-    passwd record{};
-    passwd *found = nullptr;
-    getpwuid_r(geteuid(), &record, buffer.data(), buffer.size(), &found);
-    return found != nullptr ? found->pw_dir : "/";
-}
-
-std::string configurationDirectory() {
-    // A relative one is to be ignored.
-    if (const char *place = std::getenv("XDG_CONFIG_HOME"); place != nullptr && *place == '/')
-        return place;
-    return homeDirectory() + "/.config";
-}
+constexpr std::chrono::seconds lockTimeout(2);
+constexpr std::chrono::milliseconds lockInterval(10);
 
 struct Settings {
     PropertyList::Dictionary values;
@@ -69,25 +54,33 @@ void putAside(const std::string &path) {
         throw FileError::fromErrno(path, "put aside", errno);
 }
 
-// Reads, changes and writes with other processes kept out.
-template <class Change>
-void update(const std::string &directory, const std::string &path, const Change &change) {
-    const FileManager &files = FileManager::defaultManager();
-    files.createDirectory(directory, directoryMode);
-    const Descriptor lock(open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!lock || flock(lock.number(), LOCK_EX) != 0)
+// Keeps other processes out until the descriptor is closed. One that was stopped while it held the lock must
+// not hold up a start.
+Descriptor lock(const std::string &directory, const std::string &path) {
+    Descriptor descriptor(open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!descriptor)
         throw FileError::fromErrno(path, "written", errno);
-    Settings settings = settingsAt(path);
-    change(settings.values);
-    if (settings.isDamaged)
-        putAside(path);
-    files.writeAtomically(path, PropertyList(std::move(settings.values)).xml(), fileMode);
+    const auto deadline = std::chrono::steady_clock::now() + lockTimeout;
+    while (flock(descriptor.number(), LOCK_EX | LOCK_NB) != 0) {
+        if (errno != EINTR && (errno != EWOULDBLOCK || std::chrono::steady_clock::now() >= deadline))
+            throw FileError::fromErrno(path, "locked", errno);
+        std::this_thread::sleep_for(lockInterval);
+    }
+    return descriptor;
+}
+
+std::string textOf(const std::string &path, PropertyList::Dictionary values) {
+    try {
+        return PropertyList(std::move(values)).xml();
+    } catch (const PropertyListError &) {
+        throw FileError(FileError::SystemError{path, "written", EILSEQ});
+    }
 }
 
 } // namespace
 
 UserDefaults::UserDefaults(std::string_view suite)
-    : directory_(configurationDirectory() + "/Velmar"),
+    : directory_(UserDirectories::configuration() + "/Velmar"),
       path_(directory_ + "/" + std::string(suite) + ".plist") {}
 
 std::optional<std::string> UserDefaults::string(std::string_view key) const {
@@ -102,16 +95,15 @@ std::optional<std::string> UserDefaults::string(std::string_view key) const {
 }
 
 void UserDefaults::set(std::string_view key, std::string_view value) {
-    update(directory_, path_, [&](PropertyList::Dictionary &values) { values.set(key, value); });
-}
-
-void UserDefaults::remove(std::string_view key) {
-    update(directory_, path_, [&](PropertyList::Dictionary &values) {
-        std::vector<PropertyList::Dictionary::Entry> others;
-        std::copy_if(values.begin(), values.end(), std::back_inserter(others),
-                     [key](const auto &entry) { return entry.key != key; });
-        values = PropertyList::Dictionary(std::move(others));
-    });
+    const FileManager &files = FileManager::defaultManager();
+    files.createDirectory(directory_, directoryMode);
+    const Descriptor locked = lock(directory_, path_);
+    Settings settings = settingsAt(path_);
+    settings.values.set(key, value);
+    const std::string text = textOf(path_, std::move(settings.values));
+    if (settings.isDamaged)
+        putAside(path_);
+    files.writeAtomically(path_, text, fileMode);
 }
 
 } // namespace velmar

@@ -8,9 +8,8 @@
 
 namespace velmar {
 
-/// The stored settings of one suite and one user: texts by key in a property list,
-/// `$XDG_CONFIG_HOME/Velmar/{suite}.plist`
-/// (`~/.config` without that variable). Read at each use, so what another process stored is seen. Any thread.
+/// The stored settings of one suite and one user: texts by key in a property list, "Velmar/{suite}.plist" in
+/// UserDirectories::configuration(). Read at each use, so what another process stored is seen. Any thread.
 ///
 /// A file that is no property list, or above one megabyte, counts as empty; the next write puts it aside
 /// beside the new one, under its name with ".damaged-" and six characters.
@@ -22,10 +21,10 @@ public:
     /// Absent if there is no such key, no such file, or the value is no text.
     [[nodiscard]] std::optional<std::string> string(std::string_view key) const;
 
-    /// Both throw FileError where the file cannot be written; the former content is then untouched. Other
-    /// keys remain.
+    /// Other keys remain. Throws FileError where the file cannot be written, or not with this text (one that
+    /// is not UTF-8 or holds control characters), or is held by another process for more than two seconds;
+    /// the former content is then untouched.
     void set(std::string_view key, std::string_view value);
-    void remove(std::string_view key);
 
     [[nodiscard]] const std::string &path() const noexcept { return path_; }
 
