@@ -12,26 +12,24 @@ TEST(URL, TakesTextsApart) {
         const char *text;
         const char *absoluteString;
         const char *scheme; // "" for none
-        const char *host;   // "" for none
         const char *path;
         const char *last;
-        const char *extension;
     } cases[] = {
         {"https://Example.org:8443/a/b.tar.gz?x=1#y", "https://Example.org:8443/a/b.tar.gz?x=1#y", "https",
-         "Example.org", "/a/b.tar.gz", "b.tar.gz", "gz"},
-        {"HTTP://me:secret@[::1]:80", "HTTP://me:secret@[::1]:80", "http", "[::1]", "", "", ""},
-        {"file:///Library/Managed%20Preferences/", "file:///Library/Managed%20Preferences/", "file", "",
-         "/Library/Managed Preferences", "Managed Preferences", ""},
-        {"/Users/me/a picture.png", "/Users/me/a%20picture.png", "", "", "/Users/me/a picture.png",
-         "a picture.png", "png"},
-        {"/100%/été{1}", "/100%25/%C3%A9t%C3%A9%7B1%7D", "", "", "/100%/été{1}", "été{1}", ""},
-        {"a%2", "a%252", "", "", "a%2", "a%2", ""},
-        {"/", "/", "", "", "/", "/", ""},
-        {"//", "//", "", "", "", "", ""},
-        {"/home/.profile", "/home/.profile", "", "", "/home/.profile", ".profile", ""},
-        {"x-apple:settings", "x-apple:settings", "x-apple", "", "settings", "settings", ""},
-        {"12:30.png", "12:30.png", "", "", "12:30.png", "12:30.png", "png"},
-        {"http://münchen.de/#a#b", "http://m%C3%BCnchen.de/#a%23b", "http", "münchen.de", "/", "/", ""},
+         "/a/b.tar.gz", "b.tar.gz"},
+        {"HTTP://me:secret@[::1]:80", "HTTP://me:secret@[::1]:80", "http", "", ""},
+        {"file:///Library/Managed%20Preferences/", "file:///Library/Managed%20Preferences/", "file",
+         "/Library/Managed Preferences", "Managed Preferences"},
+        {"/Users/me/a picture.png", "/Users/me/a%20picture.png", "", "/Users/me/a picture.png",
+         "a picture.png"},
+        {"/100%/été{1}", "/100%25/%C3%A9t%C3%A9%7B1%7D", "", "/100%/été{1}", "été{1}"},
+        {"a%2", "a%252", "", "a%2", "a%2"},
+        {"/", "/", "", "/", "/"},
+        {"//", "//", "", "", ""},
+        {"/home/.profile", "/home/.profile", "", "/home/.profile", ".profile"},
+        {"x-apple:settings", "x-apple:settings", "x-apple", "settings", "settings"},
+        {"12:30.png", "12:30.png", "", "12:30.png", "12:30.png"},
+        {"http://münchen.de/#a#b", "http://m%C3%BCnchen.de/#a%23b", "http", "/", "/"},
     };
     for (const auto &each : cases) {
         const auto url = URL::fromString(each.text);
@@ -39,10 +37,8 @@ TEST(URL, TakesTextsApart) {
         EXPECT_EQ(url->text(), each.text);
         EXPECT_EQ(url->absoluteString(), each.absoluteString);
         EXPECT_EQ(url->scheme().value_or(""), each.scheme) << each.text;
-        EXPECT_EQ(url->host().value_or(""), each.host) << each.text;
         EXPECT_EQ(url->path(), each.path);
         EXPECT_EQ(url->lastPathComponent(), each.last) << each.text;
-        EXPECT_EQ(url->pathExtension(), each.extension) << each.text;
     }
 }
 

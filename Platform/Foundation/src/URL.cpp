@@ -182,11 +182,6 @@ std::optional<std::string> URL::scheme() const {
     return scheme ? std::optional(UnicodeText::lowercased(*scheme)) : std::nullopt;
 }
 
-std::optional<std::string> URL::host() const {
-    const auto authority = partsOf(text_).authority;
-    return authority ? std::optional(decoded(authorityOf(*authority).host)) : std::nullopt;
-}
-
 bool URL::isFileURL() const {
     return scheme() == "file";
 }
@@ -199,12 +194,6 @@ std::string URL::path() const {
 std::string URL::lastPathComponent() const {
     const std::string whole = path();
     return whole == "/" ? whole : whole.substr(whole.rfind('/') + 1);
-}
-
-std::string URL::pathExtension() const {
-    const std::string name = lastPathComponent();
-    const auto dot = name.rfind('.');
-    return dot == std::string::npos || dot == 0 ? std::string() : name.substr(dot + 1);
 }
 
 URL URL::appendingPathComponent(std::string_view component, bool isDirectory) const {

@@ -4,7 +4,7 @@
 #include <Foundation/UserDefaults.h>
 #include <Managers/AppManager.h>
 #include <Support/RecordedLog.h>
-#include <Support/TemporaryDirectory.h>
+#include <Testing/TemporaryDirectory.h>
 #include <Testing/TestIdentityAuthority.h>
 
 #include <fmt/format.h>

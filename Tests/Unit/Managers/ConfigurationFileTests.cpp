@@ -2,8 +2,8 @@
 
 #include <Models/VelmarError.h>
 #include <Support/RecordedLog.h>
-#include <Support/TemporaryDirectory.h>
 #include <System/SystemIdentityAuthority.h>
+#include <Testing/TemporaryDirectory.h>
 #include <Testing/TestIdentityAuthority.h>
 
 #include <fmt/format.h>

@@ -5,7 +5,7 @@
 #include <Foundation/UserDefaults.h>
 #include <Models/VelmarError.h>
 #include <Support/RecordedLog.h>
-#include <Support/TemporaryDirectory.h>
+#include <Testing/TemporaryDirectory.h>
 
 #include <fmt/format.h>
 #include <gmock/gmock.h>

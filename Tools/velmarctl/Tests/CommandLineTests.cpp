@@ -1,6 +1,6 @@
 #include <CommandLine.h>
 
-#include <Support/TemporaryDirectory.h>
+#include <Testing/TemporaryDirectory.h>
 #include <Testing/TestIdentityAuthority.h>
 
 #include <fmt/format.h>

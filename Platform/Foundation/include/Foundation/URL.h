@@ -32,15 +32,12 @@ public:
 
     [[nodiscard]] bool hasPlaceholders() const noexcept;
     [[nodiscard]] std::optional<std::string> scheme() const; ///< Lower case; absent for a relative URL.
-    [[nodiscard]] std::optional<std::string>
-    host() const; ///< Percent-decoded; absent if there is no authority.
     [[nodiscard]] bool isFileURL() const;
 
     /// Percent-decoded, without a trailing slash unless it is "/". For a file URL the path on disk. May hold
     /// any byte.
     [[nodiscard]] std::string path() const;
     [[nodiscard]] std::string lastPathComponent() const; ///< "/" for the root, empty for an empty path.
-    [[nodiscard]] std::string pathExtension() const;     ///< Without the dot; empty if there is none.
 
     /// This URL with the component, which is not encoded yet, put behind its path. It may hold a sub-path
     /// ("a/b"); one that begins with "/" stays below all the same. Query and fragment remain.

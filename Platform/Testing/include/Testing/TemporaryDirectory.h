@@ -2,8 +2,10 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace velmar {
 
@@ -25,6 +27,14 @@ public:
 
     [[nodiscard]] const std::string &path() const noexcept { return path_; }
     [[nodiscard]] std::string path(const std::string &name) const { return path_ + "/" + name; }
+
+    /// Writes a file, making the directories above it, and gives its path.
+    std::string write(const std::string &name, std::string_view content) const {
+        std::string file = path(name);
+        std::filesystem::create_directories(std::filesystem::path(file).parent_path());
+        std::ofstream(file, std::ios::binary) << content;
+        return file;
+    }
 
 private:
     std::string path_;
