@@ -26,8 +26,8 @@ public:
     /// Opens the item. What is wrong with it shows when it is judged or read.
     explicit ConfigurationFile(URL url);
 
-    /// Returns if the owner, the group and the permissions show that no ordinary user can have written the
-    /// file (see ConfigurationOwnership). Otherwise logs them and throws
+    /// Returns if the owner, the group and the permissions are admissible (see ConfigurationOwnership).
+    /// Otherwise logs them, or that they cannot be told, and throws
     /// VelmarError::IncorrectPermissionsOnConfigFile.
     void hasConfigFileCorrectPermissions(const IdentityAuthority &authority) const;
 

@@ -17,7 +17,7 @@ bool isTooOpen(Permission permission) noexcept {
 } // namespace
 
 std::optional<ConfigurationOwnership> ConfigurationOwnership::of(const FileAttributes &attributes) {
-    if (!attributes.ownerName || !attributes.groupName) {
+    if (!attributes.ownerName || !attributes.groupName || attributes.hasAccessControlList) {
         return std::nullopt;
     }
     try {

@@ -9,6 +9,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 
 namespace velmar {
 
@@ -23,14 +24,23 @@ FileAttributes FileHandle::attributes() const {
     struct stat status {};
     if (fstat(item_.number(), &status) != 0)
         throw FileError::fromErrno(path_, "read", errno);
-    return FileAttributes::of(status);
+    FileAttributes attributes = FileAttributes::of(status);
+    // A list that says no more than the mode isn't stored. The descriptor itself cannot be asked for it.
+    attributes.hasAccessControlList =
+        getxattr(pathOfItself().c_str(), "system.posix_acl_access", nullptr, 0) >= 0;
+    if (!attributes.hasAccessControlList && errno != ENODATA && errno != ENOTSUP)
+        throw FileError(FileError::SystemError{path_, "read", errno});
+    return attributes;
+}
+
+std::string FileHandle::pathOfItself() const {
+    return "/proc/self/fd/" + std::to_string(item_.number());
 }
 
 std::string FileHandle::readAll(std::size_t limit) const {
     // Asked before opening: the opening of a device may have effects, and that of a link goes elsewhere.
     static_cast<void>(sizeOfRegularFile(item_, path_));
-    const std::string itself = "/proc/self/fd/" + std::to_string(item_.number());
-    const Descriptor reader(open(itself.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    const Descriptor reader(open(pathOfItself().c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (!reader)
         throw FileError::fromErrno(path_, "read", errno);
     return readRegularFile(reader, path_, limit);

@@ -1,5 +1,7 @@
 #include <Foundation/FileManager.h>
 
+#include <Foundation/FileHandle.h>
+
 #include "DescriptorTransfer.h"
 #include "FilePath.h"
 
@@ -37,10 +39,7 @@ bool FileManager::fileExists(const std::string &path) const {
 }
 
 FileAttributes FileManager::attributesOfItem(const std::string &path) const {
-    struct stat status {};
-    if (lstat(systemPath(path, "read"), &status) != 0)
-        throw FileError::fromErrno(path, "read", errno);
-    return FileAttributes::of(status);
+    return FileHandle::openItself(path).attributes();
 }
 
 std::vector<std::string> FileManager::contentsOfDirectory(const std::string &path) const {

@@ -9,10 +9,12 @@
 #include <fmt/format.h>
 #include <gmock/gmock.h>
 
+#include <cstdint>
 #include <filesystem>
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace velmar {
@@ -86,6 +88,27 @@ TEST_F(RealOwnershipTest, ReportsWhatItRefuses) {
     expectRefusal(authority_, unreadableOwner);
     set(0, 3'999'999'999U, 0644);
     expectRefusal(authority_, unreadableOwner);
+}
+
+// The attribute as the kernel keeps it: a version, then a tag, rights and a number each.
+TEST_F(RealOwnershipTest, RefusesAnAccessControlListThatTheModeHides) {
+    const struct {
+        std::uint32_t version = 2;
+        struct {
+            std::uint16_t tag;
+            std::uint16_t rights;
+            std::uint32_t number;
+        } entries[5] = {{0x01, 6, ~0U}, {0x02, 6, 65534}, {0x04, 4, ~0U}, {0x10, 4, ~0U}, {0x20, 4, ~0U}};
+    } list;
+    set(0, 0, 0644);
+    if (::setxattr(path_.c_str(), "system.posix_acl_access", &list, sizeof list, 0) != 0) {
+        GTEST_SKIP() << "the file system keeps no access control lists";
+    }
+    EXPECT_TRUE(FileHandle::openItself(path_).attributes().hasAccessControlList);
+    expectRefusal(authority_, unreadableOwner);
+    ASSERT_EQ(::removexattr(path_.c_str(), "system.posix_acl_access"), 0);
+    set(0, 0, 0644);
+    file().hasConfigFileCorrectPermissions(authority_);
 }
 
 TEST_F(RealOwnershipTest, JudgesALinkAsTheLink) {

@@ -43,12 +43,15 @@ TEST(ConfigurationOwnership, AdmitsByOwnerGroupAndMode) {
     }
 }
 
-TEST(ConfigurationOwnership, IsUnreadableWithoutNamesOrWithSpecialBits) {
+TEST(ConfigurationOwnership, IsUnreadableWithoutNamesWithSpecialBitsOrAList) {
     EXPECT_EQ(ConfigurationOwnership::of(attributes("root", "wheel", 0644))->description(),
               "[root:wheel - rw-r--r--]");
     EXPECT_FALSE(ConfigurationOwnership::of(attributes("root", "wheel", 01644)).has_value());
     EXPECT_FALSE(ConfigurationOwnership::of(attributes("root", {}, 0644)).has_value());
     EXPECT_FALSE(ConfigurationOwnership::of(attributes({}, "wheel", 0644)).has_value());
+    FileAttributes withList = attributes("root", "wheel", 0644);
+    withList.hasAccessControlList = true;
+    EXPECT_FALSE(ConfigurationOwnership::of(withList).has_value());
 }
 
 } // namespace

@@ -19,7 +19,10 @@ struct FileAttributes {
     std::uint32_t groupId = 0;
     std::optional<std::string> ownerName; ///< Absent where no account has the number.
     std::optional<std::string> groupName;
+    /// An access control list gives named users or groups rights that the mode doesn't tell.
+    bool hasAccessControlList = false;
 
+    /// What the status tells: all but the access control list.
     [[nodiscard]] static FileAttributes of(const struct stat &status);
 };
 

@@ -30,6 +30,10 @@ public:
 
 private:
     FileHandle(std::string path, Descriptor item) : path_(std::move(path)), item_(std::move(item)) {}
+
+    // Leads to the item wherever it lies now.
+    [[nodiscard]] std::string pathOfItself() const;
+
     std::string path_;
     Descriptor item_; // names the item only; reading opens it anew
 };
