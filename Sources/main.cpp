@@ -5,12 +5,15 @@
 #include <Dispatch/UncaughtHandler.h>
 #include <Extensions/VelmarLogDestinations.h>
 #include <Managers/LaunchOptions.h>
+#include <Managers/ProcessEnd.h>
 #include <System/SystemIdentityAuthority.h>
 #include <logger/Logger.h>
 
 #include <fmt/core.h>
 
+#include <algorithm>
 #include <cstdlib>
+#include <exception>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -26,26 +29,24 @@ int run(int argumentCount, char **arguments, LaunchOptions options) {
     setUncaughtHandler([](std::string_view label, std::exception_ptr exception) {
         Logger::error([&] { return fmt::format("Uncaught error in {}: {}", label, textOf(exception)); });
     });
-    std::error_code ignored;
-    const std::string executable = std::filesystem::read_symlink("/proc/self/exe", ignored).string();
-    DesktopApplication application(argumentCount, arguments);
-    DesktopAlertPresenter alerts;
-    AppDelegate delegate({.application = application,
-                          .alerts = alerts,
-                          .identityAuthority = authority,
-                          .options = std::move(options),
-                          .executable = executable});
     try {
+        std::error_code ignored;
+        const std::string executable = std::filesystem::read_symlink("/proc/self/exe", ignored).string();
+        DesktopApplication application(argumentCount, arguments);
+        DesktopAlertPresenter alerts;
+        AppDelegate delegate({.application = application,
+                              .alerts = alerts,
+                              .identityAuthority = authority,
+                              .options = std::move(options),
+                              .executable = executable});
         return application.run(delegate);
-    } catch (const std::exception &error) {
-        Logger::error(std::string(error.what()));
+    } catch (...) {
+        Logger::error([exception = std::current_exception()] { return textOf(exception); });
         return EXIT_FAILURE;
     }
 }
 
-} // namespace
-
-int main(int argumentCount, char **arguments) {
+int startAndRun(int argumentCount, char **arguments) {
     try {
         const std::vector<std::string> texts(arguments + 1, arguments + std::max(1, argumentCount));
         LaunchOptions options = LaunchOptions::parse(texts);
@@ -53,11 +54,20 @@ int main(int argumentCount, char **arguments) {
             fmt::print(stderr, "{}\n", *problem);
             return EXIT_FAILURE;
         }
-        const int status = run(argumentCount, arguments, std::move(options));
-        Logger::flush();
-        return status;
-    } catch (const std::exception &error) {
-        fmt::print(stderr, "{}\n", error.what());
+        return run(argumentCount, arguments, std::move(options));
+    } catch (...) {
+        const auto exception = std::current_exception();
+        fmt::print(stderr, "{}\n", textOf(exception));
         return EXIT_FAILURE;
     }
+}
+
+} // namespace
+
+int main(int argumentCount, char **arguments) {
+    const int status = startAndRun(argumentCount, arguments);
+    if (!settleBeforeExit()) {
+        std::_Exit(status);
+    }
+    return status;
 }

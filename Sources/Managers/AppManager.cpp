@@ -1,6 +1,7 @@
 #include <Managers/AppManager.h>
 
 #include <Configuration/Configuration.h>
+#include <Dispatch/UncaughtHandler.h>
 #include <Foundation/UnicodeText.h>
 #include <Managers/ConfigurationFile.h>
 #include <logger/Logger.h>
@@ -61,8 +62,8 @@ void AppManager::reloadInterface(bool /*byResetingVariables*/) {
         auto configuration = ConfigurationFile(configurationFileURL_).retrieveConfiguration();
         const std::lock_guard lock(mutex_);
         configuration_.swap(configuration);
-    } catch (const std::exception &error) {
-        Logger::error([&] { return error.what(); });
+    } catch (...) {
+        Logger::error([exception = std::current_exception()] { return textOf(exception); });
     }
 }
 

@@ -1,5 +1,6 @@
 #include <Managers/ConfigurationRefusal.h>
 
+#include <Managers/ProcessEnd.h>
 #include <logger/Logger.h>
 
 #include <fmt/format.h>
@@ -12,7 +13,7 @@ void ConfigurationRefusal::exitBecauseOf(const std::exception &error) const {
     Logger::error(
         [&] { return fmt::format("A problem occurred while retrieving configuration: {}", error.what()); });
     alert("The configuration file is incorrect", "Quit");
-    Logger::flush();
+    static_cast<void>(settleBeforeExit());
     exit(0);
     std::abort();
 }

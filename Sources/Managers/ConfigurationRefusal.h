@@ -14,8 +14,8 @@ struct ConfigurationRefusal {
     /// Ends the process with a status, at once and without the application's termination. Must not return.
     std::function<void(int status)> exit;
 
-    /// Logs what the making of the AppManager threw, shows the alert, waits for the log to be written and
-    /// ends the process with status 0. Main thread.
+    /// Logs what the making of the AppManager threw, shows the alert, settles queues and log
+    /// (`settleBeforeExit`) and ends the process with status 0. Main thread.
     [[noreturn]] void exitBecauseOf(const std::exception &error) const;
 };
 

@@ -2,7 +2,6 @@
 
 #include <Configuration/Configuration.h>
 #include <Configuration/ConfigurationError.h>
-#include <Managers/ConfigurationRefusal.h>
 #include <Models/VelmarError.h>
 
 #include <gmock/gmock.h>
@@ -110,27 +109,6 @@ TEST_F(AppManagerTest, MonitorsAllFourModifiersForItsLifetimeUnlessSwitchedOff) 
     writeConfiguration("<key>AppTermination</key><dict><key>ForceQuitShortcutIsEnabled</key><false/></dict>");
     manager = makeAppManager();
     EXPECT_EQ(keyDownMonitor_, nullptr);
-}
-
-TEST_F(AppManagerTest, ARefusalIsLoggedThenShownThenEndsTheProcessWithZero) {
-    struct Exit {
-        int status;
-    };
-    std::vector<std::string> shown;
-    const ConfigurationRefusal refusal{[&](const std::string &message, const std::string &button) {
-                                           shown = {message, button};
-                                           EXPECT_EQ(log_.lines().size(), 1U) << "logged before the alert";
-                                       },
-                                       [](int status) { throw Exit{status}; }};
-    try {
-        refusal.exitBecauseOf(VelmarError(VelmarError::MissingConfigurationFile{"file:///x"}));
-        ADD_FAILURE();
-    } catch (const Exit &exit) {
-        EXPECT_EQ(exit.status, 0);
-    }
-    EXPECT_THAT(shown, ElementsAre("The configuration file is incorrect", "Quit"));
-    EXPECT_THAT(log_.lines(), ElementsAre("error: A problem occurred while retrieving configuration: "
-                                          "Configuration file is missing. [file:///x]"));
 }
 
 } // namespace

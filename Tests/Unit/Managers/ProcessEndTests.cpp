@@ -1,0 +1,101 @@
+#include <Managers/ProcessEnd.h>
+
+#include <Dispatch/DispatchQueue.h>
+#include <Managers/ConfigurationRefusal.h>
+#include <Models/VelmarError.h>
+#include <Support/RecordedLog.h>
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <future>
+#include <string>
+#include <thread>
+
+namespace velmar {
+namespace {
+
+using namespace std::chrono_literals;
+
+void print(const RecordedLog &log) {
+    for (const std::string &line : log.lines()) {
+        std::fprintf(stderr, "%s;", line.c_str());
+    }
+}
+
+// Logs a line after the queue has begun and the caller has been told.
+void logFrom(const DispatchQueue &queue) {
+    std::promise<void> started;
+    queue.async([&started] {
+        started.set_value();
+        std::this_thread::sleep_for(50ms); // work, not a wait
+        Logger::error("late");
+    });
+    started.get_future().wait();
+}
+
+// The pool of a process ends once, so each of these is tried in one of its own.
+class ProcessEndDeathTest : public testing::Test {
+protected:
+    void SetUp() override { testing::FLAGS_gtest_death_test_style = "threadsafe"; }
+};
+
+TEST_F(ProcessEndDeathTest, LetsQueuesEndBeforeTheLogIsWritten) {
+    EXPECT_EXIT(
+        {
+            const RecordedLog log;
+            const DispatchQueue queue("busy");
+            logFrom(queue);
+            queue.async([] { Logger::error("never"); });
+            const bool hasEnded = settleBeforeExit();
+            print(log);
+            std::_Exit(hasEnded ? 3 : 1);
+        },
+        testing::ExitedWithCode(3), "^error: late;$");
+}
+
+TEST_F(ProcessEndDeathTest, IsBounded) {
+    EXPECT_EXIT(
+        {
+            const DispatchQueue queue("hanging");
+            std::promise<void> started;
+            queue.async([&started] {
+                started.set_value();
+                std::promise<void>().get_future().wait_for(1h);
+            });
+            started.get_future().wait();
+            const auto begin = std::chrono::steady_clock::now();
+            const bool hasEnded = settleBeforeExit();
+            std::_Exit(!hasEnded && std::chrono::steady_clock::now() - begin < 30s ? 4 : 1);
+        },
+        testing::ExitedWithCode(4), "^$");
+}
+
+// Prints what happens in which order.
+[[noreturn]] void refuse() {
+    const RecordedLog log;
+    const DispatchQueue queue("busy");
+    const ConfigurationRefusal refusal{
+        [&](const std::string &message, const std::string &button) {
+            print(log);
+            std::fprintf(stderr, "[%s|%s]", message.c_str(), button.c_str());
+            logFrom(queue);
+        },
+        [&](int status) {
+            print(log);
+            std::_Exit(status == 0 ? 5 : 1);
+        },
+    };
+    refusal.exitBecauseOf(VelmarError(VelmarError::MissingConfigurationFile{"file:///x"}));
+}
+
+TEST_F(ProcessEndDeathTest, ARefusalIsLoggedThenShownThenEndsTheProcessWithZero) {
+    EXPECT_EXIT(refuse(), testing::ExitedWithCode(5),
+                "^error: A problem occurred while retrieving configuration: Configuration file is missing. "
+                ".file:///x.;.The configuration file is incorrect.Quit.error: A problem .*;error: late;$");
+}
+
+} // namespace
+} // namespace velmar
