@@ -42,16 +42,6 @@ TEST(LoginItem, QuotesItsCommandTwice) {
     }
 }
 
-TEST(LoginItem, IsRemovedOnceAndMayBeMissing) {
-    const TemporaryDirectory directory;
-    const LoginItem item(directory.path());
-    EXPECT_NO_THROW(item.disable());
-    item.enable(std::vector<std::string>{"/usr/bin/velmar"});
-    EXPECT_TRUE(FileManager().fileExists(item.path()));
-    item.disable();
-    EXPECT_FALSE(FileManager().fileExists(item.path()));
-}
-
 TEST(LoginItem, LiesWithTheAccountWhereTheEnvironmentNamesNoHome) {
     const char *home = std::getenv("HOME");
     const std::string former = home != nullptr ? home : "";
