@@ -36,9 +36,13 @@ public:
     void applicationDidBecomeActive() override {}
     void applicationWillResignActive() override {}
     void applicationDidResignActive() override {}
-    void applicationWillTerminate() override { events.emplace_back("will terminate"); }
+    void applicationWillTerminate() override {
+        events.emplace_back("will terminate");
+        fail();
+    }
     bool applicationShouldTerminate() override {
         events.emplace_back("should terminate");
+        fail();
         return refusals-- <= 0;
     }
     bool applicationShouldTerminateAfterLastWindowClosed() override { return endsWithItsWindow; }
@@ -46,8 +50,16 @@ public:
     std::function<void()> whileLaunching;
     std::function<void()> afterLaunch;
     int refusals = 0;
+    bool fails = false;
     bool endsWithItsWindow = true;
     std::vector<std::string> events;
+
+private:
+    void fail() const {
+        if (fails) {
+            throw std::runtime_error("termination");
+        }
+    }
 };
 
 class Application : public testing::Test {
@@ -84,6 +96,27 @@ TEST_F(Application, EndsInOrder) {
         EXPECT_EQ(application().run(recorder), 0);
         EXPECT_EQ(recorder.events, wholeLife);
     }
+}
+
+TEST_F(Application, EndsEvenIfTheDelegateFailsToBeAsked) {
+    std::vector<std::string> uncaught;
+    setUncaughtHandler([&](auto label, std::exception_ptr) { uncaught.emplace_back(label); });
+    recorder.fails = true;
+    recorder.afterLaunch = [] { application().terminate(); };
+    EXPECT_EQ(application().run(recorder), 0);
+    setUncaughtHandler({});
+    EXPECT_EQ(recorder.events, wholeLife);
+    EXPECT_EQ(uncaught, (std::vector<std::string>{"applicationShouldTerminate", "applicationWillTerminate"}));
+}
+
+TEST_F(Application, EndsWithoutAWordBeforeItHasBegun) {
+    recorder.whileLaunching = [] {
+        QDialog refusal;
+        application().mainQueue().async([] { std::raise(SIGTERM); });
+        refusal.exec();
+    };
+    EXPECT_EQ(application().run(recorder), 0);
+    EXPECT_EQ(recorder.events, std::vector<std::string>{"will launch"});
 }
 
 TEST_F(Application, GoesOnWhenTheDelegateRefuses) {

@@ -35,6 +35,7 @@ public:
 
     int run(ApplicationDelegate &delegate) {
         delegate_ = &delegate;
+        hasBegun_ = false;
         isLaunched_ = false;
         isTerminating_ = false;
         QMetaObject::invokeMethod(
@@ -52,11 +53,17 @@ public:
         if (delegate_ == nullptr || std::exchange(isTerminating_, true)) {
             return;
         }
-        if (!delegate_->applicationShouldTerminate()) {
-            isTerminating_ = false;
-            return;
+        // Until the first event is over there is nothing that the delegate could object to or put in order.
+        if (hasBegun_) {
+            bool isRefused = false;
+            runReportingUncaught("applicationShouldTerminate",
+                                 [&] { isRefused = !delegate_->applicationShouldTerminate(); });
+            if (isRefused) {
+                isTerminating_ = false;
+                return;
+            }
+            runReportingUncaught("applicationWillTerminate", [&] { delegate_->applicationWillTerminate(); });
         }
-        delegate_->applicationWillTerminate();
         exit(0);
     }
 
@@ -72,8 +79,12 @@ protected:
 
 private:
     void launch() {
+        if (isTerminating_) {
+            return;
+        }
         try {
             delegate_->applicationWillFinishLaunching();
+            hasBegun_ = true;
             if (!isTerminating_) {
                 delegate_->applicationDidFinishLaunching();
                 isLaunched_ = true;
@@ -112,6 +123,7 @@ private:
     TerminationSignals signals_;
     ApplicationDelegate *delegate_ = nullptr;
     std::exception_ptr launchError_;
+    bool hasBegun_ = false; // The first event is over.
     bool isLaunched_ = false;
     bool isActive_ = false;
     bool isTerminating_ = false;

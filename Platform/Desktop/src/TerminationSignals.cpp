@@ -52,7 +52,9 @@ TerminationSignals::TerminationSignals(std::function<void()> onSignal)
 }
 
 TerminationSignals::~TerminationSignals() {
-    handle(SIG_DFL);
+    // The process is ending, and must not be killed before it has written its log.
+    handle(SIG_IGN);
+    notifier_.reset();
     signalDescriptor = -1;
     ::close(descriptor_);
 }

@@ -7,7 +7,8 @@
 
 namespace velmar {
 
-/// Turns SIGTERM and SIGINT into a call on the main thread's loop, for as long as it lives. One per process.
+/// Turns SIGTERM and SIGINT into a call on the main thread's loop, for as long as it lives; from then
+/// on both are ignored. One per process.
 class TerminationSignals {
 public:
     explicit TerminationSignals(std::function<void()> onSignal);

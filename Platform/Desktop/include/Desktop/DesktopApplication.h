@@ -29,7 +29,9 @@ public:
     /// the launching events first. Throws what left one of them: the launch failed, and the loop is over.
     int run(ApplicationDelegate &delegate);
 
-    /// Ends the loop unless the delegate objects. Loops of alerts that are open end with it.
+    /// Ends the loop unless the delegate objects; what the delegate throws is reported as uncaught and holds
+    /// nothing up. Loops of alerts that are open end with it. While `applicationWillFinishLaunching` runs or
+    /// is to come, the delegate is neither asked nor told.
     void terminate();
 
     [[nodiscard]] MainMenu &mainMenu() noexcept { return mainMenu_; }
