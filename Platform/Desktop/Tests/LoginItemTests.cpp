@@ -52,6 +52,25 @@ TEST(LoginItem, LiesWithTheAccountWhereTheEnvironmentNamesNoHome) {
     setenv("HOME", former.c_str(), 1);
 }
 
+TEST(LoginItem, IsWrittenOnlyWhenItDiffers) {
+    struct Counting : FileManager {
+        void writeAtomically(const std::string &path, std::string_view contents,
+                             std::uint32_t mode) const override {
+            ++writings;
+            FileManager::writeAtomically(path, contents, mode);
+        }
+        mutable int writings = 0;
+    } files;
+    const TemporaryDirectory directory;
+    const LoginItem item(directory.path(), files);
+    const std::pair<std::vector<std::string>, int> cases[] = {
+        {{"/opt/v", "-c", "a"}, 1}, {{"/opt/v", "-c", "a"}, 1}, {{"/opt/v", "-c", "b"}, 2}, {{"/opt/v"}, 3}};
+    for (const auto &[command, writings] : cases) {
+        item.enable(command);
+        EXPECT_EQ(files.writings, writings);
+    }
+}
+
 TEST(LoginItem, TellsWhenItCannotBeWritten) {
     const LoginItem item("/dev/null/autostart");
     EXPECT_THROW(item.enable(std::vector<std::string>{"/usr/bin/velmar"}), FileError);

@@ -6,6 +6,14 @@ namespace velmar {
 
 namespace {
 
+bool isAlready(const FileManager &fileManager, const std::string &path, const std::string &contents) {
+    try {
+        return fileManager.contents(path, contents.size()) == contents;
+    } catch (const FileError &) {
+        return false;
+    }
+}
+
 // The value of an entry's key is unescaped once as a string of the file and once more as a command line, in
 // which "%" introduces a field code.
 std::string quoted(const std::string &argument) {
@@ -47,9 +55,12 @@ void LoginItem::enable(std::span<const std::string> command) const {
     for (const std::string &argument : command) {
         line += (line.empty() ? "" : " ") + quoted(argument);
     }
-    fileManager_.createDirectory(directory_, 0700);
-    fileManager_.writeAtomically(path_, "[Desktop Entry]\nType=Application\nName=Velmar\nExec=" + line + "\n",
-                                 0644);
+    const std::string entry = "[Desktop Entry]\nType=Application\nName=Velmar\nExec=" + line + "\n";
+    // Writing waits for the disk, at a time when the window waits to be painted.
+    if (!isAlready(fileManager_, path_, entry)) {
+        fileManager_.createDirectory(directory_, 0700);
+        fileManager_.writeAtomically(path_, entry, 0644);
+    }
 }
 
 void LoginItem::disable() const {

@@ -18,8 +18,8 @@ public:
     /// "autostart" in UserDirectories::configuration().
     [[nodiscard]] static std::string userDirectory();
 
-    /// Writes the entry, in place of a former one. The command is the absolute path of a program and its
-    /// arguments, whatever characters they hold but for line feeds. Throws FileError.
+    /// Writes the entry, in place of a former one that differs. The command is the absolute path of a program
+    /// and its arguments, whatever characters they hold but for line feeds. Throws FileError.
     void enable(std::span<const std::string> command) const;
 
     /// Removes the entry if there is one. Throws FileError.
