@@ -39,7 +39,7 @@ protected:
     const Alert question{.style = Alert::Style::warning,
                          .messageText = "Really?",
                          .informativeText = "There is <b>no</b> way back.",
-                         .buttons = {"Yes", "Maybe", "No"}};
+                         .buttons = {"Yes", "Save & Quit", "No"}};
 };
 
 TEST_F(Alerts, ShowTheirTextsAsTheyAre) {
@@ -66,8 +66,8 @@ TEST_F(Alerts, GiveTheButtonTheFirstForReturnAndTheLastForClosing) {
     };
     const auto close = [](QWidget &dialog) { dialog.close(); };
     const std::pair<std::function<void(QWidget &)>, std::size_t> cases[] = {
-        {press("Yes"), 0},        {press("Maybe"), 1},      {press("No"), 2},
-        {key(Qt::Key_Return), 0}, {key(Qt::Key_Escape), 2}, {close, 2}};
+        {press("Yes"), 0},        {press("Save && Quit"), 1}, {press("No"), 2},
+        {key(Qt::Key_Return), 0}, {key(Qt::Key_Escape), 2},   {close, 2}};
     for (const auto &[user, expected] : cases) {
         EXPECT_EQ(answer(question, user), expected);
     }

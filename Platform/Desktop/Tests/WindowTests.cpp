@@ -30,7 +30,7 @@ TEST_F(Windows, KeepTheShortcutsOfAHiddenMenuBar) {
     int quits = 0;
     MenuItem quit = entry("Quit", 0, [&] { ++quits; });
     quit.shortcut = KeyShortcut{.key = 'Q', .command = true};
-    mainMenu.setItems({menu("App", 0, {quit}), menu("Admin", 2, {entry("Reload")})});
+    mainMenu.setItems({menu("Q & A", 0, {quit}), menu("Admin", 2, {entry("Reload")})});
     EXPECT_EQ(window.findChild<QMenuBar *>(), nullptr) << "nothing before the first paint needs it";
     window.setSizes({400, 300}, {400, 300}, {800, 600});
     QEventLoop loop;
@@ -41,6 +41,7 @@ TEST_F(Windows, KeepTheShortcutsOfAHiddenMenuBar) {
     ASSERT_NE(bar, nullptr);
     EXPECT_TRUE(bar->isVisible());
     EXPECT_EQ(bar->actions().size(), 2);
+    EXPECT_EQ(bar->actions().first()->text(), "Q && A") << "shown with one";
     mainMenu.removeItems(2);
     EXPECT_FALSE(bar->isVisible());
     QKeyEvent f10(QEvent::KeyPress, Qt::Key_F10, Qt::NoModifier);

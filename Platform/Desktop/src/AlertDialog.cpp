@@ -1,6 +1,7 @@
 #include "AlertDialog.h"
 
 #include <Desktop/Alert.h>
+#include <Desktop/LiteralLabel.h>
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -94,7 +95,9 @@ AlertDialog::AlertDialog(const Alert &alert, QWidget *parent)
     row->setSpacing(12);
     row->setDirection(QBoxLayout::RightToLeft);
     for (std::size_t index = 0; index < alert.buttons.size(); ++index) {
-        auto *button = new QPushButton(QString::fromStdString(alert.buttons[index]), this);
+        const QString text = QString::fromStdString(alert.buttons[index]);
+        auto *button = new QPushButton(literalLabel(text), this);
+        button->setAccessibleName(text);
         button->setDefault(index == 0);
         button->setAutoDefault(index == 0);
         row->addWidget(button);

@@ -1,5 +1,6 @@
 #include "MenuBar.h"
 
+#include <Desktop/LiteralLabel.h>
 #include <Desktop/MainMenu.h>
 
 #include <QAction>
@@ -68,7 +69,7 @@ void MenuBar::windowWillPaint() {
 }
 
 QAction *MenuBar::makeAction(const MenuItem &item) {
-    auto *action = new QAction(QString::fromStdString(item.title), actions_.get());
+    auto *action = new QAction(literalLabel(QString::fromStdString(item.title)), actions_.get());
     if (item.shortcut) {
         action->setShortcut(keySequence(*item.shortcut));
     }
@@ -96,7 +97,7 @@ void MenuBar::fill(QMenuBar &bar) {
     // The window's actions are those of the entries, in their order.
     auto action = actions_->children().cbegin();
     for (const MenuItem &item : menu_.items()) {
-        auto *menu = new QMenu(QString::fromStdString(item.title), &bar);
+        auto *menu = new QMenu(literalLabel(QString::fromStdString(item.title)), &bar);
         connect(actions_.get(), &QObject::destroyed, menu, &QObject::deleteLater);
         for (std::size_t entry = 0; entry < item.submenu.size(); ++entry) {
             menu->addAction(qobject_cast<QAction *>(*action++));

@@ -1,5 +1,6 @@
 #include <Views/Navigation/NavigationButton.h>
 
+#include <Desktop/LiteralLabel.h>
 #include <Views/CustomViews/Colors.h>
 
 #include <QKeyEvent>
@@ -23,6 +24,17 @@ NavigationButton::NavigationButton(bool isPrimary, QWidget *parent)
     opacity_.setEndValue(1.0);
     connect(&opacity_, &QVariantAnimation::valueChanged, this, [this] { update(); });
     connect(&opacity_, &QVariantAnimation::finished, this, [this] { setVisible(!isConcealed_); });
+}
+
+void NavigationButton::setLabel(const QString &label) {
+    label_ = label;
+    setText(literalLabel(label));
+    setAccessibleName(label);
+    updateToolTip();
+}
+
+void NavigationButton::updateToolTip() {
+    setToolTip(width() < sizeHint().width() ? label_ : QString());
 }
 
 void NavigationButton::setTextColor(const std::optional<QColor> &color) {
@@ -97,7 +109,7 @@ void NavigationButton::paintEvent(QPaintEvent * /*event*/) {
 
 void NavigationButton::resizeEvent(QResizeEvent *event) {
     QPushButton::resizeEvent(event);
-    setToolTip(width() < sizeHint().width() ? text() : QString());
+    updateToolTip();
 }
 
 } // namespace velmar

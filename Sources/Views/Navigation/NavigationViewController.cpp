@@ -45,8 +45,8 @@ NavigationViewController::NavigationViewController(const NavigationSection &sect
     setFixedHeight(width);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::AlternateBase);
-    previousButton_->setText(previousLabel_);
-    nextButton_->setText(nextLabel_);
+    previousButton_->setLabel(previousLabel_);
+    nextButton_->setLabel(nextLabel_);
     previousButton_->setConcealed(true);
     auto *layout = new QHBoxLayout(this);
     const int side = padding - Theme::focusRingRoom;
@@ -61,18 +61,21 @@ NavigationViewController::NavigationViewController(const NavigationSection &sect
 }
 
 void NavigationViewController::pressNext() {
-    if (!isHidden() && !nextButton_->isConcealed()) {
+    if (!isHidden()) {
         nextButton_->click();
     }
 }
 
 void NavigationViewController::pressPrevious() {
-    if (!isHidden() && !previousButton_->isConcealed()) {
+    if (!isHidden()) {
         previousButton_->click();
     }
 }
 
 void NavigationViewController::nextPressed() {
+    if (nextButton_->isConcealed()) {
+        return;
+    }
     if (viewModel_.isCurrentSlideValid() && !isSoleSlideReached_ && !isLastSlideReached_) {
         previousButton_->setConcealed(false);
     }
@@ -82,10 +85,13 @@ void NavigationViewController::nextPressed() {
 }
 
 void NavigationViewController::previousPressed() {
+    if (previousButton_->isConcealed()) {
+        return;
+    }
     if (viewModel_.isCurrentSlideValid()) {
         nextButton_->setConcealed(false);
     }
-    nextButton_->setText(nextLabel_);
+    nextButton_->setLabel(nextLabel_);
     isLastSlideReached_ = false;
     viewModel_.clearHideFlags();
     surroundings_.center.post(NavigationNotifications::willNavigateToPreviousSlide);
@@ -102,7 +108,7 @@ void NavigationViewController::hideWhatTheSlideWantsHidden() {
 }
 
 void NavigationViewController::reachedFirstSlide() {
-    later([this] { nextButton_->setText(nextLabel_); });
+    laterUnlessGoneOn([this] { nextButton_->setLabel(nextLabel_); });
     previousButton_->setConcealed(true, animationDuration());
     nextButton_->setConcealed(viewModel_.currentSlideHideNextButton(), animationDuration());
     postAfterAnimation(NavigationNotifications::didReachFirstSlide);
@@ -110,32 +116,35 @@ void NavigationViewController::reachedFirstSlide() {
 
 void NavigationViewController::reachedLastSlide() {
     isLastSlideReached_ = true;
-    later([this] { nextButton_->setText(quitLabel_); });
+    laterUnlessGoneOn([this] { nextButton_->setLabel(quitLabel_); });
     previousButton_->setConcealed(viewModel_.currentSlideHidePreviousButton(), animationDuration());
+    nextButton_->setConcealed(viewModel_.currentSlideHideNextButton(), animationDuration());
     postAfterAnimation(NavigationNotifications::didReachLastSlide);
 }
 
 void NavigationViewController::reachedSoleSlide() {
     isSoleSlideReached_ = true;
+    ++arrival_;
     nextButton_->setConcealed(viewModel_.currentSlideHideNextButton(), animationDuration());
-    nextButton_->setText(quitLabel_);
+    nextButton_->setLabel(quitLabel_);
     postAfterAnimation(NavigationNotifications::didReachSoleSlide);
 }
 
 void NavigationViewController::reevaluateButtons() {
     isLastSlideReached_ = false;
-    later([this] {
+    laterUnlessGoneOn([this] {
         previousButton_->setConcealed(viewModel_.currentSlideHidePreviousButton());
         nextButton_->setConcealed(viewModel_.currentSlideHideNextButton());
     });
 }
 
-void NavigationViewController::later(std::function<void()> function) {
-    surroundings_.mainQueue.async([bar = QPointer(this), function = std::move(function)] {
-        if (bar != nullptr) {
-            function();
-        }
-    });
+void NavigationViewController::laterUnlessGoneOn(std::function<void()> function) {
+    surroundings_.mainQueue.async(
+        [bar = QPointer(this), arrival = ++arrival_, function = std::move(function)] {
+            if (bar != nullptr && bar->arrival_ == arrival) {
+                function();
+            }
+        });
 }
 
 int NavigationViewController::animationDuration() const {

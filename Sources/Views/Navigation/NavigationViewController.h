@@ -50,8 +50,9 @@ private:
     void previousPressed();
     void hideWhatTheSlideWantsHidden();
     void updateTextColors();
-    /// Runs the function on the main queue unless the bar is gone by then.
-    void later(std::function<void()> function);
+    /// Notes an arrival at a slide, and runs the function on the main queue unless by then there was another
+    /// one or the bar is gone.
+    void laterUnlessGoneOn(std::function<void()> function);
     /// The length of the bar's animations in milliseconds; 0 where the desktop wants none.
     [[nodiscard]] int animationDuration() const;
     void postAfterAnimation(std::string_view notification);
@@ -65,6 +66,7 @@ private:
     NavigationButton *nextButton_;
     bool isSoleSlideReached_ = false;
     bool isLastSlideReached_ = false;
+    unsigned arrival_ = 0;          // Counts them.
     NavigationViewModel viewModel_; // Last: it calls back.
 };
 

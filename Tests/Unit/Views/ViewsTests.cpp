@@ -235,6 +235,40 @@ TEST_F(Slides, TellWhenTheAnimationOfAnEndIsOver) {
               (std::vector<std::string>{"didReachLastSlideNotification", "didReachFirstSlideNotification"}));
 }
 
+TEST_F(Slides, KeepTheirButtonsAsTheLatestArrivalLeftThem) {
+    model->setSelectedIndex(1, true);
+    model->setSelectedIndex(0, true);
+    settle();
+    EXPECT_TRUE(bar->previousButton().isConcealed()) << "the arrival in the middle was told late";
+    center.post(NavigationNotifications::currentSlideWantsToHideNextButton);
+    center.post(NavigationNotifications::willReachLastSlide);
+    settle();
+    EXPECT_TRUE(bar->nextButton().isConcealed()) << "no press led there";
+}
+
+TEST_F(Slides, TakeNoPressOfAButtonThatIsGoing) {
+    model->setSelectedIndex(1, true);
+    settle();
+    appearance().setAnimated(true);
+    bar->pressPrevious();
+    settle();
+    ASSERT_TRUE(bar->previousButton().isVisible());
+    const std::size_t lines = log.lines().size();
+    bar->previousButton().click();
+    settle();
+    EXPECT_EQ(log.lines().size(), lines);
+}
+
+TEST_F(Views, AButtonShowsItsLabelCharacterForCharacter) {
+    NavigationButton button(true, nullptr);
+    button.setLabel("Save & Quit");
+    EXPECT_EQ(button.text(), "Save && Quit");
+    EXPECT_EQ(button.accessibleName(), "Save & Quit");
+    button.resize(10, 30);
+    button.setLabel("Quit & go");
+    EXPECT_EQ(button.toolTip(), "Quit & go");
+}
+
 TEST_F(Slides, AreMadeWhenTheyAreNeeded) {
     bar->pressPrevious();
     settle();
