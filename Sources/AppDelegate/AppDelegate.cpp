@@ -129,7 +129,9 @@ void AppDelegate::applicationWillTerminate() {
 }
 
 bool AppDelegate::applicationShouldTerminateAfterLastWindowClosed() {
-    return _onScreen() != WindowSection::OnScreen::menuBar;
+    // A window that stands in for the status item is all there is of the application: without it the process
+    // would be left with nothing to be seen or ended by.
+    return customWindow_->window() != nullptr || _onScreen() != WindowSection::OnScreen::menuBar;
 }
 
 std::vector<std::string> AppDelegate::relaunchCommand() const {

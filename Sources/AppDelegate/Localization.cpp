@@ -4,15 +4,18 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include <memory>
+
 namespace velmar::Localization {
 
 namespace {
 
-bool install(const QLocale &locale) {
-    auto *translator = new QTranslator(QCoreApplication::instance());
-    return translator->load(locale, QStringLiteral("velmar"), QStringLiteral("_"),
-                            QStringLiteral(":/i18n")) &&
-           QCoreApplication::installTranslator(translator);
+void install(const QLocale &locale) {
+    auto translator = std::make_unique<QTranslator>();
+    if (translator->load(locale, QStringLiteral("velmar"), QStringLiteral("_"), QStringLiteral(":/i18n")) &&
+        QCoreApplication::installTranslator(translator.get())) {
+        translator.release()->setParent(QCoreApplication::instance());
+    }
 }
 
 } // namespace
@@ -20,9 +23,8 @@ bool install(const QLocale &locale) {
 void install() {
     // The last one installed is asked first, and English has every text.
     install(QLocale(QLocale::English));
-    if (QLocale().language() != QLocale::English) {
-        install(QLocale());
-    }
+    // Looked up by its uiLanguages(): the languages of messages may differ from that of numbers and dates.
+    install(QLocale::system());
 }
 
 } // namespace velmar::Localization

@@ -68,6 +68,21 @@ class Session(Scenario):
                 self.assertEqual(0, process.wait(), process.story())
                 self.assertEqual(ENDING, self.messages()[-3:])
 
+    def test_a_signal_during_the_refusal_ends_at_once(self):
+        self.install(b"not a property list")
+        process, screen = self.velmar()
+        screen.wait_for_text(REFUSAL)
+        process.send(signal.SIGTERM)
+        self.assertEqual(0, process.wait(), process.story())
+        self.assertNotIn(ENDING[0], self.messages())
+
+    def test_a_window_in_place_of_the_status_item_ends_the_program_when_it_is_closed(self):
+        self.install({"Window": {"OnScreen": "MenuBar"}, "MenuBarSlide": slide("Text")})
+        process, screen = self.velmar()
+        screen.wait_for_text("Text")
+        screen.key("alt+F4")
+        self.assertEqual(0, process.wait(), process.story())
+
     def test_the_force_quit_shortcut(self):
         for section, keys, ends in [({}, "f", True), ({"ForceQuitShortcutKey": "g"}, "g", True),
                                     ({"ForceQuitShortcutKey": "g"}, "f", False),
