@@ -18,6 +18,11 @@
         <extracomment>The button on the last slide, which ends the session</extracomment>
         <translation>Quit</translation>
     </message>
+    <message id="content.container">
+        <source>Content</source>
+        <extracomment>What a screen reader calls a part of a slide that has no text</extracomment>
+        <translation>Content</translation>
+    </message>
     <message id="menu.application.quit">
         <source>Quit Velmar</source>
         <translation>Quit Velmar</translation>

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace velmar {
 
@@ -32,6 +33,10 @@ VelmarViewController::VelmarViewController(Surroundings surroundings, QWidget *p
     buildNavigation();
     contentViewController_ = new ContentViewController(contentViewModel_, surroundings_.appearance, this);
     column_->insertWidget(0, contentViewController_, 1);
+    setFocusPolicy(Qt::StrongFocus);
+    connect(contentViewController_, &ContentViewController::willLeave, this,
+            &VelmarViewController::contentWillLeave);
+    orderTabStops();
     contentDidAppear();
 }
 
@@ -65,14 +70,48 @@ void VelmarViewController::contentDidAppear() {
     contentViewModel_->setSelectedIndex(contentViewModel_->selectedSlideIndex(), false);
 }
 
+void VelmarViewController::contentWillLeave(const SlideViewController &slide) {
+    orderTabStops();
+    const QWidget *focused = window()->focusWidget();
+    if (focused == nullptr || slide.isAncestorOf(focused)) {
+        focusNavigation();
+    }
+}
+
+void VelmarViewController::orderTabStops() {
+    // What is made later comes last of its own.
+    QWidget *last = window()->previousInFocusChain();
+    if (last == &navigationViewController_->nextButton()) {
+        return;
+    }
+    // Nothing is put behind a widget that takes no focus.
+    const Qt::FocusPolicy policy = last->focusPolicy();
+    last->setFocusPolicy(Qt::TabFocus);
+    setTabOrder(last, &navigationViewController_->previousButton());
+    last->setFocusPolicy(policy);
+    setTabOrder(&navigationViewController_->previousButton(), &navigationViewController_->nextButton());
+}
+
+void VelmarViewController::focusNavigation() {
+    for (NavigationButton *button :
+         {&navigationViewController_->nextButton(), &navigationViewController_->previousButton()}) {
+        if (!navigationViewController_->isHidden() && !button->isConcealed()) {
+            button->setFocus();
+            return;
+        }
+    }
+    setFocus();
+}
+
 void VelmarViewController::reload(bool byResetingVariables) {
     contentViewModel_->reloadSlidesIfCountChanged(
         [this, byResetingVariables] { surroundings_.reloadInterface(byResetingVariables); });
     buildSideContainer();
     buildNavigation();
     contentViewController_->rebuild();
+    orderTabStops();
     contentDidAppear();
-    navigationViewController_->nextButton().setFocus();
+    focusNavigation();
 }
 
 bool VelmarViewController::isSideContainerValid() const {
@@ -87,7 +126,9 @@ void VelmarViewController::showSideContainerWarnings() {
 
 void VelmarViewController::showEvent(QShowEvent *event) {
     QWidget::showEvent(event);
-    navigationViewController_->nextButton().setFocus();
+    if (!event->spontaneous() && !std::exchange(wasShown_, true)) {
+        focusNavigation();
+    }
 }
 
 void VelmarViewController::keyPressEvent(QKeyEvent *event) {

@@ -20,6 +20,7 @@ class ContainerViewController;
 class ContentViewController;
 class DesktopAppearance;
 class NavigationViewController;
+class SlideViewController;
 
 /// The whole of what the user sees: the slides, the bar that leads through them, and the container beside
 /// them. Main thread.
@@ -57,6 +58,11 @@ private:
     void buildNavigation();
     /// Tells the navigation where the current slide stands.
     void contentDidAppear();
+    void contentWillLeave(const SlideViewController &slide);
+    /// Puts the bar's buttons behind all that the slides hold.
+    void orderTabStops();
+    /// Gives the focus to the button that leads on, or to the nearest to it that is on show.
+    void focusNavigation();
 
     Config<NavigationSection> _navigation{
         [](const Configuration &c) -> decltype(auto) { return c._navigation(); }};
@@ -69,6 +75,7 @@ private:
     ContainerViewController *sideContainerViewController_ = nullptr;
     ContentViewController *contentViewController_ = nullptr;
     NavigationViewController *navigationViewController_ = nullptr;
+    bool wasShown_ = false;
 };
 
 } // namespace velmar

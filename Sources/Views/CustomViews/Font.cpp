@@ -2,9 +2,15 @@
 
 #include <Views/CustomViews/Theme.h>
 
+#include <algorithm>
+
 namespace velmar {
 
 namespace {
+
+// Points; beyond them a font cannot be read, and the system may not be able to make it.
+constexpr double minimumSize = 1;
+constexpr double maximumSize = 1000;
 
 QFont::Weight weightOf(FontItem::SystemFontWeight weight) {
     using enum FontItem::SystemFontWeight;
@@ -36,7 +42,7 @@ QFont::Weight weightOf(FontItem::SystemFontWeight weight) {
 QFont fontOf(const FontItem &item, const QFont &standard) {
     QFont font = standard;
     if (const auto &size = item._size(); size && *size > 0) {
-        font.setPointSizeF(Theme::font(*size).pointSizeF());
+        font.setPointSizeF(Theme::font(std::clamp(*size, minimumSize, maximumSize)).pointSizeF());
     }
     if (const std::optional<std::string> name = item._name()) {
         font.setFamilies({QString::fromStdString(*name), standard.family()});

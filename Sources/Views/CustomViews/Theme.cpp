@@ -54,9 +54,7 @@ void drawButtonBevel(const QStyleOptionButton &button, QPainter &painter) {
     painter.drawRoundedRect(shape, buttonRadius, buttonRadius);
     constexpr auto keyboardFocus = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
     if ((button.state & keyboardFocus) == keyboardFocus) {
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(button.palette.color(QPalette::Highlight), 2));
-        painter.drawRoundedRect(shape.adjusted(-3, -3, 3, 3), buttonRadius + 3, buttonRadius + 3);
+        Theme::drawFocusRing(painter, shape.adjusted(-3, -3, 3, 3), button.palette);
     }
     painter.restore();
 }
@@ -80,6 +78,15 @@ QFont Theme::font(double points) {
     const qreal dotsPerInch = screen == nullptr ? 96 : screen->logicalDotsPerInchY();
     font.setPointSizeF(points * 72 / dotsPerInch);
     return font;
+}
+
+void Theme::drawFocusRing(QPainter &painter, const QRectF &shape, const QPalette &palette) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(palette.color(QPalette::Highlight), 2));
+    painter.drawRoundedRect(shape, buttonRadius + 3, buttonRadius + 3);
+    painter.restore();
 }
 
 void Theme::polish(QPalette &palette) {

@@ -29,6 +29,9 @@ public:
     /// The system's font in a size. A point is a unit of layout, whatever the resolution.
     [[nodiscard]] static QFont font(double points);
 
+    /// Draws the ring of what has the keyboard's focus, centred on the edges of the shape.
+    static void drawFocusRing(QPainter &painter, const QRectF &shape, const QPalette &palette);
+
     using QProxyStyle::polish;
     void polish(QPalette &palette) override;
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,

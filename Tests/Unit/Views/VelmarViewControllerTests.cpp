@@ -3,6 +3,9 @@
 #include <Desktop/DesktopAppearance.h>
 #include <Views/Content/ContentView/ContentViewController.h>
 #include <Views/CustomViews/Theme.h>
+#include <Views/Navigation/NavigationButton.h>
+#include <Views/Navigation/NavigationNotifications.h>
+#include <Views/Navigation/NavigationViewController.h>
 #include <Views/VelmarViewController.h>
 
 #include <Testing/TestMainQueue.h>
@@ -11,6 +14,7 @@
 #include <QKeyEvent>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QVBoxLayout>
 
 #include <string>
 
@@ -51,11 +55,12 @@ protected:
                         slide(lines), slide(text("Second")), slide(text("Third"))));
         shared_ = std::make_unique<Shared<AppManager>::Scope>(makeAppManager());
         view = std::make_unique<VelmarViewController>(
-            VelmarViewController::Surroundings{queue, quits, *appearance_, [](bool) {}, center});
+            VelmarViewController::Surroundings{queue, quits, *appearance_, [](bool) {}, center}, &window);
+        (new QVBoxLayout(&window))->addWidget(view.get());
         content = view->findChild<ContentViewController *>();
-        view->resize(600, 400);
-        view->show();
-        view->activateWindow();
+        window.resize(600, 400);
+        window.show();
+        window.activateWindow();
         settle();
     }
 
@@ -83,6 +88,7 @@ protected:
     NotificationCenter center;
     TestMainQueue queue;
     QuitAttempts quits;
+    QWidget window;
     std::unique_ptr<VelmarViewController> view;
     ContentViewController *content = nullptr;
 
@@ -114,6 +120,49 @@ TEST_F(VelmarView, TakesTheKeysThatScrollAndLeavesTheOthersAlone) {
         press(row.key);
         EXPECT_EQ(bar.value(), row.value) << row.key;
     }
+}
+
+TEST_F(VelmarView, GoesWithTheTabKeyFromTheSlideToTheBar) {
+    auto *area = content->findChild<QScrollArea *>();
+    auto &bar = *view->findChild<NavigationViewController *>();
+    press(Qt::Key_Right);
+    press(Qt::Key_Left);
+    area->setFocus();
+    QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+    QCoreApplication::sendEvent(area, &tab);
+    EXPECT_EQ(window.focusWidget(), &bar.nextButton()) << "the other button is hidden on the first slide";
+    view->reloadInterfaceSavingVariables();
+    settle();
+    area = content->findChild<QScrollArea *>();
+    area->setFocus();
+    QCoreApplication::sendEvent(area, &tab);
+    EXPECT_EQ(window.focusWidget(), &view->findChild<NavigationViewController *>()->nextButton());
+}
+
+TEST_F(VelmarView, KeepsTheFocusWhereTheKeyboardCanGoOn) {
+    auto *area = content->findChild<QScrollArea *>();
+    auto &bar = *view->findChild<NavigationViewController *>();
+    EXPECT_EQ(window.focusWidget(), &bar.nextButton());
+    area->setFocus();
+    window.hide();
+    window.show();
+    EXPECT_EQ(window.focusWidget(), area) << "only the first show takes the focus";
+    press(Qt::Key_Right);
+    EXPECT_EQ(window.focusWidget(), &bar.nextButton()) << "the slide with the focus is gone";
+    press(Qt::Key_Left);
+    bar.nextButton().setConcealed(true);
+    area->setFocus();
+    window.resize(600, 4000);
+    settle();
+    EXPECT_EQ(area->focusPolicy(), Qt::NoFocus);
+    EXPECT_EQ(window.focusWidget(), view.get()) << "nothing else is left to take it";
+    bar.hide();
+    view->clearFocus();
+    ASSERT_EQ(window.focusWidget(), nullptr);
+    center.post(NavigationNotifications::willNavigateToNextSlide);
+    settle();
+    EXPECT_EQ(content->currentSlideIndex(), 1);
+    EXPECT_EQ(window.focusWidget(), view.get());
 }
 
 } // namespace

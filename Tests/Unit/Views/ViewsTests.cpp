@@ -115,6 +115,8 @@ TEST_F(Views, AFontIsTheItemsWhereItSaysSo) {
     item._name.set("DejaVu Serif");
     EXPECT_EQ(fontOf(item, standard).families().first(), "DejaVu Serif");
     EXPECT_EQ(fontOf(item, standard).weight(), standard.weight());
+    item._size.set(1e300);
+    EXPECT_NEAR(fontOf(item, standard).pointSizeF(), Theme::font(1000).pointSizeF(), 0.01);
     item._size.set(-3);
     EXPECT_EQ(fontOf(item, standard).pointSizeF(), standard.pointSizeF());
 }
@@ -145,7 +147,7 @@ TEST_F(Views, ColoursFollowTheAppearanceWhileTheyAreOnShow) {
 TEST_F(Views, ContainersStandSideBySideAndScrollWhenTheyAreTooHigh) {
     std::vector<ComponentItem> many(60, text("A line of many"));
     const SlideItem item = slide({many, {text("Short")}});
-    SlideViewController view(item, SlideViewController::Kind::standard, nullptr);
+    SlideViewController view(item, SlideViewController::Kind::standard, center, nullptr);
     view.resize(800, 400);
     view.show();
     settle();
@@ -153,6 +155,7 @@ TEST_F(Views, ContainersStandSideBySideAndScrollWhenTheyAreTooHigh) {
     ASSERT_EQ(areas.size(), 2);
     EXPECT_GT(areas[0]->verticalScrollBar()->maximum(), 0);
     EXPECT_EQ(areas[0]->focusPolicy(), Qt::TabFocus);
+    EXPECT_EQ(areas[0]->accessibleName(), "A line of many");
     EXPECT_EQ(areas[1]->verticalScrollBar()->maximum(), 0);
     EXPECT_EQ(areas[1]->focusPolicy(), Qt::NoFocus);
     EXPECT_EQ(areas[0]->mapTo(&view, QPoint()).x(), 0);
@@ -169,7 +172,7 @@ TEST_F(Views, AFlexibleSpacerTakesWhatIsLeft) {
     fixed._height.set(30);
     const SlideItem item =
         slide({{ComponentItem{fixed}, ComponentItem{ComponentItem::Spacer()}, text("Bottom")}});
-    SlideViewController view(item, SlideViewController::Kind::inMenuBar, nullptr);
+    SlideViewController view(item, SlideViewController::Kind::inMenuBar, center, nullptr);
     view.resize(400, 500);
     view.show();
     settle();

@@ -6,16 +6,22 @@
 #include <QEvent>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace velmar::ComponentViews {
 
 namespace {
 
+// More than any screen is as much as any screen.
+int pixels(double points) {
+    return static_cast<int>(std::lround(std::clamp(points, 0.0, 16384.0)));
+}
+
 class BorderView final : public QWidget {
 public:
     BorderView(BorderItem item, QWidget *parent) : QWidget(parent), item_(std::move(item)) {
-        setFixedHeight(std::max(1, static_cast<int>(std::lround(item_._height().value_or(1)))));
+        setFixedHeight(std::max(1, pixels(item_._height().value_or(1))));
         updateColor();
     }
 
@@ -52,8 +58,7 @@ QWidget *makeBorderView(const BorderItem &item, QWidget *parent) {
 
 QMargins marginsOf(const MarginsItem &item, const QMargins &standard) {
     const auto side = [](const std::optional<double> &given, int otherwise) {
-        // More than any screen is as much as any screen.
-        return given ? static_cast<int>(std::lround(std::clamp(*given, 0.0, 16384.0))) : otherwise;
+        return given ? pixels(*given) : otherwise;
     };
     return {side(item._left(), standard.left()), side(item._top(), standard.top()),
             side(item._right(), standard.right()), side(item._bottom(), standard.bottom())};

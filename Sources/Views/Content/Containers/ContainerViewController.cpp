@@ -5,6 +5,7 @@
 #include <Views/Content/Components/Text.h>
 #include <Views/Content/Containers/ContainerViewModel.h>
 #include <Views/CustomViews/Colors.h>
+#include <Views/CustomViews/Theme.h>
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -75,6 +76,16 @@ protected:
         const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
         event->setAccepted(isPlain && scrollBy(event->key(), *verticalScrollBar()));
     }
+
+    // The container draws the ring.
+    void focusInEvent(QFocusEvent *event) override {
+        QScrollArea::focusInEvent(event);
+        parentWidget()->update();
+    }
+    void focusOutEvent(QFocusEvent *event) override {
+        QScrollArea::focusOutEvent(event);
+        parentWidget()->update();
+    }
 };
 
 ComponentView *makeView(const ComponentItem &item, QWidget *parent) {
@@ -88,6 +99,17 @@ ComponentView *makeView(const ComponentItem &item, QWidget *parent) {
         }
     };
     return std::visit(Maker{parent}, item.value);
+}
+
+/// What a reader of the screen calls the container: its first text.
+QString accessibleNameOf(const ContainerItem &item) {
+    for (const ComponentItem &component : item._components()) {
+        if (const auto *text = std::get_if<ComponentItem::Text>(&component.value)) {
+            return QString::fromStdString(text->_text());
+        }
+    }
+    //% "Content"
+    return qtTrId("content.container");
 }
 
 } // namespace
@@ -113,6 +135,7 @@ ContainerViewController::ContainerViewController(const ContainerItem &item, Kind
         layout->addStretch(1);
     }
 
+    scrollArea_->setAccessibleName(accessibleNameOf(item));
     scrollArea_->setFrameShape(QFrame::NoFrame);
     scrollArea_->setWidgetResizable(true);
     scrollArea_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -123,6 +146,9 @@ ContainerViewController::ContainerViewController(const ContainerItem &item, Kind
     scrollArea_->setFocusPolicy(Qt::NoFocus);
     connect(scrollArea_->verticalScrollBar(), &QScrollBar::rangeChanged, this,
             [this](int /*minimum*/, int maximum) {
+                if (maximum == 0 && window()->focusWidget() == scrollArea_) {
+                    focusNextPrevChild(true);
+                }
                 scrollArea_->setFocusPolicy(maximum > 0 ? Qt::TabFocus : Qt::NoFocus);
             });
 
@@ -168,6 +194,11 @@ void ContainerViewController::paintEvent(QPaintEvent * /*event*/) {
     }
     if (kind_ == Kind::inSidebar) {
         painter.fillRect(QRect(width() - 1, 0, 1, height()), palette().color(QPalette::Mid));
+    }
+    if (scrollArea_->hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
+        constexpr qreal inset = Theme::focusRingRoom;
+        const QRectF shape(scrollArea_->geometry());
+        Theme::drawFocusRing(painter, shape.adjusted(inset, inset, -inset, -inset), palette());
     }
 }
 

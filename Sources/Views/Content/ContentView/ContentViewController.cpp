@@ -61,7 +61,7 @@ SlideViewController *ContentViewController::slide(int index) {
         return nullptr;
     }
     auto *view = new SlideViewController((*items)[static_cast<std::size_t>(index)],
-                                         SlideViewController::Kind::standard, this);
+                                         SlideViewController::Kind::standard, viewModel_->center(), this);
     view->hide();
     slides_.emplace(index, view);
     return view;
@@ -90,6 +90,7 @@ void ContentViewController::transition(int /*from*/, int to) {
     currentSlideIndex_ = to;
     if (SlideViewController *previous = slide(previousSlideIndex_)) {
         previous->viewWillDisappear();
+        emit willLeave(*previous);
     }
     next->resize(size());
     next->viewWillAppear();

@@ -31,6 +31,10 @@ public:
     [[nodiscard]] SlideViewController *currentSlide() const;
     [[nodiscard]] int currentSlideIndex() const noexcept { return currentSlideIndex_; }
 
+signals:
+    /// A transition begins, to a slide that may just have been made.
+    void willLeave(const SlideViewController &slide);
+
 protected:
     void resizeEvent(QResizeEvent *event) override;
 

@@ -69,6 +69,9 @@ public:
         terminationDelegate_ = delegate;
     }
 
+    /// Where the navigation and the slides tell of themselves.
+    [[nodiscard]] NotificationCenter &center() const noexcept { return center_; }
+
     /// Begins to follow the navigation's notifications.
     void setupNotifications();
 

@@ -24,10 +24,11 @@ ContainerViewController::Kind containerKind(SlideViewController::Kind kind, std:
 
 } // namespace
 
-SlideViewController::SlideViewController(const SlideItem &slide, Kind kind, QWidget *parent)
+SlideViewController::SlideViewController(const SlideItem &slide, Kind kind, NotificationCenter &center,
+                                         QWidget *parent)
     : QWidget(parent),
       kind_(kind),
-      viewModel_(std::make_shared<SlideViewModel>()),
+      viewModel_(std::make_shared<SlideViewModel>(center)),
       composition_(slide.containersComposition()) {
     const auto &containers = slide._containers();
     for (const ContainerItem &item : containers) {

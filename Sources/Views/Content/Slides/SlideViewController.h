@@ -10,6 +10,7 @@
 namespace velmar {
 
 class ContainerViewController;
+class NotificationCenter;
 class SlideViewModel;
 
 /// A slide on screen: its containers side by side. Main thread.
@@ -22,7 +23,8 @@ public:
         inMenuBar, ///< Without the inset at the top.
     };
 
-    SlideViewController(const SlideItem &slide, Kind kind, QWidget *parent);
+    /// The slide's validity is told to the centre, which must outlive the controller.
+    SlideViewController(const SlideItem &slide, Kind kind, NotificationCenter &center, QWidget *parent);
     ~SlideViewController() override;
 
     [[nodiscard]] const std::shared_ptr<SlideViewModel> &viewModel() const noexcept { return viewModel_; }
