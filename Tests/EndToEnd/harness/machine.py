@@ -107,3 +107,6 @@ def seat_user(name):
     seat = Path("/run/systemd/seats/seat0")
     seat.parent.mkdir(parents=True)
     seat.write_text(f"IS_SEAT0=1\nACTIVE=c1\nACTIVE_UID={user_number(name)}\n")
+    session = Path("/run/systemd/sessions/c1")
+    session.parent.mkdir(parents=True)
+    session.write_text(f"UID={user_number(name)}\nACTIVE=1\nSTATE=active\nCLASS=user\nSEAT=seat0\n")
