@@ -6,7 +6,7 @@
 #include <Models/VelmarError.h>
 
 #include <Support/RecordedLog.h>
-#include <Support/TemporaryDirectory.h>
+#include <Testing/TemporaryDirectory.h>
 
 #include <gtest/gtest.h>
 
