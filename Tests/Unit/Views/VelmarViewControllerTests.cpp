@@ -1,8 +1,7 @@
 #include "../Managers/AppManagerFixture.h"
+#include "ThemedApplication.h"
 
-#include <Desktop/DesktopAppearance.h>
 #include <Views/Content/ContentView/ContentViewController.h>
-#include <Views/CustomViews/Theme.h>
 #include <Views/Navigation/NavigationButton.h>
 #include <Views/Navigation/NavigationNotifications.h>
 #include <Views/Navigation/NavigationViewController.h>
@@ -28,21 +27,10 @@ public:
 };
 
 /// The whole of the views, of a configuration whose slides are one that scrolls and two that don't.
-class VelmarView : public AppManagerFixture {
+class VelmarView : public AppManagerFixture, protected ThemedApplication {
 protected:
-    static void SetUpTestSuite() {
-        static int argumentCount = 1;
-        static char name[] = "test";
-        static char *arguments[] = {name, nullptr};
-        application_ = std::make_unique<QApplication>(argumentCount, arguments);
-        appearance_ = std::make_unique<DesktopAppearance>();
-        appearance_->setAnimated(false);
-        Theme::install(*appearance_);
-    }
-    static void TearDownTestSuite() {
-        application_.reset();
-        appearance_.reset();
-    }
+    static void SetUpTestSuite() { begin(); }
+    static void TearDownTestSuite() { end(); }
 
     VelmarView() {
         std::string lines;
@@ -55,7 +43,7 @@ protected:
                         slide(lines), slide(text("Second")), slide(text("Third"))));
         shared_ = std::make_unique<Shared<AppManager>::Scope>(makeAppManager());
         view = std::make_unique<VelmarViewController>(
-            VelmarViewController::Surroundings{queue, quits, *appearance_, [](bool) {}, center}, &window);
+            VelmarViewController::Surroundings{queue, quits, appearance(), [](bool) {}, center}, &window);
         (new QVBoxLayout(&window))->addWidget(view.get());
         content = view->findChild<ContentViewController *>();
         window.resize(600, 400);
@@ -93,8 +81,6 @@ protected:
     ContentViewController *content = nullptr;
 
 private:
-    static inline std::unique_ptr<QApplication> application_;
-    static inline std::unique_ptr<DesktopAppearance> appearance_;
     std::unique_ptr<Shared<AppManager>::Scope> shared_;
 };
 

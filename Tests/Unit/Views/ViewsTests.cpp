@@ -1,10 +1,10 @@
-#include <Desktop/DesktopAppearance.h>
+#include "ThemedApplication.h"
+
 #include <Views/Content/ContentView/ContentViewController.h>
 #include <Views/Content/Slides/SlideViewController.h>
 #include <Views/CustomViews/Colors.h>
 #include <Views/CustomViews/Font.h>
 #include <Views/CustomViews/StyleConfigurableTextView.h>
-#include <Views/CustomViews/Theme.h>
 #include <Views/Navigation/NavigationButton.h>
 #include <Views/Navigation/NavigationNotifications.h>
 #include <Views/Navigation/NavigationViewController.h>
@@ -27,23 +27,10 @@ namespace velmar {
 namespace {
 
 /// The application with its theme, and a bar and slides that move at once.
-class Views : public testing::Test {
+class Views : public testing::Test, protected ThemedApplication {
 protected:
-    static void SetUpTestSuite() {
-        static int argumentCount = 1;
-        static char name[] = "test";
-        static char *arguments[] = {name, nullptr};
-        application_ = std::make_unique<QApplication>(argumentCount, arguments);
-        appearance_ = std::make_unique<DesktopAppearance>();
-        appearance_->setAnimated(false);
-        Theme::install(*appearance_);
-    }
-    static void TearDownTestSuite() {
-        application_.reset();
-        appearance_.reset();
-    }
-
-    static DesktopAppearance &appearance() { return *appearance_; }
+    static void SetUpTestSuite() { begin(); }
+    static void TearDownTestSuite() { end(); }
 
     static ComponentItem text(const std::string &content) {
         ComponentItem::Text item;
@@ -81,10 +68,6 @@ protected:
 
     NotificationCenter center;
     TestMainQueue queue;
-
-private:
-    static inline std::unique_ptr<QApplication> application_;
-    static inline std::unique_ptr<DesktopAppearance> appearance_;
 };
 
 class NoQuitting final : public AppTerminationManagerProtocol {
