@@ -11,6 +11,9 @@ namespace velmar::Domain {
 /// What people read as the application's name.
 inline constexpr std::string_view applicationName = "Velmar";
 
+/// The application's identity on the system, which labels begin with.
+inline constexpr std::string_view bundleIdentifier = "com.nurvan.velmar";
+
 /// The directory of what applications keep for all users, as a file URL; it need not exist. Absent, with a
 /// warning in the log, if the text makes no URL.
 [[nodiscard]] std::optional<URL>

@@ -1,0 +1,113 @@
+#include <Managers/ContentManager.h>
+
+#include <Constants/Domain.h>
+#include <Dispatch/UncaughtHandler.h>
+#include <Foundation/UnicodeText.h>
+#include <logger/Logger.h>
+
+#include <fmt/format.h>
+
+#include <atomic>
+#include <utility>
+
+namespace velmar {
+
+namespace {
+
+std::string_view bareName(std::string_view name) {
+    if (name.starts_with("${")) {
+        name.remove_prefix(2);
+    }
+    if (name.ends_with('}')) {
+        name.remove_suffix(1);
+    }
+    return name;
+}
+
+std::uint64_t nextVersion() {
+    // Of the process and not of one store: who keeps what was computed from a state needs the version alone.
+    static constinit std::atomic<std::uint64_t> last{0};
+    return last.fetch_add(1, std::memory_order_relaxed) + 1;
+}
+
+bool holds(const Variables &variables, std::string_view name, std::string_view value) {
+    const auto found = variables.find(name);
+    return found != variables.end() && found->second == value;
+}
+
+} // namespace
+
+ContentManager::ContentManager()
+    : variables_({}, std::string(Domain::bundleIdentifier) + ".ContentManager.variables"),
+      observers_({}, std::string(Domain::bundleIdentifier) + ".ContentManager.observers") {}
+
+void ContentManager::updateVariable(std::string_view name, std::string value, bool log) {
+    const std::string_view bare = bareName(name);
+    const auto change = store(bare, value);
+    if (!change) {
+        return;
+    }
+    if (log) {
+        Logger::info([&] {
+            return fmt::format("Successfully {} variable [ {}: '{}' ]",
+                               change->former ? "updated a" : "added a new", bare, value);
+        });
+    }
+    tellObservers(bare, *change, value);
+}
+
+void ContentManager::updateVariables(const std::map<std::string, std::string> &variables) {
+    for (const auto &[name, value] : variables) {
+        updateVariable(name, value, true);
+    }
+}
+
+std::optional<ContentManager::Change> ContentManager::store(std::string_view name, const std::string &value) {
+    return variables_.mutate([&](CopyOnWrite<NumberedVariables> &state) -> std::optional<Change> {
+        if (state.isShared() && holds(state->variables, name, value)) {
+            return std::nullopt; // No copy of all variables for nothing.
+        }
+        auto &[variables, version] = state.unshared();
+        const auto found = variables.find(name);
+        if (found == variables.end()) {
+            variables.emplace(name, value);
+            version = nextVersion();
+            return Change{};
+        }
+        if (found->second == value) {
+            return std::nullopt;
+        }
+        const bool isEqual = UnicodeText::isEqual(found->second, value);
+        Change change{std::exchange(found->second, value)};
+        version = nextVersion();
+        return isEqual ? std::nullopt : std::optional(std::move(change));
+    });
+}
+
+void ContentManager::tellObservers(std::string_view name, const Change &change,
+                                   const std::string &value) const {
+    // Taken after the write: who is added from here on reads the new value.
+    const CopyOnWrite<Observers> observers = observers_.value();
+    for (const auto &[identity, entry] : *observers) {
+        if (const auto observer = entry.lock()) {
+            runReportingUncaught(observers_.label(),
+                                 [&] { observer->variableDidChange(name, change.former, value); });
+        }
+    }
+}
+
+VariablesSnapshot ContentManager::variables() const {
+    return VariablesSnapshot(variables_.value());
+}
+
+void ContentManager::addObserver(const UUID &identity, std::weak_ptr<ContentManagerObserver> observer) {
+    observers_.mutate([&](CopyOnWrite<Observers> &table) {
+        table.unshared().insert_or_assign(identity, std::move(observer));
+    });
+}
+
+void ContentManager::removeObserver(const UUID &identity) {
+    observers_.mutate([&](CopyOnWrite<Observers> &table) { table.unshared().erase(identity); });
+}
+
+} // namespace velmar

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <Dispatch/ThreadSafe.h>
+#include <Foundation/UUID.h>
+#include <Managers/ContentObserver.h>
+#include <Managers/Shared.h>
+#include <Managers/VariablesSnapshot.h>
+
+#include <boost/unordered/unordered_flat_map.hpp>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace velmar {
+
+/// What the store of variables offers to whoever holds a Content. Any thread.
+class ContentManagerProtocol {
+public:
+    virtual ~ContentManagerProtocol() = default;
+
+    /// Gives a variable a value and tells every observer if that changed it: an equal value (by canonical
+    /// equivalence) is taken over in silence. The name is given bare or as "${NAME}"; a leading "${" and a
+    /// trailing "}" are stripped, each by itself. `log`: a change is logged, at information level.
+    virtual void updateVariable(std::string_view name, std::string value, bool log) = 0;
+
+    /// The same for each pair, logged.
+    virtual void updateVariables(const std::map<std::string, std::string> &variables) = 0;
+
+    /// The variables of this moment.
+    [[nodiscard]] virtual VariablesSnapshot variables() const = 0;
+
+    /// Has the observer told of every change from now on, until it is removed or gone. An identity stands
+    /// for one observer: the last one added under it.
+    virtual void addObserver(const UUID &identity, std::weak_ptr<ContentManagerObserver> observer) = 0;
+    virtual void removeObserver(const UUID &identity) = 0;
+};
+
+/// The store of all variables of the session, as texts. One instance is shared by the process, made at the
+/// first use with no variables. Any thread.
+class ContentManager final : public ContentManagerProtocol {
+public:
+    ContentManager();
+
+    [[nodiscard]] static std::shared_ptr<ContentManager> shared() {
+        return Shared<ContentManager>::instance();
+    }
+
+    void updateVariable(std::string_view name, std::string value, bool log) override;
+    void updateVariables(const std::map<std::string, std::string> &variables) override;
+    [[nodiscard]] VariablesSnapshot variables() const override;
+    void addObserver(const UUID &identity, std::weak_ptr<ContentManagerObserver> observer) override;
+    void removeObserver(const UUID &identity) override;
+
+private:
+    using Observers = boost::unordered_flat_map<UUID, std::weak_ptr<ContentManagerObserver>, std::hash<UUID>>;
+    struct Change {
+        std::optional<std::string> former;
+    };
+
+    // The change that storing the value made, none if the variable had an equal one.
+    std::optional<Change> store(std::string_view name, const std::string &value);
+    void tellObservers(std::string_view name, const Change &change, const std::string &value) const;
+
+    ThreadSafe<CopyOnWrite<NumberedVariables>> variables_;
+    ThreadSafe<CopyOnWrite<Observers>> observers_;
+};
+
+} // namespace velmar

@@ -1,0 +1,197 @@
+#include <Managers/Content.h>
+#include <Managers/ObservableContent.h>
+
+#include <Support/RecordedLog.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <functional>
+#include <stdexcept>
+#include <thread>
+#include <vector>
+
+namespace velmar {
+namespace {
+
+using testing::ElementsAre;
+using testing::UnorderedElementsAre;
+
+class Observer final : public ContentObserver {
+public:
+    explicit Observer(const std::shared_ptr<ContentManager> &manager) : content_(manager) {}
+
+    static std::shared_ptr<Observer> of(const std::shared_ptr<ContentManager> &manager) {
+        auto observer = std::make_shared<Observer>(manager);
+        observer->content_.subscribe(observer);
+        return observer;
+    }
+
+    void variableDidChange(std::string_view name, const std::optional<std::string> &former,
+                           const std::string &value) override {
+        notices += fmt::format("{}:{}>{} ", name, former.value_or("-"), value);
+        if (reaction) {
+            reaction(value);
+        }
+    }
+
+    std::string notices;
+    std::function<void(const std::string &)> reaction;
+    Content content_;
+};
+
+class ContentTest : public testing::Test {
+protected:
+    std::shared_ptr<ContentManager> manager_ = std::make_shared<ContentManager>();
+    RecordedLog log_;
+};
+
+TEST_F(ContentTest, TellsAndLogsWhatAWriteChanges) {
+    const auto observer = Observer::of(manager_);
+    const struct {
+        const char *name;
+        const char *value;
+        const char *notice;
+        const char *line;
+    } cases[] = {
+        {"A", "1", "A:->1 ", "info: Successfully added a new variable [ A: '1' ]"},
+        {"A", "1", "", ""},
+        {"${A}", "2", "A:1>2 ", "info: Successfully updated a variable [ A: '2' ]"},
+        {"${A", "3", "A:2>3 ", "info: Successfully updated a variable [ A: '3' ]"},
+        {"A}", "3", "", ""},
+        {"{A}", "", "{A:-> ", "info: Successfully added a new variable [ {A: '' ]"},
+        {"${}", "n", ":->n ", "info: Successfully added a new variable [ : 'n' ]"},
+        {"é", "É", "é:->É ", "info: Successfully added a new variable [ é: 'É' ]"},
+        {"e\u0301", "E\u0301", "", ""},
+    };
+    for (const auto &[name, value, notice, line] : cases) {
+        observer->notices.clear();
+        manager_->updateVariable(name, value, true);
+        EXPECT_EQ(observer->notices, notice) << name;
+        const auto lines = log_.takeLines();
+        EXPECT_EQ(lines.empty() ? "" : lines.front(), line) << name;
+    }
+    const VariablesSnapshot variables = manager_->variables();
+    EXPECT_EQ(variables->at("é"), "E\u0301") << "the equal text is taken over";
+    EXPECT_EQ(variables->size(), 4U);
+
+    manager_->updateVariable("A", "unlogged", false);
+    EXPECT_THAT(log_.takeLines(), ElementsAre());
+    manager_->updateVariables({{"A", "4"}, {"B", "5"}});
+    EXPECT_EQ(log_.takeLines().size(), 2U);
+}
+
+TEST_F(ContentTest, ShowsInASnapshotTheStateOfItsMoment) {
+    manager_->updateVariable("A", "1", false);
+    const Variables *const address = &*manager_->variables();
+    manager_->updateVariable("A", "2", false);
+    const VariablesSnapshot before = manager_->variables();
+    EXPECT_EQ(&*before, address) << "no snapshot was held: no copy";
+    manager_->updateVariable("A", "2", false);
+    EXPECT_EQ(&*manager_->variables(), address) << "nothing changed: no copy";
+    EXPECT_EQ(manager_->variables().version(), before.version());
+
+    manager_->updateVariable("A", "3", false);
+    EXPECT_EQ(before->at("A"), "2");
+    EXPECT_EQ(manager_->variables()->at("A"), "3");
+    EXPECT_NE(manager_->variables().version(), before.version());
+}
+
+TEST_F(ContentTest, TellsWhoIsThereAndSubscribed) {
+    auto gone = Observer::of(manager_);
+    const auto silent = std::make_shared<Observer>(manager_);
+    const auto twice = Observer::of(manager_);
+    twice->content_.subscribe(silent);
+    const auto removed = Observer::of(manager_);
+    manager_->removeObserver(removed->content_.contentManagerObserverId());
+    gone->reaction = [](const std::string &) { FAIL(); };
+    gone.reset();
+    const auto throwing = Observer::of(manager_);
+    throwing->reaction = [](const std::string &) { throw std::runtime_error("on purpose"); };
+
+    manager_->updateVariable("A", "1", false);
+    EXPECT_EQ(twice->notices + throwing->notices, "A:->1 A:->1 ");
+    EXPECT_EQ(silent->notices + removed->notices, "");
+}
+
+TEST_F(ContentTest, LetsObserversWriteAndLeaveDuringANotice) {
+    const auto writer = Observer::of(manager_);
+    writer->reaction = [&](const std::string &value) {
+        if (value.size() < 3) {
+            writer->content_.updateVariable("A", value + "+", false);
+        }
+    };
+    std::vector<std::shared_ptr<Observer>> leaving(10);
+    for (auto &observer : leaving) {
+        observer = Observer::of(manager_);
+        observer->reaction = [&](const std::string &) { observer.reset(); };
+    }
+    manager_->updateVariable("A", "1", false);
+    EXPECT_EQ(writer->notices, "A:->1 A:1>1+ A:1+>1++ ");
+    EXPECT_THAT(leaving, testing::Each(nullptr));
+    EXPECT_EQ(manager_->variables()->at("A"), "1++");
+}
+
+TEST_F(ContentTest, PassesOnOnlyWhatConcernsAnObject) {
+    class Label final : public ObservableContent {
+    public:
+        using ObservableContent::ObservableContent;
+        void concerningVariableDidChange(std::string_view name, const std::optional<std::string> &,
+                                         const std::string &) override {
+            notices += name;
+        }
+        std::string notices;
+    };
+    const auto label = std::make_shared<Label>(manager_);
+    label->contentVariables().subscribe(label);
+    label->setConcerningVariables({"A", "e\u0301"});
+    manager_->updateVariables({{"A", "1"}, {"B", "1"}, {"é", "1"}});
+    label->setConcerningVariables({"B"});
+    manager_->updateVariables({{"A", "2"}, {"B", "2"}});
+    EXPECT_EQ(label->notices, "AéB");
+}
+
+TEST_F(ContentTest, IsWrittenByTwoThreadsWhileAHundredObserversRead) {
+    class Reader final : public ContentObserver {
+    public:
+        explicit Reader(std::shared_ptr<ContentManager> manager) : manager_(std::move(manager)) {}
+        void variableDidChange(std::string_view name, const std::optional<std::string> &,
+                               const std::string &) override {
+            // Each thread writes first Y, then X: a view in which X is ahead is of no single moment.
+            const VariablesSnapshot variables = manager_->variables();
+            const std::string thread(1, name.back());
+            const auto x = variables->find("X" + thread);
+            wrong += x != variables->end() && std::stoi(x->second) > std::stoi(variables->at("Y" + thread));
+            ++notices;
+        }
+        std::atomic<int> notices{0};
+        std::atomic<int> wrong{0};
+
+    private:
+        std::shared_ptr<ContentManager> manager_;
+    };
+    constexpr int writes = 50;
+    std::vector<std::shared_ptr<Reader>> readers;
+    for (int i = 0; i < 100; ++i) {
+        readers.push_back(std::make_shared<Reader>(manager_));
+        manager_->addObserver(UUID(), readers.back());
+    }
+    const auto write = [this](const std::string &thread) {
+        for (int i = 0; i < writes; ++i) {
+            const auto passing = Observer::of(manager_);
+            manager_->updateVariable("Y" + thread, std::to_string(i), false);
+            manager_->updateVariable("X" + thread, std::to_string(i), false);
+        }
+    };
+    std::thread other(write, "1");
+    write("2");
+    other.join();
+    for (const auto &reader : readers) {
+        EXPECT_EQ(reader->notices, 4 * writes);
+        EXPECT_EQ(reader->wrong, 0);
+    }
+}
+
+} // namespace
+} // namespace velmar
