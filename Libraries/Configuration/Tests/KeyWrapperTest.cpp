@@ -196,7 +196,11 @@ TEST(Requirement, HoldsOrFailsWithItsText) {
 class Suffix final : public Plugin {
 public:
     explicit Suffix(std::string suffix) : suffix_(std::move(suffix)) {}
-    [[nodiscard]] std::string value(std::string text) const override { return text + suffix_; }
+    void filter(std::span<std::string *const> texts) const override {
+        for (std::string *text : texts) {
+            *text += suffix_ + (texts.size() > 1 ? "+" : "");
+        }
+    }
 
 private:
     std::string suffix_;
@@ -204,13 +208,13 @@ private:
 
 TEST(Plugin, FiltersTextsWhenTheyAreRead) {
     const auto first = Plugins::registerPlugin(std::make_shared<Suffix>("1"));
-    const auto content = "<key>Name</key><string>a</string><key>List</key><array><string>b</string></array>"
+    const auto content = "<key>Name</key><string>a</string><key>List</key><array><string>b</string><string>d</string></array>"
                          "<key>Texts</key><dict><key>k</key><string>c</string></dict>";
     const auto item = decodeAt<TestItem>(fileWith(content));
     {
         const auto second = Plugins::registerPlugin(std::make_shared<Suffix>("2"));
         EXPECT_EQ(item._name(), "a12");
-        EXPECT_EQ(item._list(), std::vector<std::string>{"b12"});
+        EXPECT_EQ(item._list(), (std::vector<std::string>{"b1+2+", "d1+2+"})) << "one value, one call";
         EXPECT_EQ(item._texts().at("k"), "c12");
         EXPECT_EQ(item._name.rawValue(), "a");
         EXPECT_EQ(*Decodable<TestItem>::encode(item), fileWith(content))

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <atomic>
 #include <mutex>
+#include <vector>
 
 namespace velmar {
 
@@ -44,9 +45,9 @@ Plugins::Registration::~Registration() {
     }
 }
 
-std::string Plugins::apply(std::string text) {
-    if (state().isEmpty) {
-        return text;
+void Plugins::apply(std::span<std::string *const> texts) {
+    if (texts.empty() || state().isEmpty) {
+        return;
     }
     std::shared_ptr<const PluginList> plugins;
     {
@@ -54,9 +55,8 @@ std::string Plugins::apply(std::string text) {
         plugins = state().plugins;
     }
     for (const auto &plugin : *plugins) {
-        text = plugin->value(std::move(text));
+        plugin->filter(texts);
     }
-    return text;
 }
 
 } // namespace velmar

@@ -1,26 +1,21 @@
 #include <Configuration/ConfigurationError.h>
 #include <Configuration/Requirement.h>
+#include <Configuration/Texts.h>
 
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 
 namespace velmar {
 
 namespace {
 
-/// `["A", "B"]`
-std::string listText(std::span<const ConfigCodingKey> keys) {
-    std::string text = "[";
-    for (const ConfigCodingKey &key : keys) {
-        text += fmt::format("{}\"{}\"", text.size() > 1 ? ", " : "", key.stringValue);
-    }
-    return text + "]";
-}
-
 std::string brokenRule(std::string_view key, const Requirement &requirement) {
-    const std::string keys = listText(requirement.keys);
+    std::vector<std::string_view> names;
+    std::ranges::transform(requirement.keys, std::back_inserter(names), &ConfigCodingKey::stringValue);
+    const std::string keys = listText(names);
     switch (requirement.type) {
     case RequirementType::requiredIfSpecified:
         return fmt::format("The key '{}' is required when the key(s) '{}' is/are specified.", key, keys);

@@ -55,4 +55,12 @@ std::string possibleValuesText(std::span<const std::string_view> rawStrings) {
     return text;
 }
 
+std::string listText(const std::vector<std::string_view> &texts) {
+    std::string text = "[";
+    for (const std::string_view element : texts) {
+        text += fmt::format("{}\"{}\"", text.size() > 1 ? ", " : "", element);
+    }
+    return text + "]";
+}
+
 } // namespace velmar

@@ -4,6 +4,7 @@
 #include <Configuration/Decodable.h>
 #include <Configuration/DecodingContext.h>
 #include <Configuration/Plugin.h>
+#include <Configuration/Populatable.h>
 #include <Configuration/Requirement.h>
 #include <Foundation/PropertyList.h>
 
@@ -42,7 +43,7 @@ public:
     using Value = T;
 
     /// What reading gives: texts pass through the plugins and come as new values, all else as it is held.
-    using Read = std::conditional_t<IsPluggable<T>::value, T, const T &>;
+    using Read = std::conditional_t<Populatable<T>, T, const T &>;
 
     KeyWrapper(T defaultValue, ConfigCodingKey name, Requirement requirement)
         : declaration_(new Declaration{std::move(defaultValue), name, std::move(requirement)}) {}
@@ -64,7 +65,7 @@ public:
     /// The value for its reader.
     Read operator()() const { return wrappedValue(); }
     [[nodiscard]] Read wrappedValue() const {
-        if constexpr (IsPluggable<T>::value) {
+        if constexpr (Populatable<T>) {
             return pluggedValue();
         } else {
             return rawValue();
@@ -76,6 +77,15 @@ public:
 
     /// The value as the file has it.
     [[nodiscard]] const T &rawValue() const { return value_ ? value_->value : declaration_->defaultValue; }
+
+    /// The variables that the texts of the value use; none for a value without texts.
+    [[nodiscard]] VariableNames usedVariables() const {
+        VariableNames names;
+        if constexpr (Populatable<T>) {
+            visitTexts(rawValue(), [&](std::string_view text) { names.merge(velmar::usedVariables(text)); });
+        }
+        return names;
+    }
 
     /// Assigns by code.
     void set(T value) {

@@ -1,11 +1,12 @@
 #pragma once
 
-#include <map>
+#include <Configuration/Populatable.h>
+
+#include <boost/container/small_vector.hpp>
+
 #include <memory>
-#include <optional>
+#include <span>
 #include <string>
-#include <type_traits>
-#include <vector>
 
 namespace velmar {
 
@@ -15,8 +16,9 @@ class Plugin {
 public:
     virtual ~Plugin() = default;
 
-    /// The value to use in place of the one given. Any thread; must not throw.
-    [[nodiscard]] virtual std::string value(std::string text) const = 0;
+    /// Replaces the texts of one value, all or none of them, so that they belong together. Any thread; must
+    /// not throw.
+    virtual void filter(std::span<std::string *const> texts) const = 0;
 };
 
 /// The plugins of the process, in the order of registration: each receives the value of the one before it.
@@ -36,44 +38,16 @@ public:
 
     static Registration registerPlugin(std::shared_ptr<const Plugin> plugin);
 
-    static std::string apply(std::string text);
+    static void apply(std::span<std::string *const> texts);
 };
 
-/// Whether values of a type pass through the plugins: texts and collections of texts do, nothing else.
-template <class T>
-struct IsPluggable : std::false_type {};
-template <>
-struct IsPluggable<std::string> : std::true_type {};
-template <class T>
-struct IsPluggable<std::optional<T>> : IsPluggable<T> {};
-template <class T>
-struct IsPluggable<std::vector<T>> : IsPluggable<T> {};
-template <class T>
-struct IsPluggable<std::map<std::string, T>> : IsPluggable<T> {};
-
-inline std::string plugged(std::string text) {
-    return Plugins::apply(std::move(text));
-}
-
-template <class T>
-std::optional<T> plugged(std::optional<T> value) {
-    return value ? std::optional<T>(plugged(*std::move(value))) : std::nullopt;
-}
-
-template <class T>
-std::vector<T> plugged(std::vector<T> values) {
-    for (T &value : values) {
-        value = plugged(std::move(value));
-    }
-    return values;
-}
-
-template <class T>
-std::map<std::string, T> plugged(std::map<std::string, T> values) {
-    for (auto &[key, value] : values) {
-        value = plugged(std::move(value));
-    }
-    return values;
+/// A value after all plugins.
+template <Populatable T>
+[[nodiscard]] T plugged(T value) {
+    boost::container::small_vector<std::string *, 8> texts;
+    visitTexts(value, [&](std::string &text) { texts.push_back(&text); });
+    Plugins::apply({texts.data(), texts.size()});
+    return value;
 }
 
 } // namespace velmar

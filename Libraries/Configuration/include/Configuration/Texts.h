@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace velmar {
 
@@ -19,5 +20,8 @@ namespace velmar {
 
 /// "string | Possible values: 'Top', 'Bottom'"
 [[nodiscard]] std::string possibleValuesText(std::span<const std::string_view> rawStrings);
+
+/// `["A", "B"]`
+[[nodiscard]] std::string listText(const std::vector<std::string_view> &texts);
 
 } // namespace velmar

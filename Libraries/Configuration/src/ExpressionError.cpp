@@ -1,0 +1,34 @@
+#include <Configuration/ExpressionError.h>
+#include <Configuration/Texts.h>
+
+#include <fmt/format.h>
+
+namespace velmar::ExpressionErrors {
+
+std::string OwnDefinition::errorDescription() const {
+    return fmt::format("Variable '{}' used within its own initial value.", name);
+}
+
+std::string CircularReference::errorDescription() const {
+    return fmt::format("Circular reference involving {}. Traceback: '{}'.", name,
+                       fmt::join(originPath, " → "));
+}
+
+std::string UndefinedVariable::errorDescription() const {
+    return fmt::format("Use of undefined variable '{}' in condition [ {} ]", variable, expression);
+}
+
+std::string UndefinedVariableAtPath::errorDescription() const {
+    return fmt::format("Undefined variable in expression at '{}' {}", codingPath, description);
+}
+
+std::string Undefined::errorDescription() const {
+    return fmt::format("Undefined variable(s) {} in expression at {}",
+                       listText({variables.begin(), variables.end()}), codingPath);
+}
+
+std::string TooLarge::errorDescription() const {
+    return fmt::format("The text grows beyond {} when its variables get their values.", limit);
+}
+
+} // namespace velmar::ExpressionErrors
