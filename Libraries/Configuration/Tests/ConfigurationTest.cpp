@@ -92,6 +92,7 @@ TEST(Configuration, HasTheDefaultsOfItsSections) {
 
 TEST(Configuration, WritesWhatItHasRead) {
     const auto file = validFileWith(R"(
+        <key>General</key><dict><key>Variables</key><dict><key>NAME</key><string>${USER_NAME}</string></dict></dict>
         <key>ColorStyles</key><dict>
             <key>Accent</key><dict><key>DarkMode</key><string>#AABBCC</string><key>LightMode</key><string>#112233FF</string></dict>
             <key>Pale</key><dict><key>Style</key><string>Accent</string><key>AlphaLight</key><real>0.5</real></dict></dict>

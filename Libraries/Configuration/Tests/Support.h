@@ -27,7 +27,7 @@ inline PropertyList validFileWith(std::string_view content) {
 inline std::string outcomeOf(const PropertyList &file) {
     try {
         static_cast<void>(Configuration::decode(file));
-    } catch (const ConfigurationError &error) {
+    } catch (const LocalizedError &error) {
         return error.errorDescription();
     }
     return "decoded";

@@ -1,5 +1,7 @@
 #include <Configuration/Configuration.h>
 
+#include "VariablesCheck.h"
+
 #include <Configuration/ItemCoding.h>
 #include <Configuration/Library.h>
 
@@ -57,6 +59,9 @@ std::shared_ptr<const Configuration> Configuration::decode(const PropertyList &f
         resolve(configuration->_fontStyles, file, context);
         context.settleReferences(
             {&configuration->_fontStyles.rawValue(), &configuration->_colorStyles.rawValue()}, file);
+        checkVariables(*configuration, file, context);
+        configuration->variablesRecords = context.takeVariablesRecords();
+        configuration->declaredVariables = context.declaredVariables();
         return configuration;
     } catch (const LocalizedError &) {
         throw;

@@ -1,9 +1,21 @@
 #include <Configuration/Decodable.h>
+#include <Configuration/Populatable.h>
 
 #include <cmath>
 #include <limits>
 
 namespace velmar {
+
+namespace {
+
+void recordVariables(std::string_view text, const Decoding &decoding) {
+    if (VariableNames variables = usedVariables(text); !variables.empty()) {
+        decoding.context.addVariablesRecord(
+            {std::move(variables), decoding.path.text(), decoding.value.offset()});
+    }
+}
+
+} // namespace
 
 void throwWrongType(const Decoding &decoding, const std::string &description,
                     const std::string &expectedType) {
@@ -66,6 +78,7 @@ double Decodable<double>::decode(const Decoding &decoding) {
 
 std::string Decodable<std::string>::decode(const Decoding &decoding) {
     if (const std::string *value = decoding.value.string()) {
+        recordVariables(*value, decoding);
         return *value;
     }
     throwWrongType(decoding, plistType());
@@ -83,11 +96,13 @@ std::vector<std::string> decodeTexts(const Decoding &decoding) {
         if (areTexts || areWhole || std::ranges::all_of(*array, isNumber)) {
             std::vector<std::string> texts;
             texts.reserve(array->size());
-            for (const PropertyList &value : *array) {
-                texts.push_back(
-                    areTexts   ? *value.string()
-                    : areWhole ? value.text()
-                               : textOf(Decodable<double>::decode({value, decoding.path, decoding.context})));
+            for (std::size_t index = 0; index < array->size(); ++index) {
+                const PropertyList &value = (*array)[index];
+                const CodingPath path(decoding.path, index);
+                const Decoding element{value, path, decoding.context};
+                texts.push_back(areTexts   ? Decodable<std::string>::decode(element)
+                                : areWhole ? value.text()
+                                           : textOf(Decodable<double>::decode(element)));
             }
             return texts;
         }

@@ -4,6 +4,7 @@
 #include <Configuration/FontItem.h>
 #include <Configuration/InheritableKeyWrapper.h>
 #include <Configuration/MarginsItem.h>
+#include <Configuration/VariableKeyWrapper.h>
 
 #include <variant>
 
@@ -33,7 +34,7 @@ struct Text {
     static constexpr TypeIdentifier typeIdentifier = TypeIdentifier::text;
 
     ComponentItemProtocol common;
-    KeyWrapper<std::string> _text{"Text", required};
+    VariableKeyWrapper<std::string> _text{"Text", required};
     InheritableKeyWrapper<std::optional<FontItem>> _font{"TextFontConfiguration", optional,
                                                          &Library::fontStyles};
 };
@@ -76,5 +77,9 @@ struct ComponentItem {
 
     std::variant<Text, Spacer> value;
 };
+
+/// The variables that the texts of a component use, those of its nested items included. Its condition is no
+/// text.
+[[nodiscard]] VariableNames usedVariables(const ComponentItem &component);
 
 } // namespace velmar

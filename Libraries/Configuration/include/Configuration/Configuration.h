@@ -7,11 +7,13 @@
 #include <Configuration/ColorItem.h>
 #include <Configuration/DecodingNotes.h>
 #include <Configuration/FontItem.h>
+#include <Configuration/GeneralSection.h>
 #include <Configuration/InputSection.h>
 #include <Configuration/MonitoringSection.h>
 #include <Configuration/NavigationSection.h>
 #include <Configuration/SideContainerSection.h>
 #include <Configuration/SlideItem.h>
+#include <Configuration/VariablesRecords.h>
 #include <Configuration/WindowSection.h>
 
 #include <memory>
@@ -31,6 +33,7 @@ struct Configuration {
     KeyWrapper<Book<FontItem>> _fontStyles{"FontStyles", optional};
     KeyWrapper<NavigationSection> _navigation{"Navigation", optional};
     KeyWrapper<AppTerminationSection> _appTermination{"AppTermination", optional};
+    KeyWrapper<GeneralSection> _general{"General", optional};
     KeyWrapper<WindowSection> _window{"Window", optional};
     KeyWrapper<std::vector<SlideItem>> _slides{"Slides", optional};
     KeyWrapper<SlideItem> _menuBarSlideSection{"MenuBarSlide", optional};
@@ -38,13 +41,17 @@ struct Configuration {
     KeyWrapper<MonitoringSection> _monitoring{"Monitoring", optional};
     KeyWrapper<APIRequestsSection> _apiRequests{"APIRequests", optional};
 
+    VariablesRecords variablesRecords; ///< What the file uses; set by `decode`.
+    VariableNames declaredVariables; ///< What keys of the file brought into being, beside General.Variables.
+
     [[nodiscard]] bool slidesWereSpecified() const { return _slides.wasGivenValueWhileDecoding(); }
     [[nodiscard]] bool menuBarSlideWasSpecified() const {
         return _menuBarSlideSection.wasGivenValueWhileDecoding();
     }
 
-    /// Decodes a file and settles its references; the result never changes. Throws ConfigurationError.
-    /// `notes`, where given, takes what the decoding passes over in silence and the place of its failure.
+    /// Decodes a file, settles its references and checks its variables; the result never changes. Throws
+    /// ConfigurationError, or ExpressionError where a text or condition uses what nobody defines. `notes`,
+    /// where given, takes what the decoding passes over in silence and the place of its failure.
     [[nodiscard]] static std::shared_ptr<const Configuration> decode(const PropertyList &file,
                                                                      DecodingNotes *notes = nullptr);
 

@@ -2,6 +2,7 @@
 
 #include <Configuration/CodingPath.h>
 #include <Configuration/DecodingNotes.h>
+#include <Configuration/VariablesRecords.h>
 #include <Foundation/PropertyList.h>
 
 #include <functional>
@@ -40,6 +41,15 @@ public:
     /// them. Null before that.
     [[nodiscard]] std::shared_ptr<void> &valueOfName(std::string_view typeName, const std::string &name);
 
+    /// Keeps what a place uses, to be checked when all of the file is decoded.
+    void addVariablesRecord(VariablesRecords::Record record) {
+        records_.records.push_back(std::move(record));
+    }
+    void declareVariable(std::string name) { declaredVariables_.insert(std::move(name)); }
+    [[nodiscard]] const VariablesRecords &variablesRecords() const { return records_; }
+    [[nodiscard]] VariablesRecords takeVariablesRecords() { return std::move(records_); }
+    [[nodiscard]] const VariableNames &declaredVariables() const { return declaredVariables_; }
+
     void noteFailure(const std::string &keyPath, std::uint32_t offset);
     void noteUnknownKey(const CodingPath &item, const std::string &key, std::uint32_t offset,
                         std::span<const std::string_view> knownKeys);
@@ -55,6 +65,8 @@ private:
     DecodingNotes *notes_;
     std::vector<Reference> references_;
     std::map<std::pair<std::string_view, std::string>, std::shared_ptr<void>> valuesOfNames_;
+    VariablesRecords records_;
+    VariableNames declaredVariables_;
 };
 
 /// A key that an enclosing item has read from the dictionary of an item: a known one.

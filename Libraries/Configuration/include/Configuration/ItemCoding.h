@@ -232,6 +232,33 @@ private:
     }
 };
 
+/// The variables that the texts of a value use: of an item those of all its keys, nested items included.
+template <class T>
+VariableNames usedVariables(const T &value) {
+    VariableNames names;
+    const auto add = [&](const auto &part) { names.merge(usedVariables(part)); };
+    if constexpr (Populatable<T>) {
+        visitTexts(value, [&](std::string_view text) { names.merge(usedVariables(text)); });
+    } else if constexpr (KeysCodableItem<T>) {
+        visitKeys(value, [&](const auto &key) { add(key.rawValue()); });
+    } else if constexpr (TaggedItem<T>) {
+        std::visit(add, value.value);
+    } else if constexpr (requires { value.has_value(); }) {
+        if (value) {
+            add(*value);
+        }
+    } else if constexpr (requires { value.begin(); }) {
+        for (const auto &element : value) {
+            if constexpr (requires { element.second; }) {
+                add(element.second);
+            } else {
+                add(element);
+            }
+        }
+    }
+    return names;
+}
+
 /// A model takes what it does not give itself from its parent, whose own values are settled.
 template <class T>
 void inheritKeys(T &model, const T &parent) {

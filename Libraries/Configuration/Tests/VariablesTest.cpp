@@ -1,0 +1,180 @@
+#include "Support.h"
+
+#include <Configuration/ExpressionError.h>
+#include <Configuration/ItemCoding.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using namespace velmar;
+using velmar::test::fileWith;
+using velmar::test::outcomeOf;
+using velmar::test::validFileWith;
+
+namespace {
+
+/// "NAME=value" entries as General.Variables.
+std::string variables(const std::vector<std::string_view> &entries) {
+    std::string content;
+    for (const std::string_view entry : entries) {
+        const std::size_t equals = entry.find('=');
+        content += fmt::format("<key>{}</key><string>{}</string>", entry.substr(0, equals),
+                               entry.substr(equals + 1));
+    }
+    return fmt::format("<key>General</key><dict><key>Variables</key><dict>{}</dict></dict>", content);
+}
+
+/// A container beside the slides with one text component.
+std::string text(std::string_view text, std::string_view more = "") {
+    return fmt::format(
+        "<key>SideContainer</key><dict><key>Container</key><dict><key>Components</key><array><dict>"
+        "<key>Type</key><string>Text</string><key>Text</key><string>{}</string>{}</dict></array></dict>"
+        "</dict>",
+        text, more);
+}
+
+constexpr std::string_view pathOfText = "SideContainer.Container.Components.0.Text";
+
+TEST(Variables, AreDefinedAndLeadNowhereInACircle) {
+    const auto at = [](std::string_view name, std::string_view fault) {
+        return fmt::format("Error at 'General.Variables.{}'. {}", name, fault);
+    };
+    const std::string undefined = "Use of undefined variable 'X' in condition [ -${X} ]";
+    const std::vector<std::pair<std::vector<std::string_view>, std::string>> rows = {
+        {{}, "decoded"},
+        {{"A=${B}${B}", "B=${DEVICE_UUID}", "C=${A}${ALL_MANDATORY_FILES_PRESENT}"}, "decoded"},
+        {{"A=-${A}"}, at("A", "Variable 'A' used within its own initial value.")},
+        {{"A=${B}", "B=${B}"}, at("B", "Variable 'B' used within its own initial value.")},
+        {{"A=${B}", "B=${A}"}, at("A", "Circular reference involving A. Traceback: 'A → B'.")},
+        {{"A=${D}${B}", "B=${C}", "C=${B}", "D="},
+         at("B", "Circular reference involving B. Traceback: 'A → B → C'.")},
+        {{"A=${B}", "B=-${X}"}, at("B", undefined)},
+        {{"A=-${X}", "B=${A}"}, at("A", undefined)},
+        {{"A=${}"}, at("A", "Use of undefined variable '' in condition [ ${} ]")},
+        {{"\u00c9=${E\u0301}"}, at("\u00c9", "Variable '\u00c9' used within its own initial value.")},
+    };
+    for (const auto &[entries, expected] : rows) {
+        EXPECT_EQ(outcomeOf(validFileWith(variables(entries))), expected) << testing::PrintToString(entries);
+    }
+    EXPECT_EQ(outcomeOf(validFileWith("<key>General</key><dict/>")),
+              "Missing required key 'Variables' at 'General'");
+}
+
+TEST(Variables, MakeChainsOfAnyLength) {
+    constexpr int length = 100'000;
+    std::string content;
+    for (int index = 0; index < length; ++index) {
+        content += fmt::format("<key>V{}</key><string>${{V{}}}</string>", index, index + 1);
+    }
+    const auto outcomeWithLast = [&](std::string_view last) {
+        return outcomeOf(
+            validFileWith(fmt::format("<key>General</key><dict><key>Variables</key><dict>{}<key>V{}</"
+                                      "key><string>{}</string></dict></dict>",
+                                      content, length, last)));
+    };
+    EXPECT_EQ(outcomeWithLast("end"), "decoded");
+    EXPECT_THAT(outcomeWithLast("${V7}"), testing::HasSubstr("Circular reference involving V"));
+}
+
+TEST(Variables, AreDefinedWhereverTextsUseThem) {
+    const auto undefined = [](std::string_view names, std::string_view path) {
+        return fmt::format("Undefined variable(s) [{}] in expression at {}", names, path);
+    };
+    const std::string title =
+        "<key>Navigation</key><dict><key>NextButtonText</key><string>${T}</string></dict>";
+    const std::vector<std::pair<std::string, std::string>> rows = {
+        {text("${A} ${USER_NAME}") + variables({"A=x"}), "decoded"},
+        {text("${ and $A"), "decoded"},
+        {text("${C} ${A} ${B} ${C}") + variables({"B=x"}), undefined("\"A\", \"C\"", pathOfText)},
+        {text("${A}") + title, undefined("\"T\"", "Navigation.NextButtonText")},
+        {text("${A}") + variables({"A=${B}"}),
+         "Error at 'General.Variables.A'. Use of undefined variable 'B' in condition [ ${B} ]"},
+    };
+    for (const auto &[content, expected] : rows) {
+        EXPECT_EQ(outcomeOf(validFileWith(content)), expected) << content;
+    }
+}
+
+TEST(Variables, AreKnownByThePlacesThatUseThem) {
+    const auto configuration = Configuration::decode(validFileWith(
+        text("${A} ${B}", "<key>TextFontConfiguration</key><dict><key>Name</key><string>${B}</string>"
+                          "<key>Color</key><dict><key>DarkMode</key><string>#000000</string><key>"
+                          "LightMode</key><string>#000000</string></dict></dict>") +
+        variables({"A=${B}", "B="})));
+    std::vector<std::string> uses;
+    for (const auto &record : configuration->variablesRecords.records) {
+        uses.push_back(fmt::format("{} {}", record.codingPath, fmt::join(record.variables, " ")));
+    }
+    EXPECT_THAT(uses,
+                testing::ElementsAre("General.Variables.A B", fmt::format("{} A B", pathOfText),
+                                     "SideContainer.Container.Components.0.TextFontConfiguration.Name B"));
+    const auto &component = configuration->_sideContainer()->_container()._components()[0];
+    EXPECT_EQ(std::get<ComponentItem::Text>(component.value)._text.usedVariables(),
+              (VariableNames{"A", "B"}));
+    EXPECT_EQ(usedVariables(component), (VariableNames{"A", "B"}));
+}
+
+TEST(Variables, LeadTheToolToTheirFault) {
+    const std::vector<std::pair<std::string, std::string_view>> rows = {
+        {"<key>General</key><dict><key>Variables</key><dict><key>A</key><string/>\n"
+         "<key>B</key><string>${X}</string></dict></dict>",
+         "General.Variables.B"},
+        {"<key>Navigation</key><dict>\n<key>NextButtonText</key><string>${X}</string></dict>",
+         "Navigation.NextButtonText"},
+    };
+    for (const auto &[content, path] : rows) {
+        const auto file = PropertyList::read(fmt::format(
+            "<plist><dict>\n<key>Slides</key><array><dict><key>Containers</key><array/></dict></array>{}"
+            "</dict></plist>",
+            content));
+        DecodingNotes notes;
+        EXPECT_THROW(static_cast<void>(Configuration::decode(file.value, &notes)), LocalizedError);
+        ASSERT_TRUE(notes.failure);
+        EXPECT_EQ(notes.failure->keyPath, path);
+        EXPECT_EQ(file.lineOf(notes.failure->offset), 3U);
+    }
+}
+
+struct DeclaringItem {
+    static constexpr std::string_view typeName = "DeclaringItem";
+
+    VariableKeyWrapper<std::string> _variable{"Variable", optional, nameOfVariable};
+    VariableKeyWrapper<std::string> _text{"Text", optional};
+    VariableKeyWrapper<std::map<std::string, std::string>> _values{
+        "Values", optional, [](const std::map<std::string, std::string> &values) {
+            std::vector<std::string> names;
+            std::ranges::transform(values, std::back_inserter(names),
+                                   [](const auto &entry) { return entry.first; });
+            return names;
+        }};
+    KeyWrapper<std::vector<std::string>> _list{
+        {}, "List", optional, ArrayCodingStrategy::customStringConvertible};
+};
+
+TEST(VariableKeyWrapper, DeclaresTheNamesOfItsValue) {
+    const auto declared = [](std::string_view content) {
+        DecodingContext context;
+        static_cast<void>(Decodable<DeclaringItem>::decode({fileWith(content), CodingPath(), context}));
+        return context.declaredVariables();
+    };
+    EXPECT_EQ(declared(""), VariableNames{});
+    EXPECT_EQ(declared("<key>Text</key><string>A</string>"), VariableNames{});
+    EXPECT_EQ(declared("<key>Variable</key><string>A</string>"), VariableNames{"A"});
+    EXPECT_EQ(declared("<key>Variable</key><string>${A}</string>"), VariableNames{"A"});
+    EXPECT_EQ(declared("<key>Values</key><dict><key>B</key><string/><key>C</key><string/></dict>"),
+              (VariableNames{"B", "C"}));
+}
+
+TEST(VariablesRecords, NameTheElementsOfCollections) {
+    DecodingContext context;
+    const auto file = fileWith("<key>List</key><array><string>a</string><string>${A}</string></array>"
+                               "<key>Values</key><dict><key>k</key><string>${B}</string></dict>");
+    const auto item = Decodable<DeclaringItem>::decode({file, CodingPath(), context});
+    const auto &records = context.variablesRecords().records;
+    ASSERT_EQ(records.size(), 2U);
+    EXPECT_EQ(records[0].codingPath, "Values.k");
+    EXPECT_EQ(records[1].codingPath, "List.1");
+    EXPECT_EQ(usedVariables(item), (VariableNames{"A", "B"}));
+}
+
+} // namespace

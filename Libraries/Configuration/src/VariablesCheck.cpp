@@ -1,0 +1,164 @@
+#include "VariablesCheck.h"
+
+#include "VariableReferences.h"
+
+#include <Configuration/ExpressionError.h>
+
+#include <boost/unordered/unordered_flat_map.hpp>
+#include <boost/unordered/unordered_flat_set.hpp>
+
+#include <iterator>
+#include <utility>
+
+namespace velmar {
+
+namespace {
+
+using Names = boost::unordered_flat_set<std::string_view, VariableNameHash, VariableNameEqual>;
+
+/// Follows the references among General.Variables: each variable once, so that a file of any size is checked
+/// in one pass, and without recursion, because the file decides how long a chain is.
+class BookCheck {
+public:
+    /// What the values may use beside the variables of the book.
+    BookCheck(const ExpressionsBook<std::string>::Models &models, const Names &others) : others_(others) {
+        variables_.reserve(models.size());
+        for (const auto &[name, value] : models) {
+            byName_.emplace(name, variables_.size());
+            variables_.push_back({name, value});
+        }
+    }
+
+    /// A fault with the name of the variable to correct.
+    struct Fault {
+        std::string name;
+        ExpressionError error;
+    };
+
+    [[nodiscard]] std::optional<Fault> firstFault() {
+        for (Variable &variable : variables_) {
+            if (auto fault = follow(variable)) {
+                return fault;
+            }
+        }
+        return std::nullopt;
+    }
+
+private:
+    struct Variable {
+        std::string_view name;
+        std::string_view value;
+        enum class State { untouched, open, done } state = State::untouched;
+    };
+
+    /// A variable on the way, and what is still to be followed of its value.
+    struct Step {
+        Variable *variable;
+        VariableReferences references;
+    };
+
+    std::optional<Fault> follow(Variable &first) {
+        enter(first);
+        while (!way_.empty()) {
+            Step &step = way_.back();
+            if (const auto reference = step.references.next()) {
+                if (auto fault = use(reference->name, *step.variable)) {
+                    return fault;
+                }
+            } else {
+                step.variable->state = Variable::State::done;
+                way_.pop_back();
+            }
+        }
+        return std::nullopt;
+    }
+
+    void enter(Variable &variable) {
+        if (variable.state == Variable::State::untouched) {
+            variable.state = Variable::State::open;
+            way_.push_back({&variable, VariableReferences(variable.value)});
+        }
+    }
+
+    std::optional<Fault> use(std::string_view name, const Variable &user) {
+        const auto found = byName_.find(name);
+        if (found == byName_.end()) {
+            if (others_.contains(name)) {
+                return std::nullopt;
+            }
+            return Fault{std::string(user.name),
+                         ExpressionErrors::UndefinedVariable{std::string(name), std::string(user.value)}};
+        }
+        Variable &used = variables_[found->second];
+        if (&used == &user) {
+            return Fault{std::string(user.name), ExpressionErrors::OwnDefinition{std::string(user.name)}};
+        }
+        if (used.state == Variable::State::open) {
+            return Fault{std::string(used.name),
+                         ExpressionErrors::CircularReference{std::string(used.name), trace()}};
+        }
+        enter(used);
+        return std::nullopt;
+    }
+
+    [[nodiscard]] std::vector<std::string> trace() const {
+        std::vector<std::string> names;
+        for (const Step &step : way_) {
+            names.emplace_back(step.variable->name);
+        }
+        return names;
+    }
+
+    const Names &others_;
+    std::vector<Variable> variables_;
+    boost::unordered_flat_map<std::string_view, std::size_t, VariableNameHash, VariableNameEqual> byName_;
+    std::vector<Step> way_;
+};
+
+void checkBook(const Configuration &configuration, const Names &others, const PropertyList &file,
+               DecodingContext &context) {
+    const KeyWrapper<GeneralSection> &general = configuration._general;
+    const auto &variables = general()._variables;
+    const auto fault = BookCheck(variables().models(), others).firstFault();
+    if (!fault) {
+        return;
+    }
+    const CodingPath root;
+    const CodingPath section(root, general.name().stringValue);
+    const CodingPath book(section, variables.name().stringValue);
+    const std::string path = CodingPath(book, fault->name).text();
+    const PropertyList *value = &file;
+    for (const std::string_view key : {section.lastKey(), book.lastKey(), std::string_view(fault->name)}) {
+        value = value->dictionary()->find(key);
+    }
+    context.noteFailure(path, value->offset());
+    throw ConfigurationError(ConfigurationErrors::Custom{path, fault->error.errorDescription()});
+}
+
+} // namespace
+
+void checkVariables(const Configuration &configuration, const PropertyList &file, DecodingContext &context) {
+    Names defined;
+    for (const auto &[placeholder, name] : enumCases<GeneralSection::Placeholders>) {
+        static_cast<void>(placeholder);
+        defined.insert(name);
+    }
+    defined.insert(context.declaredVariables().begin(), context.declaredVariables().end());
+    checkBook(configuration, defined, file, context);
+
+    for (const auto &[name, value] : configuration._general()._variables().models()) {
+        static_cast<void>(value);
+        defined.insert(name);
+    }
+    for (const VariablesRecords::Record &record : context.variablesRecords().records) {
+        VariableNames undefined;
+        std::ranges::copy_if(record.variables, std::inserter(undefined, undefined.end()),
+                             [&](const std::string &name) { return !defined.contains(name); });
+        if (!undefined.empty()) {
+            context.noteFailure(record.codingPath, record.offset);
+            throw ExpressionError(ExpressionErrors::Undefined{std::move(undefined), record.codingPath});
+        }
+    }
+}
+
+} // namespace velmar
