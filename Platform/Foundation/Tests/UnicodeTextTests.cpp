@@ -73,6 +73,18 @@ TEST(UnicodeText, ChangesCaseWithoutALocale) {
     EXPECT_EQ(UnicodeText::uppercased("straße i ı"), "STRASSE I I");
 }
 
+TEST(UnicodeText, TellsColumnsOfATerminal) {
+    const struct {
+        std::string_view text;
+        std::size_t columns, lengthWithinThree;
+    } texts[] = {{"", 0, 0},         {"abcd", 4, 3},         {"e\u0301te", 3, 5},  {"日本語", 6, 3},
+                 {"a😀\uFF21", 5, 5}, {"\u1100\u1161", 2, 6}, {"\u200B\xFF", 1, 4}, {"abc\u0301", 3, 5}};
+    for (const auto &each : texts) {
+        EXPECT_EQ(UnicodeText::displayWidth(each.text), each.columns) << each.text;
+        EXPECT_EQ(UnicodeText::lengthWithin(each.text, 3), each.lengthWithinThree) << each.text;
+    }
+}
+
 TEST(UnicodeText, KnowsValidUtf8) {
     for (const std::string_view valid : {"", "ascii only, and longer than a word", "é€😀", "\u0001\x7F"})
         EXPECT_TRUE(UnicodeText::isValidUtf8(valid)) << valid;

@@ -12,6 +12,7 @@
 #include <unicode/bytestream.h>
 #include <unicode/casemap.h>
 #include <unicode/normalizer2.h>
+#include <unicode/uchar.h>
 
 namespace velmar::UnicodeText {
 
@@ -103,6 +104,18 @@ std::string mapped(std::string_view text, char first, char last, const Map &map)
     return result;
 }
 
+std::size_t columnsOf(UChar32 character) {
+    static constexpr UChar32 softHyphen = 0xAD; // A format character, and visible.
+    const bool isWithinSyllable = character >= 0x1160 && character <= 0x11FF; // Hangul vowels and finals.
+    const std::uint32_t shapeless = U_GC_MN_MASK | U_GC_ME_MASK | U_GC_CF_MASK | U_GC_CC_MASK;
+    if (character < 0 || character == softHyphen)
+        return 1;
+    if (isWithinSyllable || (U_GET_GC_MASK(character) & shapeless) != 0)
+        return 0;
+    const auto width = u_getIntPropertyValue(character, UCHAR_EAST_ASIAN_WIDTH);
+    return width == U_EA_WIDE || width == U_EA_FULLWIDTH ? 2 : 1;
+}
+
 } // namespace
 
 bool isAscii(std::string_view text) noexcept {
@@ -178,6 +191,29 @@ std::string uppercased(std::string_view text) {
     return mapped(text, 'a', 'z', [](icu::StringPiece piece, icu::ByteSink &sink, UErrorCode &status) {
         icu::CaseMap::utf8ToUpper("", 0, piece, sink, nullptr, status);
     });
+}
+
+std::size_t displayWidth(std::string_view text) {
+    std::size_t columns = 0;
+    for (std::size_t at = 0; at < text.size();) {
+        const DecodedCharacter character = decodeUtf8(text, at);
+        columns += columnsOf(character.value);
+        at += character.length;
+    }
+    return columns;
+}
+
+std::size_t lengthWithin(std::string_view text, std::size_t columns) {
+    std::size_t at = 0;
+    while (at < text.size()) {
+        const DecodedCharacter character = decodeUtf8(text, at);
+        const std::size_t taken = columnsOf(character.value);
+        if (taken > columns)
+            break;
+        columns -= taken;
+        at += character.length;
+    }
+    return at;
 }
 
 } // namespace velmar::UnicodeText

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <compare>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -27,5 +28,11 @@ namespace velmar::UnicodeText {
 
 [[nodiscard]] std::string lowercased(std::string_view text);
 [[nodiscard]] std::string uppercased(std::string_view text);
+
+/// The columns that a terminal gives to a text: two to a wide character (East Asian, emoji), none to a mark
+/// that combines with the character before it nor to what has no shape, one to ill-formed bytes.
+[[nodiscard]] std::size_t displayWidth(std::string_view text);
+/// The length in bytes of the longest beginning of a text that takes no more than so many columns.
+[[nodiscard]] std::size_t lengthWithin(std::string_view text, std::size_t columns);
 
 } // namespace velmar::UnicodeText
