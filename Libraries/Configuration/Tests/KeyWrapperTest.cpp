@@ -125,17 +125,6 @@ TEST(KeyWrapper, ReadsNumbersInArraysAsTexts) {
     EXPECT_EQ(listOf(""), List{});
 }
 
-TEST(Texts, WriteNumbersWithAFraction) {
-    const std::vector<std::pair<double, const char *>> rows = {
-        {0.0, "0.0"},       {-0.0, "-0.0"},     {1, "1.0"},           {0.1 + 0.2, "0.30000000000000004"},
-        {0.0001, "0.0001"}, {0.00001, "1e-05"}, {100000, "100000.0"}, {1e16, "10000000000000000.0"},
-        {1e17, "1e+17"},
-    };
-    for (const auto &[number, text] : rows) {
-        EXPECT_EQ(textOf(number), text);
-    }
-}
-
 TEST(KeyWrapper, KnowsWhetherItWasGivenOrSet) {
     const auto item = decodeAt<TestItem>(fileWith("<key>Name</key><string>nobody</string>"));
     EXPECT_TRUE(item._name.wasGivenValueWhileDecoding());

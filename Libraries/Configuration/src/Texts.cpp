@@ -2,26 +2,7 @@
 
 #include <fmt/format.h>
 
-#include <array>
-#include <charconv>
-#include <cmath>
-
 namespace velmar {
-
-std::string textOf(double number) {
-    constexpr double firstWithExponent = 18014398509481984.0; // 2^54
-    const double size = std::abs(number);
-    const bool isFixed = number == 0 || (size >= 0.0001 && size < firstWithExponent);
-
-    std::array<char, 64> buffer{};
-    const auto format = isFixed ? std::chars_format::fixed : std::chars_format::scientific;
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, format).ptr;
-    std::string text(buffer.data(), end);
-    if (isFixed && text.find('.') == std::string::npos) {
-        text += ".0";
-    }
-    return text;
-}
 
 std::string foundText(const PropertyList &value) {
     constexpr std::size_t longestShown = 80;

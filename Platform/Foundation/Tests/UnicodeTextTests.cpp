@@ -46,6 +46,19 @@ TEST(UnicodeText, OrdersByComposedCodePoints) {
     EXPECT_TRUE(UnicodeText::compare("e\u0301", "z") > 0);
 }
 
+TEST(UnicodeText, IsTrimmedOfWhiteSpace) {
+    const std::pair<std::string_view, std::string_view> rows[] = {
+        {"", ""},
+        {" \t\r\n\v\f", ""},
+        {"a b", "a b"},
+        {"\u00A0\u2028 \u00E9t\u00E9 \u3000\u0085", "\u00E9t\u00E9"},
+        {" \xA0 ", "\xA0"}, // ill-formed: a continuation byte alone
+        {"a \x80\x80\x80", "a \x80\x80\x80"},
+    };
+    for (const auto &[text, trimmed] : rows)
+        EXPECT_EQ(UnicodeText::trimmed(text), trimmed) << text;
+}
+
 TEST(UnicodeText, FindsPartsBetweenCharacters) {
     EXPECT_TRUE(UnicodeText::contains("un café noir", decomposed));
     EXPECT_FALSE(UnicodeText::contains(decomposed, "cafe"));

@@ -86,6 +86,14 @@ bool isBoundary(std::string_view composed, std::size_t position) {
     return composer().hasBoundaryBefore(decodeUtf8(composed, position).value) != 0;
 }
 
+bool isContinuation(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80;
+}
+
+bool isWhiteSpace(const DecodedCharacter &character) {
+    return character.value >= 0 && u_isUWhiteSpace(character.value) != 0;
+}
+
 template <class Map>
 std::string mapped(std::string_view text, char first, char last, const Map &map) {
     std::string result;
@@ -175,6 +183,25 @@ bool hasSuffix(std::string_view text, std::string_view suffix) {
     const Composed composedSuffix(suffix);
     return composedText.view().ends_with(composedSuffix.view()) &&
            isBoundary(composedText.view(), composedText.view().size() - composedSuffix.view().size());
+}
+
+std::string_view trimmed(std::string_view text) noexcept {
+    while (!text.empty()) {
+        const DecodedCharacter first = decodeUtf8(text, 0);
+        if (!isWhiteSpace(first))
+            break;
+        text.remove_prefix(first.length);
+    }
+    while (!text.empty()) {
+        std::size_t start = text.size() - 1;
+        while (start > 0 && text.size() - start < 4 && isContinuation(text[start]))
+            --start;
+        const DecodedCharacter last = decodeUtf8(text, start);
+        if (!isWhiteSpace(last) || start + last.length != text.size())
+            break;
+        text.remove_suffix(last.length);
+    }
+    return text;
 }
 
 std::string composed(std::string_view text) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <Foundation/NumberText.h>
 #include <Foundation/PropertyList.h>
 
 #include <span>
@@ -10,10 +11,6 @@
 namespace velmar {
 
 // Pieces of messages.
-
-/// The shortest decimal text of a number that reads back the same, with a fraction ("0.6", "100000.0"); with
-/// an exponent only below 0.0001 and from 2^54 on ("1e-05").
-[[nodiscard]] std::string textOf(double number);
 
 /// What the file has in place of what was expected: "'abc'", "the integer 5", "an array".
 [[nodiscard]] std::string foundText(const PropertyList &value);

@@ -23,6 +23,9 @@ namespace velmar::UnicodeText {
 [[nodiscard]] bool hasPrefix(std::string_view text, std::string_view prefix);
 [[nodiscard]] bool hasSuffix(std::string_view text, std::string_view suffix);
 
+/// The text without the white space and line ends that it begins and ends with.
+[[nodiscard]] std::string_view trimmed(std::string_view text) noexcept;
+
 /// The composed form (NFC), which is the same for equal texts.
 [[nodiscard]] std::string composed(std::string_view text);
 

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace velmar {
+
+/// The shortest decimal text of a number that reads back the same, with a fraction ("0.6", "100000.0"); with
+/// an exponent only below 0.0001 and from 2^54 on ("1e-05").
+[[nodiscard]] std::string textOf(double number);
+
+/// The number that a text is as a whole, absent if it is none: what the C library's strtod takes in the C
+/// locale, so that "+5", "0x1F", "nan", "inf" and "1e999" (infinity) are numbers, without white space in
+/// front. Any thread.
+[[nodiscard]] std::optional<double> numberOf(const std::string &text) noexcept;
+
+} // namespace velmar
