@@ -1,0 +1,104 @@
+#include <expressions/Operator.h>
+
+#include <Foundation/UnicodeText.h>
+
+#include <algorithm>
+#include <array>
+#include <compare>
+#include <functional>
+#include <string>
+
+namespace velmar::expressions {
+
+namespace {
+
+bool isEqual(std::string_view left, std::string_view right) {
+    return UnicodeText::isEqual(left, right);
+}
+
+bool isDifferent(std::string_view left, std::string_view right) {
+    return !UnicodeText::isEqual(left, right);
+}
+
+template <class Relation>
+bool isOrdered(std::string_view left, std::string_view right) {
+    const std::weak_ordering order = UnicodeText::compare(left, right);
+    return Relation()(order < 0 ? -1 : order > 0 ? 1 : 0, 0);
+}
+
+template <class Relation, class T>
+bool holds(T left, T right) {
+    return Relation()(left, right);
+}
+
+// Whether a piece of the list, which commas separate, is the wanted text. That one is composed only once:
+// both may have a megabyte.
+bool listHolds(std::string_view list, std::string_view wanted) {
+    std::string storage;
+    if (!UnicodeText::isAscii(wanted)) {
+        storage = UnicodeText::composed(wanted);
+        wanted = storage;
+    }
+    while (!list.empty()) {
+        const std::size_t length = std::min(list.find(','), list.size());
+        const std::string_view piece = UnicodeText::trimmed(list.substr(0, length));
+        if (length > 0 &&
+            (piece == wanted || (!UnicodeText::isAscii(piece) && UnicodeText::composed(piece) == wanted)))
+            return true;
+        list.remove_prefix(std::min(length + 1, list.size()));
+    }
+    return false;
+}
+
+} // namespace
+
+// A null function is no result.
+struct Operator::Row {
+    std::string_view description;
+    bool (*texts)(std::string_view, std::string_view);
+    bool (*numbers)(double, double) = nullptr;
+    bool (*booleans)(bool, bool) = nullptr;
+};
+
+std::span<const Operator> Operator::all() noexcept {
+    static constexpr std::array<Row, 9> rows = {{
+        {"==", isEqual, holds<std::equal_to<>, double>, holds<std::equal_to<>, bool>},
+        {"!=", isDifferent, holds<std::not_equal_to<>, double>, holds<std::not_equal_to<>, bool>},
+        {">", isOrdered<std::greater<>>, holds<std::greater<>, double>},
+        {">=", isOrdered<std::greater_equal<>>, holds<std::greater_equal<>, double>},
+        {"<", isOrdered<std::less<>>, holds<std::less<>, double>},
+        {"<=", isOrdered<std::less_equal<>>, holds<std::less_equal<>, double>},
+        {"<:", listHolds},
+        {"~=", UnicodeText::hasPrefix},
+        {"=~", UnicodeText::hasSuffix},
+    }};
+    static constexpr std::array<Operator, 9> operators = {
+        Operator(rows[0]), Operator(rows[1]), Operator(rows[2]), Operator(rows[3]), Operator(rows[4]),
+        Operator(rows[5]), Operator(rows[6]), Operator(rows[7]), Operator(rows[8])};
+    return operators;
+}
+
+std::string_view Operator::description() const noexcept {
+    return row_->description;
+}
+
+std::optional<bool> Operator::evaluate(const Value &left, const Value &right) const {
+    const auto apply = [&](auto function, const auto *one) -> std::optional<bool> {
+        const auto *other = std::get_if<std::remove_cvref_t<decltype(*one)>>(&right);
+        if (function == nullptr || other == nullptr)
+            return std::nullopt;
+        return function(*one, *other);
+    };
+    if (const auto *text = std::get_if<std::string_view>(&left))
+        return apply(row_->texts, text);
+    if (const auto *number = std::get_if<double>(&left))
+        return apply(row_->numbers, number);
+    return apply(row_->booleans, std::get_if<bool>(&left));
+}
+
+std::span<const LogicOperator> LogicOperator::all() noexcept {
+    static constexpr std::array<LogicOperator, 2> operators = {disjunction, conjunction};
+    return operators;
+}
+
+} // namespace velmar::expressions
