@@ -156,13 +156,14 @@ TEST_F(ContentTest, IsWrittenByTwoThreadsWhileAHundredObserversRead) {
     class Reader final : public ContentObserver {
     public:
         explicit Reader(std::shared_ptr<ContentManager> manager) : manager_(std::move(manager)) {}
-        void variableDidChange(std::string_view name, const std::optional<std::string> &,
+        void variableDidChange(std::string_view, const std::optional<std::string> &,
                                const std::string &) override {
-            // Each thread writes first Y, then X: a view in which X is ahead is of no single moment.
+            // A thread writes first Y, then X: a view in which X is ahead is of no single moment.
             const VariablesSnapshot variables = manager_->variables();
-            const std::string thread(1, name.back());
-            const auto x = variables->find("X" + thread);
-            wrong += x != variables->end() && std::stoi(x->second) > std::stoi(variables->at("Y" + thread));
+            for (const std::string thread : {"1", "2"}) {
+                const auto x = variables->find("X" + thread);
+                wrong += x != variables->end() && x->second > variables->at("Y" + thread);
+            }
             ++notices;
         }
         std::atomic<int> notices{0};
@@ -177,11 +178,13 @@ TEST_F(ContentTest, IsWrittenByTwoThreadsWhileAHundredObserversRead) {
         readers.push_back(std::make_shared<Reader>(manager_));
         manager_->addObserver(UUID(), readers.back());
     }
-    const auto write = [this](const std::string &thread) {
+    const auto passer = std::make_shared<Reader>(manager_);
+    const auto write = [this, &passer](const std::string &thread) {
         for (int i = 0; i < writes; ++i) {
-            const auto passing = Observer::of(manager_);
-            manager_->updateVariable("Y" + thread, std::to_string(i), false);
-            manager_->updateVariable("X" + thread, std::to_string(i), false);
+            Content passing(manager_);
+            passing.subscribe(passer);
+            manager_->updateVariable("Y" + thread, std::to_string(100 + i), false);
+            manager_->updateVariable("X" + thread, std::to_string(100 + i), false);
         }
     };
     std::thread other(write, "1");
