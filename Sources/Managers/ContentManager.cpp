@@ -24,10 +24,12 @@ std::string_view bareName(std::string_view name) {
     return name;
 }
 
-std::uint64_t nextVersion() {
-    // Of the process and not of one store: who keeps what was computed from a state needs the version alone.
-    static constinit std::atomic<std::uint64_t> last{0};
-    return last.fetch_add(1, std::memory_order_relaxed) + 1;
+// Each store counts its states in a range of its own: who keeps what was computed from a state needs to know
+// the version alone.
+NumberedVariables firstState() {
+    static constinit std::atomic<std::uint64_t> stores{0};
+    constexpr unsigned bitsOfCount = 40;
+    return {{}, stores.fetch_add(1, std::memory_order_relaxed) << bitsOfCount};
 }
 
 bool holds(const Variables &variables, std::string_view name, std::string_view value) {
@@ -38,7 +40,8 @@ bool holds(const Variables &variables, std::string_view name, std::string_view v
 } // namespace
 
 ContentManager::ContentManager()
-    : variables_({}, std::string(Domain::bundleIdentifier) + ".ContentManager.variables"),
+    : variables_(CopyOnWrite(firstState()),
+                 std::string(Domain::bundleIdentifier) + ".ContentManager.variables"),
       observers_({}, std::string(Domain::bundleIdentifier) + ".ContentManager.observers") {}
 
 void ContentManager::updateVariable(std::string_view name, std::string value, bool log) {
@@ -53,7 +56,9 @@ void ContentManager::updateVariable(std::string_view name, std::string value, bo
                                change->former ? "updated a" : "added a new", bare, value);
         });
     }
-    tellObservers(bare, *change, value);
+    if (hasObservers_.load(std::memory_order_relaxed)) {
+        tellObservers(bare, *change, value);
+    }
 }
 
 void ContentManager::updateVariables(const std::map<std::string, std::string> &variables) {
@@ -71,7 +76,7 @@ std::optional<ContentManager::Change> ContentManager::store(std::string_view nam
         const auto found = variables.find(name);
         if (found == variables.end()) {
             variables.emplace(name, value);
-            version = nextVersion();
+            ++version;
             return Change{};
         }
         if (found->second == value) {
@@ -79,7 +84,7 @@ std::optional<ContentManager::Change> ContentManager::store(std::string_view nam
         }
         const bool isEqual = UnicodeText::isEqual(found->second, value);
         Change change{std::exchange(found->second, value)};
-        version = nextVersion();
+        ++version;
         return isEqual ? std::nullopt : std::optional(std::move(change));
     });
 }
@@ -103,11 +108,15 @@ VariablesSnapshot ContentManager::variables() const {
 void ContentManager::addObserver(const UUID &identity, std::weak_ptr<ContentManagerObserver> observer) {
     observers_.mutate([&](CopyOnWrite<Observers> &table) {
         table.unshared().insert_or_assign(identity, std::move(observer));
+        hasObservers_ = true;
     });
 }
 
 void ContentManager::removeObserver(const UUID &identity) {
-    observers_.mutate([&](CopyOnWrite<Observers> &table) { table.unshared().erase(identity); });
+    observers_.mutate([&](CopyOnWrite<Observers> &table) {
+        table.unshared().erase(identity);
+        hasObservers_ = !table->empty();
+    });
 }
 
 } // namespace velmar

@@ -8,6 +8,7 @@
 
 #include <boost/unordered/unordered_flat_map.hpp>
 
+#include <atomic>
 #include <functional>
 #include <map>
 #include <memory>
@@ -67,6 +68,9 @@ private:
 
     ThreadSafe<CopyOnWrite<NumberedVariables>> variables_;
     ThreadSafe<CopyOnWrite<Observers>> observers_;
+    // Spares a write the second lock. Who is added after a write that missed it reads what was written: both
+    // the write and the reading hold the lock of the variables.
+    std::atomic<bool> hasObservers_{false};
 };
 
 } // namespace velmar
