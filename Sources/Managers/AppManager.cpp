@@ -36,7 +36,8 @@ std::set<std::string> charactersInUpperCase(std::string_view text) {
 AppManager::AppManager(const Surroundings &surroundings)
     : configurationFileURL_(
           surroundings.locator.findConfigurationFile(surroundings.locator.configurationName())),
-      terminate_(surroundings.terminate) {
+      terminate_(surroundings.terminate),
+      contentManager_(surroundings.contentManager) {
     {
         const ConfigurationFile file(configurationFileURL_);
         file.hasConfigFileCorrectPermissions(surroundings.identityAuthority);
@@ -57,13 +58,22 @@ std::shared_ptr<const Configuration> AppManager::configuration() const {
     return configuration_;
 }
 
-void AppManager::reloadInterface(bool /*byResetingVariables*/) {
+void AppManager::reloadInterface(bool byResetingVariables) {
     try {
         auto configuration = ConfigurationFile(configurationFileURL_).retrieveConfiguration();
         const std::lock_guard lock(mutex_);
         configuration_.swap(configuration);
     } catch (...) {
         Logger::error([exception = std::current_exception()] { return textOf(exception); });
+    }
+    if (byResetingVariables) {
+        const auto present = configuration();
+        const ExpressionsBook<std::string> &book = present->_general()._variables();
+        VariableNames names;
+        for (const auto &[name, value] : book.models()) {
+            names.insert(name);
+        }
+        contentManager_->resetVariables(names, book);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <Foundation/URL.h>
 #include <Managers/ConfigurationLocator.h>
+#include <Managers/ContentManager.h>
 #include <Managers/Shared.h>
 
 #include <functional>
@@ -19,6 +20,8 @@ class IdentityAuthority;
 /// any thread calls.
 class AppManager {
 public:
+    class PopulatePlugin;
+
     /// The four modifier keys of the force quit shortcut.
     struct KeyModifiers {
         bool command = false;
@@ -49,6 +52,8 @@ public:
         std::function<KeyDownMonitor(KeyDownHandler)> addKeyDownMonitor;
         /// Ends the application by its regular way, past the conditions that hold a quit back.
         std::function<void()> terminate;
+        /// The store whose variables a reload resets.
+        std::shared_ptr<ContentManager> contentManager = ContentManager::shared();
     };
 
     /// Finds, admits and decodes the configuration, then starts the monitor of the force quit shortcut unless
@@ -69,8 +74,9 @@ public:
     [[nodiscard]] const URL &configurationFileURL() const noexcept { return configurationFileURL_; }
 
     /// Reads the configuration's file again and replaces the configuration; the file was admitted at the
-    /// start and is not judged again. A failure is logged and leaves the configuration as it is. Never
-    /// throws.
+    /// start and is not judged again. A failure is logged and leaves the configuration as it is. Then, if
+    /// asked for, gives the variables of General.Variables the values of the present configuration again, be
+    /// it the new one or not. Never throws.
     void reloadInterface(bool byResetingVariables);
 
     /// Ends the application if the event is the force quit shortcut: all four modifiers (and any others) with
@@ -82,6 +88,7 @@ private:
     std::shared_ptr<const Configuration> configuration_;
     URL configurationFileURL_;
     std::function<void()> terminate_;
+    std::shared_ptr<ContentManager> contentManager_;
     KeyDownMonitor keyDownMonitor_;
 };
 

@@ -27,6 +27,10 @@ void Content::updateVariables(const std::map<std::string, std::string> &variable
     contentManager_->updateVariables(variables);
 }
 
+void Content::updatePlaceholder(GeneralSection::Placeholders placeholder, std::string value) const {
+    contentManager_->updatePlaceholder(placeholder, std::move(value));
+}
+
 VariablesSnapshot Content::variables() const {
     return contentManager_->variables();
 }

@@ -24,6 +24,7 @@ public:
 
     void updateVariable(std::string_view name, std::string value, bool log) const;
     void updateVariables(const std::map<std::string, std::string> &variables) const;
+    void updatePlaceholder(GeneralSection::Placeholders placeholder, std::string value) const;
     [[nodiscard]] VariablesSnapshot variables() const;
 
 private:

@@ -1,5 +1,6 @@
 #include <Managers/ContentManager.h>
 
+#include <Configuration/Configuration.h>
 #include <Constants/Domain.h>
 #include <Dispatch/UncaughtHandler.h>
 #include <Foundation/UnicodeText.h>
@@ -13,16 +14,6 @@
 namespace velmar {
 
 namespace {
-
-std::string_view bareName(std::string_view name) {
-    if (name.starts_with("${")) {
-        name.remove_prefix(2);
-    }
-    if (name.ends_with('}')) {
-        name.remove_suffix(1);
-    }
-    return name;
-}
 
 // Each store counts its states in a range of its own: who keeps what was computed from a state needs to know
 // the version alone.
@@ -45,8 +36,8 @@ ContentManager::ContentManager()
       observers_({}, std::string(Domain::bundleIdentifier) + ".ContentManager.observers") {}
 
 void ContentManager::updateVariable(std::string_view name, std::string value, bool log) {
-    const std::string_view bare = bareName(name);
-    const auto change = store(bare, value);
+    const std::string_view bare = bareVariableName(name);
+    const auto change = store(bare, value, Present::isReplaced);
     if (!change) {
         return;
     }
@@ -56,9 +47,7 @@ void ContentManager::updateVariable(std::string_view name, std::string value, bo
                                change->former ? "updated a" : "added a new", bare, value);
         });
     }
-    if (hasObservers_.load(std::memory_order_relaxed)) {
-        tellObservers(bare, *change, value);
-    }
+    tellObservers(bare, *change, value);
 }
 
 void ContentManager::updateVariables(const std::map<std::string, std::string> &variables) {
@@ -67,7 +56,29 @@ void ContentManager::updateVariables(const std::map<std::string, std::string> &v
     }
 }
 
-std::optional<ContentManager::Change> ContentManager::store(std::string_view name, const std::string &value) {
+void ContentManager::updatePlaceholder(GeneralSection::Placeholders placeholder, std::string value) {
+    updateVariable(rawString(placeholder), std::move(value), false);
+}
+
+void ContentManager::registerVariables(const Configuration &configuration) {
+    updateVariables(configuration._general()._variables().models());
+    for (const std::string &name : configuration.declaredVariables) {
+        if (const auto change = store(name, {}, Present::stays)) {
+            tellObservers(name, *change, {});
+        }
+    }
+}
+
+void ContentManager::resetVariables(const VariableNames &names, const ExpressionsBook<std::string> &book) {
+    for (const std::string &name : names) {
+        if (const auto model = book.models().find(name); model != book.models().end()) {
+            updateVariable(name, model->second, false);
+        }
+    }
+}
+
+std::optional<ContentManager::Change> ContentManager::store(std::string_view name, const std::string &value,
+                                                            Present present) {
     return variables_.mutate([&](CopyOnWrite<NumberedVariables> &state) -> std::optional<Change> {
         if (state.isShared() && holds(state->variables, name, value)) {
             return std::nullopt; // No copy of all variables for nothing.
@@ -79,7 +90,7 @@ std::optional<ContentManager::Change> ContentManager::store(std::string_view nam
             ++version;
             return Change{};
         }
-        if (found->second == value) {
+        if (present == Present::stays || found->second == value) {
             return std::nullopt;
         }
         const bool isEqual = UnicodeText::isEqual(found->second, value);
@@ -91,6 +102,9 @@ std::optional<ContentManager::Change> ContentManager::store(std::string_view nam
 
 void ContentManager::tellObservers(std::string_view name, const Change &change,
                                    const std::string &value) const {
+    if (!hasObservers_.load(std::memory_order_relaxed)) {
+        return;
+    }
     // Taken after the write: who is added from here on reads the new value.
     const CopyOnWrite<Observers> observers = observers_.value();
     for (const auto &[identity, entry] : *observers) {

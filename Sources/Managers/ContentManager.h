@@ -1,5 +1,7 @@
 #pragma once
 
+#include <Configuration/ExpressionsBook.h>
+#include <Configuration/GeneralSection.h>
 #include <Dispatch/ThreadSafe.h>
 #include <Foundation/UUID.h>
 #include <Managers/ContentObserver.h>
@@ -18,6 +20,8 @@
 
 namespace velmar {
 
+struct Configuration;
+
 /// What the store of variables offers to whoever holds a Content. Any thread.
 class ContentManagerProtocol {
 public:
@@ -30,6 +34,9 @@ public:
 
     /// The same for each pair, logged.
     virtual void updateVariables(const std::map<std::string, std::string> &variables) = 0;
+
+    /// Gives a placeholder a value, without a line in the log.
+    virtual void updatePlaceholder(GeneralSection::Placeholders placeholder, std::string value) = 0;
 
     /// The variables of this moment.
     [[nodiscard]] virtual VariablesSnapshot variables() const = 0;
@@ -52,9 +59,18 @@ public:
 
     void updateVariable(std::string_view name, std::string value, bool log) override;
     void updateVariables(const std::map<std::string, std::string> &variables) override;
+    void updatePlaceholder(GeneralSection::Placeholders placeholder, std::string value) override;
     [[nodiscard]] VariablesSnapshot variables() const override;
     void addObserver(const UUID &identity, std::weak_ptr<ContentManagerObserver> observer) override;
     void removeObserver(const UUID &identity) override;
+
+    /// At the start: gives the variables of General.Variables their values, logged, then every name that keys
+    /// declared and that has no value yet the empty one, unlogged.
+    void registerVariables(const Configuration &configuration);
+
+    /// Gives the named variables their values from the book again, unlogged; names that it lacks are left
+    /// alone.
+    void resetVariables(const VariableNames &names, const ExpressionsBook<std::string> &book);
 
 private:
     using Observers = boost::unordered_flat_map<UUID, std::weak_ptr<ContentManagerObserver>, std::hash<UUID>>;
@@ -62,8 +78,11 @@ private:
         std::optional<std::string> former;
     };
 
+    // What becomes of a value that is there already.
+    enum class Present { isReplaced, stays };
+
     // The change that storing the value made, none if the variable had an equal one.
-    std::optional<Change> store(std::string_view name, const std::string &value);
+    std::optional<Change> store(std::string_view name, const std::string &value, Present present);
     void tellObservers(std::string_view name, const Change &change, const std::string &value) const;
 
     ThreadSafe<CopyOnWrite<NumberedVariables>> variables_;

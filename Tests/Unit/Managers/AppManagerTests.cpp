@@ -71,6 +71,26 @@ TEST_F(AppManagerTest, KeepsTheConfigurationWhenAReloadFails) {
     EXPECT_THAT(log_.lines().back(), HasSubstr("error: Configuration file is missing. [file://"));
 }
 
+TEST_F(AppManagerTest, ResetsTheVariablesOfThePresentConfiguration) {
+    const auto variables = [](std::string_view pairs) {
+        return fmt::format("<key>General</key><dict><key>Variables</key><dict>{}</dict></dict>", pairs);
+    };
+    const auto store = std::make_shared<ContentManager>();
+    const Shared<ContentManager>::Scope scope(store);
+    writeConfiguration(variables("<key>A</key><string>1</string>"));
+    const auto manager = makeAppManager();
+    store->updateVariables({{"A", "2"}, {"B", "2"}});
+
+    manager->reloadInterface(false);
+    EXPECT_EQ(store->variables()->at("A"), "2");
+    writeFile("no property list");
+    manager->reloadInterface(true);
+    EXPECT_EQ(store->variables()->at("A"), "1") << "of the former book";
+    writeConfiguration(variables("<key>A</key><string>3</string><key>C</key><string>4</string>"));
+    manager->reloadInterface(true);
+    EXPECT_EQ(store->variables()->at("A") + store->variables()->at("B") + store->variables()->at("C"), "324");
+}
+
 TEST_F(AppManagerTest, EndsTheApplicationForTheForceQuitShortcut) {
     const struct {
         const char *key;

@@ -1,5 +1,8 @@
+#include <Configuration/Configuration.h>
 #include <Managers/Content.h>
+#include <Managers/ContentUpdater.h>
 #include <Managers/ObservableContent.h>
+#include <Managers/PopulatePlugin.h>
 
 #include <Support/RecordedLog.h>
 
@@ -16,7 +19,6 @@ namespace velmar {
 namespace {
 
 using testing::ElementsAre;
-using testing::UnorderedElementsAre;
 
 class Observer final : public ContentObserver {
 public:
@@ -80,6 +82,69 @@ TEST_F(ContentTest, TellsAndLogsWhatAWriteChanges) {
     EXPECT_THAT(log_.takeLines(), ElementsAre());
     manager_->updateVariables({{"A", "4"}, {"B", "5"}});
     EXPECT_EQ(log_.takeLines().size(), 2U);
+}
+
+TEST_F(ContentTest, RegistersAndResetsWhatTheConfigurationHas) {
+    Configuration configuration;
+    GeneralSection general;
+    const ExpressionsBook<std::string> book({{"A", "1"}, {"B", "${A}"}});
+    general._variables.set(book);
+    configuration._general.set(general);
+    configuration.declaredVariables = {"A", "C", "D"};
+    manager_->updateVariable("C", "given", false);
+    const auto observer = Observer::of(manager_);
+    manager_->registerVariables(configuration);
+    EXPECT_EQ(observer->notices, "A:->1 B:->${A} D:-> ");
+    EXPECT_EQ(log_.takeLines().size(), 2U) << "of the book alone";
+    EXPECT_EQ(manager_->variables()->at("C"), "given");
+
+    manager_->updateVariables({{"A", "2"}, {"C", "2"}});
+    static_cast<void>(log_.takeLines());
+    observer->notices.clear();
+    manager_->resetVariables({"A", "B", "C", "unknown"}, book);
+    EXPECT_EQ(observer->notices, "A:2>1 ") << "B has its value still";
+    EXPECT_EQ(manager_->variables()->at("C"), "2") << "the book has no value for it";
+    EXPECT_THAT(log_.lines(), ElementsAre());
+}
+
+TEST_F(ContentTest, PublishesTheValuesOfTheProgram) {
+    const auto observer = Observer::of(manager_);
+    ContentUpdater<bool> isComplete(false, GeneralSection::Placeholders::installationComplete, manager_);
+    ContentUpdater<std::uint64_t> count(0, GeneralSection::Placeholders::monitorsCount, manager_);
+    ContentUpdater<std::string> user("", GeneralSection::Placeholders::userName, manager_);
+    EXPECT_TRUE(manager_->variables()->empty());
+    isComplete.set(true);
+    isComplete.set(true);
+    isComplete.set(false);
+    count.set(18446744073709551615U);
+    user.set("ada");
+    EXPECT_EQ(observer->notices, "INSTALLATION_COMPLETE:->true INSTALLATION_COMPLETE:true>false "
+                                 "MONITORS_COUNT:->18446744073709551615 USER_NAME:->ada ");
+    EXPECT_THAT(log_.lines(), ElementsAre());
+}
+
+TEST_F(ContentTest, PopulatesAllTextsOfAValueOrNone) {
+    manager_->updateVariables({{"A", "${B}!"}, {"B", "x"}, {"C", "${D}"}, {"D", "${C}"}});
+    static_cast<void>(log_.takeLines());
+    const auto registration =
+        Plugins::registerPlugin(std::make_shared<const AppManager::PopulatePlugin>(manager_));
+    const struct {
+        std::vector<std::string> value;
+        std::vector<std::string> populated;
+        std::string_view line;
+    } cases[] = {
+        {{"plain", "$${A}", "${"}, {"plain", "$x!", "${"}, ""},
+        {{"${A}", "${Z}"}, {"${A}", "${Z}"}, "warning: Use of undefined variable 'Z' in condition [ ${Z} ]"},
+        {{"${C}"}, {"${C}"}, "warning: Circular reference involving C."},
+    };
+    for (const auto &[value, populated, line] : cases) {
+        for (int reading = 0; reading < 2; ++reading) {
+            EXPECT_EQ(plugged(value), populated);
+            const auto lines = log_.takeLines();
+            EXPECT_EQ(lines.size(), line.empty() ? 0U : 1U);
+            EXPECT_TRUE(lines.empty() || lines.front().starts_with(line)) << lines.front();
+        }
+    }
 }
 
 TEST_F(ContentTest, ShowsInASnapshotTheStateOfItsMoment) {
