@@ -7,6 +7,8 @@
 #include <AppDelegate/Services/LoginRelaunchAppDelegateService.h>
 #include <Constants/Domain.h>
 #include <Managers/ConfigurationRefusal.h>
+#include <Managers/ContentManager.h>
+#include <Managers/PopulatePlugin.h>
 #include <Views/CustomViews/Theme.h>
 
 #include <Desktop/DesktopAppearance.h>
@@ -104,6 +106,8 @@ void AppDelegate::applicationWillFinishLaunching() {
                                            .exit = [](int status) { std::_Exit(status); }};
         refusal.exitBecauseOf(error);
     }
+    ContentManager::shared()->registerVariables(*AppManager::shared()->configuration());
+    populatePlugin_.emplace(Plugins::registerPlugin(std::make_shared<const AppManager::PopulatePlugin>()));
     ServiceableAppDelegate::applicationWillFinishLaunching();
 }
 

@@ -2,6 +2,7 @@
 
 #include <AppDelegate/ServiceableAppDelegate.h>
 #include <Configuration/Configuration.h>
+#include <Configuration/Plugin.h>
 #include <Managers/AppManager.h>
 #include <Managers/Config.h>
 #include <Managers/LaunchOptions.h>
@@ -40,7 +41,8 @@ public:
     /// All but the first are new at each reading.
     [[nodiscard]] std::vector<std::shared_ptr<AppDelegateService>> services() override;
 
-    /// Ends the process behind an alert if there is no configuration to be admitted.
+    /// Ends the process behind an alert if there is no configuration to be admitted. Otherwise registers its
+    /// variables and has texts populated from then on, before any service runs.
     void applicationWillFinishLaunching() override;
     void applicationDidFinishLaunching() override;
     void applicationWillTerminate() override;
@@ -58,6 +60,7 @@ private:
     std::unique_ptr<QuitAttempt> quitAttempt_;
     std::shared_ptr<CustomWindowAppDelegateService> customWindow_;
     std::optional<Shared<AppManager>::Scope> appManager_;
+    std::optional<Plugins::Registration> populatePlugin_;
 };
 
 } // namespace velmar
