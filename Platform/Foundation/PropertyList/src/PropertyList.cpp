@@ -3,6 +3,7 @@
 #include <cmath>
 #include <memory>
 #include <new>
+#include <utility>
 
 namespace velmar {
 
@@ -29,40 +30,12 @@ PropertyList::PropertyList(std::uint64_t value) noexcept
     }
 }
 
-PropertyList::PropertyList(const PropertyList &other) : offset_(other.offset_), kind_(other.kind_) {
-    switch (kind_) {
-    case Kind::Boolean:
-        boolean_ = other.boolean_;
-        break;
-    case Kind::Integer:
-        integer_ = other.integer_;
-        break;
-    case Kind::UnsignedInteger:
-        unsignedInteger_ = other.unsignedInteger_;
-        break;
-    case Kind::Real:
-        real_ = other.real_;
-        break;
-    case Kind::Date:
-        date_ = other.date_;
-        break;
-    case Kind::String:
-        std::construct_at(&string_, other.string_);
-        break;
-    case Kind::Data:
-        std::construct_at(&data_, other.data_);
-        break;
-    case Kind::Array:
-        std::construct_at(&array_, other.array_);
-        break;
-    case Kind::Dictionary:
-        std::construct_at(&dictionary_, other.dictionary_);
-        break;
-    }
+PropertyList::PropertyList(const PropertyList &other) {
+    construct(other);
 }
 
 PropertyList::PropertyList(PropertyList &&other) noexcept {
-    takeFrom(other);
+    construct(std::move(other));
 }
 
 PropertyList &PropertyList::operator=(const PropertyList &other) {
@@ -74,7 +47,7 @@ PropertyList &PropertyList::operator=(PropertyList &&other) noexcept {
         // What is assigned may be a part of what is replaced.
         PropertyList replaced(std::move(*this));
         destroy();
-        takeFrom(other);
+        construct(std::move(other));
     }
     return *this;
 }
@@ -83,7 +56,8 @@ PropertyList::~PropertyList() {
     destroy();
 }
 
-void PropertyList::takeFrom(PropertyList &other) noexcept {
+template <class Other>
+void PropertyList::construct(Other &&other) {
     offset_ = other.offset_;
     kind_ = other.kind_;
     switch (kind_) {
@@ -103,16 +77,16 @@ void PropertyList::takeFrom(PropertyList &other) noexcept {
         date_ = other.date_;
         break;
     case Kind::String:
-        std::construct_at(&string_, std::move(other.string_));
+        std::construct_at(&string_, std::forward<Other>(other).string_);
         break;
     case Kind::Data:
-        std::construct_at(&data_, std::move(other.data_));
+        std::construct_at(&data_, std::forward<Other>(other).data_);
         break;
     case Kind::Array:
-        std::construct_at(&array_, std::move(other.array_));
+        std::construct_at(&array_, std::forward<Other>(other).array_);
         break;
     case Kind::Dictionary:
-        std::construct_at(&dictionary_, std::move(other.dictionary_));
+        std::construct_at(&dictionary_, std::forward<Other>(other).dictionary_);
         break;
     }
 }

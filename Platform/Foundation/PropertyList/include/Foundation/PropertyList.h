@@ -159,7 +159,9 @@ public:
 
 private:
     void destroy() noexcept;
-    void takeFrom(PropertyList &other) noexcept;
+    /// Becomes a copy of `other`, or takes its value where it may be moved from; nothing is held before.
+    template <class Other>
+    void construct(Other &&other);
 
     union {
         bool boolean_;
