@@ -3,6 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
 using namespace velmar;
 using velmar::test::fileWith;
 using velmar::test::outcomeOf;
@@ -111,6 +115,17 @@ TEST(Configuration, WritesWhatItHasRead) {
     EXPECT_EQ(text._font()->_color()->_lightMode(), (ColorItem::Specification{0x11, 0x22, 0x33, 0xFF}));
     EXPECT_EQ(text._font()->_color()->_alphaLight(), 0.5);
     EXPECT_EQ(text.common._border()->_edge(), BorderItem::Edge::bottom);
+}
+
+TEST(Examples, AreConfigurations) {
+    std::size_t count = 0;
+    for (const auto &entry : std::filesystem::directory_iterator(VELMAR_SOURCE_DIR "/Examples")) {
+        std::ifstream file(entry.path());
+        const std::string content{std::istreambuf_iterator<char>(file), {}};
+        EXPECT_EQ(outcomeOf(PropertyList::read(content).value), "decoded") << entry.path();
+        ++count;
+    }
+    EXPECT_GT(count, 0U);
 }
 
 // The widths of the containers of one slide: L and l give "IsLarge" true and false, numbers "WidthRatio", -

@@ -197,8 +197,9 @@ private:
 
 TEST(Plugin, FiltersTextsWhenTheyAreRead) {
     const auto first = Plugins::registerPlugin(std::make_shared<Suffix>("1"));
-    const auto content = "<key>Name</key><string>a</string><key>List</key><array><string>b</string><string>d</string></array>"
-                         "<key>Texts</key><dict><key>k</key><string>c</string></dict>";
+    const auto content =
+        "<key>Name</key><string>a</string><key>List</key><array><string>b</string><string>d</string></array>"
+        "<key>Texts</key><dict><key>k</key><string>c</string></dict>";
     const auto item = decodeAt<TestItem>(fileWith(content));
     {
         const auto second = Plugins::registerPlugin(std::make_shared<Suffix>("2"));

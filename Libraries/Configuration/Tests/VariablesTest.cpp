@@ -95,6 +95,50 @@ TEST(Variables, AreDefinedWhereverTextsUseThem) {
     }
 }
 
+TEST(Conditions, AreReadAndUseWhatIsDefined) {
+    const auto conditions = [](std::string_view name, std::string_view condition) {
+        return fmt::format("<key>Conditions</key><dict><key>{}</key><string>{}</string></dict>", name,
+                           condition);
+    };
+    const auto shownIf = [](std::string_view condition) {
+        return text("", fmt::format("<key>Condition</key>{}", condition));
+    };
+    const std::string path = "SideContainer.Container.Components.0.Condition";
+    const std::string type = "\nExpected type: string (boolean expression).";
+    const std::vector<std::pair<std::string, std::string>> rows = {
+        {shownIf("<string>AA == 'x' &amp;&amp; BB</string>"),
+         "Decoding error at '" + path + "'. Incorrect element in the expression: \" 'x' \"" + type},
+        {shownIf("<string></string>"),
+         "Decoding error at '" + path + "'. The expression should not be empty" + type},
+        {shownIf("<true/>"), "Decoding error at '" + path + "'. The value is a boolean." + type},
+        {shownIf("<string>AA == \"x\" ||  BB</string>") + variables({"AA=x"}),
+         "Undefined variable in expression at '" + path +
+             "' Use of undefined variable 'BB' in condition [ AA == 'x' || BB ]"},
+        {shownIf("<string>isLab</string>"), "Undefined variable in expression at '" + path +
+                                                "' Use of undefined variable 'isLab' in condition [ isLab ]"},
+        {shownIf("<string>isLab</string>") + conditions("isLab", "DEVICE_NAME == \"lab\""), "decoded"},
+        {conditions("one", "one || other"),
+         "Undefined variable in expression at 'Conditions.one' Use of undefined "
+         "variable 'other' in condition [ one || other ]"},
+        {conditions("one", "one"), "decoded"},
+        {conditions("one", "two") + variables({"two=${one}"}),
+         "Error at 'General.Variables.two'. Use of undefined variable 'one' in condition [ ${one} ]"},
+        {conditions("one", "USER_NAME == \"x\"") + text("${one}"),
+         fmt::format("Undefined variable(s) [\"one\"] in expression at {}", pathOfText)},
+    };
+    for (const auto &[content, expected] : rows) {
+        EXPECT_EQ(outcomeOf(validFileWith(content)), expected) << content;
+    }
+    const auto file =
+        validFileWith(conditions("isLab", "DEVICE_NAME   == \"lab\" %") + shownIf("<string>isLab</string>"));
+    const auto configuration = Configuration::decode(file);
+    EXPECT_EQ(configuration->encode(), file) << "a condition is written as it was given";
+    const auto &component = configuration->_sideContainer()->_container()._components()[0];
+    EXPECT_EQ(std::get<ComponentItem::Text>(component.value).common._condition()->description(), "isLab");
+    EXPECT_EQ(usedVariables(component), VariableNames{}) << "a condition is no text";
+    EXPECT_EQ(configuration->variablesRecords.records.front().condition->source(), "isLab");
+}
+
 TEST(Variables, AreKnownByThePlacesThatUseThem) {
     const auto configuration = Configuration::decode(validFileWith(
         text("${A} ${B}", "<key>TextFontConfiguration</key><dict><key>Name</key><string>${B}</string>"

@@ -11,7 +11,7 @@ namespace {
 void recordVariables(std::string_view text, const Decoding &decoding) {
     if (VariableNames variables = usedVariables(text); !variables.empty()) {
         decoding.context.addVariablesRecord(
-            {std::move(variables), decoding.path.text(), decoding.value.offset()});
+            {std::move(variables), decoding.path.text(), decoding.value.offset(), std::nullopt});
     }
 }
 

@@ -7,7 +7,6 @@
 #include <boost/unordered/unordered_flat_map.hpp>
 #include <boost/unordered/unordered_flat_set.hpp>
 
-#include <iterator>
 #include <utility>
 
 namespace velmar {
@@ -135,28 +134,44 @@ void checkBook(const Configuration &configuration, const Names &others, const Pr
     throw ConfigurationError(ConfigurationErrors::Custom{path, fault->error.errorDescription()});
 }
 
+/// The names of a record that nobody defines.
+VariableNames undefinedNames(const VariablesRecords::Record &record, const Names &defined,
+                             const ExpressionsBook<Expression>::Models &conditions) {
+    VariableNames undefined;
+    for (const std::string &name : record.variables) {
+        if (!defined.contains(name) && !(record.condition && conditions.contains(name))) {
+            undefined.insert(name);
+        }
+    }
+    return undefined;
+}
+
+ExpressionError faultOf(const VariablesRecords::Record &record, VariableNames undefined) {
+    if (!record.condition) {
+        return ExpressionErrors::Undefined{std::move(undefined), record.codingPath};
+    }
+    const ExpressionErrors::UndefinedVariable fault{*undefined.begin(), record.condition->description()};
+    return ExpressionErrors::UndefinedVariableAtPath{record.codingPath, fault.errorDescription()};
+}
+
 } // namespace
 
 void checkVariables(const Configuration &configuration, const PropertyList &file, DecodingContext &context) {
     Names defined;
-    for (const auto &[placeholder, name] : enumCases<GeneralSection::Placeholders>) {
-        static_cast<void>(placeholder);
-        defined.insert(name);
+    for (const auto &placeholder : enumCases<GeneralSection::Placeholders>) {
+        defined.insert(placeholder.rawString);
     }
     defined.insert(context.declaredVariables().begin(), context.declaredVariables().end());
     checkBook(configuration, defined, file, context);
 
-    for (const auto &[name, value] : configuration._general()._variables().models()) {
-        static_cast<void>(value);
-        defined.insert(name);
+    for (const auto &variable : configuration._general()._variables().models()) {
+        defined.insert(variable.first);
     }
     for (const VariablesRecords::Record &record : context.variablesRecords().records) {
-        VariableNames undefined;
-        std::ranges::copy_if(record.variables, std::inserter(undefined, undefined.end()),
-                             [&](const std::string &name) { return !defined.contains(name); });
+        VariableNames undefined = undefinedNames(record, defined, configuration._conditions().models());
         if (!undefined.empty()) {
             context.noteFailure(record.codingPath, record.offset);
-            throw ExpressionError(ExpressionErrors::Undefined{std::move(undefined), record.codingPath});
+            throw faultOf(record, std::move(undefined));
         }
     }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <Configuration/BorderItem.h>
+#include <Configuration/ConditionKeyWrapper.h>
 #include <Configuration/FontItem.h>
 #include <Configuration/InheritableKeyWrapper.h>
 #include <Configuration/MarginsItem.h>
@@ -27,6 +28,7 @@ struct ComponentItemProtocol {
 
     KeyWrapper<std::optional<MarginsItem>> _margins{"Margins", optional};
     KeyWrapper<std::optional<BorderItem>> _border{"Border", optional};
+    ConditionKeyWrapper _condition{"Condition", optional}; ///< Absent: always shown.
 };
 
 struct Text {

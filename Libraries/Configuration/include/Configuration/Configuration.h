@@ -5,6 +5,7 @@
 #include <Configuration/AppTerminationSection.h>
 #include <Configuration/Book.h>
 #include <Configuration/ColorItem.h>
+#include <Configuration/ConditionKeyWrapper.h>
 #include <Configuration/DecodingNotes.h>
 #include <Configuration/FontItem.h>
 #include <Configuration/GeneralSection.h>
@@ -38,6 +39,7 @@ struct Configuration {
     KeyWrapper<std::vector<SlideItem>> _slides{"Slides", optional};
     KeyWrapper<SlideItem> _menuBarSlideSection{"MenuBarSlide", optional};
     KeyWrapper<std::optional<SideContainerSection>> _sideContainer{"SideContainer", optional};
+    KeyWrapper<ExpressionsBook<Expression>> _conditions{"Conditions", optional};
     KeyWrapper<MonitoringSection> _monitoring{"Monitoring", optional};
     KeyWrapper<APIRequestsSection> _apiRequests{"APIRequests", optional};
 

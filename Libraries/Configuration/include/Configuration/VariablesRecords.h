@@ -1,20 +1,25 @@
 #pragma once
 
+#include <expressions/Expression.h>
 #include <expressions/Variables.h>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace velmar {
 
-/// Which place of a file uses which variables, in the order of the file: every text with a reference, those
-/// of General.Variables among them.
+/// Which place of a file uses which variables, in the order in which it is decoded: every text with a
+/// reference and every condition that names a variable, those of the books among them. One list for both,
+/// because both are checked in one way when the file is decoded.
 struct VariablesRecords {
     struct Record {
         VariableNames variables; ///< Never empty.
         std::string codingPath;
         std::uint32_t offset = 0; ///< As PropertyList::offset().
+        /// Absent for a text. The names that a condition uses may be those of other conditions as well.
+        std::optional<expressions::Expression> condition;
     };
 
     std::vector<Record> records;
