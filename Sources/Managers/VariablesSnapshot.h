@@ -20,7 +20,6 @@ struct NumberedVariables {
 /// is not kept longer than the work that needs one view of them. One thread at a time, each its own copy.
 class VariablesSnapshot {
 public:
-    VariablesSnapshot() = default; ///< Of no variables.
     explicit VariablesSnapshot(CopyOnWrite<NumberedVariables> state) noexcept : state_(std::move(state)) {}
 
     [[nodiscard]] const Variables &operator*() const noexcept { return state_->variables; }

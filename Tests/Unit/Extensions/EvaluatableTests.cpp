@@ -1,0 +1,115 @@
+#include <Extensions/Evaluatable.h>
+
+#include <Support/RecordedLog.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <thread>
+#include <vector>
+
+namespace velmar {
+namespace {
+
+using expressions::Expression;
+using testing::ElementsAre;
+using NamedConditions = ConditionEvaluator::NamedConditions;
+
+class EvaluatableTest : public testing::Test {
+protected:
+    void use(NamedConditions::Models conditions) {
+        scope_.emplace(std::make_shared<ConditionEvaluator>(
+            Config<NamedConditions>([](const Configuration &) { return NamedConditions(); },
+                                    NamedConditions(std::move(conditions))),
+            manager_));
+    }
+
+    std::shared_ptr<ContentManager> manager_ = std::make_shared<ContentManager>();
+    std::optional<Shared<ConditionEvaluator>::Scope> scope_;
+    RecordedLog log_;
+};
+
+TEST_F(EvaluatableTest, SeesNamedConditionsLikeVariables) {
+    use({{"READY", Expression("COUNT >= 3")}, {"LAB", Expression(R"(PLACE == "lab")")}});
+    manager_->updateVariables({{"COUNT", "2"}, {"PLACE", "lab"}});
+    EXPECT_FALSE(evaluate(Expression("READY && LAB")));
+    manager_->updateVariable("COUNT", "3", false);
+    EXPECT_TRUE(evaluate(Expression("READY && LAB")));
+    manager_->updateVariable("READY", "false", false);
+    EXPECT_TRUE(evaluate(Expression("READY"))) << "it stands before a variable of its name";
+    use({{"READY", Expression("COUNT == 0")}});
+    EXPECT_FALSE(evaluate(Expression("READY"))) << "another book, the same state";
+}
+
+TEST_F(EvaluatableTest, FailsAsLongAsANamedConditionDoes) {
+    use({{"AA", Expression("COUNT > 0")}, {"BB", Expression("AA")}, {"CC", Expression("DD")}});
+    manager_->updateVariable("COUNT", "1", false);
+    for (const char *const state : {"2", "3"}) {
+        for (int evaluation = 0; evaluation < 3; ++evaluation) {
+            try {
+                static_cast<void>(evaluate(Expression("COUNT > 0")));
+                FAIL() << "Named conditions must not see each other";
+            } catch (const expressions::ExpressionError &error) {
+                const auto *undefined = error.as<expressions::ExpressionErrors::UndefinedVariable>();
+                ASSERT_NE(undefined, nullptr) << error.errorDescription();
+                EXPECT_EQ(undefined->name, "AA");
+                if (evaluation == 0) {
+                    EXPECT_THAT(
+                        log_.takeLines(),
+                        ElementsAre("warning: The condition 'BB' of 'Conditions' cannot be evaluated. " +
+                                    error.errorDescription()));
+                }
+            }
+        }
+        manager_->updateVariable("COUNT", state, false);
+    }
+    EXPECT_THAT(log_.lines(), ElementsAre());
+    manager_->updateVariables({{"AA", "true"}, {"DD", "true"}});
+    EXPECT_TRUE(evaluate(Expression("COUNT > 0")));
+    EXPECT_THROW(static_cast<void>(evaluate(Expression("EE"))), expressions::ExpressionError);
+}
+
+TEST_F(EvaluatableTest, TellsWhatAConditionDependsOn) {
+    use({{"READY", Expression("COUNT >= 3")}, {"e\u0301e", Expression("READY")}});
+    EXPECT_THAT(involvedVariables(Expression("READY && PLACE == OTHER")),
+                ElementsAre("COUNT", "OTHER", "PLACE", "READY"))
+        << "a named condition reads a variable where it names another one";
+    use({{"READY", Expression("COUNT >= 3")}});
+    EXPECT_THAT(involvedVariables(Expression("READY")), ElementsAre("COUNT"));
+    use({});
+    EXPECT_THAT(involvedVariables(Expression("READY")), ElementsAre("READY"));
+}
+
+TEST_F(EvaluatableTest, SeesVariablesAndConditionsOfOneMoment) {
+    use({{"ZERO", Expression("NUMBER == 0")}, {"ONE", Expression("NUMBER == 1")}});
+    manager_->updateVariable("NUMBER", "0", false);
+    std::atomic<bool> isOver{false};
+    std::atomic<int> evaluations{0};
+    std::atomic<int> wrong{0};
+    const auto read = [&] {
+        const Expression always("(ZERO && NUMBER == 0) || (ONE && NUMBER == 1)");
+        while (!isOver) {
+            wrong += evaluate(always) ? 0 : 1;
+            ++evaluations;
+            evaluations.notify_one();
+        }
+    };
+    std::vector<std::thread> readers;
+    for (int i = 0; i < 2; ++i) {
+        readers.emplace_back(read);
+    }
+    for (int write = 1; write < 50; ++write) {
+        const int before = evaluations;
+        manager_->updateVariable("NUMBER", write % 2 == 0 ? "0" : "1", false);
+        evaluations.wait(before);
+    }
+    isOver = true;
+    for (std::thread &reader : readers) {
+        reader.join();
+    }
+    EXPECT_EQ(wrong, 0);
+}
+
+} // namespace
+} // namespace velmar
