@@ -7,6 +7,7 @@ find_package(fmt REQUIRED)
 find_package(CLI11 REQUIRED)
 find_package(nlohmann_json REQUIRED)
 find_package(Boost 1.81 REQUIRED)
+find_package(simdjson REQUIRED)
 pkg_check_modules(libsystemd REQUIRED IMPORTED_TARGET libsystemd)
 
 # Asio comes as headers without a package file. It finds aligned allocation only where a standard header happens to come

@@ -14,6 +14,8 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <map>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -68,7 +70,9 @@ Diagnostic makeDiagnostic(Severity severity, std::string message) {
     return diagnostic;
 }
 
-void decode(const ConfigurationFile &file, std::vector<Diagnostic> &diagnostics) {
+// Null if the file is refused.
+std::shared_ptr<const Configuration> decode(const ConfigurationFile &file,
+                                            std::vector<Diagnostic> &diagnostics) {
     PropertyList::Document document;
     try {
         document = PropertyList::read(file.content());
@@ -77,11 +81,12 @@ void decode(const ConfigurationFile &file, std::vector<Diagnostic> &diagnostics)
         if (error.line() != 0) {
             diagnostics.back().line = error.line();
         }
-        return;
+        return nullptr;
     }
+    std::multimap<std::uint32_t, Diagnostic> byOffset;
     const auto add = [&](Severity severity, std::string keyPath, std::uint32_t offset, std::string message) {
         const std::size_t line = document.lineOf(offset);
-        Diagnostic &added = diagnostics.emplace_back(makeDiagnostic(severity, std::move(message)));
+        Diagnostic &added = byOffset.emplace(offset, makeDiagnostic(severity, std::move(message)))->second;
         added.keyPath = std::move(keyPath);
         added.line = line == 0 ? std::nullopt : std::optional(line);
     };
@@ -91,9 +96,10 @@ void decode(const ConfigurationFile &file, std::vector<Diagnostic> &diagnostics)
             duplicate.offset, fmt::format("The key '{}' is given more than once; the last one counts", key));
     }
     DecodingNotes notes;
+    std::shared_ptr<const Configuration> configuration;
     std::optional<std::string> refusal;
     try {
-        static_cast<void>(Configuration::decode(document.value, &notes));
+        configuration = Configuration::decode(document.value, &notes);
     } catch (const LocalizedError &error) {
         refusal = error.errorDescription();
     }
@@ -105,6 +111,10 @@ void decode(const ConfigurationFile &file, std::vector<Diagnostic> &diagnostics)
     } else if (refusal) {
         diagnostics.push_back(makeDiagnostic(Severity::error, *std::move(refusal)));
     }
+    for (auto &[offset, diagnostic] : byOffset) {
+        diagnostics.push_back(std::move(diagnostic));
+    }
+    return configuration;
 }
 
 // Leaves the first warnings, and every error.
@@ -125,15 +135,16 @@ void limitWarnings(std::vector<Diagnostic> &diagnostics) {
 ConfigurationCheck::ConfigurationCheck(Options options, const IdentityAuthority &authority)
     : options_(options), authority_(authority) {}
 
-std::vector<Diagnostic> ConfigurationCheck::check(const std::string &file) const {
+ConfigurationCheck::Report ConfigurationCheck::check(const std::string &file) const {
     const auto log = std::make_shared<RecordingDestination>();
-    std::vector<Diagnostic> diagnostics;
+    Report report;
+    std::vector<Diagnostic> &diagnostics = report.diagnostics;
     {
         const ScopedDestinations destinations({log});
         try {
             const ConfigurationFile configurationFile(URL::file(file));
             admit(configurationFile, file, options_, authority_);
-            decode(configurationFile, diagnostics);
+            report.configuration = decode(configurationFile, diagnostics);
         } catch (const VelmarError &error) {
             diagnostics.push_back(makeDiagnostic(Severity::error, error.errorDescription()));
             diagnostics.back().notes.swap(log->lines); // One fault, whose reason is in the log.
@@ -151,7 +162,7 @@ std::vector<Diagnostic> ConfigurationCheck::check(const std::string &file) const
             diagnostic.severity = Severity::error;
         }
     }
-    return diagnostics;
+    return report;
 }
 
 } // namespace velmar

@@ -2,11 +2,13 @@
 
 #include <Diagnostic.h>
 
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace velmar {
 
+struct Configuration;
 class IdentityAuthority;
 
 /// Says what the application would do with a file as its configuration, by the application's own admission
@@ -18,13 +20,19 @@ public:
         bool strict = false;   ///< Whether warnings are errors.
     };
 
+    struct Report {
+        /// What there is to say, in the order of the lines.
+        std::vector<Diagnostic> diagnostics;
+        /// Null if the application would refuse the file, for which there is an error then.
+        std::shared_ptr<const Configuration> configuration;
+    };
+
     /// The authority must outlive the check.
     ConfigurationCheck(Options options, const IdentityAuthority &authority);
 
-    /// What there is to say, in the order of the lines; the application would refuse the file if there is an
-    /// error. Of very many warnings the first 1000 stand for all. The process's log is turned to this list
+    /// Of very many warnings the first 1000 stand for all. The process's log is turned to the diagnostics
     /// meanwhile.
-    [[nodiscard]] std::vector<Diagnostic> check(const std::string &file) const;
+    [[nodiscard]] Report check(const std::string &file) const;
 
 private:
     Options options_;

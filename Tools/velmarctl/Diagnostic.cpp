@@ -1,11 +1,8 @@
 #include <Diagnostic.h>
+#include <PrintableText.h>
 
-#include <Foundation/UnicodeText.h>
-
-#include <fmt/format.h>
 #include <nlohmann/json.hpp>
 
-#include <algorithm>
 #include <string_view>
 
 namespace velmar {
@@ -14,57 +11,6 @@ namespace {
 
 std::string_view text(Diagnostic::Severity severity) noexcept {
     return severity == Diagnostic::Severity::error ? "error" : "warning";
-}
-
-// The length of the character that a text begins with; 0 if the text doesn't begin with one.
-std::size_t characterLength(std::string_view text) {
-    for (std::size_t length = 1; length <= std::min<std::size_t>(text.size(), 4); ++length) {
-        if (UnicodeText::isValidUtf8(text.substr(0, length))) {
-            return length;
-        }
-    }
-    return 0;
-}
-
-std::uint32_t codePoint(std::string_view character) {
-    const auto first = static_cast<unsigned char>(character[0]);
-    if (character.size() == 1) {
-        return first;
-    }
-    std::uint32_t value = first & (0xFFU >> (character.size() + 1)); // Without the mark of the length.
-    for (const char byte : character.substr(1)) {
-        value = value << 6U | (static_cast<unsigned char>(byte) & 0x3FU);
-    }
-    return value;
-}
-
-// Controls, separators of lines, and what changes the direction of writing.
-bool steersTerminals(std::uint32_t codePoint) noexcept {
-    const auto isBetween = [codePoint](std::uint32_t first, std::uint32_t last) {
-        return first <= codePoint && codePoint <= last;
-    };
-    return isBetween(0, 0x1F) || isBetween(0x7F, 0x9F) || codePoint == 0x61C || isBetween(0x200E, 0x200F) ||
-           isBetween(0x2028, 0x202E) || isBetween(0x2066, 0x2069);
-}
-
-// Keys, values and names come from files that may mean harm to a terminal.
-std::string printable(std::string_view text, std::string_view lineFeed = R"(\x0a)") {
-    std::string result;
-    while (!text.empty()) {
-        const std::size_t length = characterLength(text);
-        const std::string_view character = text.substr(0, std::max<std::size_t>(length, 1));
-        if (character == "\n") {
-            result += lineFeed;
-        } else if (length == 0 || (length == 1 && steersTerminals(codePoint(character)))) {
-            result += fmt::format("\\x{:02x}", static_cast<unsigned char>(character[0]));
-        } else if (steersTerminals(codePoint(character))) {
-            result += fmt::format("\\u{:04x}", codePoint(character));
-        } else {
-            result += character;
-        }
-        text.remove_prefix(character.size());
-    }
-    return result;
 }
 
 } // namespace

@@ -1,17 +1,10 @@
-#include <CommandLine.h>
+#include "CommandLineTest.h"
 
-#include <Testing/TemporaryDirectory.h>
-#include <Testing/TestIdentityAuthority.h>
-
-#include <fmt/format.h>
-#include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
-#include <string_view>
 #include <utility>
 
 #include <sys/stat.h>
@@ -26,50 +19,10 @@ using testing::MatchesRegex;
 using testing::Not;
 using testing::StartsWith;
 
-constexpr std::string_view slides = R"(<key>Slides</key>
-<array><dict><key>Containers</key><array><dict>
-<key>Components</key><array><dict>
-<key>Type</key><string>Text</string><key>Text</key><string>Hello.</string>
-</dict></array></dict></array></dict></array>
-)";
-
-class CommandLineTest : public testing::Test {
-protected:
-    // The output without the directory's path, wherever it stands.
-    std::string run(std::vector<std::string> arguments, ExitStatus expected) {
-        std::ostringstream out;
-        std::ostringstream err;
-        EXPECT_EQ(runCommandLine(std::move(arguments), authority_, out, err), expected)
-            << out.str() << err.str();
-        complaints_ = err.str();
-        std::string text = out.str();
-        const std::string directory = directory_.path() + '/';
-        for (auto at = text.find(directory); at != std::string::npos; at = text.find(directory)) {
-            text.erase(at, directory.size());
-        }
-        return text;
-    }
-
-    std::string check(std::string_view content, ExitStatus expected,
-                      const std::string &option = "--no-admission") {
-        return run({"check", option, "--no-admission", write(content)}, expected);
-    }
-
-    std::string write(std::string_view content) const { return directory_.write("x.plist", content); }
-
-    static std::string document(std::string_view keys) {
-        return fmt::format("<plist version=\"1.0\"><dict>\n{}{}</dict></plist>\n", keys, slides);
-    }
-
-    TemporaryDirectory directory_;
-    TestIdentityAuthority authority_;
-    std::string complaints_;
-};
-
 TEST_F(CommandLineTest, SaysNothingAboutAGoodFile) {
-    EXPECT_EQ(check(document(""), ExitStatus::wouldRun), "");
-    EXPECT_EQ(check(document(""), ExitStatus::wouldRun, "--strict"), "");
-    EXPECT_EQ(check(document(""), ExitStatus::wouldRun, "--json"), "[]\n");
+    EXPECT_EQ(check(document(""), ExitStatus::succeeded), "");
+    EXPECT_EQ(check(document(""), ExitStatus::succeeded, "--strict"), "");
+    EXPECT_EQ(check(document(""), ExitStatus::succeeded, "--json"), "[]\n");
 }
 
 TEST_F(CommandLineTest, NamesTheLineAndTheKey) {
@@ -97,7 +50,7 @@ TEST_F(CommandLineTest, WarnsOfWhatIsIgnoredInSilence) {
                                       "<key>OnScren</key><string>Simple</string>\n"
                                       "<key>OnScreen</key><string>Simple</string></dict>\n");
     EXPECT_EQ(
-        check(file, ExitStatus::wouldRun),
+        check(file, ExitStatus::succeeded),
         "x.plist:3: warning: Admin.IsAdminModeEnabled: The key 'IsAdminModeEnabled' is given more than once; "
         "the last one counts\n"
         "x.plist:5: warning: Window.OnScren: Unknown key 'OnScren' (did you mean 'OnScreen'?)\n");
@@ -155,7 +108,7 @@ TEST_F(CommandLineTest, ChecksEveryFileAndItsAdmission) {
     ASSERT_EQ(::chmod(good.c_str(), 0646), 0);
     EXPECT_THAT(run({"check", good}, ExitStatus::refused),
                 HasSubstr("\ngood.plist: note: Config file at 'good.plist' has the following invalid "));
-    EXPECT_EQ(run({"check", "--no-admission", good}, ExitStatus::wouldRun), "");
+    EXPECT_EQ(run({"check", "--no-admission", good}, ExitStatus::succeeded), "");
 }
 
 TEST_F(CommandLineTest, LeavesNothingInAFileToSteerTheTerminal) {
@@ -183,7 +136,7 @@ TEST_F(CommandLineTest, StopsAtAThousandWarnings) {
     for (int key = 0; key < 1234; ++key) {
         keys += fmt::format("<key>Unknown{}</key><true/>\n", key);
     }
-    const std::string text = check(document(keys), ExitStatus::wouldRun);
+    const std::string text = check(document(keys), ExitStatus::succeeded);
     EXPECT_EQ(std::ranges::count(text, '\n'), 1001);
     EXPECT_THAT(text, EndsWith("\nx.plist: note: and 234 more\n"));
     const std::string bad = fmt::format("<plist><dict>\n{}</dict></plist>", keys);
@@ -191,18 +144,35 @@ TEST_F(CommandLineTest, StopsAtAThousandWarnings) {
 }
 
 TEST_F(CommandLineTest, FailsWhenTheOutputCannotBeWritten) {
-    std::ofstream out("/dev/full");
-    std::ostringstream err;
-    EXPECT_EQ(runCommandLine({"check", directory_.path("x")}, authority_, out, err), ExitStatus::failed);
-    EXPECT_EQ(err.str(), "velmarctl: The output could not be written.\n");
+    const std::vector<std::string> commands[] = {{"check", directory_.path("x")}, {"eval", "--batch"}};
+    for (const auto &arguments : commands) {
+        std::ofstream out("/dev/full");
+        std::istringstream in("{}\n{}\n");
+        std::ostringstream err;
+        EXPECT_EQ(runCommandLine(arguments, {authority_, in, out, err}), ExitStatus::failed);
+        EXPECT_EQ(err.str(), "velmarctl: The output could not be written.\n");
+    }
 }
 
 TEST_F(CommandLineTest, ExplainsItsUse) {
-    EXPECT_THAT(run({"--help"}, ExitStatus::wouldRun), HasSubstr("check"));
-    EXPECT_THAT(run({"check", "--help"}, ExitStatus::wouldRun), HasSubstr("--no-admission"));
-    EXPECT_THAT(run({"--version"}, ExitStatus::wouldRun),
+    EXPECT_THAT(run({"--help"}, ExitStatus::succeeded), HasSubstr("check"));
+    EXPECT_THAT(run({"check", "--help"}, ExitStatus::succeeded), HasSubstr("--no-admission"));
+    EXPECT_THAT(run({"--version"}, ExitStatus::succeeded),
                 MatchesRegex("velmarctl [0-9.]+ \\(configuration Velmar-[0-9.]+\\)\n"));
-    const std::vector<std::string> wrongUses[] = {{}, {"check"}, {"chek", "x"}, {"check", "--foo", "x"}};
+    const std::vector<std::string> wrongUses[] = {
+        {},
+        {"check"},
+        {"chek", "x"},
+        {"check", "--foo", "x"},
+        {"eval"},
+        {"eval", "AB", "CD"},
+        {"eval", "AB", "--var", "AB"},
+        {"eval", "AB", "--var"},
+        {"eval", "AB", "--var", "AB=1", "CD=2"},
+        {"eval", "AB", "--no-admission"},
+        {"eval", "AB", "--batch"},
+        {"eval", "--batch", "--explain"},
+    };
     for (const auto &wrong : wrongUses) {
         EXPECT_THAT(run(wrong, ExitStatus::failed), IsEmpty());
         EXPECT_FALSE(complaints_.empty());

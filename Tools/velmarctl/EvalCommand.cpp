@@ -1,0 +1,90 @@
+#include <EvalCommand.h>
+
+#include <BatchEvaluation.h>
+#include <ConfigurationCheck.h>
+#include <EvaluationContext.h>
+#include <Explanation.h>
+#include <PrintableText.h>
+
+#include <Foundation/LocalizedError.h>
+
+#include <CLI/CLI.hpp>
+
+namespace velmar {
+
+EvalCommand::EvalCommand(CLI::App &commandLine)
+    : Command(commandLine, "eval", "Say whether a condition holds") {
+    CLI::Option *expression = options().add_option("EXPRESSION", expression_, "The condition");
+    options()
+        .add_option("--var", variables_, "Give a variable a value; wins over the configuration")
+        ->type_name("NAME=VALUE")
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+        ->allow_extra_args(false)
+        ->check([](const std::string &text) {
+            return text.find('=') == std::string::npos ? "NAME=VALUE has no '='" : std::string();
+        });
+    CLI::Option *configuration = options()
+                                     .add_option("--config", configuration_,
+                                                 "Take the variables and named conditions of a configuration")
+                                     ->type_name("FILE");
+    options()
+        .add_flag("--no-admission", noAdmission_, "Leave the file's owner and permissions out")
+        ->needs(configuration);
+    CLI::Option *explain = options().add_flag("--explain", explain_, "Print the value of each part");
+    CLI::Option *batch =
+        options()
+            .add_flag("--batch", batch_, "Answer the JSON objects of standard input, one a line")
+            ->excludes(expression)
+            ->excludes(explain);
+    options().callback([expression, batch] {
+        if (expression->empty() && batch->empty()) {
+            throw CLI::RequiredError("EXPRESSION or --batch");
+        }
+    });
+}
+
+ExitStatus EvalCommand::run(const Surroundings &surroundings) const {
+    EvaluationContext context;
+    if (configuration_) {
+        const ConfigurationCheck check({.admission = !noAdmission_}, surroundings.authority);
+        auto [diagnostics, configuration] = check.check(*configuration_);
+        if (!configuration) {
+            writeText(surroundings.err, diagnostics);
+            return ExitStatus::refused;
+        }
+        context = EvaluationContext(std::move(configuration));
+    }
+    for (const std::string &variable : variables_) {
+        const std::size_t end = variable.find('=');
+        context.set(variable.substr(0, end), variable.substr(end + 1));
+    }
+    if (batch_) {
+        answerBatch(surroundings.in, surroundings.out, context);
+        return ExitStatus::succeeded;
+    }
+    return evaluate(context, surroundings);
+}
+
+ExitStatus EvalCommand::evaluate(const EvaluationContext &context, const Surroundings &surroundings) const {
+    std::string failure;
+    try {
+        const expressions::Expression expression(expression_);
+        const Evaluation evaluation = context.evaluate(expression);
+        if (explain_) {
+            writeExplanation(surroundings.out, expression, evaluation, context);
+        }
+        if (evaluation.value) {
+            surroundings.out << (*evaluation.value ? "true\n" : "false\n");
+            return ExitStatus::succeeded;
+        }
+        failure = evaluation.failure;
+    } catch (const LocalizedError &error) {
+        failure = error.errorDescription();
+    }
+    surroundings.out.flush(); // What was explained stands before its end.
+    surroundings.err << printable(failure, "\n    ") << '\n';
+    return ExitStatus::refused;
+}
+
+} // namespace velmar

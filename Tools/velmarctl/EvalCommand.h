@@ -1,0 +1,32 @@
+#pragma once
+
+#include <Command.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace velmar {
+
+class EvaluationContext;
+
+/// "velmarctl eval": says what a condition gives, and why.
+class EvalCommand final : public Command {
+public:
+    explicit EvalCommand(CLI::App &commandLine);
+
+    [[nodiscard]] ExitStatus run(const Surroundings &surroundings) const override;
+
+private:
+    [[nodiscard]] ExitStatus evaluate(const EvaluationContext &context,
+                                      const Surroundings &surroundings) const;
+
+    std::string expression_;
+    std::vector<std::string> variables_; // NAME=VALUE
+    std::optional<std::string> configuration_;
+    bool noAdmission_ = false;
+    bool explain_ = false;
+    bool batch_ = false;
+};
+
+} // namespace velmar
