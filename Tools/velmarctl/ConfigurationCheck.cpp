@@ -1,5 +1,8 @@
 #include <ConfigurationCheck.h>
 
+#include <DoubtfulConditions.h>
+#include <UnusedNames.h>
+
 #include <Configuration/Configuration.h>
 #include <Configuration/DecodingNotes.h>
 #include <Foundation/FileManager.h>
@@ -102,6 +105,14 @@ std::shared_ptr<const Configuration> decode(const ConfigurationFile &file,
         configuration = Configuration::decode(document.value, &notes);
     } catch (const LocalizedError &error) {
         refusal = error.errorDescription();
+    }
+    if (configuration) {
+        for (auto &found :
+             {unusedNames(document.value, *configuration, notes), doubtfulConditions(*configuration)}) {
+            for (const UsageWarning &warning : found) {
+                add(Severity::warning, warning.keyPath, warning.offset, warning.message);
+            }
+        }
     }
     for (auto &note : notes.notes) {
         add(Severity::warning, std::move(note.keyPath), note.offset, std::move(note.message));

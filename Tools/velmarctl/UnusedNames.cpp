@@ -1,0 +1,106 @@
+#include <UnusedNames.h>
+
+#include <Configuration/Configuration.h>
+#include <Configuration/DecodingNotes.h>
+#include <Configuration/Populatable.h>
+#include <Foundation/PropertyList.h>
+
+#include <boost/unordered/unordered_flat_set.hpp>
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+namespace velmar {
+
+namespace {
+
+class NamesInUse {
+public:
+    NamesInUse(const Configuration &configuration, const DecodingNotes &notes) {
+        names_.insert(configuration.declaredVariables.begin(), configuration.declaredVariables.end());
+        for (const auto &record : configuration.variablesRecords.records) {
+            names_.insert(record.variables.begin(), record.variables.end());
+        }
+        for (const auto &note : notes.notes) {
+            if (note.kind == DecodingNotes::Kind::unknownKey) {
+                unknownKeys_.insert(note.offset);
+            }
+        }
+    }
+
+    void collect(const PropertyList &value, bool isKnown) {
+        if (const std::string *text = value.string()) {
+            addReferences(*text);
+            if (!isKnown) {
+                addBareNames(*text);
+            }
+        } else if (const PropertyList::Array *array = value.array()) {
+            for (const PropertyList &element : *array) {
+                collect(element, isKnown);
+            }
+        } else if (const PropertyList::Dictionary *dictionary = value.dictionary()) {
+            for (const auto &entry : *dictionary) {
+                if (!isKnown) {
+                    addBareNames(entry.key);
+                }
+                collect(entry.value, isKnown && !unknownKeys_.contains(entry.keyOffset));
+            }
+        }
+    }
+
+    [[nodiscard]] bool contains(std::string_view name) const { return names_.contains(name); }
+
+private:
+    void addReferences(std::string_view text) {
+        VariableNames names = usedVariables(text);
+        names_.insert(names.begin(), names.end());
+    }
+
+    // Whatever may be meant: the whole text, its words, and these without what follows a "-".
+    void addBareNames(std::string_view text) {
+        names_.emplace(text);
+        addWords(text, "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_");
+        addWords(text, "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_-");
+    }
+
+    void addWords(std::string_view text, std::string_view letters) {
+        for (std::size_t begin = text.find_first_of(letters); begin != std::string_view::npos;) {
+            const std::size_t end = std::min(text.find_first_not_of(letters, begin), text.size());
+            names_.emplace(text.substr(begin, end - begin));
+            begin = text.find_first_of(letters, end);
+        }
+    }
+
+    boost::unordered_flat_set<std::string, VariableNameHash, VariableNameEqual> names_;
+    boost::unordered_flat_set<std::uint32_t> unknownKeys_;
+};
+
+} // namespace
+
+std::vector<UsageWarning> unusedNames(const PropertyList &file, const Configuration &configuration,
+                                      const DecodingNotes &notes) {
+    NamesInUse names(configuration, notes);
+    names.collect(file, true);
+    std::vector<UsageWarning> warnings;
+    const auto warn = [&](const PropertyList *book, std::string_view path, std::string_view kind) {
+        if (book == nullptr) {
+            return;
+        }
+        for (const auto &entry : *book->dictionary()) {
+            if (!names.contains(entry.key)) {
+                warnings.push_back({fmt::format("{}.{}", path, entry.key), entry.keyOffset,
+                                    fmt::format("Nothing uses the {} '{}'", kind, entry.key)});
+            }
+        }
+    };
+    const PropertyList::Dictionary &root = *file.dictionary();
+    if (const PropertyList *general = root.find("General")) {
+        warn(general->dictionary()->find("Variables"), "General.Variables", "variable");
+    }
+    warn(root.find("Conditions"), "Conditions", "condition");
+    return warnings;
+}
+
+} // namespace velmar

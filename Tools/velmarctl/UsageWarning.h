@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace velmar {
+
+/// Something about the variables and conditions of an admitted file that can hardly be meant.
+struct UsageWarning {
+    std::string keyPath;
+    std::uint32_t offset = 0; ///< As PropertyList::offset().
+    std::string message;
+};
+
+} // namespace velmar
