@@ -1,4 +1,5 @@
 #include <Extensions/Evaluatable.h>
+#include <Managers/Content.h>
 
 #include <Support/RecordedLog.h>
 
@@ -81,34 +82,45 @@ TEST_F(EvaluatableTest, TellsWhatAConditionDependsOn) {
     EXPECT_THAT(involvedVariables(Expression("READY")), ElementsAre("READY"));
 }
 
-TEST_F(EvaluatableTest, SeesVariablesAndConditionsOfOneMoment) {
-    use({{"ZERO", Expression("NUMBER == 0")}, {"ONE", Expression("NUMBER == 1")}});
-    manager_->updateVariable("NUMBER", "0", false);
-    std::atomic<bool> isOver{false};
-    std::atomic<int> evaluations{0};
-    std::atomic<int> wrong{0};
-    const auto read = [&] {
-        const Expression always("(ZERO && NUMBER == 0) || (ONE && NUMBER == 1)");
-        while (!isOver) {
+TEST_F(EvaluatableTest, GivesAHundredObserversOfTwoWritingThreadsOneMoment) {
+    // A thread writes first Y, then X: what stands in the brackets holds in every single moment, if
+    // conditions and variables are both of it.
+    struct Reader final : ContentObserver {
+        void variableDidChange(std::string_view, const std::optional<std::string> &,
+                               const std::string &) override {
             wrong += evaluate(always) ? 0 : 1;
-            ++evaluations;
-            evaluations.notify_one();
+            ++notices;
+        }
+        Expression always{"(E1 && Y1 == X1 || A1 && Y1 > X1) && (E2 && Y2 == X2 || A2 && Y2 > X2)"};
+        std::atomic<int> notices{0};
+        std::atomic<int> wrong{0};
+    };
+    manager_->updateVariables({{"X1", "0"}, {"Y1", "0"}, {"X2", "0"}, {"Y2", "0"}});
+    use({{"E1", Expression("Y1 == X1")},
+         {"A1", Expression("Y1 > X1")},
+         {"E2", Expression("Y2 == X2")},
+         {"A2", Expression("Y2 > X2")}});
+    std::vector<std::shared_ptr<Reader>> readers;
+    for (int i = 0; i < 101; ++i) {
+        readers.push_back(std::make_shared<Reader>());
+        manager_->addObserver(UUID(), readers.back());
+    }
+    constexpr int writes = 25;
+    const auto write = [&](const std::string &thread) {
+        for (int i = 1; i <= writes; ++i) {
+            Content passing(manager_);
+            passing.subscribe(readers.front());
+            passing.updateVariable("Y" + thread, std::to_string(i), false);
+            passing.updateVariable("X" + thread, std::to_string(i), false);
         }
     };
-    std::vector<std::thread> readers;
-    for (int i = 0; i < 2; ++i) {
-        readers.emplace_back(read);
+    std::thread other(write, "1");
+    write("2");
+    other.join();
+    for (const auto &reader : readers) {
+        EXPECT_EQ(reader->wrong, 0);
+        EXPECT_TRUE(reader->notices == 4 * writes || reader == readers.front()) << reader->notices;
     }
-    for (int write = 1; write < 50; ++write) {
-        const int before = evaluations;
-        manager_->updateVariable("NUMBER", write % 2 == 0 ? "0" : "1", false);
-        evaluations.wait(before);
-    }
-    isOver = true;
-    for (std::thread &reader : readers) {
-        reader.join();
-    }
-    EXPECT_EQ(wrong, 0);
 }
 
 } // namespace
