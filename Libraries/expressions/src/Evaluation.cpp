@@ -1,79 +1,93 @@
-#include "Overloaded.h"
 #include "Plan.h"
 
 #include <Foundation/NumberText.h>
 
 #include <array>
+#include <cstring>
 
 namespace velmar::expressions {
 
 namespace {
 
-std::optional<bool> booleanOf(std::string_view text) noexcept {
-    if (text == "true")
+// Compared in place, as the length is known.
+template <std::size_t size>
+bool isWord(std::string_view text, const char (&word)[size]) noexcept {
+    return text.size() == size - 1 && std::memcmp(text.data(), word, size - 1) == 0;
+}
+
+inline std::optional<bool> booleanOf(std::string_view text) noexcept {
+    if (isWord(text, "true"))
         return true;
-    if (text == "false")
+    if (isWord(text, "false"))
         return false;
     return std::nullopt;
 }
 
-const std::string &valueOf(Plan::Name variable, const VariableLookup &variables) {
-    const std::string *value = variables.find(variable.name);
+const std::string &valueOf(const Plan::Name &variable, const VariableLookup &variables) {
+    const std::string *value = variables.find(variable);
     if (value == nullptr)
         throw ExpressionError(ExpressionErrors::UndefinedVariable{std::string(variable.name)});
     return *value;
 }
 
-bool evaluate(const Plan::Single &single, const VariableLookup &variables) {
-    const auto boolean = booleanOf(valueOf(single.variable, variables));
-    if (!boolean)
-        throw ExpressionError(ExpressionErrors::InvalidGrammar{
-            "Trying to evaluate a single variable which has not a boolean value: " +
-            std::string(single.variable.name)});
-    return *boolean;
+bool evaluate(const Plan::Failure &failure, const VariableLookup & /*variables*/) {
+    throw ExpressionError(failure.error);
 }
 
-bool compare(Operator comparison, const Value &left, const Value &right) {
+bool evaluate(const Plan::Single &single, const VariableLookup &variables) {
+    if (const auto boolean = booleanOf(valueOf(single.variable, variables)))
+        return *boolean;
+    throw ExpressionError(ExpressionErrors::InvalidGrammar{
+        "Trying to evaluate a single variable which has not a boolean value: " +
+        std::string(single.variable.name)});
+}
+
+template <class T>
+bool compare(Operator comparison, T left, T right) {
     const auto result = comparison.evaluate(left, right);
     if (!result)
         throw ExpressionError(ExpressionErrors::WrongOperatorAndOperandsAssociation{});
     return *result;
 }
 
-bool compareValues(Operator comparison, const std::string &left, const std::string &right) {
+bool evaluate(const Plan::Comparison<Plan::Name> &comparison, const VariableLookup &variables) {
+    const std::string &left = valueOf(comparison.variable, variables);
+    // Unlike the left one, a right variable may be missing.
+    const std::string *right = variables.find(comparison.other);
+    if (right == nullptr)
+        return false;
     const auto leftNumber = numberOf(left);
-    if (const auto rightNumber = leftNumber ? numberOf(right) : std::nullopt)
-        return compare(comparison, *leftNumber, *rightNumber);
+    if (const auto rightNumber = leftNumber ? numberOf(*right) : std::nullopt)
+        return compare(comparison.comparison, *leftNumber, *rightNumber);
     const auto leftBoolean = booleanOf(left);
-    if (const auto rightBoolean = leftBoolean ? booleanOf(right) : std::nullopt)
-        return compare(comparison, *leftBoolean, *rightBoolean);
-    return compare(comparison, std::string_view(left), std::string_view(right));
+    if (const auto rightBoolean = leftBoolean ? booleanOf(*right) : std::nullopt)
+        return compare(comparison.comparison, *leftBoolean, *rightBoolean);
+    return compare<std::string_view>(comparison.comparison, left, *right);
 }
 
-bool evaluate(const Plan::Comparison &comparison, const VariableLookup &variables) {
-    const std::string &text = valueOf(comparison.variable, variables);
-    const auto withLiteral = [&](const std::optional<Value> &value, const Value &literal) {
-        if (!value)
-            throw ExpressionError(ExpressionErrors::MismatchingType{});
-        return comparison.isReversed ? compare(comparison.comparison, literal, *value)
-                                     : compare(comparison.comparison, *value, literal);
-    };
-    return std::visit(Overloaded{
-                          [&](Plan::Name name) {
-                              // Unlike the left one, a right variable may be missing.
-                              const std::string *other = variables.find(name.name);
-                              return other != nullptr && compareValues(comparison.comparison, text, *other);
-                          },
-                          [&](const std::string &literal) {
-                              return withLiteral(std::string_view(text), std::string_view(literal));
-                          },
-                          [&](double literal) { return withLiteral(numberOf(text), literal); },
-                          [&](bool literal) { return withLiteral(booleanOf(text), literal); },
-                      },
-                      comparison.other);
+template <class Literal, class Kind>
+bool compareWithLiteral(const Plan::Comparison<Literal> &comparison, const std::optional<Kind> &value) {
+    if (!value)
+        throw ExpressionError(ExpressionErrors::MismatchingType{});
+    const Kind literal = comparison.other;
+    return comparison.isReversed ? compare(comparison.comparison, literal, *value)
+                                 : compare(comparison.comparison, *value, literal);
 }
 
-/// Runs through the operations, with one reduction for each open level of brackets.
+bool evaluate(const Plan::Comparison<std::string> &comparison, const VariableLookup &variables) {
+    return compareWithLiteral<std::string, std::string_view>(comparison,
+                                                             valueOf(comparison.variable, variables));
+}
+
+bool evaluate(const Plan::Comparison<double> &comparison, const VariableLookup &variables) {
+    return compareWithLiteral(comparison, numberOf(valueOf(comparison.variable, variables)));
+}
+
+bool evaluate(const Plan::Comparison<bool> &comparison, const VariableLookup &variables) {
+    return compareWithLiteral(comparison, booleanOf(valueOf(comparison.variable, variables)));
+}
+
+/// Goes through the clauses, with one reduction for each open level of brackets.
 class Evaluation {
 public:
     Evaluation(std::size_t levels, const VariableLookup &variables, std::vector<Step> *steps)
@@ -84,38 +98,37 @@ public:
         }
     }
 
-    template <class Test>
-    void operator()(const Test &test) {
-        begin(test.part);
-        boolean_ = evaluate(test, variables_);
-        if (steps_ != nullptr)
-            steps_->back().result = boolean_;
-    }
-    void operator()(LogicOperator logicOperator) { level_->add({boolean_, logicOperator}); }
-    void operator()(Bracket bracket) {
-        if (bracket == Bracket::opening) {
+    void add(const Plan::Clause &clause) {
+        for (std::size_t bracket = 0; bracket < clause.opening; ++bracket)
             *++level_ = Reduction();
-        } else {
-            boolean_ = last();
+        boolean_ = valueOf(clause.test);
+        for (std::size_t bracket = 0; bracket < clause.closing; ++bracket) {
+            boolean_ = finished();
             --level_;
         }
-    }
-    void operator()(const Plan::Failure &failure) {
-        if (failure.part.count > 0)
-            begin(failure.part);
-        throw ExpressionError(failure.error);
+        if (clause.logicOperator)
+            level_->add({boolean_, clause.logicOperator});
     }
 
-    [[nodiscard]] bool last() {
-        level_->add({boolean_, std::nullopt});
-        return level_->result();
+    [[nodiscard]] bool result(bool endsWithOperator) {
+        return endsWithOperator ? level_->result() : finished();
     }
-    [[nodiscard]] bool afterOperator() const { return level_->result(); }
 
 private:
-    void begin(Plan::Part part) {
-        if (steps_ != nullptr)
+    [[nodiscard]] bool valueOf(const Plan::Test &test) {
+        if (steps_ == nullptr) [[likely]]
+            return std::visit([this](const auto &each) { return evaluate(each, variables_); }, test);
+        const auto part = std::visit([](const auto &each) { return each.part; }, test);
+        if (part.count > 0)
             steps_->push_back({part.first, part.count, std::nullopt});
+        const bool value = std::visit([this](const auto &each) { return evaluate(each, variables_); }, test);
+        steps_->back().result = value;
+        return value;
+    }
+
+    [[nodiscard]] bool finished() {
+        level_->add({boolean_, std::nullopt});
+        return level_->result();
     }
 
     const VariableLookup &variables_;
@@ -132,9 +145,9 @@ bool Plan::run(const VariableLookup &variables, std::vector<Step> *steps) const 
     if (steps != nullptr)
         steps->clear();
     Evaluation evaluation(levels_, variables, steps);
-    for (const Operation &operation : operations_)
-        std::visit([&](const auto &each) { evaluation(each); }, operation);
-    return endsWithOperator_ ? evaluation.afterOperator() : evaluation.last();
+    for (const Clause &clause : clauses_)
+        evaluation.add(clause);
+    return evaluation.result(clauses_.back().logicOperator.has_value());
 }
 
 } // namespace velmar::expressions

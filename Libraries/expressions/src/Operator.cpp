@@ -12,10 +12,6 @@ namespace velmar::expressions {
 
 namespace {
 
-bool isEqual(std::string_view left, std::string_view right) {
-    return UnicodeText::isEqual(left, right);
-}
-
 bool isDifferent(std::string_view left, std::string_view right) {
     return !UnicodeText::isEqual(left, right);
 }
@@ -52,48 +48,22 @@ bool listHolds(std::string_view list, std::string_view wanted) {
 
 } // namespace
 
-// A null function is no result.
-struct Operator::Row {
-    std::string_view description;
-    bool (*texts)(std::string_view, std::string_view);
-    bool (*numbers)(double, double) = nullptr;
-    bool (*booleans)(bool, bool) = nullptr;
-};
-
 std::span<const Operator> Operator::all() noexcept {
     static constexpr std::array<Row, 9> rows = {{
-        {"==", isEqual, holds<std::equal_to<>, double>, holds<std::equal_to<>, bool>},
-        {"!=", isDifferent, holds<std::not_equal_to<>, double>, holds<std::not_equal_to<>, bool>},
-        {">", isOrdered<std::greater<>>, holds<std::greater<>, double>},
-        {">=", isOrdered<std::greater_equal<>>, holds<std::greater_equal<>, double>},
-        {"<", isOrdered<std::less<>>, holds<std::less<>, double>},
-        {"<=", isOrdered<std::less_equal<>>, holds<std::less_equal<>, double>},
-        {"<:", listHolds},
-        {"~=", UnicodeText::hasPrefix},
-        {"=~", UnicodeText::hasSuffix},
+        {"==", {UnicodeText::isEqual, holds<std::equal_to<>, double>, holds<std::equal_to<>, bool>}},
+        {"!=", {isDifferent, holds<std::not_equal_to<>, double>, holds<std::not_equal_to<>, bool>}},
+        {">", {isOrdered<std::greater<>>, holds<std::greater<>, double>, nullptr}},
+        {">=", {isOrdered<std::greater_equal<>>, holds<std::greater_equal<>, double>, nullptr}},
+        {"<", {isOrdered<std::less<>>, holds<std::less<>, double>, nullptr}},
+        {"<=", {isOrdered<std::less_equal<>>, holds<std::less_equal<>, double>, nullptr}},
+        {"<:", {listHolds, nullptr, nullptr}},
+        {"~=", {UnicodeText::hasPrefix, nullptr, nullptr}},
+        {"=~", {UnicodeText::hasSuffix, nullptr, nullptr}},
     }};
     static constexpr std::array<Operator, 9> operators = {
         Operator(rows[0]), Operator(rows[1]), Operator(rows[2]), Operator(rows[3]), Operator(rows[4]),
         Operator(rows[5]), Operator(rows[6]), Operator(rows[7]), Operator(rows[8])};
     return operators;
-}
-
-std::string_view Operator::description() const noexcept {
-    return row_->description;
-}
-
-std::optional<bool> Operator::evaluate(const Value &left, const Value &right) const {
-    const auto apply = [&](auto function, const auto *one) -> std::optional<bool> {
-        const auto *other = std::get_if<std::remove_cvref_t<decltype(*one)>>(&right);
-        if (function == nullptr || other == nullptr)
-            return std::nullopt;
-        return function(*one, *other);
-    };
-    if (const auto *text = std::get_if<std::string_view>(&left))
-        return apply(row_->texts, text);
-    if (const auto *number = std::get_if<double>(&left))
-        return apply(row_->numbers, number);
-    return apply(row_->booleans, std::get_if<bool>(&left));
 }
 
 std::span<const LogicOperator> LogicOperator::all() noexcept {

@@ -1,5 +1,7 @@
 #include "Plan.h"
 
+#include "Overloaded.h"
+
 #include <Foundation/UnicodeText.h>
 
 #include <algorithm>
@@ -19,7 +21,7 @@ ExpressionError invalidGrammar(std::string text) {
     return ExpressionErrors::InvalidGrammar{std::move(text)};
 }
 
-Plan::Operation singleAt(const Elements &elements, std::size_t first) {
+Plan::Test singleAt(const Elements &elements, std::size_t first) {
     const Plan::Part part{first, 1};
     const auto *operand = std::get_if<Operand>(&elements[first]);
     const std::string *variable = operand != nullptr ? operand->variable() : nullptr;
@@ -27,20 +29,10 @@ Plan::Operation singleAt(const Elements &elements, std::size_t first) {
         return Plan::Failure{part,
                              invalidGrammar("Trying to evaluate a single element which is not a variable: " +
                                             description(elements[first]))};
-    return Plan::Single{part, {*variable}};
+    return Plan::Single{part, Plan::Name(*variable)};
 }
 
-decltype(Plan::Comparison::other) otherOf(const Operand &operand) {
-    if (const std::string *variable = operand.variable())
-        return Plan::Name{*variable};
-    if (const auto *string = std::get_if<Operand::String>(&operand.value))
-        return UnicodeText::composed(string->text);
-    if (const auto *number = std::get_if<double>(&operand.value))
-        return *number;
-    return std::get<bool>(operand.value);
-}
-
-Plan::Operation comparisonAt(const Elements &elements, std::size_t first) {
+Plan::Test comparisonAt(const Elements &elements, std::size_t first) {
     const Plan::Part part{first, std::min<std::size_t>(3, elements.size() - first)};
     const auto failure = [&](const char *text) { return Plan::Failure{part, invalidExpression(text)}; };
     if (part.count < 3)
@@ -58,69 +50,77 @@ Plan::Operation comparisonAt(const Elements &elements, std::size_t first) {
         return Plan::Failure{part, invalidExpression("Trying to evaluate a comparison which doesn't have at "
                                                      "least one variable for operand: " +
                                                      description(*left) + ", " + description(*right))};
-    return Plan::Comparison{part,
-                            std::get<Operator>(elements[first + 1]),
-                            {*variable},
-                            otherOf(isReversed ? *left : *right),
-                            isReversed};
+    const auto comparedWith = [&]<class Other>(Other other) -> Plan::Test {
+        return Plan::Comparison<Other>{part, std::get<Operator>(elements[first + 1]), Plan::Name(*variable),
+                                       std::move(other), isReversed};
+    };
+    return std::visit(
+        Overloaded{
+            [&](const Operand::Variable &other) { return comparedWith(Plan::Name(other.name)); },
+            [&](const Operand::String &string) { return comparedWith(UnicodeText::composed(string.text)); },
+            [&](auto literal) { return comparedWith(literal); },
+        },
+        (isReversed ? left : right)->value);
 }
 
-// What may stand at the beginning and behind an operator or an opening bracket.
-Plan::Operation valueAt(const Elements &elements, std::size_t first) {
-    const auto *bracket = std::get_if<Bracket>(&elements[first]);
-    if (bracket != nullptr && *bracket == Bracket::opening)
-        return *bracket;
+Plan::Test testAt(const Elements &elements, std::size_t first) {
     const bool isCompared =
         first + 1 < elements.size() && std::holds_alternative<Operator>(elements[first + 1]);
     return isCompared ? comparisonAt(elements, first) : singleAt(elements, first);
 }
 
-// What may stand behind a value.
-Plan::Operation linkAt(const ExpressionElement &element, bool isBehindBracket, std::size_t level) {
-    if (const auto *logicOperator = std::get_if<LogicOperator>(&element))
-        return *logicOperator;
-    if (const auto *bracket = std::get_if<Bracket>(&element);
-        bracket != nullptr && *bracket == Bracket::closing) {
-        if (level == 0)
-            return Plan::Failure{{}, ExpressionErrors::UnbalancedBrackets{}};
-        return *bracket;
-    }
-    return Plan::Failure{
-        {},
-        isBehindBracket
-            ? invalidGrammar("Chaining a closing bracket with " + description(element) + " is invalid")
-            : invalidExpression("Chaining a boolean with " + description(element) + " is invalid")};
-}
-
-std::size_t lengthOf(const Plan::Operation &operation) {
-    const auto *comparison = std::get_if<Plan::Comparison>(&operation);
-    return comparison != nullptr ? comparison->part.count : 1;
+std::size_t lengthOf(const Plan::Test &test) {
+    return std::visit([](const auto &each) { return each.part.count; }, test);
 }
 
 } // namespace
 
 Plan::Plan(const Elements &elements) {
-    bool expectsValue = true;
-    bool isBehindBracket = false;
+    std::size_t next = 0;
     std::size_t level = 0;
-    for (std::size_t next = 0; next < elements.size(); next += lengthOf(operations_.back())) {
-        const Operation &operation = operations_.emplace_back(
-            expectsValue ? valueAt(elements, next) : linkAt(elements[next], isBehindBracket, level));
-        if (std::holds_alternative<Failure>(operation))
+    const auto isAt = [&](Bracket bracket) {
+        return next < elements.size() && elements[next] == ExpressionElement(bracket);
+    };
+    const auto failure = [](ExpressionError error) { return Clause{.test = Failure{{}, std::move(error)}}; };
+    while (next < elements.size()) {
+        std::size_t opening = 0;
+        for (; isAt(Bracket::opening); ++next)
+            ++opening;
+        level += opening;
+        levels_ = std::max(levels_, level + 1);
+        if (next == elements.size())
+            break;
+
+        Clause &clause = clauses_.emplace_back(Clause{.opening = opening, .test = testAt(elements, next)});
+        if (std::holds_alternative<Failure>(clause.test))
             return;
-        const auto *bracket = std::get_if<Bracket>(&operation);
-        const bool isOpening = bracket != nullptr && *bracket == Bracket::opening;
-        isBehindBracket = bracket != nullptr && !isOpening;
-        expectsValue = isOpening || std::holds_alternative<LogicOperator>(operation);
-        if (isOpening)
-            levels_ = std::max(levels_, ++level + 1);
-        else if (isBehindBracket)
-            --level;
+        next += lengthOf(clause.test);
+
+        for (; isAt(Bracket::closing); ++next) {
+            if (clause.closing == level) {
+                clauses_.push_back(failure(ExpressionErrors::UnbalancedBrackets{}));
+                return;
+            }
+            ++clause.closing;
+        }
+        level -= clause.closing;
+        if (next == elements.size())
+            break;
+
+        const auto *logicOperator = std::get_if<LogicOperator>(&elements[next]);
+        if (logicOperator == nullptr) {
+            const std::string rest = " with " + description(elements[next]) + " is invalid";
+            clauses_.push_back(failure(clause.closing > 0
+                                           ? invalidGrammar("Chaining a closing bracket" + rest)
+                                           : invalidExpression("Chaining a boolean" + rest)));
+            return;
+        }
+        clause.logicOperator = *logicOperator;
+        ++next;
     }
     if (level > 0)
-        operations_.emplace_back(
-            Failure{{}, invalidExpression("Unable to flatten the expression for an uncaught error")});
-    endsWithOperator_ = expectsValue;
+        clauses_.push_back(
+            failure(invalidExpression("Unable to flatten the expression for an uncaught error")));
 }
 
 } // namespace velmar::expressions

@@ -1,10 +1,8 @@
 #include <Foundation/NumberText.h>
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdint>
 #include <locale.h>
 #include <stdlib.h>
 
@@ -15,10 +13,6 @@ namespace {
 locale_t cLocale() noexcept {
     static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
     return locale;
-}
-
-bool isDigit(char character) noexcept {
-    return character >= '0' && character <= '9';
 }
 
 bool isWhiteSpace(char character) noexcept {
@@ -42,18 +36,9 @@ std::string textOf(double number) {
     return text;
 }
 
-std::optional<double> numberOf(const std::string &text) noexcept {
-    constexpr std::size_t exactDigits = 15;
+std::optional<double> numberByLibrary(const std::string &text) noexcept {
     if (text.empty() || isWhiteSpace(text.front())) {
         return std::nullopt;
-    }
-    // Most numbers are short whole ones, which strtod takes three times as long for.
-    if (text.size() <= exactDigits && std::all_of(text.begin(), text.end(), isDigit)) {
-        std::int64_t number = 0;
-        for (const char digit : text) {
-            number = number * 10 + (digit - '0');
-        }
-        return static_cast<double>(number);
     }
     char *end = nullptr;
     const double number = strtod_l(text.c_str(), &end, cLocale());

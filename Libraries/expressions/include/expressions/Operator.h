@@ -4,6 +4,8 @@
 #include <optional>
 #include <span>
 #include <string_view>
+#include <tuple>
+#include <type_traits>
 #include <variant>
 
 namespace velmar::expressions {
@@ -33,14 +35,34 @@ public:
     /// In the declared order: == != > >= < <= <: ~= =~
     [[nodiscard]] static std::span<const Operator> all() noexcept;
 
-    [[nodiscard]] std::string_view description() const noexcept;
+    [[nodiscard]] std::string_view description() const noexcept { return row_->description; }
     /// Absent if the operator says nothing about the two kinds, which it never does where they differ.
-    [[nodiscard]] std::optional<bool> evaluate(const Value &left, const Value &right) const;
+    [[nodiscard]] std::optional<bool> evaluate(const Value &left, const Value &right) const {
+        return std::visit(
+            [this]<class T, class U>(const T &one, const U &other) -> std::optional<bool> {
+                if constexpr (std::is_same_v<T, U>)
+                    return evaluate(one, other);
+                return std::nullopt;
+            },
+            left, right);
+    }
+    /// Two values of one kind.
+    template <class T>
+    [[nodiscard]] std::optional<bool> evaluate(T left, T right) const {
+        const auto function = std::get<bool (*)(T, T)>(row_->functions);
+        return function != nullptr ? std::optional(function(left, right)) : std::nullopt;
+    }
 
     bool operator==(const Operator &) const = default;
 
 private:
-    struct Row;
+    // A null function is no result.
+    struct Row {
+        std::string_view description;
+        std::tuple<bool (*)(std::string_view, std::string_view), bool (*)(double, double),
+                   bool (*)(bool, bool)>
+            functions;
+    };
     constexpr explicit Operator(const Row &row) : row_(&row) {}
 
     const Row *row_; ///< Of the one table.

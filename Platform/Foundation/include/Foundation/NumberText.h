@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -12,6 +14,22 @@ namespace velmar {
 /// The number that a text is as a whole, absent if it is none: what the C library's strtod takes in the C
 /// locale, so that "+5", "0x1F", "nan", "inf" and "1e999" (infinity) are numbers, without white space in
 /// front. Any thread.
-[[nodiscard]] std::optional<double> numberOf(const std::string &text) noexcept;
+[[nodiscard]] inline std::optional<double> numberOf(const std::string &text) noexcept;
+
+/// The same without the short way, which is inline since it takes less time than a call does.
+[[nodiscard]] std::optional<double> numberByLibrary(const std::string &text) noexcept;
+
+inline std::optional<double> numberOf(const std::string &text) noexcept {
+    constexpr std::size_t exactDigits = 15;
+    if (text.empty() || text.size() > exactDigits)
+        return numberByLibrary(text);
+    std::int64_t number = 0;
+    for (const char character : text) {
+        if (character < '0' || character > '9')
+            return numberByLibrary(text);
+        number = number * 10 + (character - '0');
+    }
+    return static_cast<double>(number);
+}
 
 } // namespace velmar
