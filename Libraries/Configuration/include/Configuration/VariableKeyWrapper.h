@@ -7,7 +7,8 @@
 
 namespace velmar {
 
-/// What a key that holds the name of a variable declares: that name, bare.
+/// What a key that holds the name of a variable declares: that name, bare. The key is read by rawValue(),
+/// because for a reader of `${NAME}` the plugins would put the variable's value in its place.
 [[nodiscard]] inline std::vector<std::string> nameOfVariable(const std::string &text) {
     return {std::string(bareVariableName(text))};
 }
