@@ -19,7 +19,7 @@ bool isDifferent(std::string_view left, std::string_view right) {
 template <class Relation>
 bool isOrdered(std::string_view left, std::string_view right) {
     const std::weak_ordering order = UnicodeText::compare(left, right);
-    return Relation()(order < 0 ? -1 : order > 0 ? 1 : 0, 0);
+    return Relation()(std::is_lt(order) ? -1 : std::is_gt(order) ? 1 : 0, 0);
 }
 
 template <class Relation, class T>
@@ -64,6 +64,16 @@ std::span<const Operator> Operator::all() noexcept {
         Operator(rows[0]), Operator(rows[1]), Operator(rows[2]), Operator(rows[3]), Operator(rows[4]),
         Operator(rows[5]), Operator(rows[6]), Operator(rows[7]), Operator(rows[8])};
     return operators;
+}
+
+std::optional<bool> Operator::evaluate(const Value &left, const Value &right) const {
+    if (left.index() != right.index())
+        return std::nullopt;
+    if (const auto *text = std::get_if<std::string_view>(&left))
+        return evaluate(*text, std::get<std::string_view>(right));
+    if (const auto *number = std::get_if<double>(&left))
+        return evaluate(*number, std::get<double>(right));
+    return evaluate(std::get<bool>(left), std::get<bool>(right));
 }
 
 std::span<const LogicOperator> LogicOperator::all() noexcept {

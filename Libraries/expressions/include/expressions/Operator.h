@@ -5,7 +5,6 @@
 #include <span>
 #include <string_view>
 #include <tuple>
-#include <type_traits>
 #include <variant>
 
 namespace velmar::expressions {
@@ -36,22 +35,14 @@ public:
     [[nodiscard]] static std::span<const Operator> all() noexcept;
 
     [[nodiscard]] std::string_view description() const noexcept { return row_->description; }
-    /// Absent if the operator says nothing about the two kinds, which it never does where they differ.
-    [[nodiscard]] std::optional<bool> evaluate(const Value &left, const Value &right) const {
-        return std::visit(
-            [this]<class T, class U>(const T &one, const U &other) -> std::optional<bool> {
-                if constexpr (std::is_same_v<T, U>)
-                    return evaluate(one, other);
-                return std::nullopt;
-            },
-            left, right);
-    }
-    /// Two values of one kind.
+    /// Of two values of one kind; absent if the operator says nothing about that kind.
     template <class T>
     [[nodiscard]] std::optional<bool> evaluate(T left, T right) const {
         const auto function = std::get<bool (*)(T, T)>(row_->functions);
         return function != nullptr ? std::optional(function(left, right)) : std::nullopt;
     }
+    /// Absent also where the kinds differ.
+    [[nodiscard]] std::optional<bool> evaluate(const Value &left, const Value &right) const;
 
     bool operator==(const Operator &) const = default;
 
