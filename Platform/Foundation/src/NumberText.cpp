@@ -28,7 +28,7 @@ std::string textOf(double number) {
 
     std::array<char, 64> buffer{};
     const auto format = isFixed ? std::chars_format::fixed : std::chars_format::scientific;
-    const auto *const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, format).ptr;
+    auto *const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, format).ptr;
     std::string text(buffer.data(), end);
     if (isFixed && text.find('.') == std::string::npos) {
         text += ".0";
