@@ -207,6 +207,28 @@ TEST_F(ContentModel, ShowsTheMenuBarsSlideInItsMode) {
     EXPECT_EQ(takePosted(), (Names{"currentSlideWantsToHideNextButton", "willReachSoleSlideNotification"}));
 }
 
+TEST_F(ContentModel, PublishesWhichSlideIsCurrentAndWhetherItIsValid) {
+    const auto manager = std::make_shared<ContentManager>();
+    const Shared<ContentManager>::Scope scope(manager);
+    start({slide(), slide()});
+    const auto published = [&] {
+        const VariablesSnapshot variables = manager->variables();
+        const auto of = [&](std::string_view name) {
+            const auto found = variables->find(name);
+            return found == variables->end() ? std::string("-") : found->second;
+        };
+        return of("CURRENT_SLIDE_INDEX") + " " + of("CURRENT_SLIDE_VALID");
+    };
+    model->setSelectedIndex(0, false);
+    invalidate();
+    EXPECT_EQ(published(), "0 false");
+    next();
+    EXPECT_EQ(published(), "0 false") << "the user was held back";
+    element->set(true);
+    next();
+    EXPECT_EQ(published(), "1 true");
+}
+
 TEST_F(ContentModel, MakesNoTransitionOnceItsControllerIsGone) {
     start({slide(), slide()});
     next();

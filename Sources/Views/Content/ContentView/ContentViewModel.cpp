@@ -18,14 +18,17 @@ ContentViewModel::ContentViewModel(MainQueue &mainQueue, AppTerminationManagerPr
       settings_(std::move(settings)) {}
 
 void ContentViewModel::setupNotifications() {
+    // The first views may show them.
+    _isCurrentSlideValid.set(_isCurrentSlideValid());
+    _selectedSlideIndex.set(_selectedSlideIndex());
     using namespace NavigationNotifications;
     const auto observe = [this](std::string_view name, NotificationCenter::Handler handler) {
         observers_.push_back(center_.addObserver(std::string(name), std::move(handler)));
     };
     observe(willNavigateToNextSlide, [this] { goToNextSlide(); });
     observe(willNavigateToPreviousSlide, [this] { goToPreviousSlide(); });
-    observe(slideHasInvalidMandatoryElements, [this] { isCurrentSlideValid_ = false; });
-    observe(allMandatoryElementsInSlideAreValid, [this] { isCurrentSlideValid_ = true; });
+    observe(slideHasInvalidMandatoryElements, [this] { _isCurrentSlideValid.set(false); });
+    observe(allMandatoryElementsInSlideAreValid, [this] { _isCurrentSlideValid.set(true); });
 }
 
 std::shared_ptr<const std::vector<SlideItem>> ContentViewModel::slides() const {
@@ -40,7 +43,7 @@ void ContentViewModel::setSelectedIndex(int index, bool notifyingDelegate) {
     if (count == 0 || index > count) {
         return;
     }
-    if (index > selectedSlideIndex_ && !isCurrentSlideValid_) {
+    if (index > _selectedSlideIndex() && !_isCurrentSlideValid()) {
         showWarningsOfCurrentSlide();
         Logger::warning(
             "Transition to the next slides prevented since the slide contains invalid mandatory elements");
@@ -51,7 +54,8 @@ void ContentViewModel::setSelectedIndex(int index, bool notifyingDelegate) {
 }
 
 void ContentViewModel::move(int index, bool notifyingDelegate) {
-    const int old = std::exchange(selectedSlideIndex_, index);
+    const int old = _selectedSlideIndex();
+    _selectedSlideIndex.set(index);
     if (!notifyingDelegate) {
         return;
     }
@@ -65,7 +69,7 @@ void ContentViewModel::move(int index, bool notifyingDelegate) {
 
 void ContentViewModel::announcePosition() {
     const auto present = slides();
-    const auto position = static_cast<std::size_t>(selectedSlideIndex_);
+    const auto position = static_cast<std::size_t>(_selectedSlideIndex());
     if (position >= present->size()) {
         return;
     }
@@ -89,7 +93,7 @@ void ContentViewModel::announcePosition() {
 
 void ContentViewModel::goToPreviousSlide() {
     Logger::debug("Will transition to previous slide");
-    const int target = selectedSlideIndex_ - 1;
+    const int target = _selectedSlideIndex() - 1;
     if (target < 0) {
         Logger::warning("No previous slide to transition to");
     } else {
@@ -99,7 +103,7 @@ void ContentViewModel::goToPreviousSlide() {
 
 void ContentViewModel::goToNextSlide() {
     Logger::debug("Will transition to next slide");
-    const int target = selectedSlideIndex_ + 1;
+    const int target = _selectedSlideIndex() + 1;
     if (target < slidesCount()) {
         setSelectedIndex(target, true);
     } else {
@@ -108,7 +112,7 @@ void ContentViewModel::goToNextSlide() {
 }
 
 void ContentViewModel::tryToQuitApplication() {
-    if (!isCurrentSlideValid_) {
+    if (!_isCurrentSlideValid()) {
         showWarningsOfCurrentSlide();
         Logger::warning("App termination prevented since the slide contains invalid mandatory elements");
         return;

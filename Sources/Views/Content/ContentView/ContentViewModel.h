@@ -4,6 +4,7 @@
 #include <Dispatch/MainQueue.h>
 #include <Foundation/NotificationCenter.h>
 #include <Managers/Config.h>
+#include <Managers/ContentUpdater.h>
 
 #include <cstdint>
 #include <functional>
@@ -71,14 +72,15 @@ public:
 
     /// Where the navigation and the slides tell of themselves.
     [[nodiscard]] NotificationCenter &center() const noexcept { return center_; }
+    [[nodiscard]] MainQueue &mainQueue() const noexcept { return mainQueue_; }
 
-    /// Begins to follow the navigation's notifications.
+    /// Begins to follow the navigation's notifications, and to publish what the model knows.
     void setupNotifications();
 
     /// The slides of the present configuration and mode.
     [[nodiscard]] std::shared_ptr<const std::vector<SlideItem>> slides() const;
-    [[nodiscard]] int selectedSlideIndex() const noexcept { return selectedSlideIndex_; }
-    [[nodiscard]] bool isCurrentSlideValid() const noexcept { return isCurrentSlideValid_; }
+    [[nodiscard]] int selectedSlideIndex() const noexcept { return _selectedSlideIndex(); }
+    [[nodiscard]] bool isCurrentSlideValid() const noexcept { return _isCurrentSlideValid(); }
 
     /// Moves to a slide unless the current one holds the user back, which it does only forward; in either
     /// case the navigation is told how the slide that is current then stands among the others.
@@ -110,8 +112,8 @@ private:
     ContentViewControllerProtocol *controller_ = nullptr;
     ContentViewModelTerminationDelegate *terminationDelegate_ = nullptr;
     std::vector<NotificationCenter::Token> observers_;
-    bool isCurrentSlideValid_ = true;
-    int selectedSlideIndex_ = 0;
+    ContentUpdater<bool> _isCurrentSlideValid{true, GeneralSection::Placeholders::currentSlideValid};
+    ContentUpdater<int> _selectedSlideIndex{0, GeneralSection::Placeholders::currentSlideIndex};
     std::uint64_t transitionGeneration_ = 0; // Transitions of an earlier one are dropped.
 };
 
