@@ -131,10 +131,10 @@ private:
 
 DesktopApplication::DesktopApplication(int &argumentCount, char **arguments)
     : fontLoader_([] { FcInit(); }),
+      appearance_(std::make_unique<DesktopAppearance>()),
       loop_(std::make_unique<Loop>(argumentCount, arguments)),
       mainQueue_(std::make_unique<QtMainQueue>()),
-      timers_(std::make_unique<QtTimerScheduler>()),
-      appearance_(std::make_unique<DesktopAppearance>()) {}
+      timers_(std::make_unique<QtTimerScheduler>()) {}
 
 DesktopApplication::~DesktopApplication() {
     fontLoader_.join();

@@ -43,10 +43,10 @@ private:
     class Loop;
     std::thread fontLoader_; // Beside the making of the loop.
     MainMenu mainMenu_;
+    std::unique_ptr<DesktopAppearance> appearance_; // The style of the loop's widgets uses it to the end.
     std::unique_ptr<Loop> loop_;
     std::unique_ptr<MainQueue> mainQueue_;
     std::unique_ptr<TimerScheduler> timers_;
-    std::unique_ptr<DesktopAppearance> appearance_;
 };
 
 } // namespace velmar
