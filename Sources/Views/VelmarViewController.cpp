@@ -33,7 +33,7 @@ VelmarViewController::VelmarViewController(Surroundings surroundings, QWidget *p
     buildNavigation();
     contentViewController_ = new ContentViewController(contentViewModel_, surroundings_.appearance, this);
     column_->insertWidget(0, contentViewController_, 1);
-    setFocusPolicy(Qt::StrongFocus);
+    setFocusPolicy(Qt::ClickFocus); // No stop of the Tab key: it shows no ring.
     connect(contentViewController_, &ContentViewController::willLeave, this,
             &VelmarViewController::contentWillLeave);
     orderTabStops();
@@ -51,8 +51,10 @@ void VelmarViewController::buildSideContainer() {
     if (!*section) {
         return;
     }
-    sideContainerViewController_ = new ContainerViewController(
-        (*section)->_container(), ContainerViewController::Kind::inSidebar, std::nullopt, this);
+    sideContainerViewController_ =
+        new ContainerViewController((*section)->_container(), ContainerViewController::Kind::inSidebar,
+                                    std::nullopt, surroundings_.mainQueue, this);
+    sideContainerViewController_->viewWillAppear();
     const double width = std::clamp((*section)->_width(), 0.0, 16384.0);
     sideContainerViewController_->setFixedWidth(static_cast<int>(std::lround(width)));
     row_->insertWidget(0, sideContainerViewController_);

@@ -130,7 +130,7 @@ TEST_F(Views, ColoursFollowTheAppearanceWhileTheyAreOnShow) {
 TEST_F(Views, ContainersStandSideBySideAndScrollWhenTheyAreTooHigh) {
     std::vector<ComponentItem> many(60, text("A line of many"));
     const SlideItem item = slide({many, {text("Short")}});
-    SlideViewController view(item, SlideViewController::Kind::standard, center, nullptr);
+    SlideViewController view(item, SlideViewController::Kind::standard, center, queue, nullptr);
     view.resize(800, 400);
     view.show();
     settle();
@@ -155,7 +155,7 @@ TEST_F(Views, AFlexibleSpacerTakesWhatIsLeft) {
     fixed._height.set(30);
     const SlideItem item =
         slide({{ComponentItem{fixed}, ComponentItem{ComponentItem::Spacer()}, text("Bottom")}});
-    SlideViewController view(item, SlideViewController::Kind::inMenuBar, center, nullptr);
+    SlideViewController view(item, SlideViewController::Kind::inMenuBar, center, queue, nullptr);
     view.resize(400, 500);
     view.show();
     settle();

@@ -1,5 +1,6 @@
 #include <Views/Content/Components/Base.h>
 
+#include <Configuration/Populatable.h>
 #include <Desktop/DesktopAppearance.h>
 #include <Views/CustomViews/Colors.h>
 
@@ -8,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
 
 namespace velmar::ComponentViews {
 
@@ -62,6 +64,14 @@ QMargins marginsOf(const MarginsItem &item, const QMargins &standard) {
     };
     return {side(item._left(), standard.left()), side(item._top(), standard.top()),
             side(item._right(), standard.right()), side(item._bottom(), standard.bottom())};
+}
+
+VariableNames involvedItemVariables(const VariableNames &itemVariables, const Variables &variables) {
+    std::string text;
+    for (const std::string &name : itemVariables) {
+        text.append("${").append(name).append("}");
+    }
+    return involvedVariables(text, variables);
 }
 
 } // namespace velmar::ComponentViews

@@ -7,7 +7,7 @@ namespace velmar::ComponentViews {
 /// Empty space of a height, or all that is left.
 class Spacer final : public Base<ComponentItem::Spacer> {
 public:
-    Spacer(ComponentItem::Spacer item, QWidget *parent);
+    Spacer(ComponentItem::Spacer item, MainQueue &mainQueue, QWidget *parent);
     [[nodiscard]] bool isFlexible() const override { return !item()._height(); }
 };
 

@@ -8,10 +8,20 @@ namespace {
 constexpr QMargins standardMargins(0, 4, 0, 4);
 }
 
-Text::Text(ComponentItem::Text item, QWidget *parent) : Base(std::move(item), standardMargins, parent) {
-    auto *textView = new StyleConfigurableTextView(this);
-    textView->setContent(QString::fromStdString(this->item()._text()), this->item()._font());
-    setContentView(textView);
+Text::Text(ComponentItem::Text item, MainQueue &mainQueue, QWidget *parent)
+    : Base(std::move(item), standardMargins, mainQueue, parent),
+      textView_(new StyleConfigurableTextView(this)) {
+    Text::refresh();
+    setContentView(textView_);
+}
+
+QString Text::title() const {
+    return textView_->text();
+}
+
+void Text::refresh() {
+    textView_->setContent(QString::fromStdString(item()._text()), item()._font());
+    emit titleDidChange();
 }
 
 } // namespace velmar::ComponentViews

@@ -2,12 +2,25 @@
 
 #include <Views/Content/Components/Base.h>
 
-namespace velmar::ComponentViews {
+namespace velmar {
+
+class StyleConfigurableTextView;
+
+namespace ComponentViews {
 
 /// A paragraph.
 class Text final : public Base<ComponentItem::Text> {
 public:
-    Text(ComponentItem::Text item, QWidget *parent);
+    Text(ComponentItem::Text item, MainQueue &mainQueue, QWidget *parent);
+    [[nodiscard]] QString title() const override;
+
+protected:
+    void refresh() override;
+
+private:
+    StyleConfigurableTextView *textView_;
 };
 
-} // namespace velmar::ComponentViews
+} // namespace ComponentViews
+
+} // namespace velmar

@@ -1,18 +1,22 @@
 #include <Views/Content/Containers/ContainerViewController.h>
 
 #include <Desktop/DesktopAppearance.h>
+#include <Extensions/Evaluatable.h>
 #include <Views/Content/Components/Spacer.h>
 #include <Views/Content/Components/Text.h>
+#include <Views/Content/Containers/ContainerViewManagementAnimator.h>
 #include <Views/Content/Containers/ContainerViewModel.h>
 #include <Views/CustomViews/Colors.h>
+#include <Views/CustomViews/ColumnScrollArea.h>
+#include <Views/CustomViews/KeyboardFocus.h>
 #include <Views/CustomViews/Theme.h>
 
-#include <QKeyEvent>
+#include <QEvent>
 #include <QPainter>
-#include <QScrollArea>
-#include <QScrollBar>
+#include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace velmar {
 
@@ -21,6 +25,14 @@ namespace {
 // Points.
 constexpr int borderInset = 8;
 constexpr qreal borderRadius = 8;
+
+// Flexible components take all that is left; the space behind the last one only what no component takes.
+constexpr int flexibleStretch = 0x10000;
+constexpr int restStretch = 1;
+
+int stretchOf(const ComponentView &view) {
+    return view.isFlexible() ? flexibleStretch : 0;
+}
 
 QMargins standardMargins(ContainerViewController::Kind kind) {
     using enum ContainerViewController::Kind;
@@ -37,120 +49,52 @@ QMargins standardMargins(ContainerViewController::Kind kind) {
     return {32, 40, 32, 40};
 }
 
-QAbstractSlider::SliderAction scrollAction(int key) {
-    switch (key) {
-    case Qt::Key_Up:
-        return QAbstractSlider::SliderSingleStepSub;
-    case Qt::Key_Down:
-        return QAbstractSlider::SliderSingleStepAdd;
-    case Qt::Key_PageUp:
-        return QAbstractSlider::SliderPageStepSub;
-    case Qt::Key_PageDown:
-        return QAbstractSlider::SliderPageStepAdd;
-    case Qt::Key_Home:
-        return QAbstractSlider::SliderToMinimum;
-    case Qt::Key_End:
-        return QAbstractSlider::SliderToMaximum;
-    default:
-        return QAbstractSlider::SliderNoAction;
-    }
-}
-
-/// False where the key doesn't scroll or there is nothing to scroll.
-bool scrollBy(int key, QScrollBar &scrollBar) {
-    const QAbstractSlider::SliderAction action = scrollAction(key);
-    if (action == QAbstractSlider::SliderNoAction || scrollBar.maximum() == 0) {
-        return false;
-    }
-    scrollBar.triggerAction(action);
-    return true;
-}
-
-/// Leaves the keys that don't scroll, such as those for going from slide to slide, to the window.
-class ColumnScrollArea final : public QScrollArea {
-public:
-    using QScrollArea::QScrollArea;
-
-protected:
-    void keyPressEvent(QKeyEvent *event) override {
-        const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-        event->setAccepted(isPlain && scrollBy(event->key(), *verticalScrollBar()));
-    }
-
-    // The container draws the ring.
-    void focusInEvent(QFocusEvent *event) override {
-        QScrollArea::focusInEvent(event);
-        parentWidget()->update();
-    }
-    void focusOutEvent(QFocusEvent *event) override {
-        QScrollArea::focusOutEvent(event);
-        parentWidget()->update();
-    }
-};
-
-ComponentView *makeView(const ComponentItem &item, QWidget *parent) {
+ComponentView *viewOf(const ComponentItem &item, MainQueue &mainQueue, QWidget *parent) {
     struct Maker {
+        MainQueue &mainQueue;
         QWidget *parent;
         ComponentView *operator()(const ComponentItem::Text &text) const {
-            return new ComponentViews::Text(text, parent);
+            return new ComponentViews::Text(text, mainQueue, parent);
         }
         ComponentView *operator()(const ComponentItem::Spacer &spacer) const {
-            return new ComponentViews::Spacer(spacer, parent);
+            return new ComponentViews::Spacer(spacer, mainQueue, parent);
         }
     };
-    return std::visit(Maker{parent}, item.value);
-}
-
-/// What a reader of the screen calls the container: its first text.
-QString accessibleNameOf(const ContainerItem &item) {
-    for (const ComponentItem &component : item._components()) {
-        if (const auto *text = std::get_if<ComponentItem::Text>(&component.value)) {
-            return QString::fromStdString(text->_text());
-        }
-    }
-    //% "Content"
-    return qtTrId("content.container");
+    return std::visit(Maker{mainQueue, parent}, item.value);
 }
 
 } // namespace
 
 ContainerViewController::ContainerViewController(const ContainerItem &item, Kind kind,
                                                  const std::optional<ColorItem> &slideBorderColor,
-                                                 QWidget *parent)
+                                                 MainQueue &mainQueue, QWidget *parent)
     : QWidget(parent),
       kind_(kind),
+      mainQueue_(mainQueue),
       viewModel_(std::make_shared<ContainerViewModel>()),
       borderColorItem_(item._borderColor() ? item._borderColor() : slideBorderColor),
-      scrollArea_(new ColumnScrollArea(this)) {
-    auto *column = new QWidget;
-    auto *layout = new QVBoxLayout(column);
-    layout->setContentsMargins(ComponentViews::marginsOf(item._margins(), standardMargins(kind)));
-    layout->setSpacing(0);
-    for (const ComponentItem &component : item._components()) {
-        ComponentView *view = makeView(component, column);
-        layout->addWidget(view, view->isFlexible() ? 1 : 0);
-        componentViews_.push_back(view);
+      column_(new QWidget),
+      layout_(new QVBoxLayout(column_)),
+      scrollArea_(new ColumnScrollArea(column_, this)) {
+    const std::vector<ComponentItem> &items = item._components();
+    if (const VariableNames conditions = componentsConditions(items); !conditions.empty()) {
+        variablesRefresh_.emplace(mainQueue, [this] { components_->reload(); });
+        variablesRefresh_->follow(conditions);
     }
-    if (std::ranges::none_of(componentViews_, &ComponentView::isFlexible)) {
-        layout->addStretch(1);
+    components_.emplace(
+        items, [](const Expression &condition) { return evaluate(condition); }, *this);
+    layout_->setContentsMargins(ComponentViews::marginsOf(item._margins(), standardMargins(kind)));
+    layout_->setSpacing(0);
+    for (std::size_t position = 0; position < items.size(); ++position) {
+        places_.push_back(new QSpacerItem(0, 0));
+        layout_->addItem(places_.back());
+        componentViews_.push_back(components_->isShown(position) ? makeView(position) : nullptr);
+        if (const ComponentView *view = componentViews_.back()) {
+            layout_->addWidget(componentViews_.back(), stretchOf(*view));
+        }
     }
-
-    scrollArea_->setAccessibleName(accessibleNameOf(item));
-    scrollArea_->setFrameShape(QFrame::NoFrame);
-    scrollArea_->setWidgetResizable(true);
-    scrollArea_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scrollArea_->setWidget(column);
-    column->setAutoFillBackground(false);
-    scrollArea_->viewport()->setAutoFillBackground(false);
-    // A stop of the Tab key only while there is something to scroll.
-    scrollArea_->setFocusPolicy(Qt::NoFocus);
-    connect(scrollArea_->verticalScrollBar(), &QScrollBar::rangeChanged, this,
-            [this](int /*minimum*/, int maximum) {
-                if (maximum == 0 && window()->focusWidget() == scrollArea_) {
-                    focusNextPrevChild(true);
-                }
-                scrollArea_->setFocusPolicy(maximum > 0 ? Qt::TabFocus : Qt::NoFocus);
-            });
+    layout_->addStretch(restStretch);
+    updateAccessibleName();
 
     auto *outer = new QVBoxLayout(this);
     const int inset = borderColorItem_ ? borderInset + 1 : 0;
@@ -166,7 +110,80 @@ ContainerViewController::ContainerViewController(const ContainerItem &item, Kind
 ContainerViewController::~ContainerViewController() = default;
 
 bool ContainerViewController::scroll(int key) {
-    return scrollBy(key, *scrollArea_->verticalScrollBar());
+    return scrollArea_->scroll(key);
+}
+
+ComponentView *ContainerViewController::makeView(std::size_t position) {
+    ComponentView *view = viewOf(components_->items()[position], mainQueue_, column_);
+    connect(view, &ComponentView::titleDidChange, this, &ContainerViewController::updateAccessibleName);
+    return view;
+}
+
+void ContainerViewController::putInPlace(std::size_t position) {
+    ComponentView *view = componentViews_[position];
+    layout_->insertWidget(layout_->indexOf(places_[position]) + 1, view, stretchOf(*view));
+    // Readers of the screen go through the views in the order of the siblings.
+    const auto next = std::find_if(componentViews_.begin() + static_cast<std::ptrdiff_t>(position) + 1,
+                                   componentViews_.end(), [](const auto *other) { return other != nullptr; });
+    if (next != componentViews_.end()) {
+        view->stackUnder(*next);
+    }
+}
+
+void ContainerViewController::takeKeyboardFocusAway() {
+    if (isVisible_ && window()->focusWidget() != nullptr) {
+        giveFocusToSurroundings(*this);
+    }
+}
+
+void ContainerViewController::prepare(const ComponentsChange &change) {
+    const bool isAnimated =
+        isVisible_ && isVisible() && style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
+    // The former one may just be telling of its end.
+    if (viewManagementAnimator_ != nullptr) {
+        viewManagementAnimator_->deleteLater();
+    }
+    viewManagementAnimator_ = new ContainerViewManagementAnimator(column_, isAnimated);
+    for (const std::size_t position : change.removed) {
+        viewManagementAnimator_->viewsToRemove.push_back(std::exchange(componentViews_[position], nullptr));
+    }
+    for (const std::size_t position : change.inserted) {
+        componentViews_[position] = makeView(position);
+        componentViews_[position]->hide();
+        viewManagementAnimator_->viewsToInsert.push_back(componentViews_[position]);
+    }
+}
+
+void ContainerViewController::animateRemoval(std::function<void()> completion) {
+    viewManagementAnimator_->animateRemoval(std::move(completion));
+}
+
+void ContainerViewController::rebuildLayout() {
+    for (ComponentView *view : std::exchange(viewManagementAnimator_->viewsToRemove, {})) {
+        view->deleteLater();
+    }
+    // Each is put before those behind it, so these come first.
+    for (std::size_t position = componentViews_.size(); position-- > 0;) {
+        if (componentViews_[position] != nullptr && layout_->indexOf(componentViews_[position]) < 0) {
+            putInPlace(position);
+        }
+    }
+    updateAccessibleName();
+}
+
+void ContainerViewController::animateInsertion(std::function<void()> completion) {
+    viewManagementAnimator_->animateInsertion(std::move(completion));
+}
+
+void ContainerViewController::updateAccessibleName() {
+    for (const ComponentView *view : componentViews_) {
+        if (view != nullptr && !view->title().isEmpty()) {
+            scrollArea_->setAccessibleName(view->title());
+            return;
+        }
+    }
+    //% "Content"
+    scrollArea_->setAccessibleName(qtTrId("content.container"));
 }
 
 void ContainerViewController::updateBorderColor() {

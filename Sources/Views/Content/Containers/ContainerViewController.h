@@ -1,6 +1,9 @@
 #pragma once
 
 #include <Configuration/ContainerItem.h>
+#include <Dispatch/MainQueue.h>
+#include <Views/Content/Containers/ComponentsViewModel.h>
+#include <Views/Content/VariablesRefresh.h>
 
 #include <QColor>
 #include <QWidget>
@@ -8,15 +11,19 @@
 #include <memory>
 #include <vector>
 
-class QScrollArea;
+class QSpacerItem;
+class QVBoxLayout;
 
 namespace velmar {
 
+class ColumnScrollArea;
 class ComponentView;
+class ContainerViewManagementAnimator;
 class ContainerViewModel;
 
-/// A column of components; one that is too high scrolls. Main thread.
-class ContainerViewController final : public QWidget {
+/// A column of components, of which those with conditions come and go; one that is too high scrolls. Main
+/// thread.
+class ContainerViewController final : public QWidget, public ComponentsControllerProtocol {
     Q_OBJECT
 
 public:
@@ -28,32 +35,61 @@ public:
         inSidebar,      ///< Beside all slides.
     };
 
-    /// `slideBorderColor` is the border's colour unless the container has one of its own.
+    /// `slideBorderColor` is the border's colour unless the container has one of its own. The queue must
+    /// outlive the controller.
     ContainerViewController(const ContainerItem &item, Kind kind,
-                            const std::optional<ColorItem> &slideBorderColor, QWidget *parent);
+                            const std::optional<ColorItem> &slideBorderColor, MainQueue &mainQueue,
+                            QWidget *parent);
     ~ContainerViewController() override;
 
     [[nodiscard]] const std::shared_ptr<ContainerViewModel> &viewModel() const noexcept { return viewModel_; }
 
     [[nodiscard]] bool hasBorder() const noexcept { return borderColorItem_.has_value(); }
 
+    /// The views by the positions of their items; null where the condition doesn't hold.
+    [[nodiscard]] const std::vector<ComponentView *> &componentViews() const noexcept {
+        return componentViews_;
+    }
+
+    /// Components come and go gradually only in a container that the user sees.
+    void viewWillAppear() { isVisible_ = true; }
+    void viewWillDisappear() { isVisible_ = false; }
+
     /// Scrolls by a `Qt::Key`: Up, Down, PageUp, PageDown, Home or End. False for any other, and where there
     /// is nothing to scroll.
     bool scroll(int key);
+
+    void takeKeyboardFocusAway() override;
+    void prepare(const ComponentsChange &change) override;
+    void animateRemoval(std::function<void()> completion) override;
+    void rebuildLayout() override;
+    void animateInsertion(std::function<void()> completion) override;
 
 protected:
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    /// A new view, in the column but not yet in its place.
+    ComponentView *makeView(std::size_t position);
+    void putInPlace(std::size_t position);
+    void updateAccessibleName();
     void updateBorderColor();
 
     Kind kind_;
+    MainQueue &mainQueue_;
     std::shared_ptr<ContainerViewModel> viewModel_;
+    std::optional<ComponentsViewModel> components_;
     std::optional<ColorItem> borderColorItem_;
     std::optional<QColor> borderColor_;
-    QScrollArea *scrollArea_;
-    std::vector<ComponentView *> componentViews_; // In the order of the items.
+    QWidget *column_;
+    QVBoxLayout *layout_;
+    ColumnScrollArea *scrollArea_;
+    std::vector<ComponentView *> componentViews_;
+    std::vector<QSpacerItem *> places_; // Empty; the view of a position stands right behind its place.
+    ContainerViewManagementAnimator *viewManagementAnimator_ = nullptr; // Of the last change; the column's.
+    bool isVisible_ = false;
+    std::optional<VariablesRefresh> variablesRefresh_; // None without conditions.
 };
 
 } // namespace velmar

@@ -61,7 +61,8 @@ SlideViewController *ContentViewController::slide(int index) {
         return nullptr;
     }
     auto *view = new SlideViewController((*items)[static_cast<std::size_t>(index)],
-                                         SlideViewController::Kind::standard, viewModel_->center(), this);
+                                         SlideViewController::Kind::standard, viewModel_->center(),
+                                         viewModel_->mainQueue(), this);
     view->hide();
     slides_.emplace(index, view);
     return view;

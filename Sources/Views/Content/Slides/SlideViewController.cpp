@@ -25,7 +25,7 @@ ContainerViewController::Kind containerKind(SlideViewController::Kind kind, std:
 } // namespace
 
 SlideViewController::SlideViewController(const SlideItem &slide, Kind kind, NotificationCenter &center,
-                                         QWidget *parent)
+                                         MainQueue &mainQueue, QWidget *parent)
     : QWidget(parent),
       kind_(kind),
       viewModel_(std::make_shared<SlideViewModel>(center)),
@@ -33,7 +33,7 @@ SlideViewController::SlideViewController(const SlideItem &slide, Kind kind, Noti
     const auto &containers = slide._containers();
     for (const ContainerItem &item : containers) {
         auto *container = new ContainerViewController(item, containerKind(kind, containers.size()),
-                                                      slide._containersBorderColor(), this);
+                                                      slide._containersBorderColor(), mainQueue, this);
         container->viewModel()->setMandatorySupervisor(viewModel_);
         containerViewControllers_.push_back(container);
     }
@@ -43,10 +43,12 @@ SlideViewController::~SlideViewController() = default;
 
 void SlideViewController::viewWillAppear() {
     viewModel_->willAppear();
+    std::ranges::for_each(containerViewControllers_, &ContainerViewController::viewWillAppear);
 }
 
 void SlideViewController::viewWillDisappear() {
     viewModel_->willDisappear();
+    std::ranges::for_each(containerViewControllers_, &ContainerViewController::viewWillDisappear);
 }
 
 bool SlideViewController::scroll(int key) {

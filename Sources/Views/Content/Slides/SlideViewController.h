@@ -10,6 +10,7 @@
 namespace velmar {
 
 class ContainerViewController;
+class MainQueue;
 class NotificationCenter;
 class SlideViewModel;
 
@@ -23,8 +24,9 @@ public:
         inMenuBar, ///< Without the inset at the top.
     };
 
-    /// The slide's validity is told to the centre, which must outlive the controller.
-    SlideViewController(const SlideItem &slide, Kind kind, NotificationCenter &center, QWidget *parent);
+    /// The slide's validity is told to the centre; that and the queue must outlive the controller.
+    SlideViewController(const SlideItem &slide, Kind kind, NotificationCenter &center, MainQueue &mainQueue,
+                        QWidget *parent);
     ~SlideViewController() override;
 
     [[nodiscard]] const std::shared_ptr<SlideViewModel> &viewModel() const noexcept { return viewModel_; }

@@ -1,0 +1,101 @@
+#include <Views/Content/Containers/ComponentsViewModel.h>
+
+#include <Extensions/Evaluatable.h>
+#include <Foundation/LocalizedError.h>
+
+#include <fmt/core.h>
+#include <logger/Logger.h>
+
+#include <utility>
+
+namespace velmar {
+
+namespace {
+
+const std::optional<Expression> &conditionOf(const ComponentItem &item) {
+    return std::visit(
+        [](const auto &kind) -> const auto & { return kind.common._condition(); }, item.value);
+}
+
+} // namespace
+
+VariableNames componentsConditions(const std::vector<ComponentItem> &items) {
+    VariableNames names;
+    for (const ComponentItem &item : items) {
+        if (const auto &condition = conditionOf(item)) {
+            names.merge(involvedVariables(*condition));
+        }
+    }
+    return names;
+}
+
+ComponentsViewModel::ComponentsViewModel(std::vector<ComponentItem> items, Evaluator evaluate,
+                                         ComponentsControllerProtocol &controller)
+    : items_(std::move(items)),
+      evaluate_(std::move(evaluate)),
+      controller_(controller),
+      isShown_(items_.size(), false) {
+    evaluateConditions();
+}
+
+void ComponentsViewModel::reload() {
+    if (animationIsRunning()) {
+        ++reloadInterfaceNeededCount_;
+        return;
+    }
+    controller_.takeKeyboardFocusAway();
+    const ComponentsChange change = evaluateConditions();
+    if (change == ComponentsChange()) {
+        return;
+    }
+    controller_.prepare(change);
+    if (change.removed.empty()) {
+        insert();
+        return;
+    }
+    state_ = State::removing;
+    controller_.animateRemoval([this] { insert(); });
+}
+
+void ComponentsViewModel::insert() {
+    controller_.rebuildLayout();
+    state_ = State::inserting;
+    controller_.animateInsertion([this] { finish(); });
+}
+
+void ComponentsViewModel::finish() {
+    state_ = State::idle;
+    if (std::exchange(reloadInterfaceNeededCount_, 0) > 0) {
+        reload();
+    }
+}
+
+ComponentsChange ComponentsViewModel::evaluateConditions() {
+    ComponentsChange change;
+    for (std::size_t position = 0; position < items_.size(); ++position) {
+        const bool isShown = shouldBeShown(items_[position]);
+        if (isShown != isShown_[position]) {
+            (isShown ? change.inserted : change.removed).push_back(position);
+            isShown_[position] = isShown;
+        }
+    }
+    return change;
+}
+
+bool ComponentsViewModel::shouldBeShown(const ComponentItem &item) const {
+    const std::optional<Expression> &condition = conditionOf(item);
+    if (!condition) {
+        return true;
+    }
+    try {
+        return evaluate_(*condition);
+    } catch (const LocalizedError &error) {
+        Logger::error([&] {
+            return fmt::format("Unable to evaluate the expression {}. {}", condition->description(),
+                               error.errorDescription());
+        });
+        return false;
+    }
+}
+
+} // namespace velmar

@@ -1,0 +1,130 @@
+#include <Views/Content/Containers/ComponentsViewModel.h>
+
+#include <Support/RecordedLog.h>
+
+#include <gtest/gtest.h>
+
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace velmar {
+namespace {
+
+class CannotTell final : public LocalizedError {
+public:
+    CannotTell() : LocalizedError("It cannot be told.") {}
+};
+
+/// Components with the conditions "ONE", none, "TWO"; the views write down what is asked of them, and finish
+/// an animation when the test says so.
+class Components : public testing::Test, protected ComponentsControllerProtocol {
+protected:
+    void takeKeyboardFocusAway() override { asked.emplace_back("focus"); }
+    void prepare(const ComponentsChange &change) override {
+        asked.push_back(fmt::format("-{} +{}", change.removed, change.inserted));
+    }
+    void animateRemoval(std::function<void()> completion) override {
+        asked.emplace_back("removal");
+        end = std::move(completion);
+    }
+    void rebuildLayout() override { asked.emplace_back("rebuild"); }
+    void animateInsertion(std::function<void()> completion) override {
+        asked.emplace_back("insertion");
+        end = std::move(completion);
+    }
+
+    static ComponentItem item(const std::optional<std::string> &condition) {
+        ComponentItem::Text text;
+        if (condition) {
+            text.common._condition.set(Expression(*condition));
+        }
+        return {text};
+    }
+
+    ComponentsViewModel model() {
+        return {{item("ONE"), item({}), item("TWO")},
+                [this](const Expression &condition) {
+                    const std::optional<bool> value = values.at(condition.source());
+                    return value ? *value : throw CannotTell();
+                },
+                *this};
+    }
+
+    using Asked = std::vector<std::string>;
+    static std::string shown(const ComponentsViewModel &components) {
+        std::string text;
+        for (std::size_t position = 0; position < components.items().size(); ++position) {
+            text += components.isShown(position) ? 'x' : '.';
+        }
+        return text;
+    }
+    void endAnimation() { std::exchange(end, nullptr)(); }
+
+    RecordedLog log;
+    std::map<std::string, std::optional<bool>> values{{"ONE", true}, {"TWO", false}};
+    Asked asked;
+    std::function<void()> end;
+};
+
+TEST_F(Components, FollowTheirConditionsInOneChange) {
+    const struct {
+        bool one, two;
+        Asked asked;
+        const char *shown;
+    } rows[] = {{true, false, {"focus"}, "xx."},
+                {false, true, {"focus", "-[0] +[2]", "removal", "rebuild", "insertion"}, ".xx"},
+                {true, true, {"focus", "-[] +[2]", "rebuild", "insertion"}, "xxx"},
+                {false, false, {"focus", "-[0] +[]", "removal", "rebuild", "insertion"}, ".x."}};
+    for (const auto &row : rows) {
+        ComponentsViewModel components = model();
+        EXPECT_EQ(shown(components), "xx.");
+        asked.clear();
+        values = {{"ONE", row.one}, {"TWO", row.two}};
+        components.reload();
+        while (components.animationIsRunning()) {
+            endAnimation();
+        }
+        EXPECT_EQ(asked, row.asked);
+        EXPECT_EQ(shown(components), row.shown);
+        values = {{"ONE", true}, {"TWO", false}};
+    }
+}
+
+TEST_F(Components, AnswerAllRequestsOfAnAnimationByOneReloadWithTheLastValues) {
+    using enum ComponentsViewModel::State;
+    ComponentsViewModel components = model();
+    values["ONE"] = false;
+    components.reload();
+    EXPECT_EQ(components.state(), removing);
+    for (const bool value : {true, false, true}) {
+        values["ONE"] = value;
+        components.reload();
+    }
+    endAnimation();
+    EXPECT_EQ(components.state(), inserting);
+    components.reload();
+    EXPECT_EQ(shown(components), ".x.") << "what is under way is not disturbed";
+    asked.clear();
+    endAnimation();
+    EXPECT_EQ(asked, (Asked{"focus", "-[] +[0]", "rebuild", "insertion"}));
+    asked.clear();
+    endAnimation();
+    EXPECT_EQ(components.state(), idle);
+    EXPECT_EQ(asked, Asked()) << "no request is left over";
+    EXPECT_EQ(shown(components), "xx.");
+}
+
+TEST_F(Components, AreHiddenByAConditionThatCannotBeEvaluated) {
+    values["ONE"] = {};
+    EXPECT_EQ(shown(model()), ".x.");
+    EXPECT_EQ(log.lines(), Asked{"error: Unable to evaluate the expression ONE. It cannot be told."});
+}
+
+} // namespace
+} // namespace velmar
