@@ -81,6 +81,10 @@ class Screen:
     def texts(self):
         return [node.text() for node in self.nodes() if node.showing and node.text()]
 
+    def labels(self):
+        """The plain texts, in the order in which a reader of the screen comes to them."""
+        return [node.text() for node in self.nodes() if node.showing and node.role == "label"]
+
     def titles(self):
         return [node.name for node in self.nodes() if node.is_window and node.showing]
 
