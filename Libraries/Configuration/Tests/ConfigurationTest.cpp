@@ -45,7 +45,8 @@ TEST(Configuration, IsAdmittedOrRefusedAsAWhole) {
          "<dict><key>Type</key><string>text</string></dict></array></dict></array></dict></array>",
          "Decoding error at 'Slides.0.Containers.0.Components.0.Type'. The value is 'text'.\nExpected type: "
          "string | "
-         "Possible values: 'Text', 'Spacer'."},
+         "Possible values: 'Text', 'Image', 'Button', 'Web', 'Spacer', 'AppMonitor', 'PDF', 'Video', "
+         "'Input'."},
     };
     for (const auto &[content, expected] : rows) {
         EXPECT_EQ(outcomeOf(fileWith(content)), expected) << content;
@@ -180,8 +181,8 @@ TEST(SlideItem, SharesItsWidth) {
                 Configuration::decode(file)->_slides().front().containersComposition().value;
             const auto *ratio = std::get_if<SlideItem::ContainersComposition::Ratio>(&composition);
             outcome = ratio == nullptr ? "equal" : "";
-            for (const double share : ratio != nullptr ? ratio->ratios : std::vector<double>()) {
-                outcome += (outcome.empty() ? "" : " ") + textOf(share);
+            for (std::size_t index = 0; ratio != nullptr && index < ratio->shares.size(); ++index) {
+                outcome += (outcome.empty() ? "" : " ") + textOf(ratio->shares[index].ratio);
             }
         }
         EXPECT_EQ(outcome, expected) << content;

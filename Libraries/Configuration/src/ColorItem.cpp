@@ -45,6 +45,11 @@ std::string ColorItem::Specification::text() const {
     return fmt::format("#{:X}{:X}{:X}{}", red, green, blue, alpha ? fmt::format("{:X}", *alpha) : "");
 }
 
+PropertyList Decodable<ColorItem::Specification>::asWritten(const ColorItem::Specification &value) {
+    return PropertyList(fmt::format("#{:02X}{:02X}{:02X}{}", value.red, value.green, value.blue,
+                                    value.alpha ? fmt::format("{:02X}", *value.alpha) : ""));
+}
+
 ColorItem::Specification Decodable<ColorItem::Specification>::decode(const Decoding &decoding) {
     const std::string *text = decoding.value.string();
     const auto fail = [&]() -> ConfigurationError {

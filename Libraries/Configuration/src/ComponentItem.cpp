@@ -1,11 +1,38 @@
 #include <Configuration/ComponentItem.h>
 
-#include <Configuration/ItemCoding.h>
+#include <Configuration/ItemGroups.h>
+
+#include <fmt/format.h>
 
 namespace velmar {
+
+std::vector<std::string> ComponentItem::Input::Checkboxes::declaredVariables() const {
+    const std::string_view name = bareVariableName(input._variable.rawValue());
+    std::vector<std::string> names;
+    for (std::size_t index = 0; index < _items.rawValue().size(); ++index) {
+        names.push_back(fmt::format("{}-{}", name, index));
+    }
+    return names;
+}
+
+const ComponentItem::ComponentItemProtocol &ComponentItem::common() const {
+    return std::visit(
+        [](const auto &component) -> const ComponentItemProtocol & {
+            if constexpr (requires { component.common; }) {
+                return component.common;
+            } else {
+                return std::visit(
+                    [](const auto &input) -> const ComponentItemProtocol & { return input.common; },
+                    component.value);
+            }
+        },
+        value);
+}
 
 VariableNames usedVariables(const ComponentItem &component) {
     return usedVariables<ComponentItem>(component);
 }
+
+template struct TaggedItemCoding<ComponentItem>;
 
 } // namespace velmar

@@ -2,7 +2,7 @@
 
 #include "VariablesCheck.h"
 
-#include <Configuration/ItemCoding.h>
+#include <Configuration/ItemGroups.h>
 #include <Configuration/Library.h>
 
 #include <fmt/format.h>
@@ -24,23 +24,39 @@ std::string modelOf(const BookError &error) {
         error.value());
 }
 
-/// Applies the parents of the models in a book of the configuration.
+/// Applies the parents of the models in a book that stands in a dictionary of the file.
 template <class Model>
-void resolve(KeyWrapper<Book<Model>> &holder, const PropertyList &file, DecodingContext &context) {
+void resolve(KeyWrapper<Book<Model>> &holder, const PropertyList &dictionary, const CodingPath &path,
+             DecodingContext &context) {
     if (!holder.wasGivenValueWhileDecoding()) {
         return;
     }
     try {
         holder.modify([](Book<Model> &book) { book.resolve(); });
     } catch (const BookError &error) {
-        const std::string key(holder.name().stringValue);
+        const std::string_view key = holder.name().stringValue;
         const std::string model = modelOf(error);
-        const std::string parent(makeDefault<Model>()._parentModelName.name().stringValue);
-        const std::string path = fmt::format("{}.{}.{}", key, model, parent);
-        const PropertyList *value = file.dictionary()->find(key)->dictionary()->find(model);
-        context.noteFailure(path,
-                            value != nullptr ? value->dictionary()->find(parent)->offset() : file.offset());
-        throw ConfigurationError(ConfigurationErrors::Custom{path, error.errorDescription()});
+        const std::string_view parent = makeDefault<Model>()._parentModelName.name().stringValue;
+        const CodingPath bookPath(path, key);
+        const CodingPath modelPath(bookPath, model);
+        const std::string parentPath = CodingPath(modelPath, parent).text();
+        const PropertyList *const value = dictionary.dictionary()->find(key)->dictionary()->find(model);
+        context.noteFailure(parentPath, value != nullptr ? value->dictionary()->find(parent)->offset()
+                                                         : dictionary.offset());
+        throw ConfigurationError(ConfigurationErrors::Custom{parentPath, error.errorDescription()});
+    }
+}
+
+void resolveBooks(Configuration &configuration, const PropertyList &file, DecodingContext &context) {
+    const CodingPath root;
+    resolve(configuration._colorStyles, file, root, context);
+    resolve(configuration._fontStyles, file, root, context);
+    auto &requests = configuration._apiRequests;
+    if (requests.wasGivenValueWhileDecoding()) {
+        const std::string_view key = requests.name().stringValue;
+        requests.modify([&](APIRequestsSection &section) {
+            resolve(section._models, *file.dictionary()->find(key), CodingPath(root, key), context);
+        });
     }
 }
 
@@ -55,10 +71,12 @@ std::shared_ptr<const Configuration> Configuration::decode(const PropertyList &f
         DecodingContext context(notes);
         const auto configuration =
             std::make_shared<Configuration>(Decodable<Configuration>::decode({file, CodingPath(), context}));
-        resolve(configuration->_colorStyles, file, context);
-        resolve(configuration->_fontStyles, file, context);
-        context.settleReferences(
-            {&configuration->_fontStyles.rawValue(), &configuration->_colorStyles.rawValue()}, file);
+        resolveBooks(*configuration, file, context);
+        context.settleReferences({.fontStyles = &configuration->_fontStyles.rawValue(),
+                                  .colorStyles = &configuration->_colorStyles.rawValue(),
+                                  .apiRequests = &configuration->_apiRequests.rawValue()._models.rawValue(),
+                                  .slides = &configuration->_slides.rawValue()},
+                                 file);
         checkVariables(*configuration, file, context);
         configuration->variablesRecords = context.takeVariablesRecords();
         configuration->declaredVariables = context.declaredVariables();
@@ -72,6 +90,12 @@ std::shared_ptr<const Configuration> Configuration::decode(const PropertyList &f
 
 PropertyList Configuration::encode() const {
     return *Decodable<Configuration>::encode(*this);
+}
+
+Descriptions Configuration::describe() {
+    Descriptions items;
+    static_cast<void>(Decodable<Configuration>::describe(items));
+    return items;
 }
 
 void Configuration::validate(const CodingPath & /*path*/) const {

@@ -6,16 +6,12 @@
 
 namespace velmar {
 
-namespace {
-
 void recordVariables(std::string_view text, const Decoding &decoding) {
     if (VariableNames variables = usedVariables(text); !variables.empty()) {
         decoding.context.addVariablesRecord(
             {std::move(variables), decoding.path.text(), decoding.value.offset(), std::nullopt});
     }
 }
-
-} // namespace
 
 void throwWrongType(const Decoding &decoding, const std::string &description,
                     const std::string &expectedType) {

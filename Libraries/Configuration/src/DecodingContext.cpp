@@ -1,5 +1,7 @@
 #include <Configuration/ConfigurationError.h>
 #include <Configuration/DecodingContext.h>
+#include <Configuration/ExpressionError.h>
+#include <Configuration/Populatable.h>
 
 #include <fmt/format.h>
 
@@ -118,6 +120,23 @@ void DecodingContext::settleReferences(const Library &library, const PropertyLis
 
 std::shared_ptr<void> &DecodingContext::valueOfName(std::string_view typeName, const std::string &name) {
     return valuesOfNames_[{typeName, name}];
+}
+
+void DecodingContext::declareByPopulatedTexts(const std::map<std::string, std::string> &initialValues) {
+    if (declaringTexts_.empty()) {
+        return;
+    }
+    const Variables variables(initialValues.begin(), initialValues.end());
+    for (const auto &[text, names] : declaringTexts_) {
+        try {
+            for (std::string &name : names(populated(text, variables))) {
+                declareVariable(std::move(name));
+            }
+        } catch (const ExpressionError &) {
+            // The fault of the text or of the variable is told where the variables are checked.
+            continue;
+        }
+    }
 }
 
 void DecodingContext::noteFailure(const std::string &keyPath, std::uint32_t offset) {

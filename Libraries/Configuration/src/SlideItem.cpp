@@ -1,5 +1,7 @@
 #include <Configuration/SlideItem.h>
 
+#include <Configuration/ItemGroups.h>
+
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -81,23 +83,26 @@ void SlideItem::validate(const CodingPath &path) const {
 SlideItem::ContainersComposition SlideItem::containersComposition() const {
     const std::vector<ContainerItem> &containers = _containers();
     if (std::ranges::any_of(containers, givesLarge)) {
-        const bool firstIsLarge = containers.front()._isLarge();
         constexpr double large = 2.0 / 3.0;
         constexpr double small = 1.0 / 3.0;
-        return {ContainersComposition::Ratio{firstIsLarge ? std::vector{large, small}
-                                                          : std::vector{small, large}}};
+        const bool firstIsLarge = containers.front()._isLarge();
+        return {ContainersComposition::Ratio{
+            {{containers[0], firstIsLarge ? large : small}, {containers[1], firstIsLarge ? small : large}}}};
     }
     const auto withRatio = std::ranges::count_if(containers, givesRatio);
     if (withRatio == 0) {
-        return {};
+        return {ContainersComposition::NotSpecified{containers}};
     }
     const auto without = static_cast<double>(std::ssize(containers) - withRatio);
     const double share = (1.0 - sumOfRatios(containers)) / without;
     ContainersComposition::Ratio composition;
     for (const ContainerItem &container : containers) {
-        composition.ratios.push_back(givesRatio(container) ? container._widthRatio().value_or(0) : share);
+        composition.shares.push_back(
+            {container, givesRatio(container) ? container._widthRatio().value_or(0) : share});
     }
     return {std::move(composition)};
 }
+
+template struct ItemCoding<SlideItem>;
 
 } // namespace velmar

@@ -157,6 +157,7 @@ ExpressionError faultOf(const VariablesRecords::Record &record, VariableNames un
 } // namespace
 
 void checkVariables(const Configuration &configuration, const PropertyList &file, DecodingContext &context) {
+    context.declareByPopulatedTexts(configuration._general()._variables.rawValue().models());
     Names defined;
     for (const auto &placeholder : enumCases<GeneralSection::Placeholders>) {
         defined.insert(placeholder.rawString);

@@ -9,8 +9,12 @@ namespace {
 
 using Composition = SlideItem::ContainersComposition;
 
-Composition ratios(std::vector<double> values) {
-    return {Composition::Ratio{std::move(values)}};
+Composition ratios(const std::vector<double> &values) {
+    Composition::Ratio composition;
+    for (const double value : values) {
+        composition.shares.push_back({ContainerItem(), value});
+    }
+    return {std::move(composition)};
 }
 
 TEST(ContainerSpans, FillTheSlideWithoutGaps) {

@@ -1,18 +1,11 @@
 #pragma once
 
-#include <Configuration/KeyWrapper.h>
+#include <Configuration/APIRequestItem.h>
+#include <Configuration/Book.h>
 
 namespace velmar {
 
-/// The interface of a device management server.
-enum class MDMApi { jamf, jamfPro, airwatch };
-
-constexpr auto casesOf(MDMApi) {
-    return std::to_array<EnumCase<MDMApi>>(
-        {{MDMApi::jamf, "Jamf"}, {MDMApi::jamfPro, "JamfPro"}, {MDMApi::airwatch, "Airwatch"}});
-}
-
-/// The device management servers.
+/// The device management servers, and the requests to them that actions name.
 struct APIRequestsSection {
     static constexpr std::string_view typeName = "APIRequestsSection";
 
@@ -20,6 +13,7 @@ struct APIRequestsSection {
     KeyWrapper<std::optional<std::string>> _jamfProBaseURL{"JamfProBaseURL", optional};
     KeyWrapper<std::optional<std::string>> _airwatchBaseURL{"AirwatchBaseURL", optional};
     KeyWrapper<std::optional<MDMApi>> _defaultMDMApi{"DefaultMDMApi", optional};
+    KeyWrapper<Book<APIRequestItem>> _models{"Models", optional};
 };
 
 } // namespace velmar

@@ -164,6 +164,7 @@ struct Decodable<Book<T>> {
     static Book<T> decode(const Decoding &decoding) { return Book<T>(Storage::decode(decoding)); }
     static std::optional<PropertyList> encode(const Book<T> &book) { return Storage::encode(book.models()); }
     static std::string plistType() { return Storage::plistType(); }
+    static ValueDescription describe(Descriptions &items) { return Storage::describe(items); }
 };
 
 } // namespace velmar

@@ -19,6 +19,7 @@ struct Decodable<Expression> {
         return PropertyList(expression.source());
     }
     static std::string plistType() { return "string (boolean expression)"; }
+    static ValueDescription describe(Descriptions & /*items*/) { return ValueDescription::text("condition"); }
 };
 
 /// Holds a condition, absent where none is given. No holder of its own: a condition is read, recorded and

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <Configuration/APIRequestsSection.h>
+#include <Configuration/ActionSetItem.h>
 #include <Configuration/AdminSection.h>
 #include <Configuration/AppTerminationSection.h>
 #include <Configuration/Book.h>
@@ -42,6 +43,7 @@ struct Configuration {
     KeyWrapper<ExpressionsBook<Expression>> _conditions{"Conditions", optional};
     KeyWrapper<MonitoringSection> _monitoring{"Monitoring", optional};
     KeyWrapper<APIRequestsSection> _apiRequests{"APIRequests", optional};
+    KeyWrapper<std::vector<TriggeredActionSetItem>> _actionSets{"ActionSets", optional};
 
     VariablesRecords variablesRecords; ///< What the file uses; set by `decode`.
     VariableNames declaredVariables; ///< What keys of the file brought into being, beside General.Variables.
@@ -59,6 +61,9 @@ struct Configuration {
 
     /// The mirror of decoding: what was given, set by code or is required.
     [[nodiscard]] PropertyList encode() const;
+
+    /// All that a file may hold, from the root "Configuration" down.
+    [[nodiscard]] static Descriptions describe();
 
     /// There is something to show in the mode of the window. Throws ConfigurationError.
     void validate(const CodingPath &path) const;

@@ -1,13 +1,15 @@
 #pragma once
 
 #include <Configuration/ColorItem.h>
-#include <Configuration/ComponentItem.h>
 #include <Configuration/InheritableKeyWrapper.h>
+#include <Configuration/InputDistribution.h>
 #include <Configuration/MarginsItem.h>
 
 #include <vector>
 
 namespace velmar {
+
+struct ComponentItem;
 
 /// A column of components, one under the other.
 struct ContainerItem {
@@ -16,7 +18,7 @@ struct ContainerItem {
     KeyWrapper<std::vector<ComponentItem>> _components{"Components", required};
     KeyWrapper<MarginsItem> _margins{"Margins", optional};
     KeyWrapper<bool> _isLarge{false, "IsLarge", exclude({"WidthRatio"})};
-    KeyWrapper<std::optional<ComponentItem::Input::Distribution>> _inputComponentDistribution{
+    KeyWrapper<std::optional<ComponentItems::Inputs::Distribution>> _inputComponentDistribution{
         "InputComponentsDistribution", optional};
     KeyWrapper<std::optional<double>> _inputComponentPercentWidth{"InputComponentPercentWidth", optional};
     InheritableKeyWrapper<std::optional<ColorItem>> _borderColor{"BorderColor", optional,
@@ -25,3 +27,6 @@ struct ContainerItem {
 };
 
 } // namespace velmar
+
+// Whole wherever a container is used; a button refers back to slides.
+#include <Configuration/ComponentItem.h>

@@ -3,26 +3,75 @@
 #include <Configuration/ConfigurationEnum.h>
 #include <Configuration/ConfigurationError.h>
 #include <Configuration/DecodingContext.h>
+#include <Configuration/Description.h>
 #include <Configuration/Texts.h>
 #include <Foundation/PropertyList.h>
 
 #include <fmt/format.h>
 
+#include <concepts>
 #include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <type_traits>
 #include <vector>
 
 namespace velmar {
 
-/// What a value type means in the file. A specialisation has
+/// One of several items, told apart by a key of its dictionary. It has
+///     static constexpr std::string_view typeKey;                            such as "Type"
+///     enum class TypeIdentifier                                             with its table
+///     std::variant<...> value                                               each with a constant
+///     `typeIdentifier`
+template <class T>
+concept TaggedItem = requires(T item) {
+    typename T::TypeIdentifier;
+    { T::typeKey } -> std::convertible_to<std::string_view>;
+    item.value.index();
+};
+
+/// A section or item: an aggregate of key holders with the name of its type.
+template <class T>
+concept KeysCodableItem = std::is_aggregate_v<T> && !TaggedItem<T> && requires {
+    { T::typeName } -> std::convertible_to<std::string_view>;
+};
+
+template <class T>
+struct EnumCoding;
+// In ItemCoding.h.
+template <class T>
+struct ItemCoding;
+template <class T>
+struct TaggedItemCoding;
+
+namespace detail {
+
+template <class T>
+consteval auto codingOf() {
+    if constexpr (ConfigurationEnum<T>) {
+        return std::type_identity<EnumCoding<T>>();
+    } else if constexpr (TaggedItem<T>) {
+        return std::type_identity<TaggedItemCoding<T>>();
+    } else {
+        static_assert(KeysCodableItem<T>, "The type is not one of the file");
+        return std::type_identity<ItemCoding<T>>();
+    }
+}
+
+} // namespace detail
+
+/// What a value type means in the file: of enumerations and items by the one coding of each sort, of all else
+/// by a specialisation. It has
 ///     static T decode(const Decoding &);                           throws ConfigurationError
 ///     static std::optional<PropertyList> encode(const T &);        none where there is nothing to write
 ///     static std::string plistType();                              the type as an administrator reads it
-/// The one for items lies in ItemCoding.h.
+///     static ValueDescription describe(Descriptions &);            the type as data, for tools
+/// The sorts are base classes and no constrained specialisations, because GCC 12 makes the instances of those
+/// local to each object file, so that no two share them.
 template <class T>
-struct Decodable;
+struct Decodable : decltype(detail::codingOf<T>())::type {};
 
 /// Throws the ConfigurationError of a value that is not of the expected type.
 [[noreturn]] void throwWrongType(const Decoding &decoding, const std::string &expectedType);
@@ -32,11 +81,17 @@ struct Decodable;
 /// Throws the ConfigurationError of a value that is no dictionary where an item must be.
 [[noreturn]] void throwNoItem(const Decoding &decoding, const std::string &expectedType);
 
+/// Keeps the variables that a text uses, to be checked when all of the file is decoded.
+void recordVariables(std::string_view text, const Decoding &decoding);
+
 template <>
 struct Decodable<bool> {
     static bool decode(const Decoding &decoding);
     static std::optional<PropertyList> encode(bool value) { return PropertyList(value); }
     static std::string plistType() { return "boolean"; }
+    static ValueDescription describe(Descriptions & /*items*/) {
+        return ValueDescription::of(ValueDescription::Kind::boolean);
+    }
 };
 
 template <>
@@ -44,6 +99,9 @@ struct Decodable<std::int64_t> {
     static std::int64_t decode(const Decoding &decoding);
     static std::optional<PropertyList> encode(std::int64_t value) { return PropertyList(value); }
     static std::string plistType() { return "integer (number)"; }
+    static ValueDescription describe(Descriptions & /*items*/) {
+        return ValueDescription::of(ValueDescription::Kind::integer);
+    }
 };
 
 /// Finite numbers only.
@@ -52,6 +110,9 @@ struct Decodable<double> {
     static double decode(const Decoding &decoding);
     static std::optional<PropertyList> encode(double value) { return PropertyList(value); }
     static std::string plistType() { return "real (number)"; }
+    static ValueDescription describe(Descriptions & /*items*/) {
+        return ValueDescription::of(ValueDescription::Kind::real);
+    }
 };
 
 template <>
@@ -59,10 +120,11 @@ struct Decodable<std::string> {
     static std::string decode(const Decoding &decoding);
     static std::optional<PropertyList> encode(const std::string &value) { return PropertyList(value); }
     static std::string plistType() { return "string"; }
+    static ValueDescription describe(Descriptions & /*items*/) { return ValueDescription::text(); }
 };
 
-template <ConfigurationEnum E>
-struct Decodable<E> {
+template <class E>
+struct EnumCoding {
     static E decode(const Decoding &decoding) {
         const std::string *text = decoding.value.string();
         if (text == nullptr) {
@@ -79,6 +141,11 @@ struct Decodable<E> {
     }
     static std::optional<PropertyList> encode(E value) { return PropertyList(rawString(value)); }
     static std::string plistType() { return possibleValuesText(rawStringList<E>()); }
+    static ValueDescription describe(Descriptions & /*items*/) {
+        ValueDescription description = ValueDescription::of(ValueDescription::Kind::enumeration);
+        description.rawStrings.assign(rawStringList<E>().begin(), rawStringList<E>().end());
+        return description;
+    }
 };
 
 /// An optional is absent where its key is; a value that is there must be right.
@@ -89,6 +156,7 @@ struct Decodable<std::optional<T>> {
         return value ? Decodable<T>::encode(*value) : std::nullopt;
     }
     static std::string plistType() { return Decodable<T>::plistType(); }
+    static ValueDescription describe(Descriptions &items) { return Decodable<T>::describe(items); }
 };
 
 template <class T>
@@ -122,6 +190,9 @@ struct Decodable<std::vector<T>> {
         return PropertyList(std::move(array));
     }
     static std::string plistType() { return fmt::format("array of {}", Decodable<T>::plistType()); }
+    static ValueDescription describe(Descriptions &items) {
+        return ValueDescription::of(ValueDescription::Kind::list, {Decodable<T>::describe(items)});
+    }
 };
 
 template <class T>
@@ -153,6 +224,9 @@ struct Decodable<std::map<std::string, T>> {
         return PropertyList(std::move(dictionary));
     }
     static std::string plistType() { return fmt::format("dictionary of {}", Decodable<T>::plistType()); }
+    static ValueDescription describe(Descriptions &items) {
+        return ValueDescription::of(ValueDescription::Kind::dictionary, {Decodable<T>::describe(items)});
+    }
 };
 
 /// The types whose keys can have a range.

@@ -46,6 +46,13 @@ public:
         records_.records.push_back(std::move(record));
     }
     void declareVariable(std::string name) { declaredVariables_.insert(std::move(name)); }
+    /// Keeps a text whose populated form tells the names that it declares, until the variables are known.
+    void declareByPopulatedText(std::string text, std::vector<std::string> (*names)(const std::string &)) {
+        declaringTexts_.emplace_back(std::move(text), names);
+    }
+    /// Declares what the kept texts do with the values that the variables start with; those that cannot be
+    /// populated declare nothing.
+    void declareByPopulatedTexts(const std::map<std::string, std::string> &initialValues);
     [[nodiscard]] const VariablesRecords &variablesRecords() const { return records_; }
     [[nodiscard]] VariablesRecords takeVariablesRecords() { return std::move(records_); }
     [[nodiscard]] const VariableNames &declaredVariables() const { return declaredVariables_; }
@@ -67,6 +74,7 @@ private:
     std::map<std::pair<std::string_view, std::string>, std::shared_ptr<void>> valuesOfNames_;
     VariablesRecords records_;
     VariableNames declaredVariables_;
+    std::vector<std::pair<std::string, std::vector<std::string> (*)(const std::string &)>> declaringTexts_;
 };
 
 /// A key that an enclosing item has read from the dictionary of an item: a known one.

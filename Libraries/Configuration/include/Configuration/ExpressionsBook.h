@@ -35,6 +35,7 @@ struct Decodable<ExpressionsBook<T>> {
         return Storage::encode(book.models());
     }
     static std::string plistType() { return Storage::plistType(); }
+    static ValueDescription describe(Descriptions &items) { return Storage::describe(items); }
 };
 
 } // namespace velmar

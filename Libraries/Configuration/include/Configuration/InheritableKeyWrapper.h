@@ -44,6 +44,14 @@ public:
 
     [[nodiscard]] BookOfLibrary book() const { return book_; }
 
+    [[nodiscard]] KeyDescription describe(Descriptions &items) const {
+        KeyDescription description = Base::describe(items);
+        description.value =
+            ValueDescription::of(ValueDescription::Kind::anyOf,
+                                 {ValueDescription::text("name of a model"), std::move(description.value)});
+        return description;
+    }
+
 private:
     using typename Base::Held;
     using typename Base::Node;

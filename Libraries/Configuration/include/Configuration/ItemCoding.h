@@ -4,11 +4,12 @@
 // of items, never by the headers that declare them: reflection is what costs time to compile.
 
 #include <Configuration/Book.h>
+#include <Configuration/CodableKey.h>
 #include <Configuration/Decodable.h>
 #include <Configuration/InheritableKeyWrapper.h>
 #include <Configuration/KeyWrapper.h>
+#include <Foundation/UUID.h>
 
-#include <boost/container/small_vector.hpp>
 #include <boost/pfr.hpp>
 
 #include <array>
@@ -20,28 +21,23 @@
 
 namespace velmar {
 
-/// One of several items, told apart by a key of its dictionary. It has
-///     static constexpr std::string_view typeKey;                            such as "Type"
-///     enum class TypeIdentifier                                             with its table
-///     std::variant<...> value                                               each with a constant
-///     `typeIdentifier`
-template <class T>
-concept TaggedItem = requires(T item) {
-    typename T::TypeIdentifier;
-    { T::typeKey } -> std::convertible_to<std::string_view>;
-    item.value.index();
-};
-
-/// A section or item: an aggregate of key holders with the name of its type.
-template <class T>
-concept KeysCodableItem = std::is_aggregate_v<T> && !TaggedItem<T> && requires {
-    { T::typeName } -> std::convertible_to<std::string_view>;
-};
-
 /// An item that checks itself once all its keys are in; its `validate` throws ConfigurationError.
 template <class T>
 concept PostDecodingValidatable = requires(const T &item, const CodingPath &path) {
     item.validate(path);
+};
+
+/// An item that refers to parts of the file other than models; checked when all of the file is decoded.
+/// `validateReferences` throws a LocalizedError, which is told with the path of the item.
+template <class T>
+concept ReferencesValidatable = requires(const T &item, const Library &library) {
+    item.validateReferences(library);
+};
+
+/// An item that declares variables by several of its keys together.
+template <class T>
+concept VariablesDeclaring = requires(const T &item) {
+    { item.declaredVariables() } -> std::convertible_to<std::vector<std::string>>;
 };
 
 /// Holders that several items have in common, nested in each as its first member.
@@ -50,17 +46,30 @@ concept KeyGroup = std::is_aggregate_v<T> && requires {
     typename T::IsKeyGroup;
 };
 
-/// Calls `function` with every holder of an item, in the order of declaration.
-template <class T, class Function>
-void visitKeys(T &item, Function &&function) {
+/// Adds the holders of an item. The one place that reflects on it: what the routines do with the holders is
+/// compiled once for all items.
+template <class T>
+void appendKeys(T &item, KeyList &keys) {
     boost::pfr::for_each_field(item, [&](auto &member) {
         using Member = std::remove_cvref_t<decltype(member)>;
         if constexpr (KeyGroup<Member>) {
-            visitKeys(member, function);
+            appendKeys(member, keys);
         } else if constexpr (requires { member.asSibling(); }) {
-            function(member);
+            keys.push_back(CodableKey(member));
         }
     });
+}
+
+template <class T>
+[[nodiscard]] KeyList keysOf(T &item) {
+    KeyList keys;
+    appendKeys(item, keys);
+    return keys;
+}
+/// Of an item that stays as it is.
+template <class T>
+[[nodiscard]] const KeyList keysOf(const T &item) { // NOLINT(readability-const-return-type): as the item
+    return keysOf(const_cast<T &>(item));           // NOLINT(cppcoreguidelines-pro-type-const-cast)
 }
 
 /// A new item at its defaults. Copies share the declarations of its keys with the one default instance.
@@ -70,56 +79,7 @@ T makeDefault() {
     return defaultInstance;
 }
 
-/// The names of an item's keys, in the order of declaration.
-template <KeysCodableItem T>
-const std::vector<std::string_view> &keyNames() {
-    static const auto names = [] {
-        std::vector<std::string_view> list;
-        const T item = makeDefault<T>();
-        visitKeys(item, [&](const auto &key) { list.push_back(key.name().stringValue); });
-        return list;
-    }();
-    return names;
-}
-
 namespace detail {
-
-template <class T>
-void noteUnknownKeys(const PropertyList::Dictionary &dictionary, const Decoding &decoding) {
-    std::vector<std::string_view> known = keyNames<T>();
-    for (const KeyReadBefore *read = decoding.keysReadBefore; read != nullptr; read = read->before) {
-        known.push_back(read->key);
-    }
-    for (const auto &entry : dictionary) {
-        if (std::ranges::find(known, entry.key) == known.end()) {
-            decoding.context.noteUnknownKey(decoding.path, entry.key, entry.keyOffset, known);
-        }
-    }
-}
-
-template <class T>
-void validateKeys(const T &item, const Decoding &decoding) {
-    boost::container::small_vector<SiblingKey, 32> siblings;
-    const auto needsSiblings = [](const Requirement &requirement) {
-        // What remains of these two has been seen to while decoding.
-        return requirement.type != RequirementType::optional && requirement.type != RequirementType::required;
-    };
-    visitKeys(item, [&](const auto &key) {
-        if (!needsSiblings(key.requirement())) {
-            return;
-        }
-        if (siblings.empty()) {
-            visitKeys(item, [&](const auto &sibling) { siblings.push_back(sibling.asSibling()); });
-        }
-        try {
-            validate(key.asSibling(), key.requirement(), {siblings.data(), siblings.size()});
-        } catch (const ConfigurationError &) {
-            decoding.context.noteFailure(CodingPath(decoding.path, key.name().stringValue).text(),
-                                         decoding.value.offset());
-            throw;
-        }
-    });
-}
 
 template <PostDecodingValidatable T>
 void validateItem(const T &item, const Decoding &decoding) {
@@ -135,37 +95,57 @@ void validateItem(const T &item, const Decoding &decoding) {
 
 } // namespace detail
 
-template <KeysCodableItem T>
-struct Decodable<T> {
+/// The coding of an aggregate of key holders.
+template <class T>
+struct ItemCoding {
     static T decode(const Decoding &decoding) {
-        const PropertyList::Dictionary *dictionary = decoding.value.dictionary();
-        if (dictionary == nullptr) {
-            throwNoItem(decoding, plistType());
-        }
-        // First, because the key that is missed may be there with a slip.
-        if (decoding.context.notes() != nullptr) {
-            detail::noteUnknownKeys<T>(*dictionary, decoding);
-        }
         T item = makeDefault<T>();
-        visitKeys(item, [&](auto &key) { key.decode(*dictionary, decoding.path, decoding.context); });
-        detail::validateKeys(item, decoding);
+        KeyList keys = keysOf(item);
+        decodeKeys(keys, plistType(), decoding);
+        if constexpr (requires { item.id = UUID(); }) {
+            item.id = UUID();
+        }
+        if constexpr (VariablesDeclaring<T>) {
+            for (std::string &name : item.declaredVariables()) {
+                decoding.context.declareVariable(std::move(name));
+            }
+        }
         if constexpr (PostDecodingValidatable<T>) {
             detail::validateItem(item, decoding);
+        }
+        if constexpr (ReferencesValidatable<T>) {
+            decoding.context.addReference(
+                decoding.value, [item](const Library &library) { item.validateReferences(library); });
         }
         return item;
     }
 
-    static std::optional<PropertyList> encode(const T &item) {
-        PropertyList::Dictionary dictionary;
-        visitKeys(item, [&](const auto &key) { key.encode(dictionary); });
-        return PropertyList(std::move(dictionary));
-    }
+    static std::optional<PropertyList> encode(const T &item) { return encodeKeys(keysOf(item)); }
 
     static std::string plistType() { return fmt::format("dictionary ({})", T::typeName); }
+
+    static ValueDescription describe(Descriptions &items) {
+        if (ItemDescription *const item = items.add(T::typeName)) {
+            const T defaults = makeDefault<T>();
+            for (const CodableKey &key : keysOf(defaults)) {
+                item->keys.push_back(key.describe(items));
+            }
+        }
+        return ValueDescription::item(T::typeName);
+    }
+
+    static VariableNames usedVariables(const T &item) {
+        VariableNames names;
+        for (const CodableKey &key : keysOf(item)) {
+            names.merge(key.usedVariables());
+        }
+        return names;
+    }
 };
 
-template <TaggedItem T>
-struct Decodable<T> {
+/// The coding of an item of several kinds.
+template <class T>
+struct TaggedItemCoding {
     using Value = decltype(T::value);
 
     static T decode(const Decoding &decoding) {
@@ -173,21 +153,7 @@ struct Decodable<T> {
         if (dictionary == nullptr) {
             throwNoItem(decoding, plistType());
         }
-        const PropertyList *type = dictionary->find(T::typeKey);
-        if (type == nullptr) {
-            noteNearMissOfType(*dictionary, decoding);
-            throw ConfigurationError(
-                ConfigurationErrors::MissingValueWithPath{std::string(T::typeKey), decoding.path.text()});
-        }
-        const CodingPath typePath(decoding.path, T::typeKey);
-        typename T::TypeIdentifier identifier;
-        try {
-            identifier = Decodable<typename T::TypeIdentifier>::decode({*type, typePath, decoding.context});
-        } catch (...) {
-            decoding.context.noteFailure(typePath.text(), type->offset());
-            throw;
-        }
-
+        const typename T::TypeIdentifier identifier = identifierOf(*dictionary, decoding);
         const KeyReadBefore keysRead{T::typeKey, decoding.keysReadBefore};
         return decodeAlternative(identifier, {decoding.value, decoding.path, decoding.context, &keysRead},
                                  std::make_index_sequence<std::variant_size_v<Value>>());
@@ -207,7 +173,65 @@ struct Decodable<T> {
 
     static std::string plistType() { return fmt::format("dictionary ({})", T::typeName); }
 
+    static ValueDescription describe(Descriptions &items) {
+        if (ItemDescription *const item = items.add(T::typeName)) {
+            item->typeKey = T::typeKey;
+            describeAlternatives(*item, items, std::make_index_sequence<std::variant_size_v<Value>>());
+        }
+        return ValueDescription::item(T::typeName);
+    }
+
+    static VariableNames usedVariables(const T &item) {
+        return std::visit(
+            [](const auto &alternative) {
+                return Decodable<std::remove_cvref_t<decltype(alternative)>>::usedVariables(alternative);
+            },
+            item.value);
+    }
+
 private:
+    template <std::size_t... Index>
+    static void describeAlternatives(ItemDescription &item, Descriptions &items,
+                                     std::index_sequence<Index...>) {
+        const auto add = [&]<class Alternative>(std::type_identity<Alternative>) {
+            item.kinds.emplace_back(rawString(Alternative::typeIdentifier), Alternative::typeName);
+            static_cast<void>(Decodable<Alternative>::describe(items));
+        };
+        (add(std::type_identity<std::variant_alternative_t<Index, Value>>()), ...);
+    }
+
+    static typename T::TypeIdentifier identifierOf(const PropertyList::Dictionary &dictionary,
+                                                   const Decoding &decoding) {
+        const PropertyList *const type = dictionary.find(T::typeKey);
+        if (type == nullptr) {
+            noteNearMissOfType(dictionary, decoding);
+            if constexpr (tellsTypeFaultsAlike) {
+                throwNoType(decoding);
+            }
+            throw ConfigurationError(
+                ConfigurationErrors::MissingValueWithPath{std::string(T::typeKey), decoding.path.text()});
+        }
+        const CodingPath typePath(decoding.path, T::typeKey);
+        try {
+            return Decodable<typename T::TypeIdentifier>::decode({*type, typePath, decoding.context});
+        } catch (const ConfigurationError &) {
+            decoding.context.noteFailure(typePath.text(), type->offset());
+            if constexpr (tellsTypeFaultsAlike) {
+                throwNoType(decoding);
+            }
+            throw;
+        }
+    }
+
+    static constexpr bool tellsTypeFaultsAlike = requires { T::tellsTypeFaultsAlike; };
+
+    [[noreturn]] static void throwNoType(const Decoding &decoding) {
+        throw ConfigurationError(ConfigurationErrors::DecodingError{
+            decoding.path.text(),
+            fmt::format("Missing required key '{}' or wrong value. Expected type: {}.", T::typeKey,
+                        Decodable<typename T::TypeIdentifier>::plistType())});
+    }
+
     /// Which keys are known depends on the type; without it only a slip in the type's own key can be told.
     static void noteNearMissOfType(const PropertyList::Dictionary &dictionary, const Decoding &decoding) {
         constexpr std::array<std::string_view, 1> known{T::typeKey};
@@ -239,10 +263,8 @@ VariableNames usedVariables(const T &value) {
     const auto add = [&](const auto &part) { names.merge(usedVariables(part)); };
     if constexpr (Populatable<T>) {
         visitTexts(value, [&](std::string_view text) { names.merge(usedVariables(text)); });
-    } else if constexpr (KeysCodableItem<T>) {
-        visitKeys(value, [&](const auto &key) { add(key.rawValue()); });
-    } else if constexpr (TaggedItem<T>) {
-        std::visit(add, value.value);
+    } else if constexpr (KeysCodableItem<T> || TaggedItem<T>) {
+        names = Decodable<T>::usedVariables(value);
     } else if constexpr (requires { value.has_value(); }) {
         if (value) {
             add(*value);
@@ -262,17 +284,14 @@ VariableNames usedVariables(const T &value) {
 /// A model takes what it does not give itself from its parent, whose own values are settled.
 template <class T>
 void inheritKeys(T &model, const T &parent) {
-    std::vector<const void *> parentKeys;
-    visitKeys(parent, [&](const auto &key) { parentKeys.push_back(&key); });
-    std::size_t index = 0;
-    visitKeys(model, [&](auto &key) {
-        using Key = std::remove_cvref_t<decltype(key)>;
-        const auto &parentKey = *static_cast<const Key *>(parentKeys[index++]);
-        const bool isParentName = static_cast<const void *>(&key) == &model._parentModelName;
-        if (!key.wasGivenValueWhileDecoding() && !isParentName) {
-            key.inherit(parentKey);
+    KeyList keys = keysOf(model);
+    const KeyList parentKeys = keysOf(parent);
+    for (std::size_t index = 0; index < keys.size(); ++index) {
+        CodableKey &key = keys[index];
+        if (!key.asSibling().wasGivenValueWhileDecoding && !key.isHolder(&model._parentModelName)) {
+            key.inherit(parentKeys[index]);
         }
-    });
+    }
     model.isParentStyleApplied = true;
 }
 

@@ -3,6 +3,7 @@
 #include <Configuration/ConfigurationError.h>
 #include <Configuration/Decodable.h>
 #include <Configuration/DecodingContext.h>
+#include <Configuration/Description.h>
 #include <Configuration/Plugin.h>
 #include <Configuration/Populatable.h>
 #include <Configuration/Requirement.h>
@@ -139,6 +140,18 @@ public:
     }
 
     [[nodiscard]] SiblingKey asSibling() const { return {name(), wasGivenValueWhileDecoding_}; }
+
+    /// What the file may hold for the key. The items that its value consists of are added to `items`.
+    [[nodiscard]] KeyDescription describe(Descriptions &items) const {
+        KeyDescription description{
+            name().stringValue, Decodable<T>::describe(items), {}, requirement(), range()};
+        if constexpr (requires { Decodable<T>::asWritten(initialDefaultValue()); }) {
+            description.defaultValue = Decodable<T>::asWritten(initialDefaultValue());
+        } else {
+            description.defaultValue = Decodable<T>::encode(initialDefaultValue());
+        }
+        return description;
+    }
 
 protected:
     struct Declaration : boost::intrusive_ref_counter<Declaration> {

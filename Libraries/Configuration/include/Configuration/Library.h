@@ -1,17 +1,23 @@
 #pragma once
 
+#include <vector>
+
 namespace velmar {
 
 template <class T>
 class Book;
+struct APIRequestItem;
 struct ColorItem;
 struct FontItem;
+struct SlideItem;
 
-/// The books of the file whose references are being settled. It owns nothing: the books belong to the
-/// configuration that is being made, so that one that fails replaces nothing.
+/// What references of the file whose references are being settled lead to. It owns nothing: all belongs to
+/// the configuration that is being made, so that one that fails replaces nothing.
 struct Library {
     const Book<FontItem> *fontStyles = nullptr;
     const Book<ColorItem> *colorStyles = nullptr;
+    const Book<APIRequestItem> *apiRequests = nullptr;
+    const std::vector<SlideItem> *slides = nullptr;
 };
 
 } // namespace velmar

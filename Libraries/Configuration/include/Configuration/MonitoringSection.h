@@ -1,6 +1,9 @@
 #pragma once
 
 #include <Configuration/KeyWrapper.h>
+#include <Configuration/MonitorItem.h>
+
+#include <vector>
 
 namespace velmar {
 
@@ -14,6 +17,7 @@ struct MonitoringSection {
     KeyWrapper<std::optional<std::string>> _airwatchInstalledLogPath{"AirWatchInstallLogPath", optional};
     KeyWrapper<std::optional<std::string>> _installationCompleteSound{
         "InstallationCompleteSoundNameOrFilePath", optional};
+    KeyWrapper<std::vector<MonitorItem>> _monitors{"Monitors", optional};
 };
 
 } // namespace velmar

@@ -21,9 +21,16 @@ struct SlideItem {
 
     /// How the containers share the width of the slide.
     struct ContainersComposition {
-        struct NotSpecified {}; ///< Equal widths.
+        /// Equal widths.
+        struct NotSpecified {
+            std::vector<ContainerItem> containers;
+        };
         struct Ratio {
-            std::vector<double> ratios; ///< Of each container, in their order, from 0 to 1.
+            struct Share {
+                ContainerItem container;
+                double ratio = 0; ///< From 0 to 1.
+            };
+            std::vector<Share> shares;
         };
         std::variant<NotSpecified, Ratio> value;
     };

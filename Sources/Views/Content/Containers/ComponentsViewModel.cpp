@@ -10,19 +10,10 @@
 
 namespace velmar {
 
-namespace {
-
-const std::optional<Expression> &conditionOf(const ComponentItem &item) {
-    return std::visit(
-        [](const auto &kind) -> const auto & { return kind.common._condition(); }, item.value);
-}
-
-} // namespace
-
 VariableNames componentsConditions(const std::vector<ComponentItem> &items) {
     VariableNames names;
     for (const ComponentItem &item : items) {
-        if (const auto &condition = conditionOf(item)) {
+        if (const auto &condition = item.common()._condition()) {
             names.merge(involvedVariables(*condition));
         }
     }
@@ -83,7 +74,7 @@ ComponentsChange ComponentsViewModel::evaluateConditions() {
 }
 
 bool ComponentsViewModel::shouldBeShown(const ComponentItem &item) const {
-    const std::optional<Expression> &condition = conditionOf(item);
+    const std::optional<Expression> &condition = item.common()._condition();
     if (!condition) {
         return true;
     }

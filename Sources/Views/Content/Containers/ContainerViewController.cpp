@@ -11,6 +11,9 @@
 #include <Views/CustomViews/KeyboardFocus.h>
 #include <Views/CustomViews/Theme.h>
 
+#include <fmt/core.h>
+#include <logger/Logger.h>
+
 #include <QEvent>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -49,19 +52,29 @@ QMargins standardMargins(ContainerViewController::Kind kind) {
     return {32, 40, 32, 40};
 }
 
-ComponentView *viewOf(const ComponentItem &item, MainQueue &mainQueue, QWidget *parent) {
-    struct Maker {
-        MainQueue &mainQueue;
-        QWidget *parent;
-        ComponentView *operator()(const ComponentItem::Text &text) const {
-            return new ComponentViews::Text(text, mainQueue, parent);
-        }
-        ComponentView *operator()(const ComponentItem::Spacer &spacer) const {
-            return new ComponentViews::Spacer(spacer, mainQueue, parent);
-        }
-    };
-    return std::visit(Maker{mainQueue, parent}, item.value);
-}
+/// Makes the view of a component.
+struct ViewMaker {
+    MainQueue &mainQueue;
+    QWidget *parent;
+
+    ComponentView *operator()(const ComponentItem::Text &text) const {
+        return new ComponentViews::Text(text, mainQueue, parent);
+    }
+    ComponentView *operator()(const ComponentItem::Spacer &spacer) const {
+        return new ComponentViews::Spacer(spacer, mainQueue, parent);
+    }
+    /// Kinds without a view leave their place empty.
+    template <class Item>
+    ComponentView *operator()(const Item & /*other*/) const {
+        Logger::warning([] {
+            return fmt::format("Components of the type '{}' cannot be shown yet",
+                               rawString(Item::typeIdentifier));
+        });
+        ComponentItem::Spacer nothing;
+        nothing._height.set(0);
+        return new ComponentViews::Spacer(std::move(nothing), mainQueue, parent);
+    }
+};
 
 } // namespace
 
@@ -114,7 +127,7 @@ bool ContainerViewController::scroll(int key) {
 }
 
 ComponentView *ContainerViewController::makeView(std::size_t position) {
-    ComponentView *view = viewOf(components_->items()[position], mainQueue_, column_);
+    ComponentView *view = std::visit(ViewMaker{mainQueue_, column_}, components_->items()[position].value);
     connect(view, &ComponentView::titleDidChange, this, &ContainerViewController::updateAccessibleName);
     return view;
 }

@@ -11,7 +11,7 @@ std::vector<ContainerSpan> containerSpans(const SlideItem::ContainersComposition
     double share = 0;
     int start = 0;
     for (std::size_t index = 0; index < count; ++index) {
-        share += ratio != nullptr ? ratio->ratios.at(index) : 1.0 / static_cast<double>(count);
+        share += ratio != nullptr ? ratio->shares.at(index).ratio : 1.0 / static_cast<double>(count);
         // The ends are rounded and not the widths, so that the rounding doesn't add up.
         const int end = static_cast<int>(std::lround(share * width));
         spans.push_back({start, end - start});

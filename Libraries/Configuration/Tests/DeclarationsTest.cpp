@@ -1,0 +1,252 @@
+// What every item declares of every one of its keys, checked from outside: on files made out of the
+// declarations.
+#include "Support.h"
+
+#include <Support/GeneratedConfiguration.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <map>
+
+using namespace velmar;
+using velmar::test::outcomeOf;
+
+namespace {
+
+using Kind = ValueDescription::Kind;
+
+/// One step from an item down to another: the key (or the kind) and what lies between.
+struct Step {
+    std::string from;
+    std::string key;  ///< Empty where `to` is a kind of `from`.
+    std::string kind; ///< The value of the type key.
+    std::vector<Kind> within;
+};
+
+/// Every item of the file, put into a file of least size.
+class Places {
+public:
+    Places() {
+        std::deque<std::string> open{std::string(Configuration::typeName)};
+        ways_[open.front()] = {};
+        while (!open.empty()) {
+            const std::string name = open.front();
+            open.pop_front();
+            const ItemDescription &item = generator_.descriptions().items().at(name);
+            for (const auto &[kind, typeName] : item.kinds) {
+                reach(typeName, {name, "", kind, {}}, open);
+            }
+            for (const KeyDescription &key : item.keys) {
+                reachWithin(key.value, {name, std::string(key.name), "", {}}, open);
+            }
+        }
+    }
+
+    [[nodiscard]] GeneratedConfiguration &generator() { return generator_; }
+
+    struct Place {
+        PropertyList file;
+        std::string path;
+    };
+
+    /// A file whose only item of the type, as far as the way there allows, is the one given.
+    [[nodiscard]] Place with(const std::string &typeName, PropertyList item) {
+        std::string path;
+        std::string type = typeName;
+        while (type != Configuration::typeName) {
+            const Step &step = ways_.at(type);
+            if (step.key.empty()) {
+                item.dictionary()->set(generator_.descriptions().items().at(step.from).typeKey,
+                                       PropertyList(step.kind));
+            } else {
+                std::string part = step.key;
+                for (auto within = step.within.rbegin(); within != step.within.rend(); ++within) {
+                    if (*within == Kind::list) {
+                        item = PropertyList(PropertyList::Array{std::move(item)});
+                        part += ".0";
+                    } else {
+                        PropertyList::Dictionary dictionary;
+                        dictionary.set("Entry", std::move(item));
+                        item = PropertyList(std::move(dictionary));
+                        part += ".Entry";
+                    }
+                }
+                PropertyList parent = generator_.leastItem(step.from, step.key);
+                parent.dictionary()->set(step.key, std::move(item));
+                item = std::move(parent);
+                path = path.empty() ? part : part + "." + path;
+            }
+            type = step.from;
+        }
+        generator_.addWhatIsReferredTo(item);
+        return {std::move(item), std::move(path)};
+    }
+
+private:
+    void reach(const std::string &typeName, Step step, std::deque<std::string> &open) {
+        if (ways_.try_emplace(typeName, std::move(step)).second) {
+            open.push_back(typeName);
+        }
+    }
+
+    void reachWithin(const ValueDescription &value, Step step, std::deque<std::string> &open) {
+        if (value.kind == Kind::item) {
+            reach(value.name, std::move(step), open);
+        } else {
+            if (value.kind != Kind::anyOf) {
+                step.within.push_back(value.kind);
+            }
+            for (const ValueDescription &part : value.parts) {
+                reachWithin(part, step, open);
+            }
+        }
+    }
+
+    GeneratedConfiguration generator_{1};
+    std::map<std::string, Step> ways_;
+};
+
+/// A value that no key of the kind takes.
+PropertyList wrongFor(const ValueDescription &value) {
+    return value.kind == Kind::boolean ? PropertyList("no boolean") : PropertyList(PropertyList::Date{0});
+}
+
+/// Calls `check` with every key of every item, the item with what it requires and this key, and the places.
+template <class Check>
+void forEveryKey(Check check) {
+    Places places;
+    std::size_t keys = 0;
+    for (const auto &[typeName, item] : places.generator().descriptions().items()) {
+        for (const KeyDescription &key : item.keys) {
+            SCOPED_TRACE(typeName + "." + std::string(key.name));
+            check(places, typeName, key, places.generator().leastItem(typeName, key.name));
+            ++keys;
+        }
+    }
+    EXPECT_GT(keys, 150U) << "most items are not reached";
+}
+
+std::string pathOf(const Places::Place &place, std::string_view key) {
+    return place.path.empty() ? std::string(key) : place.path + "." + std::string(key);
+}
+
+TEST(Declarations, EveryKeyIsTakenAndWrittenBack) {
+    forEveryKey(
+        [](Places &places, const std::string &typeName, const KeyDescription &key, PropertyList item) {
+            if (key.name == "IsLarge" || key.name == "WidthRatio") {
+                return; // What a slide makes of its containers' widths has a test of its own.
+            }
+            const PropertyList file = places.with(typeName, std::move(item)).file;
+            ASSERT_EQ(outcomeOf(file), "decoded") << file.text();
+            const PropertyList written = Configuration::decode(file)->encode();
+            EXPECT_EQ(Configuration::decode(written)->encode(), written);
+        });
+}
+
+TEST(Declarations, EveryKeyRefusesAnotherKindOfValue) {
+    forEveryKey([](Places &places, const std::string &typeName, const KeyDescription &key,
+                   PropertyList item) {
+        item.dictionary()->set(key.name, wrongFor(key.value));
+        const Places::Place place = places.with(typeName, std::move(item));
+        const std::string path = pathOf(place, key.name);
+        EXPECT_THAT(outcomeOf(place.file),
+                    testing::AnyOf(testing::AllOf(testing::StartsWith("Decoding error at '" + path + "'. "),
+                                                  testing::HasSubstr("Expected type: ")),
+                                   testing::StartsWith("Invalid string color specification '' at " + path),
+                                   path + ". Error while decoding the request body."));
+    });
+}
+
+TEST(Declarations, EveryRequiredKeyIsMissed) {
+    forEveryKey(
+        [](Places &places, const std::string &typeName, const KeyDescription &key, PropertyList item) {
+            if (key.requirement.type != RequirementType::required) {
+                return;
+            }
+            PropertyList::Dictionary without;
+            for (const auto &entry : *item.dictionary()) {
+                if (entry.key != key.name) {
+                    without.set(entry.key, entry.value);
+                }
+            }
+            const Places::Place place = places.with(typeName, PropertyList(std::move(without)));
+            EXPECT_EQ(outcomeOf(place.file),
+                      fmt::format("Missing required key '{}' at '{}'", key.name, place.path));
+        });
+}
+
+TEST(Declarations, EveryRangeHoldsItsBoundsAndNoMore) {
+    forEveryKey([](Places &places, const std::string &typeName, const KeyDescription &key,
+                   PropertyList item) {
+        if (!key.range) {
+            return;
+        }
+        const auto outcome = [&](double number) {
+            item.dictionary()->set(key.name, PropertyList(number));
+            return outcomeOf(places.with(typeName, item).file);
+        };
+        for (const double outside : {key.range->lower - 0.001, key.range->upper + 0.001}) {
+            EXPECT_THAT(outcome(outside), testing::HasSubstr("in allowed range 0.0...1.0 at ")) << outside;
+        }
+        // What the other keys of the item make of the bound is not this key's range.
+        EXPECT_THAT(outcome(key.range->lower), testing::Not(testing::HasSubstr("allowed range")));
+        EXPECT_THAT(outcome(key.range->upper), testing::Not(testing::HasSubstr("allowed range")));
+    });
+}
+
+TEST(Declarations, EveryRuleBetweenKeysIsKept) {
+    forEveryKey([](Places &places, const std::string &typeName, const KeyDescription &key,
+                   PropertyList item) {
+        const Requirement &rule = key.requirement;
+        if (rule.keys.empty()) {
+            return;
+        }
+        const std::vector<KeyDescription> &keys = places.generator().descriptions().items().at(typeName).keys;
+        const auto give = [&](PropertyList::Dictionary &to, std::string_view name) {
+            const auto sibling = std::ranges::find(keys, name, &KeyDescription::name);
+            to.set(name, places.generator().value(typeName, *sibling));
+        };
+        // Both this key and the listed ones, then neither, then only the others.
+        PropertyList::Dictionary both = *item.dictionary();
+        PropertyList::Dictionary none;
+        PropertyList::Dictionary others;
+        for (const auto &entry : *item.dictionary()) {
+            const auto isListed = [&](const ConfigCodingKey &listed) {
+                return listed.stringValue == entry.key;
+            };
+            if (entry.key != key.name && std::ranges::none_of(rule.keys, isListed)) {
+                none.set(entry.key, entry.value);
+                others.set(entry.key, entry.value);
+            }
+        }
+        for (const ConfigCodingKey &listed : rule.keys) {
+            give(both, listed.stringValue);
+            give(others, listed.stringValue);
+        }
+        const auto outcome = [&](const PropertyList::Dictionary &dictionary) {
+            return outcomeOf(places.with(typeName, PropertyList(dictionary)).file);
+        };
+        const auto refused = testing::HasSubstr("Key validation error. ");
+        const bool excludes =
+            rule.type == RequirementType::exclude || rule.type == RequirementType::requiredExcluding;
+        EXPECT_EQ(testing::Value(outcome(both), refused), excludes);
+        EXPECT_EQ(testing::Value(outcome(none), refused),
+                  rule.type == RequirementType::requiredIfNotSpecified ||
+                      rule.type == RequirementType::requiredExcluding);
+        EXPECT_EQ(testing::Value(outcome(others), refused),
+                  rule.type == RequirementType::requiredIfSpecified);
+    });
+}
+
+TEST(Declarations, WholeFilesAreWrittenAsTheyWereRead) {
+    for (std::uint32_t seed = 0; seed < 200; ++seed) {
+        const PropertyList file = GeneratedConfiguration(seed).file();
+        ASSERT_EQ(outcomeOf(file), "decoded") << "seed " << seed;
+        const PropertyList written = Configuration::decode(file)->encode();
+        EXPECT_EQ(Configuration::decode(written)->encode(), written) << "seed " << seed;
+    }
+}
+
+} // namespace

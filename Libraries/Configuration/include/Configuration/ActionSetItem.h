@@ -1,0 +1,58 @@
+#pragma once
+
+#include <Configuration/ActionTrigger.h>
+#include <Configuration/ConditionKeyWrapper.h>
+
+#include <vector>
+
+namespace velmar {
+
+struct ActionItem;
+
+namespace ActionItems {
+
+enum class ExecutionType {
+    parallel, ///< All actions at once.
+    chained,  ///< One after the other.
+};
+
+constexpr auto casesOf(ExecutionType) {
+    return std::to_array<EnumCase<ExecutionType>>(
+        {{ExecutionType::parallel, "Parallel"}, {ExecutionType::chained, "Chained"}});
+}
+
+/// The keys that every set begins with.
+struct ActionSetItemProtocol {
+    using IsKeyGroup = void;
+
+    KeyWrapper<ExecutionType> _type{ExecutionType::parallel, "Type", required};
+    KeyWrapper<std::vector<ActionItem>> _actions{"Actions", required};
+    ConditionKeyWrapper _condition{"Condition", optional};
+    KeyWrapper<bool> _continueAfterFailure{false, "ContinueAfterFailure", optional};
+};
+
+} // namespace ActionItems
+
+using ActionItems::ActionSetItemProtocol;
+
+/// Actions that run together.
+struct ActionSetItem {
+    static constexpr std::string_view typeName = "ActionSetItem";
+
+    using ExecutionType = ActionItems::ExecutionType;
+
+    ActionSetItemProtocol set;
+};
+
+/// Actions that run together when one of the triggers fires.
+struct TriggeredActionSetItem {
+    static constexpr std::string_view typeName = "TriggeredActionSetItem";
+
+    ActionSetItemProtocol set;
+    KeyWrapper<std::vector<ActionTrigger>> _triggers{"Triggers", required};
+};
+
+} // namespace velmar
+
+// Whole wherever a set is used.
+#include <Configuration/ActionItem.h>

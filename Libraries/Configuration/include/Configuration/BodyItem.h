@@ -1,0 +1,77 @@
+#pragma once
+
+#include <Configuration/Decodable.h>
+#include <Configuration/Populatable.h>
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <type_traits>
+#include <variant>
+#include <vector>
+
+namespace velmar {
+
+/// The body of a request: a value, or values in lists and dictionaries.
+struct BodyItem {
+    static constexpr std::string_view typeName = "BodyItem";
+
+    /// The two that hold others.
+    using Group = ConfigurationErrors::RequestBodyGroup::Group;
+
+    using Array = std::vector<BodyItem>;
+    using Dictionary = std::map<std::string, BodyItem>;
+    using BodyValue = std::variant<std::string, bool, std::int64_t, double, Array, Dictionary>;
+
+    BodyValue value;
+
+    /// Adds a value to a dictionary, in place of the one that has the key, or to the end of an array. Throws
+    /// ConfigurationError (RequestBodyGroup) where this is none.
+    void add(BodyItem item, std::string key);
+    void append(BodyItem item);
+
+    /// Calls `function` with the texts at any depth.
+    template <class Function>
+    void visitTexts(Function &function) {
+        visitTexts(*this, function);
+    }
+    template <class Function>
+    void visitTexts(Function &function) const {
+        visitTexts(*this, function);
+    }
+
+private:
+    template <class Body, class Function>
+    static void visitTexts(Body &body, Function &function) {
+        std::visit(
+            [&](auto &held) {
+                using Held = std::remove_cvref_t<decltype(held)>;
+                if constexpr (std::is_same_v<Held, std::string>) {
+                    function(held);
+                } else if constexpr (std::is_same_v<Held, Array>) {
+                    for (auto &element : held) {
+                        element.visitTexts(function);
+                    }
+                } else if constexpr (std::is_same_v<Held, Dictionary>) {
+                    for (auto &[key, element] : held) {
+                        element.visitTexts(function);
+                    }
+                }
+            },
+            body.value);
+    }
+};
+
+/// Texts, truth values, whole numbers, numbers, arrays and dictionaries, tried in this order.
+template <>
+struct Decodable<BodyItem> {
+    static BodyItem decode(const Decoding &decoding);
+    static std::optional<PropertyList> encode(const BodyItem &body);
+    static std::string plistType() { return "string, boolean, number, array or dictionary"; }
+    static ValueDescription describe(Descriptions &items);
+};
+
+template <>
+struct IsPopulatable<BodyItem> : std::true_type {};
+
+} // namespace velmar

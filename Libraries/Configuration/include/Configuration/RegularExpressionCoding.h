@@ -1,0 +1,24 @@
+#pragma once
+
+#include <Configuration/Decodable.h>
+#include <Foundation/RegularExpression.h>
+
+namespace velmar {
+
+/// The pattern of a value that is being decoded, compiled. Throws ConfigurationError (InvalidRegex).
+[[nodiscard]] RegularExpression compiled(const std::string &pattern, const Decoding &decoding);
+
+/// A pattern. One that doesn't compile is the error InvalidRegex.
+template <>
+struct Decodable<RegularExpression> {
+    static RegularExpression decode(const Decoding &decoding);
+    static std::optional<PropertyList> encode(const RegularExpression &value) {
+        return PropertyList(value.pattern());
+    }
+    static std::string plistType() { return "string"; }
+    static ValueDescription describe(Descriptions & /*items*/) {
+        return ValueDescription::text("regular expression");
+    }
+};
+
+} // namespace velmar

@@ -1,0 +1,9 @@
+#include <Configuration/APIRequestItem.h>
+
+#include <Configuration/ItemGroups.h>
+
+namespace velmar {
+
+template struct ItemCoding<APIRequestItem>;
+
+} // namespace velmar

@@ -1,0 +1,70 @@
+#include <Configuration/BodyItem.h>
+
+#include <type_traits>
+#include <utility>
+
+namespace velmar {
+
+namespace {
+
+template <class Group>
+Group &groupOf(BodyItem &item, BodyItem::Group kind) {
+    if (auto *const group = std::get_if<Group>(&item.value)) {
+        return *group;
+    }
+    throw ConfigurationError(ConfigurationErrors::RequestBodyGroup{kind});
+}
+
+} // namespace
+
+void BodyItem::add(BodyItem item, std::string key) {
+    groupOf<Dictionary>(*this, Group::dictionary).insert_or_assign(std::move(key), std::move(item));
+}
+
+void BodyItem::append(BodyItem item) {
+    groupOf<Array>(*this, Group::array).push_back(std::move(item));
+}
+
+BodyItem Decodable<BodyItem>::decode(const Decoding &decoding) {
+    const PropertyList &value = decoding.value;
+    if (value.string() != nullptr) {
+        return {Decodable<std::string>::decode(decoding)};
+    }
+    if (const bool *const boolean = value.boolean()) {
+        return {*boolean};
+    }
+    if (const std::int64_t *const integer = value.integer()) {
+        return {*integer};
+    }
+    if (value.unsignedInteger() != nullptr || value.real() != nullptr) {
+        return {Decodable<double>::decode(decoding)};
+    }
+    if (value.array() != nullptr) {
+        return {Decodable<BodyItem::Array>::decode(decoding)};
+    }
+    if (value.dictionary() != nullptr) {
+        return {Decodable<BodyItem::Dictionary>::decode(decoding)};
+    }
+    throw ConfigurationError(ConfigurationErrors::RequestBodyCoding{decoding.path.text()});
+}
+
+std::optional<PropertyList> Decodable<BodyItem>::encode(const BodyItem &body) {
+    return std::visit(
+        [](const auto &value) { return Decodable<std::remove_cvref_t<decltype(value)>>::encode(value); },
+        body.value);
+}
+
+ValueDescription Decodable<BodyItem>::describe(Descriptions &items) {
+    using Kind = ValueDescription::Kind;
+    const ValueDescription body = ValueDescription::item(BodyItem::typeName);
+    if (ItemDescription *const place = items.add(BodyItem::typeName)) {
+        place->value = ValueDescription::of(
+            Kind::anyOf,
+            {ValueDescription::text(), ValueDescription::of(Kind::boolean),
+             ValueDescription::of(Kind::integer), ValueDescription::of(Kind::real),
+             ValueDescription::of(Kind::list, {body}), ValueDescription::of(Kind::dictionary, {body})});
+    }
+    return body;
+}
+
+} // namespace velmar
