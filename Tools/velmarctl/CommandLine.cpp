@@ -2,6 +2,8 @@
 
 #include <CheckCommand.h>
 #include <Configuration/ConfigurationVersion.h>
+#include <ConfigurationSchema.h>
+#include <DescriptionCommand.h>
 #include <EvalCommand.h>
 
 #include <CLI/CLI.hpp>
@@ -21,6 +23,9 @@ ExitStatus run(std::vector<std::string> arguments, const Surroundings &surroundi
     app.require_subcommand(1);
     const CheckCommand check(app);
     const EvalCommand eval(app);
+    const DescriptionCommand schema(app, "schema", "Print the JSON Schema of a configuration", &writeSchema);
+    const DescriptionCommand reference(app, "reference", "Print the keys of a configuration as Markdown",
+                                       &writeReference);
 
     try {
         std::ranges::reverse(arguments); // CLI11 takes them from the back.
@@ -30,7 +35,7 @@ ExitStatus run(std::vector<std::string> arguments, const Surroundings &surroundi
                                                                         : ExitStatus::failed;
     }
     // The parser has seen to it that there is one.
-    const Command *const commands[] = {&check, &eval};
+    const Command *const commands[] = {&check, &eval, &schema, &reference};
     return (*std::ranges::find_if(commands, &Command::isNamed))->run(surroundings);
 }
 
