@@ -8,8 +8,8 @@
 
 namespace velmar {
 
-/// A longer line is answered with an error: 64 MiB.
-inline constexpr std::size_t longestBatchLine = std::size_t{64} << 20U;
+/// A longer line is answered with an error: 16 MiB.
+inline constexpr std::size_t longestBatchLine = std::size_t{16} << 20U;
 
 /// Answers every line of a stream with one line, before it waits for the next: an object
 /// {"expression": TEXT, "variables": {NAME: TEXT, ...}}, whose "variables" may be absent, with {"value":

@@ -9,6 +9,7 @@
 #include <fmt/format.h>
 
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <utility>
@@ -24,35 +25,35 @@ using expressions::Operand;
 
 constexpr std::size_t longestValue = 40; // In columns of a terminal.
 
-// What a condition can ask of a value. The language itself says whether the value is of that kind.
-class Kind {
-public:
-    Kind(std::string_view name, std::string_view probe) : name_(name), probe_(probe) {}
-
-    [[nodiscard]] std::string_view name() const { return name_; }
-
-    [[nodiscard]] bool has(const std::string &value) const {
-        try {
-            static_cast<void>(probe_.evaluate(Variables{{"VALUE", value}}));
-            return true;
-        } catch (const expressions::ExpressionError &) {
-            return false;
-        }
-    }
-
-private:
-    std::string_view name_;
-    Expression probe_;
-};
-
-// The kind that a literal, or standing alone, asks of a variable; null for text, which every value is.
-const Kind *kindBeside(const Operand *literal) {
-    static const Kind number("a number", "VALUE == 1");
-    static const Kind boolean("true or false", "VALUE == true");
+// What a comparison with a literal, or standing alone (null), asks of a value; empty for text, which every
+// value is.
+std::string_view kindAskedFor(const Operand *literal) {
     if (literal == nullptr || std::holds_alternative<bool>(literal->value)) {
-        return &boolean;
+        return "true or false";
     }
-    return std::holds_alternative<double>(literal->value) ? &number : nullptr;
+    return std::holds_alternative<double>(literal->value) ? "a number" : "";
+}
+
+// A value of the kind that a comparison with a literal asks for.
+std::string goodValue(const Operand &literal) {
+    return std::holds_alternative<bool>(literal.value) ? "true" : "1";
+}
+
+// The text of an operand in a condition.
+std::string sourceOf(const Operand &operand) {
+    const auto *const literal = std::get_if<Operand::String>(&operand.value);
+    return literal != nullptr ? fmt::format("\"{}\"", literal->text) : expressions::description(operand);
+}
+
+// Whether the language evaluates a condition of one variable with a value; otherwise its own error.
+std::optional<expressions::ExpressionError> failureOf(const std::string &condition, const std::string &name,
+                                                      const std::string &value) {
+    try {
+        static_cast<void>(Expression(condition).evaluate(Variables{{name, value}}));
+        return std::nullopt;
+    } catch (const expressions::ExpressionError &error) {
+        return error;
+    }
 }
 
 class Doubts {
@@ -85,20 +86,28 @@ private:
             const auto *left = std::get_if<Operand>(&elements[index]);
             const auto *right = length == 3 ? std::get_if<Operand>(&elements[index + 2]) : nullptr;
             if (left != nullptr && left->variable() != nullptr && length == 1) {
-                judgeKind(*left->variable(), nullptr);
+                judgeKind(*left->variable(), nullptr, *left->variable());
             } else if (left != nullptr && right != nullptr) {
-                judgeComparison(*left, *right);
+                judgeComparison(*left, expressions::description(elements[index + 1]), *right);
             }
             index += length;
         }
     }
 
-    void judgeComparison(const Operand &left, const Operand &right) {
-        if (left.variable() != nullptr && right.variable() == nullptr) {
-            judgeKind(*left.variable(), &right);
-        } else if (left.variable() == nullptr && right.variable() != nullptr) {
-            judgeKind(*right.variable(), &left);
+    void judgeComparison(const Operand &left, const std::string &comparison, const Operand &right) {
+        const Operand &named = left.variable() != nullptr ? left : right;
+        const Operand &literal = left.variable() != nullptr ? right : left;
+        if (named.variable() == nullptr || literal.variable() != nullptr) {
+            return;
         }
+        const std::string condition = fmt::format("{} {} {}", sourceOf(left), comparison, sourceOf(right));
+        const auto failure = failureOf(condition, *named.variable(), goodValue(literal));
+        if (failure && failure->as<expressions::ExpressionErrors::WrongOperatorAndOperandsAssociation>()) {
+            warn(fmt::format("The comparison with '{}' and {} fails with every value of '{}'", comparison,
+                             expressions::description(literal), *named.variable()));
+            return;
+        }
+        judgeKind(*named.variable(), &literal, condition);
     }
 
     void judgeName(const std::string &name) {
@@ -111,8 +120,9 @@ private:
         }
     }
 
-    // `literal` is what the variable is compared with; null where it stands alone.
-    void judgeKind(const std::string &name, const Operand *literal) {
+    // `literal` is what the variable is compared with, null where it stands alone; `condition` is this part
+    // of the whole.
+    void judgeKind(const std::string &name, const Operand *literal, const std::string &condition) {
         if (!isNamed_ && conditions_.contains(name)) {
             if (literal != nullptr && !std::holds_alternative<bool>(literal->value)) {
                 warn(fmt::format("The named condition '{}' is true or false, and is compared with {}", name,
@@ -121,16 +131,15 @@ private:
             return;
         }
         const auto variable = variables_.find(name);
-        const Kind *kind = kindBeside(literal);
-        if (variable == variables_.end() || kind == nullptr ||
-            variable->second.find("${") != std::string::npos || kind->has(variable->second)) {
+        if (variable == variables_.end() || kindAskedFor(literal).empty() ||
+            !failureOf(condition, name, variable->second)) {
             return;
         }
         const std::string use = literal == nullptr
                                     ? std::string("stands alone")
                                     : fmt::format("is compared with {}", expressions::description(*literal));
         warn(fmt::format("The variable '{}' {}, and its value '{}' is not {}", name, use,
-                         shortened(variable->second, longestValue), kind->name()));
+                         shortened(variable->second, longestValue), kindAskedFor(literal)));
     }
 
     void warn(std::string message) {

@@ -8,10 +8,10 @@ namespace velmar {
 
 struct Configuration;
 
-/// Warns of conditions that are admitted and then fail: a named condition that names another one, and a
-/// condition that takes a variable or a named condition for what it is not, by the value in
-/// General.Variables. Values with "${" in them are not judged, nor are variables that have no value in the
-/// file.
+/// Warns of conditions that are admitted and then fail: a named condition that names another one, a
+/// comparison that no value can stand, and a condition that takes a variable or a named condition for what it
+/// is not, by the value in General.Variables as it stands there. Of variables without a value in the file
+/// nothing is known.
 [[nodiscard]] std::vector<UsageWarning> doubtfulConditions(const Configuration &configuration);
 
 } // namespace velmar

@@ -61,6 +61,10 @@ ExitStatus EvalCommand::run(const Surroundings &surroundings) const {
     }
     if (batch_) {
         answerBatch(surroundings.in, surroundings.out, context);
+        if (surroundings.in.bad()) {
+            surroundings.err << "velmarctl: The input could not be read.\n";
+            return ExitStatus::failed;
+        }
         return ExitStatus::succeeded;
     }
     return evaluate(context, surroundings);

@@ -1,6 +1,7 @@
 #include <EvaluationContext.h>
 
 #include <Configuration/Configuration.h>
+#include <Configuration/Populatable.h>
 #include <Foundation/LocalizedError.h>
 
 #include <fmt/format.h>
@@ -12,7 +13,7 @@ namespace velmar {
 EvaluationContext::EvaluationContext(std::shared_ptr<const Configuration> configuration)
     : configuration_(std::move(configuration)) {
     for (const auto &[name, value] : configuration_->_general.rawValue()._variables.rawValue().models()) {
-        variables_.insert_or_assign(name, value);
+        variables_.insert_or_assign(std::string(bareVariableName(name)), value);
     }
     for (const std::string &name : configuration_->declaredVariables) {
         variables_.try_emplace(name);
@@ -20,8 +21,9 @@ EvaluationContext::EvaluationContext(std::shared_ptr<const Configuration> config
 }
 
 void EvaluationContext::set(std::string_view name, std::string value) {
-    variables_.insert_or_assign(std::string(name), std::move(value));
-    given_.emplace(name);
+    const std::string_view bare = bareVariableName(name);
+    variables_.insert_or_assign(std::string(bare), std::move(value));
+    given_.emplace(bare);
 }
 
 Evaluation EvaluationContext::evaluate(const expressions::Expression &expression) const {
@@ -29,7 +31,7 @@ Evaluation EvaluationContext::evaluate(const expressions::Expression &expression
     Variables named;
     const auto evaluateCondition = [&](const std::string &name, const expressions::Expression &condition) {
         NamedValue &result =
-            evaluation.conditions.emplace_back(NamedValue{name, condition, std::nullopt, {}});
+            evaluation.conditions.emplace_back(NamedValue{name, &condition, std::nullopt, {}});
         try {
             result.value = condition.evaluate(variables_);
             named.insert_or_assign(name, *result.value ? "true" : "false");

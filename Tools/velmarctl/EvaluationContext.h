@@ -18,7 +18,7 @@ struct Configuration;
 /// A named condition and its value; none where its evaluation failed.
 struct NamedValue {
     std::string name;
-    expressions::Expression condition;
+    const expressions::Expression *condition; ///< Of the configuration of the context.
     std::optional<bool> value;
     std::string failure;
 };
@@ -44,7 +44,8 @@ public:
     /// named conditions.
     explicit EvaluationContext(std::shared_ptr<const Configuration> configuration);
 
-    /// Gives a variable its value, in place of any variable or named condition of that name.
+    /// Gives a variable, named bare or as `${NAME}`, its value, in place of any variable or named condition
+    /// of that name.
     void set(std::string_view name, std::string value);
 
     [[nodiscard]] const Variables &variables() const { return variables_; }

@@ -150,8 +150,8 @@ void writeExplanation(std::ostream &out, const Expression &expression, const Eva
         table.add(0, "Named conditions", "", "");
     }
     for (const NamedValue &condition : evaluation.conditions) {
-        std::string details = shortened(condition.condition.source(), longestPart);
-        if (const std::string values = valuesText(condition.condition.elements(), {}, context, "; ");
+        std::string details = shortened(condition.condition->source(), longestPart);
+        if (const std::string values = valuesText(condition.condition->elements(), {}, context, "; ");
             !values.empty()) {
             details += "; " + values;
         }

@@ -173,8 +173,8 @@ TEST_F(EvalCommandTest, AnswersEveryLine) {
         {R"({"expression": "AB", "variables": {"AB": 1}})",
          R"({"error": "The variable 'AB' is not a text"})"},
         {R"({"expression": "AB", "variabels": {}})", R"({"error": "Unknown member 'variabels'"})"},
-        {std::string((std::size_t{64} << 20U) + 1, 'x'),
-         R"({"error": "The line is longer than 67108864 bytes"})"},
+        {std::string((std::size_t{16} << 20U) + 1, 'x'),
+         R"({"error": "The line is longer than 16777216 bytes"})"},
         {R"({"expression": "AB == \")" + std::string(100'000, 'x') + R"(\""})", R"({"value": false})"},
         {R"({"expression": "AB"})",
          R"({"error": "Invalid elements chaining: Trying)"}, // Without a line feed.
