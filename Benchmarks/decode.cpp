@@ -1,6 +1,7 @@
 // Reading and decoding a large configuration, against an XML parser that only parses the same bytes.
 #include <Configuration/Configuration.h>
 #include <Foundation/PropertyList.h>
+#include <Support/GeneratedConfiguration.h>
 
 #include <fmt/format.h>
 #include <pugixml.hpp>
@@ -11,6 +12,8 @@
 #include <cstddef>
 #include <cstdlib>
 #include <fstream>
+#include <initializer_list>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,126 +24,40 @@
 
 namespace {
 
+using velmar::PropertyList;
+
 constexpr std::size_t fileSize = 10'000'000;
 constexpr int runs = 15;
 
-constexpr std::string_view header = R"(<?xml version="1.0" encoding="UTF-8"?>
-<!DOCTYPE plist SYSTEM "file://localhost/System/Library/DTDs/PropertyList.dtd">
-<plist version="1.0">
-<dict>
-	<key>ColorStyles</key>
-	<dict>
-		<key>Ink</key>
-		<dict>
-			<key>DarkMode</key>
-			<string>#F2F4F7</string>
-			<key>LightMode</key>
-			<string>#17202B</string>
-		</dict>
-	</dict>
-	<key>FontStyles</key>
-	<dict>
-		<key>Title</key>
-		<dict>
-			<key>Color</key>
-			<string>Ink</string>
-			<key>Size</key>
-			<integer>28</integer>
-			<key>SystemFontWeight</key>
-			<string>Bold</string>
-		</dict>
-	</dict>
-	<key>Slides</key>
-	<array>
-)";
-
-// A text in the style of a book.
-std::string title(std::string_view text) {
-    return fmt::format(R"(						<dict>
-							<key>Type</key>
-							<string>Text</string>
-							<key>Text</key>
-							<string>{}</string>
-							<key>TextFontConfiguration</key>
-							<string>Title</string>
-						</dict>
-)",
-                       text);
-}
-
-// A title, a text with a font of its own, a blank between them, in two containers.
-std::string slide(std::size_t number) {
-    return fmt::format(R"(		<dict>
-			<key>Containers</key>
-			<array>
-				<dict>
-					<key>Components</key>
-					<array>
-{4}						<dict>
-							<key>Type</key>
-							<string>Spacer</string>
-							<key>Height</key>
-							<real>{1}.5</real>
-						</dict>
-						<dict>
-							<key>Type</key>
-							<string>Text</string>
-							<key>Text</key>
-							<string>Your computer is being prepared &amp; will be ready in about {1} minutes. Meanwhile, read on: what you find here tells how to reach your mail, your files and the people who help.</string>
-							<key>TextFontConfiguration</key>
-							<dict>
-								<key>Size</key>
-								<integer>{1}</integer>
-								<key>TextAlignment</key>
-								<string>Justified</string>
-								<key>Color</key>
-								<dict>
-									<key>DarkMode</key>
-									<string>#FFFFFF</string>
-									<key>LightMode</key>
-									<string>#{2:06X}</string>
-								</dict>
-							</dict>
-						</dict>
-					</array>
-					<key>Margins</key>
-					<dict>
-						<key>Top</key>
-						<integer>12</integer>
-						<key>Left</key>
-						<real>8.25</real>
-					</dict>
-					<key>WidthRatio</key>
-					<real>0.5</real>
-				</dict>
-				<dict>
-					<key>Components</key>
-					<array>
-{5}					</array>
-					<key>BorderColor</key>
-					<string>Ink</string>
-					<key>WidthRatio</key>
-					<real>0.5</real>
-				</dict>
-			</array>
-			<key>HidePreviousButton</key>
-			<{3}/>
-		</dict>
-)",
-                       number, 10 + number % 20, number * 7919 % 0xFFFFFF, number == 0 ? "true" : "false",
-                       title(fmt::format("Step {} of the first minutes", number)),
-                       title(fmt::format("Réseau, Schlüssel, 鍵: nº {}", number)));
-}
-
-std::string makeFile() {
-    std::string file;
-    file.reserve(fileSize + 10'000); // In one piece, so that no freed memory hides what the decoding takes.
-    file += header;
-    for (std::size_t number = 0; file.size() < fileSize; ++number) {
-        file += slide(number);
+/// Adds the elements of an array in one file to that in another.
+void add(PropertyList &to, PropertyList &from, std::initializer_list<std::string_view> keys) {
+    PropertyList *target = &to;
+    PropertyList *source = &from;
+    for (const std::string_view key : keys) {
+        target = target == nullptr ? nullptr : target->dictionary()->find(key);
+        source = source == nullptr ? nullptr : source->dictionary()->find(key);
     }
-    file += "\t</array>\n</dict>\n</plist>\n";
-    return file;
+    if (target != nullptr && source != nullptr) {
+        std::ranges::move(*source->array(), std::back_inserter(*target->array()));
+    }
+}
+
+/// Items of all kinds, in the proportions in which chance makes them.
+std::string makeFile() {
+    constexpr int filesBetweenWeighings = 100;
+    velmar::GeneratedConfiguration generator(1);
+    PropertyList file = generator.file();
+    std::string text;
+    while (text.size() < fileSize) {
+        for (int count = 0; count < filesBetweenWeighings; ++count) {
+            PropertyList more = generator.file();
+            add(file, more, {"Slides"});
+            add(file, more, {"ActionSets"});
+            add(file, more, {"Monitoring", "Monitors"});
+        }
+        text = file.xml();
+    }
+    return text;
 }
 
 std::size_t decode(const std::string &file) {
