@@ -59,14 +59,20 @@ std::shared_ptr<const Configuration> AppManager::configuration() const {
 }
 
 void AppManager::reloadInterface(bool byResetingVariables) {
+    const auto logFault = [] {
+        Logger::error([exception = std::current_exception()] { return textOf(exception); });
+    };
     try {
         auto configuration = ConfigurationFile(configurationFileURL_).retrieveConfiguration();
         const std::lock_guard lock(mutex_);
         configuration_.swap(configuration);
     } catch (...) {
-        Logger::error([exception = std::current_exception()] { return textOf(exception); });
+        logFault();
     }
-    if (byResetingVariables) {
+    if (!byResetingVariables) {
+        return;
+    }
+    try {
         const auto present = configuration();
         const ExpressionsBook<std::string> &book = present->_general()._variables();
         VariableNames names;
@@ -74,6 +80,8 @@ void AppManager::reloadInterface(bool byResetingVariables) {
             names.insert(name);
         }
         contentManager_->resetVariables(names, book);
+    } catch (...) {
+        logFault();
     }
 }
 

@@ -30,24 +30,33 @@ bool ConditionEvaluator::evaluate(const Expression &condition) {
 }
 
 ConditionEvaluator::View ConditionEvaluator::view() {
-    // The state is taken under the lock too, so that the notes never go back to a former one.
-    std::unique_lock lock(mutex_);
-    std::shared_ptr<const NamedConditions> book = _conditions.wrappedValue();
+    const auto book = _conditions.wrappedValue();
     VariablesSnapshot variables =
         contentManager_ ? contentManager_->variables() : ContentManager::shared()->variables();
-    const bool areNew = !notes_ || notes_->book != book || notes_->version != variables.version();
-    if (areNew) {
-        notes_ = std::make_shared<const Notes>(std::move(book), variables);
+    {
+        const std::lock_guard lock(mutex_);
+        if (notes_ && notes_->book == book && notes_->version == variables.version()) {
+            return {std::move(variables), notes_};
+        }
     }
-    std::shared_ptr<const Notes> notes = notes_;
-    lock.unlock();
+    // Outside of the lock: a long book must not hold up other threads. Two of them may work out the same.
+    const auto notes = std::make_shared<const Notes>(book, variables);
+    bool areNew = false;
+    {
+        const std::lock_guard lock(mutex_);
+        // The notes of a state that has passed meanwhile serve this call alone.
+        areNew = !notes_ || notes_->book != book || notes_->version < notes->version;
+        if (areNew) {
+            notes_ = notes;
+        }
+    }
     if (areNew && notes->failure) {
         Logger::warning([&] {
             return fmt::format("The condition '{}' of 'Conditions' cannot be evaluated. {}",
                                notes->failure->condition, notes->failure->error.errorDescription());
         });
     }
-    return {std::move(variables), std::move(notes)};
+    return {std::move(variables), notes};
 }
 
 ConditionEvaluator::Notes::Notes(std::shared_ptr<const NamedConditions> conditions,

@@ -23,11 +23,6 @@ NumberedVariables firstState() {
     return {{}, stores.fetch_add(1, std::memory_order_relaxed) << bitsOfCount};
 }
 
-bool holds(const Variables &variables, std::string_view name, std::string_view value) {
-    const auto found = variables.find(name);
-    return found != variables.end() && found->second == value;
-}
-
 } // namespace
 
 ContentManager::ContentManager()
@@ -43,8 +38,9 @@ void ContentManager::updateVariable(std::string_view name, std::string value, bo
     }
     if (log) {
         Logger::info([&] {
-            return fmt::format("Successfully {} variable [ {}: '{}' ]",
-                               change->former ? "updated a" : "added a new", bare, value);
+            return change->former
+                       ? fmt::format("Successfully updated a variable [ {}: '{}' ]", bare, value)
+                       : fmt::format("Successfully added a new variable [ {}: '{}' ]", bare, value);
         });
     }
     tellObservers(bare, *change, value);
@@ -80,8 +76,11 @@ void ContentManager::resetVariables(const VariableNames &names, const Expression
 std::optional<ContentManager::Change> ContentManager::store(std::string_view name, const std::string &value,
                                                             Present present) {
     return variables_.mutate([&](CopyOnWrite<NumberedVariables> &state) -> std::optional<Change> {
-        if (state.isShared() && holds(state->variables, name, value)) {
-            return std::nullopt; // No copy of all variables for nothing.
+        if (state.isShared()) {
+            const auto known = state->variables.find(name);
+            if (known != state->variables.end() && (present == Present::stays || known->second == value)) {
+                return std::nullopt; // No copy of all variables for nothing.
+            }
         }
         auto &[variables, version] = state.unshared();
         const auto found = variables.find(name);

@@ -3,6 +3,8 @@
 
 #include <fmt/format.h>
 
+#include <iterator>
+
 namespace velmar::ExpressionErrors {
 
 std::string OwnDefinition::errorDescription() const {
@@ -10,8 +12,15 @@ std::string OwnDefinition::errorDescription() const {
 }
 
 std::string CircularReference::errorDescription() const {
-    return fmt::format("Circular reference involving {}. Traceback: '{}'.", name,
-                       fmt::join(originPath, " → "));
+    // A text is told of at every reading: the two ends of a long way must do.
+    constexpr std::ptrdiff_t shownAtEachEnd = 10;
+    if (std::ssize(originPath) <= 2 * shownAtEachEnd) {
+        return fmt::format("Circular reference involving {}. Traceback: '{}'.", name,
+                           fmt::join(originPath, " → "));
+    }
+    return fmt::format("Circular reference involving {}. Traceback: '{} → … → {}'.", name,
+                       fmt::join(originPath.begin(), originPath.begin() + shownAtEachEnd, " → "),
+                       fmt::join(originPath.end() - shownAtEachEnd, originPath.end(), " → "));
 }
 
 std::string UndefinedVariable::errorDescription() const {

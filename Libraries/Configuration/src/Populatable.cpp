@@ -116,16 +116,24 @@ VariableNames usedVariables(std::string_view text) {
 
 VariableNames involvedVariables(std::string_view text, const Variables &variables) {
     VariableNames names;
+    std::size_t bytes = 0;
     std::vector<std::string_view> open{text};
+    // Of a variable that is written in several ways, too, the value is read once.
+    boost::unordered_flat_set<const Variables::value_type *> read;
     while (!open.empty()) {
         VariableReferences references(open.back());
         open.pop_back();
         while (const auto reference = references.next()) {
+            bytes += reference->name.size();
+            if (bytes > mostBytes || names.size() > mostReferences) {
+                return names; // Nothing that long is populated either.
+            }
             if (names.contains(reference->name)) {
                 continue;
             }
             names.emplace(reference->name);
-            if (const auto variable = variables.find(reference->name); variable != variables.end()) {
+            const auto variable = variables.find(reference->name);
+            if (variable != variables.end() && read.insert(&*variable).second) {
                 open.emplace_back(variable->second);
             }
         }

@@ -23,7 +23,7 @@ public:
     BookCheck(const ExpressionsBook<std::string>::Models &models, const Names &others) : others_(others) {
         variables_.reserve(models.size());
         for (const auto &[name, value] : models) {
-            byName_.emplace(name, variables_.size());
+            byName_.insert_or_assign(bareVariableName(name), variables_.size()); // As the store has it.
             variables_.push_back({name, value});
         }
     }
@@ -166,7 +166,7 @@ void checkVariables(const Configuration &configuration, const PropertyList &file
     checkBook(configuration, defined, file, context);
 
     for (const auto &variable : configuration._general()._variables().models()) {
-        defined.insert(variable.first);
+        defined.insert(bareVariableName(variable.first));
     }
     for (const VariablesRecords::Record &record : context.variablesRecords().records) {
         VariableNames undefined = undefinedNames(record, defined, configuration._conditions().models());

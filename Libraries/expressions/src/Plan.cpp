@@ -109,10 +109,10 @@ Plan::Plan(const Elements &elements) {
 
         const auto *logicOperator = std::get_if<LogicOperator>(&elements[next]);
         if (logicOperator == nullptr) {
-            const std::string rest = " with " + description(elements[next]) + " is invalid";
+            const std::string rest = description(elements[next]) + " is invalid";
             clauses_.push_back(failure(clause.closing > 0
-                                           ? invalidGrammar("Chaining a closing bracket" + rest)
-                                           : invalidExpression("Chaining a boolean" + rest)));
+                                           ? invalidGrammar("Chaining a closing bracket with " + rest)
+                                           : invalidExpression("Chaining a boolean with " + rest)));
             return;
         }
         clause.logicOperator = *logicOperator;

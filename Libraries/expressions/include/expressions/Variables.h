@@ -82,14 +82,12 @@ struct VariableLookup {
         : variables(all), named(conditions) {}
 
     /// The value of a variable, null if there is none of that name.
-    [[nodiscard]] const std::string *find(std::string_view name) const noexcept { return found(name); }
-    [[nodiscard]] const std::string *find(const HashedVariableName &name) const noexcept {
-        return found(name);
-    }
+    [[nodiscard]] const std::string *find(std::string_view name) const { return found(name); }
+    [[nodiscard]] const std::string *find(const HashedVariableName &name) const { return found(name); }
 
 private:
     template <class Name>
-    const std::string *found(const Name &name) const noexcept {
+    const std::string *found(const Name &name) const {
         if (named != nullptr) {
             if (const auto at = named->find(name); at != named->end())
                 return &at->second;
