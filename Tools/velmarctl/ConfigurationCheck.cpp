@@ -1,6 +1,7 @@
 #include <ConfigurationCheck.h>
 
 #include <DoubtfulConditions.h>
+#include <DoubtfulPaths.h>
 #include <UnusedNames.h>
 
 #include <Configuration/Configuration.h>
@@ -74,7 +75,7 @@ Diagnostic makeDiagnostic(Severity severity, std::string message) {
 }
 
 // Null if the file is refused.
-std::shared_ptr<const Configuration> decode(const ConfigurationFile &file,
+std::shared_ptr<const Configuration> decode(const ConfigurationFile &file, const IdentityAuthority &authority,
                                             std::vector<Diagnostic> &diagnostics) {
     PropertyList::Document document;
     try {
@@ -108,7 +109,8 @@ std::shared_ptr<const Configuration> decode(const ConfigurationFile &file,
     }
     if (configuration) {
         for (auto &found :
-             {unusedNames(document.value, *configuration, notes), doubtfulConditions(*configuration)}) {
+             {unusedNames(document.value, *configuration, notes), doubtfulConditions(*configuration),
+              doubtfulPaths(document.value, *configuration, authority)}) {
             for (const UsageWarning &warning : found) {
                 add(Severity::warning, warning.keyPath, warning.offset, warning.message);
             }
@@ -155,7 +157,7 @@ ConfigurationCheck::Report ConfigurationCheck::check(const std::string &file) co
         try {
             const ConfigurationFile configurationFile(URL::file(file));
             admit(configurationFile, file, options_, authority_);
-            report.configuration = decode(configurationFile, diagnostics);
+            report.configuration = decode(configurationFile, authority_, diagnostics);
         } catch (const VelmarError &error) {
             diagnostics.push_back(makeDiagnostic(Severity::error, error.errorDescription()));
             diagnostics.back().notes.swap(log->lines); // One fault, whose reason is in the log.

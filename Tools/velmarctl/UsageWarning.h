@@ -5,7 +5,7 @@
 
 namespace velmar {
 
-/// Something about the variables and conditions of an admitted file that can hardly be meant.
+/// Something in an admitted file that can hardly be meant.
 struct UsageWarning {
     std::string keyPath;
     std::uint32_t offset = 0; ///< As PropertyList::offset().
