@@ -2,6 +2,8 @@
 
 #include <DoubtfulConditions.h>
 #include <DoubtfulPaths.h>
+#include <IneffectiveParts.h>
+#include <UnreachableSlides.h>
 #include <UnusedNames.h>
 
 #include <Configuration/Configuration.h>
@@ -110,7 +112,9 @@ std::shared_ptr<const Configuration> decode(const ConfigurationFile &file, const
     if (configuration) {
         for (auto &found :
              {unusedNames(document.value, *configuration, notes), doubtfulConditions(*configuration),
-              doubtfulPaths(document.value, *configuration, authority)}) {
+              doubtfulPaths(document.value, *configuration, authority),
+              ineffectiveParts(document.value, *configuration),
+              unreachableSlides(document.value, *configuration)}) {
             for (const UsageWarning &warning : found) {
                 add(Severity::warning, warning.keyPath, warning.offset, warning.message);
             }

@@ -1,5 +1,6 @@
 #include <DoubtfulConditions.h>
 
+#include <DefinedVariables.h>
 #include <ExpressionParts.h>
 #include <PrintableText.h>
 
@@ -111,9 +112,7 @@ private:
     }
 
     void judgeName(const std::string &name) {
-        const bool isDefined = variables_.contains(name) || configuration_.declaredVariables.contains(name) ||
-                               enumValue<GeneralSection::Placeholders>(name).has_value();
-        if (conditions_.contains(name) && !isDefined) {
+        if (conditions_.contains(name) && !isDefinedVariable(configuration_, name)) {
             warn(fmt::format("'{}' is a named condition, and named conditions do not see each other: here it "
                              "is an undefined variable",
                              name));

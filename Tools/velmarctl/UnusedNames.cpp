@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <string_view>
 #include <utility>
+#include <variant>
 
 namespace velmar {
 
@@ -22,6 +23,13 @@ public:
         names_.insert(configuration.declaredVariables.begin(), configuration.declaredVariables.end());
         for (const auto &record : configuration.variablesRecords.records) {
             names_.insert(record.variables.begin(), record.variables.end());
+        }
+        for (const TriggeredActionSetItem &set : configuration._actionSets.rawValue()) {
+            for (const ActionTrigger &trigger : set._triggers.rawValue()) {
+                if (const auto *const update = std::get_if<ActionTrigger::VariableUpdate>(&trigger.value)) {
+                    names_.insert(update->variable);
+                }
+            }
         }
         for (const auto &note : notes.notes) {
             if (note.kind == DecodingNotes::Kind::unknownKey) {

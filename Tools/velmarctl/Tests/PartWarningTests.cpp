@@ -151,5 +151,83 @@ TEST_F(PartWarningTest, DoubtsFilesThatOthersMayWrite) {
     }
 }
 
+// AB has no use but the trigger.
+TEST_F(PartWarningTest, NamesPartsThatDoNothing) {
+    const auto trigger = [](std::string_view name) {
+        return item(entry("Type", "Button") + entry("Style", "Info") + entry("Trigger", name));
+    };
+    const std::string notification =
+        item(entry("Type", "DisplayNotification") + entry("Title", "T") +
+             list("Actions", item(entry("Title", "T") + entry("Trigger", "Known")) +
+                                 item(entry("Title", "T") + entry("Trigger", "known"))));
+    const auto container = [](std::string_view ratio) {
+        return item(list("Components", "") + fmt::format("<key>WidthRatio</key><real>{}</real>", ratio));
+    };
+    const auto app = [](std::string_view installer, const std::string &keys = {}) {
+        return item(entry("Type", "Application") + entry("Name", "My App") + entry("Installer", installer) +
+                    keys);
+    };
+    const std::string triggers =
+        "<string>Custom(Known)</string><string>Update(AB)</string><string>Update(USER_NAME)</string>"
+        "<string>Update(MY_APP_INSTALLATION_STATE)</string><string>Update(CD)</string>";
+    const std::string text = warnings(
+        slide(trigger("Known") + trigger("${USER_NAME}") + trigger("Other")) +
+            item(list("Containers", container("0") + container("1"))),
+        "<key>General</key>" + item("<key>Variables</key>" + item(entry("AB", "1"))) +
+            list("ActionSets", set(notification, list("Triggers", triggers))) + "<key>Monitoring</key>" +
+            item(list("Monitors", app("Jamf") + app("Managed") + app("System", entry("Identifier", "a.b")) +
+                                      app("System"))));
+    const std::string head = "x.plist:[0-9]+: warning: ";
+    EXPECT_THAT(text,
+                testing::MatchesRegex(
+                    head +
+                    "Slides.0.Containers.0.Components.2.Trigger: No set of .* trigger 'Custom\\(Other\\)'\n" +
+                    head + "Slides.1.Containers.0.WidthRatio: The container has no width, .*\n" + head +
+                    "ActionSets.0.Actions.0.Actions.1.Trigger: No set of .* trigger 'Custom\\(known\\)'\n" +
+                    head + "ActionSets.0.Triggers.4: Nothing defines the variable 'CD', .*\n" + head +
+                    "Monitoring.Monitors.3: Without 'Identifier' .*\n"));
+}
+
+TEST_F(PartWarningTest, FollowsTheWaysBetweenSlides) {
+    const std::string previous = "<key>HidePreviousButton</key><true/>";
+    const std::string next = "<key>HideNextButton</key><true/>";
+    const auto action = [](std::string_view type, std::string_view keys = {}) {
+        return button(item(entry("Type", type) + std::string(keys)));
+    };
+    const std::string toFirst = action("NavigateToSlide", "<key>Index</key><integer>0</integer>");
+    const std::string toThird = action("NavigateToSlide", "<key>Index</key><integer>2</integer>");
+    const std::string offset = action("NavigateToSlide", "<key>Offset</key><integer>-1</integer>");
+    const std::string bar = "<key>Navigation</key><dict><key>IsHidden</key><true/></dict>";
+    const std::string menu =
+        "<key>Window</key>" + item(entry("OnScreen", "MenuBar")) + "<key>MenuBarSlide</key>" + slide("");
+    const struct {
+        std::vector<std::string> slides;
+        std::string keys, expected; // What the warnings say that nothing leads to.
+    } cases[] = {
+        {{slide("")}, bar, ""},
+        {{slide(""), slide(""), slide("", next)}, "", ""},
+        {{slide("", next), slide(""), slide("")}, "", "away from slide 0;to the slides 1 to 2;"},
+        {{slide("", next), slide(""), slide(toFirst)}, "", "away from slide 0;to the slides 1 to 2;"},
+        {{slide(toThird, next), slide(""), slide("")}, "", ""},
+        {{slide(toThird, next), slide("", next), slide("", previous)}, "", "to slide 1;"},
+        {{slide(""), slide("", previous + next), slide("")}, "", "away from slide 1;to slide 2;"},
+        {{slide(""), slide("", next), slide("")}, "", "to slide 2;"},
+        {{slide(action("TerminateApp"), next), slide("")}, "", "to slide 1;"},
+        {{slide("", next), slide(offset)}, "", ""},
+        {{slide(""), slide("")}, bar, "away from slide 0;to slide 1;"},
+        {{slide(""), slide("")}, bar + menu, ""},
+    };
+    for (const auto &[slides, keys, expected] : cases) {
+        std::string found;
+        std::istringstream lines(warnings(fmt::format("{}", fmt::join(slides, "")), keys));
+        const std::string_view head = ": Nothing leads ";
+        for (std::string line; std::getline(lines, line);) {
+            const std::size_t begin = line.find(head) + head.size();
+            found += line.substr(begin, line.find(':', begin) - begin) + ';';
+        }
+        EXPECT_EQ(found, expected);
+    }
+}
+
 } // namespace
 } // namespace velmar

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <Configuration/Configuration.h>
+
+#include <string>
+
+namespace velmar {
+
+/// Whether the program, General.Variables or a key that declares it brings the variable into being.
+[[nodiscard]] inline bool isDefinedVariable(const Configuration &configuration, const std::string &name) {
+    return configuration._general.rawValue()._variables.rawValue().models().contains(name) ||
+           configuration.declaredVariables.contains(name) ||
+           enumValue<GeneralSection::Placeholders>(name).has_value();
+}
+
+} // namespace velmar

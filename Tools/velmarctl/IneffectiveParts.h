@@ -1,0 +1,18 @@
+#pragma once
+
+#include <UsageWarning.h>
+
+#include <vector>
+
+namespace velmar {
+
+struct Configuration;
+class PropertyList;
+
+/// Warns of parts that do nothing as they stand: a container without width, a trigger that fires no set or
+/// that nothing fires, and an application of the installer "System" without an identifier. That installer's
+/// log names applications by their identifiers alone; the others go by names.
+[[nodiscard]] std::vector<UsageWarning> ineffectiveParts(const PropertyList &file,
+                                                         const Configuration &configuration);
+
+} // namespace velmar
