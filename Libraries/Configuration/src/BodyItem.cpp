@@ -1,5 +1,6 @@
 #include <Configuration/BodyItem.h>
 
+#include <cmath>
 #include <type_traits>
 #include <utility>
 
@@ -36,7 +37,8 @@ BodyItem Decodable<BodyItem>::decode(const Decoding &decoding) {
     if (const std::int64_t *const integer = value.integer()) {
         return {*integer};
     }
-    if (value.unsignedInteger() != nullptr || value.real() != nullptr) {
+    const double *const real = value.real();
+    if (value.unsignedInteger() != nullptr || (real != nullptr && std::isfinite(*real))) {
         return {Decodable<double>::decode(decoding)};
     }
     if (value.array() != nullptr) {

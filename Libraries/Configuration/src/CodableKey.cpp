@@ -1,6 +1,7 @@
 #include <Configuration/CodableKey.h>
 
 #include <Configuration/Decodable.h>
+#include <Configuration/ItemCoding.h>
 
 #include <algorithm>
 #include <string_view>
@@ -43,14 +44,23 @@ void validateKeys(const KeyList &keys, const Decoding &decoding) {
         try {
             validate(key.asSibling(), key.requirement(), {siblings.data(), siblings.size()});
         } catch (const ConfigurationError &) {
-            decoding.context.noteFailure(CodingPath(decoding.path, key.name().stringValue).text(),
-                                         decoding.value.offset());
+            const std::string path = CodingPath(decoding.path, key.name().stringValue).text();
+            decoding.context.noteFailure(path, detail::offsetWithin(decoding, path));
             throw;
         }
     }
 }
 
 } // namespace
+
+std::uint32_t detail::offsetWithin(const Decoding &item, std::string_view path) {
+    for (const auto &entry : *item.value.dictionary()) {
+        if (path.ends_with(entry.key) && CodingPath(item.path, entry.key).text() == path) {
+            return entry.value.offset();
+        }
+    }
+    return item.value.offset();
+}
 
 void decodeKeys(KeyList &keys, const std::string &plistType, const Decoding &decoding) {
     const PropertyList::Dictionary *const dictionary = decoding.value.dictionary();

@@ -6,13 +6,12 @@
 
 namespace velmar {
 
-std::vector<std::string> ComponentItem::Input::Checkboxes::declaredVariables() const {
+void ComponentItem::Input::Checkboxes::declareVariables(
+    const std::function<void(std::string)> &declare) const {
     const std::string_view name = bareVariableName(input._variable.rawValue());
-    std::vector<std::string> names;
     for (std::size_t index = 0; index < _items.rawValue().size(); ++index) {
-        names.push_back(fmt::format("{}-{}", name, index));
+        declare(fmt::format("{}-{}", name, index));
     }
-    return names;
 }
 
 const ComponentItem::ComponentItemProtocol &ComponentItem::common() const {

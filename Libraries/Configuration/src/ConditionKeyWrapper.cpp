@@ -9,16 +9,18 @@ Expression Decodable<Expression>::decode(const Decoding &decoding) {
     if (line == nullptr) {
         throwWrongType(decoding, plistType());
     }
-    try {
-        Expression expression(*line);
-        if (VariableNames variables = expression.variableNames(); !variables.empty()) {
-            decoding.context.addVariablesRecord(
-                {std::move(variables), decoding.path.text(), decoding.value.offset(), expression});
+    const Expression expression = [&] {
+        try {
+            return Expression(*line);
+        } catch (const LocalizedError &error) {
+            throwWrongType(decoding, error.errorDescription(), plistType());
         }
-        return expression;
-    } catch (const LocalizedError &error) {
-        throwWrongType(decoding, error.errorDescription(), plistType());
+    }();
+    if (VariableNames variables = expression.variableNames(); !variables.empty()) {
+        decoding.context.addVariablesRecord(decoding.path, decoding.value.offset(), std::move(variables),
+                                            expression);
     }
+    return expression;
 }
 
 } // namespace velmar

@@ -41,8 +41,8 @@ void resolve(KeyWrapper<Book<Model>> &holder, const PropertyList &dictionary, co
         const CodingPath modelPath(bookPath, model);
         const std::string parentPath = CodingPath(modelPath, parent).text();
         const PropertyList *const value = dictionary.dictionary()->find(key)->dictionary()->find(model);
-        context.noteFailure(parentPath, value != nullptr ? value->dictionary()->find(parent)->offset()
-                                                         : dictionary.offset());
+        const PropertyList *const name = value != nullptr ? value->dictionary()->find(parent) : nullptr;
+        context.noteFailure(parentPath, name != nullptr ? name->offset() : dictionary.offset());
         throw ConfigurationError(ConfigurationErrors::Custom{parentPath, error.errorDescription()});
     }
 }

@@ -8,8 +8,7 @@ namespace velmar {
 
 void recordVariables(std::string_view text, const Decoding &decoding) {
     if (VariableNames variables = usedVariables(text); !variables.empty()) {
-        decoding.context.addVariablesRecord(
-            {std::move(variables), decoding.path.text(), decoding.value.offset(), std::nullopt});
+        decoding.context.addVariablesRecord(decoding.path, decoding.value.offset(), std::move(variables));
     }
 }
 

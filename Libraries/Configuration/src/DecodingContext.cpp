@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <set>
 
 namespace velmar {
 
@@ -17,7 +18,10 @@ namespace {
 constexpr std::size_t longestCompared = 80;
 
 /// More than anybody reads; a file can have a million.
-constexpr std::size_t mostNotesWithHint = 1000;
+constexpr std::size_t mostNotesWithText = 1000;
+
+/// A path beyond this is told by its last key.
+constexpr std::size_t longestPathNoted = 4096;
 
 char lowered(char letter) {
     return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
@@ -127,15 +131,43 @@ void DecodingContext::declareByPopulatedTexts(const std::map<std::string, std::s
         return;
     }
     const Variables variables(initialValues.begin(), initialValues.end());
+    std::set<std::string_view> done; // The same text declares the same.
     for (const auto &[text, names] : declaringTexts_) {
+        if (!done.insert(text).second) {
+            continue;
+        }
+        std::string form;
         try {
-            for (std::string &name : names(populated(text, variables))) {
-                declareVariable(std::move(name));
-            }
+            form = populated(text, variables);
         } catch (const ExpressionError &) {
             // The fault of the text or of the variable is told where the variables are checked.
             continue;
         }
+        for (std::string &name : names(form)) {
+            declareVariable(std::move(name));
+        }
+    }
+}
+
+void DecodingContext::addVariablesRecord(const CodingPath &path, std::uint32_t offset,
+                                         VariableNames variables,
+                                         std::optional<expressions::Expression> condition) {
+    std::string text = path.text();
+    spend(text.size());
+    records_.records.push_back({std::move(variables), std::move(text), offset, std::move(condition)});
+}
+
+void DecodingContext::declareVariable(std::string name) {
+    spend(name.size());
+    declaredVariables_.insert(std::move(name));
+}
+
+void DecodingContext::spend(std::size_t bytes) {
+    constexpr std::size_t mostBytes = std::size_t{64} << 20U;
+    bytesSpent_ += bytes;
+    if (bytesSpent_ > mostBytes) {
+        throw ConfigurationError(ConfigurationErrors::UnexpectedError{
+            "The names of variables and the key paths of the file take more than 64 MiB."});
     }
 }
 
@@ -147,13 +179,19 @@ void DecodingContext::noteFailure(const std::string &keyPath, std::uint32_t offs
 
 void DecodingContext::noteUnknownKey(const CodingPath &item, const std::string &key, std::uint32_t offset,
                                      std::span<const std::string_view> knownKeys) {
+    if (notes_->notes.size() >= mostNotesWithText) {
+        notes_->notes.push_back({DecodingNotes::Kind::unknownKey, {}, offset, {}});
+        return;
+    }
     std::string message = fmt::format("Unknown key '{}'", key);
-    const auto meant = notes_->notes.size() < mostNotesWithHint ? nearest(key, knownKeys) : std::nullopt;
-    if (meant) {
+    if (const auto meant = nearest(key, knownKeys)) {
         message += fmt::format(" (did you mean '{}'?)", *meant);
     }
-    notes_->notes.push_back(
-        {DecodingNotes::Kind::unknownKey, CodingPath(item, key).text(), offset, std::move(message)});
+    std::string path = CodingPath(item, key).text();
+    if (path.size() > longestPathNoted) {
+        path = key;
+    }
+    notes_->notes.push_back({DecodingNotes::Kind::unknownKey, std::move(path), offset, std::move(message)});
 }
 
 void DecodingContext::noteEnumerationCase(const CodingPath &path, const std::string &value,

@@ -32,7 +32,12 @@ def with_change(file, path, value):
 
 with tempfile.TemporaryDirectory() as directory:
     subprocess.run([generate, directory, "60"], check=True)
-    accepted = sorted(sources.glob("Examples/*.plist")) + sorted(pathlib.Path(directory).glob("*.plist"))
+    examples = sorted(sources.glob("Examples/*.plist"))
+    accepted = examples + sorted(pathlib.Path(directory).glob("*.plist"))
+    if len(examples) < 4 or len(accepted) < 64:
+        failures.append(f"only {len(examples)} examples of {len(accepted)} files")
+    if subprocess.run([velmarctl, "check", "--no-admission", *accepted], capture_output=True).returncode != 0:
+        failures.append("the program refuses an example or a made file")
     for path in accepted:
         for error in validator.iter_errors(plistlib.loads(path.read_bytes())):
             failures.append(f"{path.name} is refused: {error.json_path}: {error.message}")

@@ -62,7 +62,8 @@ private:
     }
 };
 
-/// Texts, truth values, whole numbers, numbers, arrays and dictionaries, tried in this order.
+/// Texts, truth values, whole numbers, numbers, arrays and dictionaries, tried in this order; a number has
+/// the kind that the file gives it, so that a 1.0 is sent as one.
 template <>
 struct Decodable<BodyItem> {
     static BodyItem decode(const Decoding &decoding);

@@ -215,13 +215,14 @@ struct Decodable<std::map<std::string, T>> {
         return values;
     }
     static std::optional<PropertyList> encode(const std::map<std::string, T> &values) {
-        PropertyList::Dictionary dictionary;
+        std::vector<PropertyList::Dictionary::Entry> entries;
+        entries.reserve(values.size());
         for (const auto &[key, value] : values) {
             if (auto encoded = Decodable<T>::encode(value)) {
-                dictionary.set(key, *std::move(encoded));
+                entries.push_back({key, *std::move(encoded)});
             }
         }
-        return PropertyList(std::move(dictionary));
+        return PropertyList(PropertyList::Dictionary(std::move(entries)));
     }
     static std::string plistType() { return fmt::format("dictionary of {}", Decodable<T>::plistType()); }
     static ValueDescription describe(Descriptions &items) {

@@ -41,11 +41,12 @@ public:
     /// them. Null before that.
     [[nodiscard]] std::shared_ptr<void> &valueOfName(std::string_view typeName, const std::string &name);
 
-    /// Keeps what a place uses, to be checked when all of the file is decoded.
-    void addVariablesRecord(VariablesRecords::Record record) {
-        records_.records.push_back(std::move(record));
-    }
-    void declareVariable(std::string name) { declaredVariables_.insert(std::move(name)); }
+    /// Keeps what the value at a place uses, to be checked when all of the file is decoded. Like the
+    /// declarations it throws ConfigurationError beyond 64 MiB of names and paths: one long key above many
+    /// values would take the memory of a machine.
+    void addVariablesRecord(const CodingPath &path, std::uint32_t offset, VariableNames variables,
+                            std::optional<expressions::Expression> condition = std::nullopt);
+    void declareVariable(std::string name);
     /// Keeps a text whose populated form tells the names that it declares, until the variables are known.
     void declareByPopulatedText(std::string text, std::vector<std::string> (*names)(const std::string &)) {
         declaringTexts_.emplace_back(std::move(text), names);
@@ -69,7 +70,10 @@ private:
         std::function<void(const Library &)> settle;
     };
 
+    void spend(std::size_t bytes);
+
     DecodingNotes *notes_;
+    std::size_t bytesSpent_ = 0; ///< On names and paths that are kept.
     std::vector<Reference> references_;
     std::map<std::pair<std::string_view, std::string>, std::shared_ptr<void>> valuesOfNames_;
     VariablesRecords records_;

@@ -19,7 +19,7 @@ struct DecodingNotes {
         Kind kind = Kind::unknownKey;
         std::string keyPath;
         std::uint32_t offset = 0;
-        std::string message;
+        std::string message; ///< Empty, like the path, for those beyond the first thousand.
     };
 
     struct Failure {

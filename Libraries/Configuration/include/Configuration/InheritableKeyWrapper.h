@@ -56,17 +56,29 @@ private:
     using typename Base::Held;
     using typename Base::Node;
 
-    /// The item that all keys with this name share: it never changes once its parent is applied.
+    /// The item that all keys with this name share, for it never changes once its parent is applied; a fresh
+    /// one where items have an identity.
     Held valueOfName(const std::string &modelName, const Decoding &decoding) const {
-        std::shared_ptr<void> &shared = decoding.context.valueOfName(Model::typeName, modelName);
-        if (!shared) {
-            Model model = makeDefault<Model>();
-            model._parentModelName.set(modelName);
-            const auto held = std::make_shared<Held>(new Node(std::move(model)));
-            addReference(*held, decoding);
-            shared = held;
+        if constexpr (requires(Model model) { model.id; }) {
+            return makeNamed(modelName, decoding);
+        } else {
+            std::shared_ptr<void> &shared = decoding.context.valueOfName(Model::typeName, modelName);
+            if (!shared) {
+                shared = std::make_shared<Held>(makeNamed(modelName, decoding));
+            }
+            return *std::static_pointer_cast<Held>(shared);
         }
-        return *std::static_pointer_cast<Held>(shared);
+    }
+
+    Held makeNamed(const std::string &modelName, const Decoding &decoding) const {
+        Model model = makeDefault<Model>();
+        if constexpr (requires { model.id; }) {
+            model.id = {};
+        }
+        model._parentModelName.set(modelName);
+        Held held(new Node(std::move(model)));
+        addReference(held, decoding);
+        return held;
     }
 
     Held decodeItem(const Decoding &decoding) const {

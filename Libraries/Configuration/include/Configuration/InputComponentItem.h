@@ -7,6 +7,7 @@
 #include <Configuration/RegularExpressionCoding.h>
 #include <Configuration/VariableKeyWrapper.h>
 
+#include <functional>
 #include <variant>
 #include <vector>
 
@@ -92,8 +93,8 @@ struct Checkboxes {
     KeyWrapper<std::vector<std::string>> _items{"Items", required};
     KeyWrapper<std::optional<ValidationItem>> _validation{"Validation", optional};
 
-    /// The variable of each box: that of the input, "-" and the index from 0.
-    [[nodiscard]] std::vector<std::string> declaredVariables() const;
+    /// Tells the variable of each box: that of the input, "-" and the index from 0.
+    void declareVariables(const std::function<void(std::string)> &declare) const;
 };
 
 } // namespace Inputs

@@ -8,12 +8,13 @@
 #include <Configuration/Decodable.h>
 #include <Configuration/InheritableKeyWrapper.h>
 #include <Configuration/KeyWrapper.h>
-#include <Foundation/UUID.h>
 
 #include <boost/pfr.hpp>
 
 #include <array>
 #include <concepts>
+#include <cstdint>
+#include <functional>
 #include <string_view>
 #include <type_traits>
 #include <variant>
@@ -36,8 +37,8 @@ concept ReferencesValidatable = requires(const T &item, const Library &library) 
 
 /// An item that declares variables by several of its keys together.
 template <class T>
-concept VariablesDeclaring = requires(const T &item) {
-    { item.declaredVariables() } -> std::convertible_to<std::vector<std::string>>;
+concept VariablesDeclaring = requires(const T &item, const std::function<void(std::string)> &declare) {
+    item.declareVariables(declare);
 };
 
 /// Holders that several items have in common, nested in each as its first member.
@@ -81,13 +82,16 @@ T makeDefault() {
 
 namespace detail {
 
+/// Where the key of an item stands whose path an error has; the item's own place for any other path.
+[[nodiscard]] std::uint32_t offsetWithin(const Decoding &item, std::string_view path);
+
 template <PostDecodingValidatable T>
 void validateItem(const T &item, const Decoding &decoding) {
     try {
         item.validate(decoding.path);
     } catch (const ConfigurationError &error) {
         if (const auto *custom = error.as<ConfigurationErrors::Custom>()) {
-            decoding.context.noteFailure(custom->path, decoding.value.offset());
+            decoding.context.noteFailure(custom->path, offsetWithin(decoding, custom->path));
         }
         throw;
     }
@@ -102,13 +106,12 @@ struct ItemCoding {
         T item = makeDefault<T>();
         KeyList keys = keysOf(item);
         decodeKeys(keys, plistType(), decoding);
-        if constexpr (requires { item.id = UUID(); }) {
-            item.id = UUID();
+        if constexpr (requires { item.id; }) {
+            item.id = {};
         }
         if constexpr (VariablesDeclaring<T>) {
-            for (std::string &name : item.declaredVariables()) {
-                decoding.context.declareVariable(std::move(name));
-            }
+            item.declareVariables(
+                [&](std::string name) { decoding.context.declareVariable(std::move(name)); });
         }
         if constexpr (PostDecodingValidatable<T>) {
             detail::validateItem(item, decoding);
