@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QWidget>
 
+#include <fmt/format.h>
 #include <gtest/gtest.h>
 
 #include <csignal>
@@ -75,65 +76,57 @@ protected:
     static DesktopApplication &application() { return *application_; }
 
     Recorder recorder;
-    const std::vector<std::string> wholeLife{"will launch", "did launch", "should terminate",
-                                             "will terminate"};
 
 private:
     static inline std::unique_ptr<DesktopApplication> application_;
 };
 
-TEST_F(Application, EndsInOrder) {
-    const auto signalBesideAlert = [] {
+TEST_F(Application, EndsInOrderUnlessTheDelegateRefuses) {
+    using Function = std::function<void()>;
+    const Function nothing = [] {};
+    const Function terminate = [] { application().terminate(); };
+    const Function twice = [] {
+        application().terminate();
+        application().mainQueue().async([] { application().terminate(); });
+    };
+    const Function signalBesideAlert = [] {
         QDialog alert;
         application().mainQueue().async([] { std::raise(SIGTERM); });
         alert.exec();
     };
-    for (const auto &end :
-         std::vector<std::function<void()>>{[] { application().terminate(); }, [] { std::raise(SIGINT); },
-                                            [] { QCoreApplication::quit(); }, signalBesideAlert}) {
-        recorder.events.clear();
-        recorder.afterLaunch = end;
-        EXPECT_EQ(application().run(recorder), 0);
-        EXPECT_EQ(recorder.events, wholeLife);
-    }
-}
-
-TEST_F(Application, EndsEvenIfTheDelegateFailsToBeAsked) {
-    std::vector<std::string> uncaught;
-    setUncaughtHandler([&](auto label, std::exception_ptr) { uncaught.emplace_back(label); });
-    recorder.fails = true;
-    recorder.afterLaunch = [] { application().terminate(); };
-    EXPECT_EQ(application().run(recorder), 0);
-    setUncaughtHandler({});
-    EXPECT_EQ(recorder.events, wholeLife);
-    EXPECT_EQ(uncaught, (std::vector<std::string>{"applicationShouldTerminate", "applicationWillTerminate"}));
-}
-
-TEST_F(Application, EndsWithoutAWordBeforeItHasBegun) {
-    recorder.whileLaunching = [] {
-        QDialog refusal;
-        application().mainQueue().async([] { std::raise(SIGTERM); });
-        refusal.exec();
-    };
-    EXPECT_EQ(application().run(recorder), 0);
-    EXPECT_EQ(recorder.events, std::vector<std::string>{"will launch"});
-}
-
-TEST_F(Application, GoesOnWhenTheDelegateRefuses) {
-    recorder.refusals = 1;
-    // An alert that closes before the launch is over is no last window.
-    recorder.whileLaunching = [] {
+    // One that closes before the launch is over is no last window.
+    const Function closedAlert = [] {
         QDialog alert;
         application().mainQueue().async([&alert] { alert.accept(); });
         alert.exec();
     };
-    recorder.afterLaunch = [] {
-        application().terminate();
-        application().mainQueue().async([] { application().terminate(); });
-    };
-    application().run(recorder);
-    EXPECT_EQ(recorder.events, (std::vector<std::string>{"will launch", "did launch", "should terminate",
-                                                         "should terminate", "will terminate"}));
+    const struct {
+        Function whileLaunching, afterLaunch;
+        int refusals;
+        bool fails;
+        std::string events; // Behind the first.
+    } rows[] = {
+        {nothing, terminate, 0, false, "did launch, should terminate, will terminate"},
+        {nothing, [] { std::raise(SIGINT); }, 0, false, "did launch, should terminate, will terminate"},
+        {nothing, [] { QCoreApplication::quit(); }, 0, false, "did launch, should terminate, will terminate"},
+        {nothing, signalBesideAlert, 0, false, "did launch, should terminate, will terminate"},
+        {nothing, terminate, 0, true, "did launch, should terminate, will terminate"},
+        {signalBesideAlert, nothing, 0, false, ""},
+        {closedAlert, twice, 1, false, "did launch, should terminate, should terminate, will terminate"}};
+    std::vector<std::string> uncaught;
+    setUncaughtHandler([&](auto label, std::exception_ptr) { uncaught.emplace_back(label); });
+    for (const auto &row : rows) {
+        recorder.events.clear();
+        recorder.whileLaunching = row.whileLaunching;
+        recorder.afterLaunch = row.afterLaunch;
+        recorder.refusals = row.refusals;
+        recorder.fails = row.fails;
+        EXPECT_EQ(application().run(recorder), 0);
+        EXPECT_EQ(fmt::format("{}", fmt::join(recorder.events, ", ")),
+                  row.events.empty() ? "will launch" : "will launch, " + row.events);
+    }
+    setUncaughtHandler({});
+    EXPECT_EQ(uncaught, (std::vector<std::string>{"applicationShouldTerminate", "applicationWillTerminate"}));
 }
 
 TEST_F(Application, TerminatesWithItsLastWindowOnlyIfTheDelegateSaysSo) {

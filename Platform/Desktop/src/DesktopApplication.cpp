@@ -97,7 +97,13 @@ private:
 
     void lastWindowWasClosed() {
         // An alert may be the last window before the launch is over.
-        if (isLaunched_ && !isTerminating_ && delegate_->applicationShouldTerminateAfterLastWindowClosed()) {
+        if (!isLaunched_ || isTerminating_) {
+            return;
+        }
+        bool isLast = false;
+        runReportingUncaught("applicationShouldTerminateAfterLastWindowClosed",
+                             [&] { isLast = delegate_->applicationShouldTerminateAfterLastWindowClosed(); });
+        if (isLast) {
             terminate();
         }
     }
@@ -111,13 +117,15 @@ private:
             return;
         }
         // The desktop tells of it once, when it has happened.
-        if (isActive) {
-            delegate_->applicationWillBecomeActive();
-            delegate_->applicationDidBecomeActive();
-        } else {
-            delegate_->applicationWillResignActive();
-            delegate_->applicationDidResignActive();
-        }
+        runReportingUncaught("applicationStateChanged", [&] {
+            if (isActive) {
+                delegate_->applicationWillBecomeActive();
+                delegate_->applicationDidBecomeActive();
+            } else {
+                delegate_->applicationWillResignActive();
+                delegate_->applicationDidResignActive();
+            }
+        });
     }
 
     TerminationSignals signals_;

@@ -41,7 +41,7 @@ public:
 
 private:
     class Loop;
-    std::thread fontLoader_; // Beside the making of the loop.
+    std::jthread fontLoader_; // Beside the making of the loop, which may throw.
     MainMenu mainMenu_;
     std::unique_ptr<DesktopAppearance> appearance_; // The style of the loop's widgets uses it to the end.
     std::unique_ptr<Loop> loop_;
