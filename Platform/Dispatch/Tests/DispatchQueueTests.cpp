@@ -110,41 +110,6 @@ protected:
     void SetUp() override { testing::FLAGS_gtest_death_test_style = "threadsafe"; }
 };
 
-TEST_F(DispatchQueueDeathTest, ExitWaitsForWhatRunsAndStartsNothing) {
-    EXPECT_EXIT(
-        {
-            const DispatchQueue queue("busy");
-            std::promise<void> started;
-            queue.async([&] {
-                started.set_value();
-                std::fputs("begun ", stderr);
-                std::this_thread::sleep_for(50ms); // work, not a wait
-                std::fputs("ended", stderr);
-            });
-            queue.async([] { std::fputs("never", stderr); });
-            started.get_future().wait();
-            std::exit(3);
-        },
-        testing::ExitedWithCode(3), "^begun ended$");
-}
-
-TEST_F(DispatchQueueDeathTest, ShutdownIsBounded) {
-    EXPECT_EXIT(
-        {
-            const DispatchQueue queue("hanging");
-            std::promise<void> started;
-            queue.async([&] {
-                started.set_value();
-                std::promise<void>().get_future().wait_for(1h);
-            });
-            started.get_future().wait();
-            const bool hasEnded = DispatchQueue::shutdown(10ms);
-            queue.async([] { std::fputs("never", stderr); });
-            std::_Exit(hasEnded || queue.waitUntilIdle(1h) ? 1 : 4);
-        },
-        testing::ExitedWithCode(4), "^$");
-}
-
 TEST_F(DispatchQueueDeathTest, ShutdownIsBoundedAlsoWhereAFunctionThatNeverRanHangs) {
     EXPECT_EXIT(
         {
