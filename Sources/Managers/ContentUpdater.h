@@ -12,29 +12,26 @@ namespace velmar {
 
 /// A value of the program that variables show: each write publishes it under the name of a placeholder, whole
 /// numbers in decimal, a Bool as "true" or "false". One thread at a time.
-template <class T>
-requires std::integral<T> || std::same_as<T, std::string>
+template <std::integral T>
 class ContentUpdater {
 public:
     /// The first value is not published.
     ContentUpdater(T wrappedValue, GeneralSection::Placeholders placeholder,
                    std::shared_ptr<ContentManagerProtocol> contentManager = ContentManager::shared())
-        : wrappedValue_(std::move(wrappedValue)),
+        : wrappedValue_(wrappedValue),
           placeholder_(placeholder),
           contentManager_(std::move(contentManager)) {}
 
-    [[nodiscard]] const T &operator()() const noexcept { return wrappedValue_; }
+    [[nodiscard]] T operator()() const noexcept { return wrappedValue_; }
 
     void set(T value) {
-        wrappedValue_ = std::move(value);
+        wrappedValue_ = value;
         contentManager_->updatePlaceholder(placeholder_, text());
     }
 
 private:
     [[nodiscard]] std::string text() const {
-        if constexpr (std::is_same_v<T, std::string>) {
-            return wrappedValue_;
-        } else if constexpr (std::is_same_v<T, bool>) {
+        if constexpr (std::is_same_v<T, bool>) {
             return wrappedValue_ ? "true" : "false";
         } else {
             return std::to_string(wrappedValue_);
