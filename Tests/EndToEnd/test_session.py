@@ -41,22 +41,6 @@ class Session(Scenario):
                 self.assertFalse(process.ended())
                 self.assertNotIn(REFUSAL, screen.texts())
 
-    def test_texts_hold_variables_which_a_reload_resets(self):
-        def install(value):
-            self.install(configuration(slide("Hello ${NAME}"), General={"Variables": {"NAME": value}}, **ADMIN))
-
-        install("One")
-        _, screen = self.velmar()
-        screen.wait_for_text("Hello One")
-        self.assertIn("Successfully added a new variable [ NAME: 'One' ]", self.messages())
-        install("Two")
-        lines = len(self.messages())
-        screen.menu_item(RELOADS[1]).press()
-        self.wait_for_more(lines, "Decoding configuration file...")
-        screen.wait_for_text("Hello One")
-        screen.menu_item(RELOADS[0]).press()
-        screen.wait_for_text("Hello Two")
-
     def wait_for_more(self, count, *fragments):
         until(lambda: f"{fragments} in {self.log()[count:]}",
               lambda: all(any(fragment in line for line in self.log()[count:]) for fragment in fragments))
