@@ -4,14 +4,13 @@
 #include <Views/Content/Containers/ContainerViewModel.h>
 #include <Views/Content/ContentView/ContentViewController.h>
 #include <Views/Content/Slides/SlideViewController.h>
+#include <Views/CustomViews/Pixels.h>
 #include <Views/Navigation/NavigationButton.h>
 #include <Views/Navigation/NavigationViewController.h>
 
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
-#include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace velmar {
@@ -53,10 +52,9 @@ void VelmarViewController::buildSideContainer() {
     }
     sideContainerViewController_ =
         new ContainerViewController((*section)->_container(), ContainerViewController::Kind::inSidebar,
-                                    std::nullopt, surroundings_.mainQueue, this);
+                                    std::nullopt, {surroundings_.mainQueue, surroundings_.appearance}, this);
     sideContainerViewController_->viewWillAppear();
-    const double width = std::clamp((*section)->_width(), 0.0, 16384.0);
-    sideContainerViewController_->setFixedWidth(static_cast<int>(std::lround(width)));
+    sideContainerViewController_->setFixedWidth(pixels((*section)->_width()));
     row_->insertWidget(0, sideContainerViewController_);
 }
 

@@ -5,6 +5,10 @@
 
 namespace velmar {
 
+namespace {
+constexpr int mostRounds = 8;
+}
+
 class VariablesRefresh::Observer final : public ObservableContent,
                                          public std::enable_shared_from_this<Observer> {
 public:
@@ -13,9 +17,8 @@ public:
 
     void letGo() { refresh_ = nullptr; }
 
-protected:
-    void concerningVariableDidChange(std::string_view /*name*/, const std::optional<std::string> & /*former*/,
-                                     const std::string & /*value*/) override {
+    /// Any thread.
+    void request() {
         if (isPending_.exchange(true)) {
             return;
         }
@@ -24,6 +27,12 @@ protected:
                 self->refresh();
             }
         });
+    }
+
+protected:
+    void concerningVariableDidChange(std::string_view /*name*/, const std::optional<std::string> & /*former*/,
+                                     const std::string & /*value*/) override {
+        request();
     }
 
 private:
@@ -59,9 +68,14 @@ void VariablesRefresh::follow(const std::function<VariableNames(const Variables 
     const auto present = [&] { return namesFor(*observer_->contentVariables().variables()); };
     // A value that brings in further names may change before its own name is followed.
     VariableNames followed;
-    for (VariableNames names = present(); names != followed; names = present()) {
+    VariableNames names = present();
+    for (int round = 0; names != followed && round < mostRounds; ++round) {
         follow(names);
-        followed = std::move(names);
+        followed = std::exchange(names, present());
+    }
+    // A writer that is faster must not hold the main thread up: the owner is told instead.
+    if (names != followed) {
+        observer_->request();
     }
 }
 

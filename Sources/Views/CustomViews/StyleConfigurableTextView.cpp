@@ -32,9 +32,9 @@ StyleConfigurableTextView::StyleConfigurableTextView(QWidget *parent) : QLabel(p
 
 void StyleConfigurableTextView::setContent(const QString &content, std::optional<FontItem> fontItem) {
     fontItem_ = std::move(fontItem);
+    setText(content); // First: a new font breaks the lines of the text.
     const QFont standard = Theme::font(Theme::bodySize);
     setFont(fontItem_ ? fontOf(*fontItem_, standard) : standard);
-    setText(content);
     prepareLayout();
     setAccessibleName(content);
     updateColor();

@@ -1,5 +1,6 @@
 #include <Views/Content/Containers/ComponentsViewModel.h>
 
+#include <Configuration/Configuration.h>
 #include <Support/RecordedLog.h>
 
 #include <gtest/gtest.h>
@@ -7,7 +8,7 @@
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
-#include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -15,11 +16,6 @@
 
 namespace velmar {
 namespace {
-
-class CannotTell final : public LocalizedError {
-public:
-    CannotTell() : LocalizedError("It cannot be told.") {}
-};
 
 /// Components with the conditions "ONE", none, "TWO"; the views write down what is asked of them, and finish
 /// an animation when the test says so.
@@ -47,13 +43,11 @@ protected:
         return {text};
     }
 
-    ComponentsViewModel model() {
-        return {{item("ONE"), item({}), item("TWO")},
-                [this](const Expression &condition) {
-                    const std::optional<bool> value = values.at(condition.source());
-                    return value ? *value : throw CannotTell();
-                },
-                *this};
+    ComponentsViewModel model() { return {{item("ONE"), item({}), item("TWO")}, conditions, *this}; }
+    void set(const char *name, bool value) { manager->updateVariable(name, value ? "true" : "false", false); }
+    void set(bool one, bool two) {
+        set("ONE", one);
+        set("TWO", two);
     }
 
     using Asked = std::vector<std::string>;
@@ -67,7 +61,12 @@ protected:
     void endAnimation() { std::exchange(end, nullptr)(); }
 
     RecordedLog log;
-    std::map<std::string, std::optional<bool>> values{{"ONE", true}, {"TWO", false}};
+    std::shared_ptr<ContentManager> manager = std::make_shared<ContentManager>();
+    std::shared_ptr<ConditionEvaluator> conditions = std::make_shared<ConditionEvaluator>(
+        Config<ConditionEvaluator::NamedConditions>(
+            [](const Configuration &c) -> decltype(auto) { return c._conditions(); },
+            ConditionEvaluator::NamedConditions()),
+        manager);
     Asked asked;
     std::function<void()> end;
 };
@@ -82,28 +81,29 @@ TEST_F(Components, FollowTheirConditionsInOneChange) {
                 {true, true, {"focus", "-[] +[2]", "rebuild", "insertion"}, "xxx"},
                 {false, false, {"focus", "-[0] +[]", "removal", "rebuild", "insertion"}, ".x."}};
     for (const auto &row : rows) {
+        set(true, false);
         ComponentsViewModel components = model();
         EXPECT_EQ(shown(components), "xx.");
         asked.clear();
-        values = {{"ONE", row.one}, {"TWO", row.two}};
+        set(row.one, row.two);
         components.reload();
         while (components.animationIsRunning()) {
             endAnimation();
         }
         EXPECT_EQ(asked, row.asked);
         EXPECT_EQ(shown(components), row.shown);
-        values = {{"ONE", true}, {"TWO", false}};
     }
 }
 
 TEST_F(Components, AnswerAllRequestsOfAnAnimationByOneReloadWithTheLastValues) {
     using enum ComponentsViewModel::State;
+    set(true, false);
     ComponentsViewModel components = model();
-    values["ONE"] = false;
+    set("ONE", false);
     components.reload();
     EXPECT_EQ(components.state(), removing);
     for (const bool value : {true, false, true}) {
-        values["ONE"] = value;
+        set("ONE", value);
         components.reload();
     }
     endAnimation();
@@ -121,9 +121,9 @@ TEST_F(Components, AnswerAllRequestsOfAnAnimationByOneReloadWithTheLastValues) {
 }
 
 TEST_F(Components, AreHiddenByAConditionThatCannotBeEvaluated) {
-    values["ONE"] = {};
-    EXPECT_EQ(shown(model()), ".x.");
-    EXPECT_EQ(log.lines(), Asked{"error: Unable to evaluate the expression ONE. It cannot be told."});
+    set("TWO", true);
+    EXPECT_EQ(shown(model()), ".xx");
+    EXPECT_EQ(log.lines(), Asked{"error: Unable to evaluate the expression ONE. Undefined variable: ONE"});
 }
 
 } // namespace

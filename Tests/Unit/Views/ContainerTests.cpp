@@ -1,21 +1,24 @@
-#include "ThemedApplication.h"
+#include "ViewTest.h"
 
 #include <Views/Content/Components/Base.h>
 #include <Views/Content/Containers/ContainerViewController.h>
-#include <Views/CustomViews/StyleConfigurableTextView.h>
 
 #include <Configuration/Configuration.h>
 #include <Managers/ConditionEvaluator.h>
 #include <Managers/ContentManager.h>
 #include <Managers/PopulatePlugin.h>
 #include <Support/RecordedLog.h>
-#include <Testing/TestMainQueue.h>
 
+#include <QLineEdit>
 #include <QScrollArea>
+#include <QVariantAnimation>
 
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
+
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -24,26 +27,14 @@ namespace velmar {
 namespace {
 
 /// A container on show, of texts of which some have conditions, over a store of its own.
-class Container : public testing::Test, protected ThemedApplication {
+class Container : public ViewTest<> {
 protected:
-    static void SetUpTestSuite() { begin(); }
-    static void TearDownTestSuite() { end(); }
-    ~Container() override { appearance().setAnimated(false); }
-
-    static ComponentItem text(const std::string &content, const std::string &condition = {}) {
-        ComponentItem::Text item;
-        item._text.set(content);
-        if (!condition.empty()) {
-            item.common._condition.set(Expression(condition));
-        }
-        return {item};
-    }
-
     void show(const std::vector<ComponentItem> &components) {
         ContainerItem item;
         item._components.set(components);
-        view = std::make_unique<ContainerViewController>(item, ContainerViewController::Kind::inSoleSlide,
-                                                         std::nullopt, queue, nullptr);
+        view = std::make_unique<ContainerViewController>(
+            item, ContainerViewController::Kind::inSoleSlide, std::nullopt,
+            ContainerViewController::Surroundings{queue, appearance(), conditions}, nullptr);
         view->resize(500, 400);
         view->viewWillAppear();
         view->show();
@@ -54,55 +45,54 @@ protected:
         manager->updateVariable(name, std::move(value), false);
     }
 
-    void settle() {
-        queue.runUntilEmpty();
-        QCoreApplication::processEvents();
-    }
-
     /// Lets animations run until the texts on show, from the top down, are these.
     ::testing::AssertionResult shows(const QStringList &texts) {
         settle();
         const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-        while (shownTexts() != texts && std::chrono::steady_clock::now() < deadline) {
+        while (shownTexts(*view) != texts && std::chrono::steady_clock::now() < deadline) {
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 1000);
         }
-        return shownTexts() == texts ? ::testing::AssertionSuccess()
-                                     : ::testing::AssertionFailure() << shownTexts().join(", ").toStdString();
-    }
-
-    QStringList shownTexts() const {
-        std::map<int, QString> texts;
-        for (const auto *text : view->findChildren<StyleConfigurableTextView *>()) {
-            if (text->isVisible()) {
-                texts.emplace(text->mapTo(view.get(), QPoint()).y(), text->text());
-            }
-        }
-        QStringList list;
-        for (const auto &[y, content] : texts) {
-            list.append(content);
-        }
-        return list;
+        return shownTexts(*view) == texts
+                   ? ::testing::AssertionSuccess()
+                   : ::testing::AssertionFailure() << shownTexts(*view).join(", ").toStdString();
     }
 
     int top(const QString &content) const {
-        for (const auto *text : view->findChildren<StyleConfigurableTextView *>()) {
-            if (text->isVisible() && text->text() == content) {
-                return text->mapTo(view.get(), QPoint()).y();
+        for (const auto &[top, text] : placedTexts(*view)) {
+            if (text == content) {
+                return top;
             }
         }
         return -1;
     }
 
+    /// Takes the animation that runs through its time in steps of a twentieth, on a clock of the test's own.
+    void animate(const std::function<void()> &afterStep = [] {}) {
+        for (auto *animation : view->findChildren<QVariantAnimation *>()) {
+            if (animation->state() != QAbstractAnimation::Running) {
+                continue;
+            }
+            animation->pause();
+            const int duration = animation->duration();
+            for (int step = 1; step <= 20; ++step) {
+                animation->setCurrentTime(duration * step / 20);
+                settle();
+                afterStep();
+            }
+            return;
+        }
+        ADD_FAILURE() << "nothing is animated";
+    }
+
     RecordedLog log;
     std::shared_ptr<ContentManager> manager = std::make_shared<ContentManager>();
     Shared<ContentManager>::Scope scope{manager};
-    Shared<ConditionEvaluator>::Scope conditions{std::make_shared<ConditionEvaluator>(
+    std::shared_ptr<ConditionEvaluator> conditions = std::make_shared<ConditionEvaluator>(
         Config<ConditionEvaluator::NamedConditions>(
             [](const Configuration &c) -> decltype(auto) { return c._conditions(); },
             ConditionEvaluator::NamedConditions()),
-        manager)};
+        manager);
     Plugins::Registration plugin = Plugins::registerPlugin(std::make_shared<AppManager::PopulatePlugin>());
-    TestMainQueue queue;
     std::unique_ptr<ContainerViewController> view;
 };
 
@@ -110,9 +100,8 @@ TEST_F(Container, KeepsComponentsInThePlacesOfTheirItemsWhateverTheOrderOfTheirC
     for (const char *name : {"A1", "B1", "C1"}) {
         set(name, "false");
     }
-    show({text("a", "A1"), text("b", "B1"), text("always"), text("c", "C1"), text("never", "D1")});
+    show({text("a", "A1"), text("b", "B1"), text("always"), text("c", "C1")});
     EXPECT_TRUE(shows({"always"}));
-    EXPECT_EQ(log.takeLines().size(), 1U) << "the variable of the last one is not there";
     const struct {
         const char *name, *value;
         QStringList texts;
@@ -133,68 +122,123 @@ TEST_F(Container, KeepsComponentsInThePlacesOfTheirItemsWhateverTheOrderOfTheirC
 }
 
 TEST_F(Container, MovesWithoutAJumpAndEndsWhereItWouldStandWithoutAnimation) {
-    set("A1", "true");
-    set("B1", "false");
-    show({text("goes", "A1"), text("comes\nwith\nthree lines", "B1"), text("below")});
-    const int before = top("below");
-    appearance().setAnimated(true);
-    set("A1", "false");
-    set("B1", "true");
-    settle();
-    EXPECT_EQ(top("below"), before) << "what goes leaves its space for the moment";
-    std::vector<int> tops;
-    while (shownTexts().size() < 2) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 1000);
-        if (const int now = top("below"); tops.empty() || now != tops.back()) {
-            tops.push_back(now);
+    const auto space = [](const char *condition) {
+        ComponentItem::Spacer spacer;
+        if (condition != nullptr) {
+            spacer.common._condition.set(Expression(condition));
+        }
+        return ComponentItem{spacer};
+    };
+    const struct {
+        const char *description;
+        std::vector<ComponentItem> above;
+    } rows[] = {{"texts", {text("goes", "A1"), text("comes\nwith\nthree lines", "B1")}},
+                {"flexible spaces",
+                 {text("goes", "A1"), space("A1"), text("comes\nwith\nthree lines", "B1"), space("B1")}},
+                {"a space that comes beside one that stays",
+                 {text("top"), space("B1"), text("middle"), space(nullptr)}}};
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.description);
+        appearance().setAnimated(false);
+        set("A1", "true");
+        set("B1", "false");
+        std::vector<ComponentItem> components = row.above;
+        components.push_back(text("below"));
+        show(components);
+        const int before = top("below");
+        const bool isGoing = shownTexts(*view).contains("goes");
+        appearance().setAnimated(true);
+        set("A1", "false");
+        set("B1", "true");
+        settle();
+        if (isGoing) {
+            animate([&] { EXPECT_EQ(top("below"), before) << "what goes leaves its space for the moment"; });
+        }
+        std::vector<int> tops{before};
+        animate([&] { tops.push_back(top("below")); });
+        appearance().setAnimated(false);
+        set("B1", "false");
+        set("B1", "true");
+        settle();
+        const int distance = top("below") - before;
+        EXPECT_EQ(tops.back(), top("below"));
+        for (std::size_t step = 1; step < tops.size(); ++step) {
+            const int length = (tops[step] - tops[step - 1]) * (distance < 0 ? -1 : 1);
+            EXPECT_TRUE(length >= 0 && length <= std::abs(distance) / 5 + 2)
+                << ::testing::PrintToString(tops);
         }
     }
-    EXPECT_TRUE(std::ranges::is_sorted(tops)) << ::testing::PrintToString(tops) << ": one movement, downward";
-    const int after = top("below");
-    appearance().setAnimated(false);
-    set("B1", "false");
-    set("B1", "true");
-    settle();
-    EXPECT_EQ(top("below"), after);
-    EXPECT_GT(after, before);
 }
 
-TEST_F(Container, TakesTheFocusAwayOnlyWhileItIsOnShow) {
+/// The most that the process ever had, in MiB.
+long mostMemory() {
+    rusage usage{};
+    ::getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss / 1024;
+}
+
+TEST_F(Container, MovesATextOfAnyLengthForThePriceOfTheViewport) {
     set("A1", "true");
-    show({text("a", "A1")});
-    auto *area = view->findChild<QScrollArea *>();
+    show({text("above"), text(QString("line\n").repeated(10'000).toStdString(), "A1")});
+    const long before = mostMemory();
+    appearance().setAnimated(true);
+    for (const char *value : {"false", "true"}) {
+        set("A1", value);
+        settle();
+        int pictures = 0;
+        animate([&] {
+            const QImage shown = view->grab(QRect(0, 200, 400, 100)).toImage();
+            QImage blank = shown;
+            blank.fill(shown.pixel(0, 0));
+            pictures += shown == blank ? 0 : 1;
+        });
+        EXPECT_GT(pictures, 8) << value;
+        if (*value == 'f') {
+            animate(); // Its space closes.
+        }
+    }
+    EXPECT_LT(mostMemory() - before, 200);
+}
+
+TEST_F(Container, MayGoWhileSomethingIsUnderWay) {
+    for (const bool isInserting : {false, true}) {
+        set("A1", "true");
+        set("B1", "true");
+        show({text("a", "A1"), text("b", "B1"), text("c", "A1 == false")});
+        appearance().setAnimated(true);
+        set("A1", "false");
+        settle();
+        if (isInserting) {
+            animate();
+        }
+        set("B1", "false");
+        view.reset();
+        appearance().setAnimated(false);
+        EXPECT_EQ(queue.runUntilEmpty(), 1U) << "a reload that finds nobody";
+        settle();
+    }
+}
+
+TEST_F(Container, TakesTheFocusOnlyFromItsComponentsAndOnlyWhileItIsOnShow) {
+    show({text("a", "A1"), text("b")});
     QWidget window;
     view->setParent(&window);
+    QLineEdit beside(&window);
+    QLineEdit within(view->componentViews()[1]);
+    auto *area = view->findChild<QScrollArea *>();
     window.show();
-    for (const bool isOnShow : {false, true}) {
-        isOnShow ? view->viewWillAppear() : view->viewWillDisappear();
-        area->setFocus();
-        set("A1", isOnShow ? "true" : "false");
+    const struct {
+        QWidget *focused;
+        bool isOnShow, isTaken;
+    } rows[] = {{&within, false, false}, {&within, true, true}, {&beside, true, false}, {area, true, false}};
+    for (const auto &row : rows) {
+        row.isOnShow ? view->viewWillAppear() : view->viewWillDisappear();
+        row.focused->setFocus();
+        set("A1", top("a") < 0 ? "true" : "false");
         settle();
-        EXPECT_EQ(window.focusWidget() == area, !isOnShow);
+        EXPECT_EQ(window.focusWidget() != row.focused, row.isTaken);
     }
     view->setParent(nullptr);
-}
-
-TEST_F(Container, RefreshesTextsThroughAllTheVariablesThatTheyDependOn) {
-    set("GREETING", "Hello ${Choice-0}");
-    set("Choice-0", "you");
-    show({text("${GREETING}!"), text("Plain")});
-    auto *area = view->findChild<QScrollArea *>();
-    const struct {
-        const char *name, *value, *text;
-    } rows[] = {{"Choice-0", "Ada", "Hello Ada!"},
-                {"GREETING", "Bye, ${OTHER}", "${GREETING}!"},
-                {"OTHER", "Bob", "Bye, Bob!"},
-                {"OTHER", "Bob\nand\nall the others", "Bye, Bob\nand\nall the others!"}};
-    for (const auto &row : rows) {
-        set(row.name, row.value);
-        EXPECT_TRUE(shows({row.text, "Plain"}));
-        EXPECT_EQ(area->accessibleName(), row.text);
-    }
-    EXPECT_EQ(log.lines().size(), 1U) << "one reading of one unknown name";
-    set("Choice-0", "nobody");
-    EXPECT_EQ(queue.runUntilEmpty(), 0U) << "not in the text any more";
 }
 
 /// Counts the times that a text is painted in a place too low for it.
@@ -212,17 +256,29 @@ public:
     int cut = 0;
 };
 
-TEST_F(Container, GivesATextItsNewSpaceBeforeItIsPainted) {
-    set("NAME", "short");
-    show({text("${NAME}"), text("below")});
+TEST_F(Container, RefreshesTextsThroughAllTheirVariablesInTheirNewSpace) {
+    set("GREETING", "Hello ${Choice-0}");
+    set("Choice-0", "you");
+    show({text("${GREETING}!"), text("Plain")});
+    auto *area = view->findChild<QScrollArea *>();
     Paints paints;
     view->findChild<StyleConfigurableTextView *>()->installEventFilter(&paints);
-    for (const char *value : {"one\ntwo\nthree", "one", "one\ntwo\nthree\nfour\nfive"}) {
-        set("NAME", value);
-        settle();
+    const struct {
+        const char *name, *value, *text;
+    } rows[] = {{"Choice-0", "Ada", "Hello Ada!"},
+                {"GREETING", "Bye, ${OTHER}", "${GREETING}!"},
+                {"OTHER", "Bob", "Bye, Bob!"},
+                {"OTHER", "Bob\nand\nall the others", "Bye, Bob\nand\nall the others!"}};
+    for (const auto &row : rows) {
+        set(row.name, row.value);
+        EXPECT_TRUE(shows({row.text, "Plain"}));
+        EXPECT_EQ(area->accessibleName(), row.text);
     }
     EXPECT_GE(paints.all, 3);
     EXPECT_EQ(paints.cut, 0);
+    EXPECT_EQ(log.lines().size(), 1U) << "one reading of one unknown name";
+    set("Choice-0", "nobody");
+    EXPECT_EQ(queue.runUntilEmpty(), 0U) << "not in the text any more";
 }
 
 } // namespace

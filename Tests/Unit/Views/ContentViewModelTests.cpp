@@ -100,32 +100,33 @@ protected:
     Names posted;
 };
 
-TEST_F(ContentModel, SaysWhereASlideStandsAmongTheOthers) {
+TEST_F(ContentModel, SaysWhatASlideWantsHiddenAndThenWhereItStands) {
+    const std::string hidePrevious = "currentSlideWantsToHidePreviousButton";
+    const std::string hideNext = "currentSlideWantsToHideNextButton";
     const std::string first = "willReachFirstSlideNotification";
     const std::string last = "willReachLastSlideNotification";
     const std::string sole = "willReachSoleSlideNotification";
     const std::string nth = "navigateToNthSlide";
-    for (const Names &positions : {Names{sole}, Names{first, last}, Names{first, nth, nth, last}}) {
-        start(std::vector<SlideItem>(positions.size(), slide()));
+    using enum WindowSection::OnScreen;
+    const struct {
+        std::vector<SlideItem> slides;
+        WindowSection::OnScreen onScreen;
+        std::vector<Names> posted;
+    } rows[] = {{{slide()}, simple, {{sole}}},
+                {{slide(), slide()}, simple, {{first}, {last}}},
+                {{slide(true, true), slide(false, true), slide(), slide(true, false)},
+                 simple,
+                 {{hidePrevious, hideNext, first}, {hideNext, nth}, {nth}, {hidePrevious, last}}},
+                {{slide(), slide()}, menuBar, {{hideNext, sole}}}};
+    for (const auto &row : rows) {
+        start(row.slides, row.onScreen);
         takePosted();
-        for (std::size_t index = 0; index < positions.size(); ++index) {
+        for (std::size_t index = 0; index < row.posted.size(); ++index) {
             model->setSelectedIndex(static_cast<int>(index), false);
+            EXPECT_EQ(takePosted(), row.posted[index]) << index;
         }
-        EXPECT_EQ(posted, positions);
         tokens.clear();
     }
-}
-
-TEST_F(ContentModel, SaysWhatTheSlideWantsHiddenBeforeWhereItStands) {
-    start({slide(true, true), slide(false, true), slide(true, false)});
-    model->setSelectedIndex(0, false);
-    EXPECT_EQ(takePosted(), (Names{"currentSlideWantsToHidePreviousButton",
-                                   "currentSlideWantsToHideNextButton", "willReachFirstSlideNotification"}));
-    model->setSelectedIndex(1, false);
-    EXPECT_EQ(takePosted(), (Names{"currentSlideWantsToHideNextButton", "navigateToNthSlide"}));
-    model->setSelectedIndex(2, false);
-    EXPECT_EQ(takePosted(),
-              (Names{"currentSlideWantsToHidePreviousButton", "willReachLastSlideNotification"}));
 }
 
 TEST_F(ContentModel, HoldsTheUserOnAnInvalidSlideOnlyForward) {
@@ -145,20 +146,7 @@ TEST_F(ContentModel, HoldsTheUserOnAnInvalidSlideOnlyForward) {
     EXPECT_EQ(element->warnings, 1);
 }
 
-TEST_F(ContentModel, DoesNotQuitFromAnInvalidSlide) {
-    start({slide()});
-    invalidate();
-    next();
-    EXPECT_EQ(quits.count, 0);
-    EXPECT_EQ(element->warnings, 1);
-    EXPECT_EQ(log.lines().back(),
-              "warning: App termination prevented since the slide contains invalid mandatory elements");
-    center.post(NavigationNotifications::allMandatoryElementsInSlideAreValid);
-    next();
-    EXPECT_EQ(quits.count, 1);
-}
-
-TEST_F(ContentModel, AsksTheSideContainerBeforeItQuits) {
+TEST_F(ContentModel, AsksTheSlideAndTheSideContainerBeforeItQuits) {
     const struct {
         bool isValid;
         bool isValidAfterWarning;
@@ -175,36 +163,35 @@ TEST_F(ContentModel, AsksTheSideContainerBeforeItQuits) {
         model->tryToQuitApplication();
         EXPECT_EQ(side.warnings, row.warnings);
         EXPECT_EQ(quits.count, row.quits);
+        model->setTerminationDelegate(nullptr);
     }
+    quits.count = 0;
+    invalidate();
+    next();
+    EXPECT_EQ(std::pair(quits.count, element->warnings), std::pair(0, 1));
+    EXPECT_EQ(log.lines().back(),
+              "warning: App termination prevented since the slide contains invalid mandatory elements");
+    center.post(NavigationNotifications::allMandatoryElementsInSlideAreValid);
+    next();
+    EXPECT_EQ(quits.count, 1);
 }
 
-TEST_F(ContentModel, LeavesIndexesThatAreNoneAlone) {
+TEST_F(ContentModel, StaysWhereItIsAtAnIndexThatIsNoneAndAtAReloadThatKeepsTheCount) {
     start({});
     model->setSelectedIndex(0, true);
     EXPECT_EQ(takePosted(), Names{});
+    tokens.clear();
     start({slide(), slide()});
     model->setSelectedIndex(3, true);
     previous();
     EXPECT_EQ(log.lines().back(), "warning: No previous slide to transition to");
     EXPECT_EQ(model->selectedSlideIndex(), 0);
     EXPECT_EQ(takeTransitions(), Names{});
-}
-
-TEST_F(ContentModel, StaysWhereItIsWhenAReloadKeepsTheNumberOfSlides) {
-    start({slide(), slide()});
     model->setSelectedIndex(1, false);
     takePosted();
-    int reloads = 0;
-    model->reloadSlidesIfCountChanged([&] { ++reloads; });
-    EXPECT_EQ(reloads, 1);
+    model->reloadSlidesIfCountChanged([] {});
     EXPECT_EQ(model->selectedSlideIndex(), 1);
     EXPECT_EQ(takePosted(), Names{"evaluateButtonsHide"});
-}
-
-TEST_F(ContentModel, ShowsTheMenuBarsSlideInItsMode) {
-    start({slide(), slide()}, WindowSection::OnScreen::menuBar);
-    model->setSelectedIndex(0, false);
-    EXPECT_EQ(takePosted(), (Names{"currentSlideWantsToHideNextButton", "willReachSoleSlideNotification"}));
 }
 
 TEST_F(ContentModel, PublishesWhichSlideIsCurrentAndWhetherItIsValid) {

@@ -65,6 +65,9 @@ TEST_F(Refresh, FollowsTheNamesThatAValueBringsInMeanwhile) {
     write("B", "1");
     queue.runUntilEmpty();
     EXPECT_EQ(refreshes, 1);
+    int readings = 0;
+    refresh->follow([&](const Variables &) { return VariableNames{std::to_string(++readings)}; });
+    EXPECT_EQ(queue.runUntilEmpty(), 1U) << "names that never settle are left to a later refresh";
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 #include "../Managers/AppManagerFixture.h"
-#include "ThemedApplication.h"
+#include "ViewTest.h"
 
 #include <Views/Content/ContentView/ContentViewController.h>
 #include <Views/Navigation/NavigationButton.h>
@@ -7,9 +7,6 @@
 #include <Views/Navigation/NavigationViewController.h>
 #include <Views/VelmarViewController.h>
 
-#include <Testing/TestMainQueue.h>
-
-#include <QApplication>
 #include <QKeyEvent>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -27,11 +24,8 @@ public:
 };
 
 /// The whole of the views, of a configuration whose slides are one that scrolls and two that don't.
-class VelmarView : public AppManagerFixture, protected ThemedApplication {
+class VelmarView : public ViewTest<AppManagerFixture> {
 protected:
-    static void SetUpTestSuite() { begin(); }
-    static void TearDownTestSuite() { end(); }
-
     VelmarView() {
         std::string lines;
         for (int index = 0; index < 60; ++index) {
@@ -68,13 +62,7 @@ protected:
         settle();
     }
 
-    void settle() {
-        queue.runUntilEmpty();
-        QCoreApplication::processEvents();
-    }
-
     NotificationCenter center;
-    TestMainQueue queue;
     QuitAttempts quits;
     QWidget window;
     std::unique_ptr<VelmarViewController> view;

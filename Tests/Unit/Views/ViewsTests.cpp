@@ -1,18 +1,15 @@
-#include "ThemedApplication.h"
+#include "ViewTest.h"
 
 #include <Views/Content/ContentView/ContentViewController.h>
 #include <Views/Content/Slides/SlideViewController.h>
 #include <Views/CustomViews/Colors.h>
 #include <Views/CustomViews/Font.h>
-#include <Views/CustomViews/StyleConfigurableTextView.h>
 #include <Views/Navigation/NavigationButton.h>
 #include <Views/Navigation/NavigationNotifications.h>
 #include <Views/Navigation/NavigationViewController.h>
 
 #include <Support/RecordedLog.h>
-#include <Testing/TestMainQueue.h>
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -26,18 +23,8 @@
 namespace velmar {
 namespace {
 
-/// The application with its theme, and a bar and slides that move at once.
-class Views : public testing::Test, protected ThemedApplication {
+class Views : public ViewTest<> {
 protected:
-    static void SetUpTestSuite() { begin(); }
-    static void TearDownTestSuite() { end(); }
-
-    static ComponentItem text(const std::string &content) {
-        ComponentItem::Text item;
-        item._text.set(content);
-        return {item};
-    }
-
     static SlideItem slide(const std::vector<std::vector<ComponentItem>> &containers) {
         SlideItem item;
         std::vector<ContainerItem> items;
@@ -50,24 +37,7 @@ protected:
         return item;
     }
 
-    static QStringList shownTexts(const QWidget &root) {
-        QStringList texts;
-        for (const auto *view : root.findChildren<StyleConfigurableTextView *>()) {
-            if (view->isVisible()) {
-                texts.append(view->text());
-            }
-        }
-        return texts;
-    }
-
-    /// Handles what the event loop holds, timers that are due included.
-    void settle() {
-        queue.runUntilEmpty();
-        QCoreApplication::processEvents();
-    }
-
     NotificationCenter center;
-    TestMainQueue queue;
 };
 
 class NoQuitting final : public AppTerminationManagerProtocol {
@@ -125,12 +95,21 @@ TEST_F(Views, ColoursFollowTheAppearanceWhileTheyAreOnShow) {
                   4);
     }
     appearance().setPrefersDark({});
+    color._lightMode.set({0x11, 0x22, 0x33, 0x44});
+    color._alphaLight.set(0.5);
+    color._alphaDark.set(0.5);
+    const RecordedLog log;
+    EXPECT_EQ(Color::of(color, true).alpha, 0.5);
+    EXPECT_EQ(Color::of(color, false).alpha, 0x44 / 255.0);
+    ASSERT_EQ(log.lines().size(), 1U);
+    EXPECT_TRUE(log.lines()[0].starts_with("warning: #11223344. Specifying the alpha inside"));
 }
 
 TEST_F(Views, ContainersStandSideBySideAndScrollWhenTheyAreTooHigh) {
     std::vector<ComponentItem> many(60, text("A line of many"));
     const SlideItem item = slide({many, {text("Short")}});
-    SlideViewController view(item, SlideViewController::Kind::standard, center, queue, nullptr);
+    SlideViewController view(item, SlideViewController::Kind::standard, center, {queue, appearance()},
+                             nullptr);
     view.resize(800, 400);
     view.show();
     settle();
@@ -141,13 +120,6 @@ TEST_F(Views, ContainersStandSideBySideAndScrollWhenTheyAreTooHigh) {
     EXPECT_EQ(areas[0]->accessibleName(), "A line of many");
     EXPECT_EQ(areas[1]->verticalScrollBar()->maximum(), 0);
     EXPECT_EQ(areas[1]->focusPolicy(), Qt::NoFocus);
-    EXPECT_EQ(areas[0]->mapTo(&view, QPoint()).x(), 0);
-    EXPECT_EQ(areas[1]->mapTo(&view, QPoint()).x(), 400);
-    EXPECT_TRUE(view.scroll(Qt::Key_PageDown));
-    EXPECT_GT(areas[0]->verticalScrollBar()->value(), 0);
-    for (const int key : {Qt::Key_X, Qt::Key_F10, Qt::Key_Escape, Qt::Key_Return}) {
-        EXPECT_FALSE(view.scroll(key)) << key;
-    }
 }
 
 TEST_F(Views, AFlexibleSpacerTakesWhatIsLeft) {
@@ -155,7 +127,8 @@ TEST_F(Views, AFlexibleSpacerTakesWhatIsLeft) {
     fixed._height.set(30);
     const SlideItem item =
         slide({{ComponentItem{fixed}, ComponentItem{ComponentItem::Spacer()}, text("Bottom")}});
-    SlideViewController view(item, SlideViewController::Kind::inMenuBar, center, queue, nullptr);
+    SlideViewController view(item, SlideViewController::Kind::inMenuBar, center, {queue, appearance()},
+                             nullptr);
     view.resize(400, 500);
     view.show();
     settle();
@@ -184,8 +157,6 @@ protected:
         model->setSelectedIndex(0, false);
         settle();
     }
-    ~Slides() override { appearance().setAnimated(false); }
-
     RecordedLog log;
     NoQuitting quits;
     std::shared_ptr<ContentViewModel> model;
@@ -221,7 +192,7 @@ TEST_F(Slides, TellWhenTheAnimationOfAnEndIsOver) {
               (std::vector<std::string>{"didReachLastSlideNotification", "didReachFirstSlideNotification"}));
 }
 
-TEST_F(Slides, KeepTheirButtonsAsTheLatestArrivalLeftThem) {
+TEST_F(Slides, KeepTheirButtonsAsTheLatestArrivalLeftThemAndTakeNoPressOfOneThatIsGoing) {
     model->setSelectedIndex(1, true);
     model->setSelectedIndex(0, true);
     settle();
@@ -230,9 +201,6 @@ TEST_F(Slides, KeepTheirButtonsAsTheLatestArrivalLeftThem) {
     center.post(NavigationNotifications::willReachLastSlide);
     settle();
     EXPECT_TRUE(bar->nextButton().isConcealed()) << "no press led there";
-}
-
-TEST_F(Slides, TakeNoPressOfAButtonThatIsGoing) {
     model->setSelectedIndex(1, true);
     settle();
     appearance().setAnimated(true);
@@ -245,7 +213,7 @@ TEST_F(Slides, TakeNoPressOfAButtonThatIsGoing) {
     EXPECT_EQ(log.lines().size(), lines);
 }
 
-TEST_F(Views, AButtonShowsItsLabelCharacterForCharacter) {
+TEST_F(Views, AButtonShowsItsLabelCharacterForCharacterInAColourThatIsReadable) {
     NavigationButton button(true, nullptr);
     button.setLabel("Save & Quit");
     EXPECT_EQ(button.text(), "Save && Quit");
@@ -253,9 +221,14 @@ TEST_F(Views, AButtonShowsItsLabelCharacterForCharacter) {
     button.resize(10, 30);
     button.setLabel("Quit & go");
     EXPECT_EQ(button.toolTip(), "Quit & go");
+    EXPECT_TRUE(button.isDefault());
+    button.setTextColor(button.palette().color(QPalette::Highlight));
+    EXPECT_FALSE(button.isDefault());
+    button.setTextColor(QColor(Qt::white));
+    EXPECT_TRUE(button.isDefault());
 }
 
-TEST_F(Slides, AreMadeWhenTheyAreNeeded) {
+TEST_F(Slides, AreMadeWhenTheyAreNeededAndStayAsRebuilt) {
     bar->pressPrevious();
     settle();
     EXPECT_EQ(content->currentSlideIndex(), 0) << "a hidden button is not pressed";
@@ -263,32 +236,11 @@ TEST_F(Slides, AreMadeWhenTheyAreNeeded) {
     bar->pressNext();
     settle();
     EXPECT_EQ(content->findChildren<SlideViewController *>().size(), 2);
+    bar->pressNext();
     content->rebuild();
+    settle();
     EXPECT_EQ(content->findChildren<SlideViewController *>().size(), 1);
-    EXPECT_EQ(shownTexts(*content), QStringList("Second"));
-}
-
-TEST_F(Slides, StayAsRebuiltWhateverTransitionWasStillToCome) {
-    bar->pressNext();
-    content->rebuild();
-    settle();
-    EXPECT_EQ(content->currentSlideIndex(), 1);
-    EXPECT_EQ(shownTexts(*content), QStringList("Second"));
-    bar->pressNext();
-    model->setSelectedIndex(0, false);
-    content->rebuild();
-    settle();
-    EXPECT_EQ(content->currentSlideIndex(), 0);
-    EXPECT_EQ(shownTexts(*content), QStringList("First"));
-}
-
-TEST_F(Views, AColourThatIsNotReadableOnTheAccentMakesAQuietButton) {
-    NavigationButton button(true, nullptr);
-    EXPECT_TRUE(button.isDefault());
-    button.setTextColor(button.palette().color(QPalette::Highlight));
-    EXPECT_FALSE(button.isDefault());
-    button.setTextColor(QColor(Qt::white));
-    EXPECT_TRUE(button.isDefault());
+    EXPECT_EQ(shownTexts(*content), QStringList("Third")) << "whatever transition was still to come";
 }
 
 TEST_F(Views, AKeyHeldDownPressesAButtonOnce) {

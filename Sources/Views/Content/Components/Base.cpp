@@ -3,22 +3,17 @@
 #include <Configuration/Populatable.h>
 #include <Desktop/DesktopAppearance.h>
 #include <Views/CustomViews/Colors.h>
+#include <Views/CustomViews/Pixels.h>
 
 #include <QEvent>
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 #include <string>
 
 namespace velmar::ComponentViews {
 
 namespace {
-
-// More than any screen is as much as any screen.
-int pixels(double points) {
-    return static_cast<int>(std::lround(std::clamp(points, 0.0, 16384.0)));
-}
 
 class BorderView final : public QWidget {
 public:

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <Configuration/ComponentItem.h>
-#include <Foundation/UUID.h>
 #include <Views/Content/VariablesRefresh.h>
 
 #include <QVBoxLayout>
@@ -49,7 +48,6 @@ protected:
 private:
     void followVariables();
 
-    UUID id_;
     Item item_;
     VariableNames itemVariables_; // In the item's texts.
     QVBoxLayout *layout_;

@@ -1,7 +1,6 @@
 #include <Views/Content/Components/Spacer.h>
 
-#include <algorithm>
-#include <cmath>
+#include <Views/CustomViews/Pixels.h>
 
 namespace velmar::ComponentViews {
 
@@ -9,7 +8,7 @@ Spacer::Spacer(ComponentItem::Spacer item, MainQueue &mainQueue, QWidget *parent
     : Base(std::move(item), {}, mainQueue, parent) {
     auto *spacerView = new QWidget(this);
     if (const auto &height = this->item()._height()) {
-        spacerView->setFixedHeight(static_cast<int>(std::lround(std::clamp(*height, 0.0, 16384.0))));
+        spacerView->setFixedHeight(pixels(*height));
     }
     setContentView(spacerView);
 }

@@ -1,6 +1,5 @@
 #include <Views/Content/Containers/ComponentsViewModel.h>
 
-#include <Extensions/Evaluatable.h>
 #include <Foundation/LocalizedError.h>
 
 #include <fmt/core.h>
@@ -10,20 +9,21 @@
 
 namespace velmar {
 
-VariableNames componentsConditions(const std::vector<ComponentItem> &items) {
+VariableNames componentsConditions(const std::vector<ComponentItem> &items, ConditionEvaluator &conditions) {
     VariableNames names;
     for (const ComponentItem &item : items) {
         if (const auto &condition = item.common()._condition()) {
-            names.merge(involvedVariables(*condition));
+            names.merge(conditions.involvedVariables(*condition));
         }
     }
     return names;
 }
 
-ComponentsViewModel::ComponentsViewModel(std::vector<ComponentItem> items, Evaluator evaluate,
+ComponentsViewModel::ComponentsViewModel(std::vector<ComponentItem> items,
+                                         std::shared_ptr<ConditionEvaluator> conditions,
                                          ComponentsControllerProtocol &controller)
     : items_(std::move(items)),
-      evaluate_(std::move(evaluate)),
+      conditions_(std::move(conditions)),
       controller_(controller),
       isShown_(items_.size(), false) {
     evaluateConditions();
@@ -64,13 +64,17 @@ void ComponentsViewModel::finish() {
 ComponentsChange ComponentsViewModel::evaluateConditions() {
     ComponentsChange change;
     for (std::size_t position = 0; position < items_.size(); ++position) {
-        const bool isShown = shouldBeShown(items_[position]);
-        if (isShown != isShown_[position]) {
-            (isShown ? change.inserted : change.removed).push_back(position);
-            isShown_[position] = isShown;
-        }
+        insertOrRemove(position, change);
     }
     return change;
+}
+
+void ComponentsViewModel::insertOrRemove(std::size_t position, ComponentsChange &change) {
+    const bool isShown = shouldBeShown(items_[position]);
+    if (isShown != isShown_[position]) {
+        (isShown ? change.inserted : change.removed).push_back(position);
+        isShown_[position] = isShown;
+    }
 }
 
 bool ComponentsViewModel::shouldBeShown(const ComponentItem &item) const {
@@ -79,7 +83,7 @@ bool ComponentsViewModel::shouldBeShown(const ComponentItem &item) const {
         return true;
     }
     try {
-        return evaluate_(*condition);
+        return conditions_->evaluate(*condition);
     } catch (const LocalizedError &error) {
         Logger::error([&] {
             return fmt::format("Unable to evaluate the expression {}. {}", condition->description(),

@@ -1,16 +1,18 @@
 #pragma once
 
 #include <Configuration/ComponentItem.h>
-#include <expressions/Expression.h>
+#include <Managers/ConditionEvaluator.h>
 
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace velmar {
 
 /// The variables on which the presence of components depends.
-[[nodiscard]] VariableNames componentsConditions(const std::vector<ComponentItem> &items);
+[[nodiscard]] VariableNames componentsConditions(const std::vector<ComponentItem> &items,
+                                                 ConditionEvaluator &conditions);
 
 /// Components that come and go together; positions among the items, in ascending order.
 struct ComponentsChange {
@@ -26,7 +28,7 @@ class ComponentsControllerProtocol {
 public:
     virtual ~ComponentsControllerProtocol() = default;
 
-    /// Before the conditions are looked at, so that what the user was entering counts.
+    /// From the components, before the conditions are looked at, so that what the user was entering counts.
     virtual void takeKeyboardFocusAway() = 0;
 
     /// Makes the views that come.
@@ -46,12 +48,9 @@ class ComponentsViewModel {
 public:
     enum class State { idle, removing, inserting };
 
-    /// Whether a condition holds; throws LocalizedError where that can't be told.
-    using Evaluator = std::function<bool(const Expression &)>;
-
     /// Looks at the conditions for the first time. The controller, which is not yet called then, must outlive
     /// the model, and the model the completions that it gives away.
-    ComponentsViewModel(std::vector<ComponentItem> items, Evaluator evaluate,
+    ComponentsViewModel(std::vector<ComponentItem> items, std::shared_ptr<ConditionEvaluator> conditions,
                         ComponentsControllerProtocol &controller);
 
     [[nodiscard]] const std::vector<ComponentItem> &items() const noexcept { return items_; }
@@ -68,12 +67,14 @@ public:
 
 private:
     [[nodiscard]] bool shouldBeShown(const ComponentItem &item) const;
+    /// Decides on one position, and notes in the change what that brings.
+    void insertOrRemove(std::size_t position, ComponentsChange &change);
     ComponentsChange evaluateConditions();
     void insert();
     void finish();
 
     std::vector<ComponentItem> items_;
-    Evaluator evaluate_;
+    std::shared_ptr<ConditionEvaluator> conditions_;
     ComponentsControllerProtocol &controller_;
     std::vector<bool> isShown_;
     State state_ = State::idle;

@@ -1,7 +1,6 @@
 #include <Views/Content/Containers/ContainerViewController.h>
 
 #include <Desktop/DesktopAppearance.h>
-#include <Extensions/Evaluatable.h>
 #include <Views/Content/Components/Spacer.h>
 #include <Views/Content/Components/Text.h>
 #include <Views/Content/Containers/ContainerViewManagementAnimator.h>
@@ -80,22 +79,22 @@ struct ViewMaker {
 
 ContainerViewController::ContainerViewController(const ContainerItem &item, Kind kind,
                                                  const std::optional<ColorItem> &slideBorderColor,
-                                                 MainQueue &mainQueue, QWidget *parent)
+                                                 Surroundings surroundings, QWidget *parent)
     : QWidget(parent),
       kind_(kind),
-      mainQueue_(mainQueue),
+      surroundings_(std::move(surroundings)),
       viewModel_(std::make_shared<ContainerViewModel>()),
       borderColorItem_(item._borderColor() ? item._borderColor() : slideBorderColor),
       column_(new QWidget),
       layout_(new QVBoxLayout(column_)),
       scrollArea_(new ColumnScrollArea(column_, this)) {
     const std::vector<ComponentItem> &items = item._components();
-    if (const VariableNames conditions = componentsConditions(items); !conditions.empty()) {
-        variablesRefresh_.emplace(mainQueue, [this] { components_->reload(); });
+    const VariableNames conditions = componentsConditions(items, *surroundings_.conditions);
+    if (!conditions.empty()) {
+        variablesRefresh_.emplace(surroundings_.mainQueue, [this] { components_->reload(); });
         variablesRefresh_->follow(conditions);
     }
-    components_.emplace(
-        items, [](const Expression &condition) { return evaluate(condition); }, *this);
+    components_.emplace(items, surroundings_.conditions, *this);
     layout_->setContentsMargins(ComponentViews::marginsOf(item._margins(), standardMargins(kind)));
     layout_->setSpacing(0);
     for (std::size_t position = 0; position < items.size(); ++position) {
@@ -127,7 +126,8 @@ bool ContainerViewController::scroll(int key) {
 }
 
 ComponentView *ContainerViewController::makeView(std::size_t position) {
-    ComponentView *view = std::visit(ViewMaker{mainQueue_, column_}, components_->items()[position].value);
+    ComponentView *view =
+        std::visit(ViewMaker{surroundings_.mainQueue, column_}, components_->items()[position].value);
     connect(view, &ComponentView::titleDidChange, this, &ContainerViewController::updateAccessibleName);
     return view;
 }
@@ -144,14 +144,14 @@ void ContainerViewController::putInPlace(std::size_t position) {
 }
 
 void ContainerViewController::takeKeyboardFocusAway() {
-    if (isVisible_ && window()->focusWidget() != nullptr) {
+    if (const QWidget *focused = window()->focusWidget();
+        isOnShow_ && focused != nullptr && column_->isAncestorOf(focused)) {
         giveFocusToSurroundings(*this);
     }
 }
 
 void ContainerViewController::prepare(const ComponentsChange &change) {
-    const bool isAnimated =
-        isVisible_ && isVisible() && style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
+    const bool isAnimated = isOnShow_ && isVisible() && surroundings_.appearance.isAnimated();
     // The former one may just be telling of its end.
     if (viewManagementAnimator_ != nullptr) {
         viewManagementAnimator_->deleteLater();

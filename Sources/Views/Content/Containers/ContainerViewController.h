@@ -20,6 +20,7 @@ class ColumnScrollArea;
 class ComponentView;
 class ContainerViewManagementAnimator;
 class ContainerViewModel;
+class DesktopAppearance;
 
 /// A column of components, of which those with conditions come and go; one that is too high scrolls. Main
 /// thread.
@@ -35,10 +36,16 @@ public:
         inSidebar,      ///< Beside all slides.
     };
 
-    /// `slideBorderColor` is the border's colour unless the container has one of its own. The queue must
-    /// outlive the controller.
+    /// What a container needs around it. The queue and the appearance must outlive the controller.
+    struct Surroundings {
+        MainQueue &mainQueue;
+        const DesktopAppearance &appearance;
+        std::shared_ptr<ConditionEvaluator> conditions = ConditionEvaluator::shared();
+    };
+
+    /// `slideBorderColor` is the border's colour unless the container has one of its own.
     ContainerViewController(const ContainerItem &item, Kind kind,
-                            const std::optional<ColorItem> &slideBorderColor, MainQueue &mainQueue,
+                            const std::optional<ColorItem> &slideBorderColor, Surroundings surroundings,
                             QWidget *parent);
     ~ContainerViewController() override;
 
@@ -52,8 +59,8 @@ public:
     }
 
     /// Components come and go gradually only in a container that the user sees.
-    void viewWillAppear() { isVisible_ = true; }
-    void viewWillDisappear() { isVisible_ = false; }
+    void viewWillAppear() { isOnShow_ = true; }
+    void viewWillDisappear() { isOnShow_ = false; }
 
     /// Scrolls by a `Qt::Key`: Up, Down, PageUp, PageDown, Home or End. False for any other, and where there
     /// is nothing to scroll.
@@ -77,7 +84,7 @@ private:
     void updateBorderColor();
 
     Kind kind_;
-    MainQueue &mainQueue_;
+    Surroundings surroundings_;
     std::shared_ptr<ContainerViewModel> viewModel_;
     std::optional<ComponentsViewModel> components_;
     std::optional<ColorItem> borderColorItem_;
@@ -88,7 +95,7 @@ private:
     std::vector<ComponentView *> componentViews_;
     std::vector<QSpacerItem *> places_; // Empty; the view of a position stands right behind its place.
     ContainerViewManagementAnimator *viewManagementAnimator_ = nullptr; // Of the last change; the column's.
-    bool isVisible_ = false;
+    bool isOnShow_ = false; // By its slide; the widget itself is visible a while longer.
     std::optional<VariablesRefresh> variablesRefresh_; // None without conditions.
 };
 

@@ -23,7 +23,7 @@ constexpr double fadeInBegin = 0.3;
 
 } // namespace
 
-/// The picture of a view, as high as the space that it has.
+/// The picture of a part of a view, as high as the space that it has.
 class ContainerViewManagementAnimator::StandIn final : public QWidget {
 public:
     StandIn(ComponentView &view, int height, QWidget *parent)
@@ -34,15 +34,17 @@ public:
     [[nodiscard]] ComponentView &view() const { return view_; }
     [[nodiscard]] int fullHeight() const { return height_; }
 
-    /// Of the view alone, without what is behind it.
-    void takePicture() {
-        if (view_.size().isEmpty()) {
+    /// Of the view alone, without what is behind it, where it would cover a part of the column from where the
+    /// stand-in begins.
+    void takePicture(const QRect &part) {
+        part_ = part.translated(-pos()).intersected(view_.rect());
+        if (part_.isEmpty()) {
             return;
         }
-        picture_ = QPixmap(view_.size() * devicePixelRatioF());
+        picture_ = QPixmap(part_.size() * devicePixelRatioF());
         picture_.setDevicePixelRatio(devicePixelRatioF());
         picture_.fill(Qt::transparent);
-        view_.render(&picture_, QPoint(), QRegion(), QWidget::DrawChildren);
+        view_.render(&picture_, QPoint(), QRegion(part_), QWidget::DrawChildren);
     }
 
     /// From 0 to 1.
@@ -55,12 +57,13 @@ protected:
     void paintEvent(QPaintEvent * /*event*/) override {
         QPainter painter(this);
         painter.setOpacity(opacity_);
-        painter.drawPixmap(0, 0, picture_);
+        painter.drawPixmap(part_.topLeft(), picture_);
     }
 
 private:
     ComponentView &view_;
     QPixmap picture_;
+    QRect part_; // Of the view, that the picture shows.
     int height_;
     double opacity_ = 1;
 };
@@ -84,6 +87,8 @@ void ContainerViewManagementAnimator::animateRemoval(std::function<void()> compl
     }
     for (ComponentView *view : viewsToRemove) {
         removed_.push_back(replace(*view, view->size()));
+        removed_.back()->takePicture(visiblePart());
+        view->hide();
     }
     const auto step = [this](double progress) {
         for (StandIn *standIn : removed_) {
@@ -125,6 +130,12 @@ void ContainerViewManagementAnimator::animateInsertion(std::function<void()> com
         }
     };
     step(0);
+    parentView_->layout()->activate(); // Now they stand where they open.
+    for (StandIn *standIn : inserted) {
+        QRect part = visiblePart();
+        part.moveTop(std::max(part.top(), standIn->y())); // What is above may close and let it rise.
+        standIn->takePicture(part);
+    }
     run(movementDuration, QEasingCurve::InOutCubic, step, [this, inserted, end = std::move(completion)] {
         for (StandIn *standIn : inserted) {
             delete parentView_->layout()->replaceWidget(standIn, &standIn->view());
@@ -151,8 +162,10 @@ std::vector<int> ContainerViewManagementAnimator::heightsToInsert(int width) con
     }
     // The flexible ones share what is left.
     const auto views = parentView_->findChildren<ComponentView *>(Qt::FindDirectChildrenOnly);
-    const auto flexible = std::ranges::count_if(views, &ComponentView::isFlexible);
-    const int left = std::max(0, parentView_->height() - needed);
+    const auto flexible = std::ranges::count_if(views, [this](const ComponentView *view) {
+        return view->isFlexible() && parentView_->layout()->indexOf(view) >= 0;
+    });
+    const int left = std::max(0, visiblePart().height() - needed);
     for (std::size_t index = 0; index < heights.size(); ++index) {
         if (viewsToInsert[index]->isFlexible()) {
             heights[index] += left / static_cast<int>(flexible);
@@ -167,11 +180,13 @@ ContainerViewManagementAnimator::StandIn *ContainerViewManagementAnimator::repla
     // The picture is taken while no layout gives the view a size of its own.
     delete parentView_->layout()->replaceWidget(&view, standIn);
     view.resize(size);
-    standIn->takePicture();
     standIn->setGeometry(view.geometry());
-    view.hide();
     standIn->show();
     return standIn;
+}
+
+QRect ContainerViewManagementAnimator::visiblePart() const {
+    return parentView_->parentWidget()->rect().translated(-parentView_->pos());
 }
 
 void ContainerViewManagementAnimator::run(int milliseconds, QEasingCurve::Type curve,

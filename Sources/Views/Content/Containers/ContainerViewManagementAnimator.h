@@ -12,13 +12,15 @@ class ComponentView;
 
 /// One change of a container's components in progress. What goes fades out in its place; then, in one
 /// movement, its space closes while the space of what comes opens and that fades in. Meanwhile pictures of
-/// the views stand in for them, so that nothing is laid out in a space too small for it. Main thread.
+/// the views stand in for them, so that nothing is laid out in a space too small for it: of what the viewport
+/// shows, so that a text of any length costs no more than a screen. A text whose variable changes meanwhile
+/// keeps its picture, and its height, to the end, and only then takes its new ones at once. Main thread.
 class ContainerViewManagementAnimator final : public QObject {
     Q_OBJECT
 
 public:
-    /// The parent view is the one whose column the views stand in; it owns the animator. Unless it is
-    /// animated, everything is at its end at once.
+    /// The parent view is the column that the views stand in, itself in the viewport that scrolls it; it owns
+    /// the animator. Unless it is animated, everything is at its end at once.
     ContainerViewManagementAnimator(QWidget *parentView, bool isAnimated);
     ~ContainerViewManagementAnimator() override;
 
@@ -37,8 +39,10 @@ public:
 private:
     class StandIn;
 
-    /// Puts a stand-in in the place of a view, which is hidden, and gives the view a size.
+    /// Puts a stand-in in the place of a view, which leaves the layout and is given a size.
     StandIn *replace(ComponentView &view, QSize size);
+    /// The part of the column that the user sees.
+    [[nodiscard]] QRect visiblePart() const;
     /// The heights that the views to insert will have in a column of this width.
     [[nodiscard]] std::vector<int> heightsToInsert(int width) const;
     void run(int milliseconds, QEasingCurve::Type curve, const std::function<void(double)> &step,
@@ -46,7 +50,7 @@ private:
 
     QWidget *parentView_;
     bool isAnimated_;
-    QVariantAnimation animation_;
+    QVariantAnimation animation_{this};
     std::vector<StandIn *> removed_; // As all stand-ins, owned by the parent view.
 };
 

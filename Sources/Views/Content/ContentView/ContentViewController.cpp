@@ -62,7 +62,7 @@ SlideViewController *ContentViewController::slide(int index) {
     }
     auto *view = new SlideViewController((*items)[static_cast<std::size_t>(index)],
                                          SlideViewController::Kind::standard, viewModel_->center(),
-                                         viewModel_->mainQueue(), this);
+                                         {viewModel_->mainQueue(), appearance_}, this);
     view->hide();
     slides_.emplace(index, view);
     return view;

@@ -1,6 +1,5 @@
 #include <Views/Content/Slides/SlideViewController.h>
 
-#include <Views/Content/Containers/ContainerViewController.h>
 #include <Views/Content/Containers/ContainerViewModel.h>
 #include <Views/Content/Slides/ContainerSpans.h>
 #include <Views/Content/Slides/SlideViewModel.h>
@@ -25,7 +24,8 @@ ContainerViewController::Kind containerKind(SlideViewController::Kind kind, std:
 } // namespace
 
 SlideViewController::SlideViewController(const SlideItem &slide, Kind kind, NotificationCenter &center,
-                                         MainQueue &mainQueue, QWidget *parent)
+                                         const ContainerViewController::Surroundings &surroundings,
+                                         QWidget *parent)
     : QWidget(parent),
       kind_(kind),
       viewModel_(std::make_shared<SlideViewModel>(center)),
@@ -33,7 +33,7 @@ SlideViewController::SlideViewController(const SlideItem &slide, Kind kind, Noti
     const auto &containers = slide._containers();
     for (const ContainerItem &item : containers) {
         auto *container = new ContainerViewController(item, containerKind(kind, containers.size()),
-                                                      slide._containersBorderColor(), mainQueue, this);
+                                                      slide._containersBorderColor(), surroundings, this);
         container->viewModel()->setMandatorySupervisor(viewModel_);
         containerViewControllers_.push_back(container);
     }

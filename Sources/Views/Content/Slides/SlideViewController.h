@@ -1,6 +1,7 @@
 #pragma once
 
 #include <Configuration/SlideItem.h>
+#include <Views/Content/Containers/ContainerViewController.h>
 
 #include <QWidget>
 
@@ -9,8 +10,6 @@
 
 namespace velmar {
 
-class ContainerViewController;
-class MainQueue;
 class NotificationCenter;
 class SlideViewModel;
 
@@ -24,9 +23,9 @@ public:
         inMenuBar, ///< Without the inset at the top.
     };
 
-    /// The slide's validity is told to the centre; that and the queue must outlive the controller.
-    SlideViewController(const SlideItem &slide, Kind kind, NotificationCenter &center, MainQueue &mainQueue,
-                        QWidget *parent);
+    /// The slide's validity is told to the centre, which must outlive the controller.
+    SlideViewController(const SlideItem &slide, Kind kind, NotificationCenter &center,
+                        const ContainerViewController::Surroundings &surroundings, QWidget *parent);
     ~SlideViewController() override;
 
     [[nodiscard]] const std::shared_ptr<SlideViewModel> &viewModel() const noexcept { return viewModel_; }

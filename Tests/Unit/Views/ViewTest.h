@@ -1,0 +1,81 @@
+#pragma once
+
+#include <Configuration/ComponentItem.h>
+#include <Desktop/DesktopAppearance.h>
+#include <Testing/TestMainQueue.h>
+#include <Views/CustomViews/StyleConfigurableTextView.h>
+#include <Views/CustomViews/Theme.h>
+
+#include <QApplication>
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <memory>
+#include <string>
+
+namespace velmar {
+
+/// A test over another fixture, with the application and its theme, in which views move at once, and a main
+/// queue that the test moves. The application lasts for the group of tests.
+template <class Fixture = testing::Test>
+class ViewTest : public Fixture {
+protected:
+    static void SetUpTestSuite() {
+        static int argumentCount = 1;
+        static char name[] = "test";
+        static char *arguments[] = {name, nullptr};
+        application_ = std::make_unique<QApplication>(argumentCount, arguments);
+        appearance_ = std::make_unique<DesktopAppearance>();
+        Theme::install(*appearance_);
+    }
+    static void TearDownTestSuite() {
+        application_.reset();
+        appearance_.reset();
+    }
+
+    ViewTest() { appearance().setAnimated(false); }
+
+    static DesktopAppearance &appearance() { return *appearance_; }
+
+    /// Handles what the queue and the event loop hold, timers that are due included.
+    void settle() {
+        queue.runUntilEmpty();
+        QCoreApplication::processEvents();
+    }
+
+    static ComponentItem text(const std::string &content, const std::string &condition = {}) {
+        ComponentItem::Text item;
+        item._text.set(content);
+        if (!condition.empty()) {
+            item.common._condition.set(Expression(condition));
+        }
+        return {item};
+    }
+
+    /// The texts on show by their tops in the view.
+    static std::multimap<int, QString> placedTexts(const QWidget &root) {
+        std::multimap<int, QString> texts;
+        for (const auto *view : root.findChildren<StyleConfigurableTextView *>()) {
+            if (view->isVisible()) {
+                texts.emplace(view->mapTo(&root, QPoint()).y(), view->text());
+            }
+        }
+        return texts;
+    }
+    static QStringList shownTexts(const QWidget &root) {
+        QStringList list;
+        for (const auto &[top, content] : placedTexts(root)) {
+            list.append(content);
+        }
+        return list;
+    }
+
+    TestMainQueue queue;
+
+private:
+    static inline std::unique_ptr<QApplication> application_;
+    static inline std::unique_ptr<DesktopAppearance> appearance_;
+};
+
+} // namespace velmar
