@@ -1,5 +1,6 @@
 // Whatever the bytes are, they are a configuration or are refused with one of the program's errors.
 #include <Configuration/Configuration.h>
+#include <Configuration/Plugin.h>
 #include <Foundation/LocalizedError.h>
 #include <Foundation/PropertyList.h>
 
@@ -8,6 +9,7 @@
 #include <cstdlib>
 #include <memory>
 #include <span>
+#include <string>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     using namespace velmar;
@@ -18,6 +20,30 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         configuration = Configuration::decode(document.value, &notes);
     } catch (const LocalizedError &) {
         return 0; // Refused.
+    }
+    // Reading its texts through a plugin changes nothing in it.
+    struct Reader final : Plugin {
+        void filter(std::span<std::string *const> texts) const override {
+            for (std::string *const text : texts) {
+                *text += '!';
+            }
+        }
+    };
+    {
+        const auto registration = Plugins::registerPlugin(std::make_shared<const Reader>());
+        for (const auto &[name, request] : configuration->_apiRequests()._models().models()) {
+            static_cast<void>(request._body());
+            static_cast<void>(request._headers());
+        }
+        for (const SlideItem &slide : configuration->_slides()) {
+            static_cast<void>(slide.containersComposition());
+            for (const ContainerItem &container : slide._containers()) {
+                for (const ComponentItem &component : container._components()) {
+                    static_cast<void>(component.common());
+                    static_cast<void>(usedVariables(component));
+                }
+            }
+        }
     }
     // What was decoded can be written, and that is the same configuration again.
     const PropertyList written = configuration->encode();
