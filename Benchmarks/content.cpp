@@ -1,5 +1,7 @@
 // The store of variables: a write, a snapshot and a notice, each against the bare work below it.
 
+#include "Median.h"
+
 #include <Managers/ContentManager.h>
 
 #include <algorithm>
@@ -30,11 +32,6 @@ double nanoseconds(int calls, Function function) {
     return std::chrono::duration<double, std::nano>(Clock::now() - start).count() / calls;
 }
 
-double medianOf(std::vector<double> values) {
-    std::nth_element(values.begin(), values.begin() + rounds / 2, values.end());
-    return values[rounds / 2];
-}
-
 // Prints the medians of rounds in which both are measured in turn.
 template <class Ours, class Reference>
 void compare(const char *name, int calls, Ours ours, Reference reference, const char *goal) {
@@ -44,8 +41,8 @@ void compare(const char *name, int calls, Ours ours, Reference reference, const 
         mine.push_back(nanoseconds(calls, ours));
         theirs.push_back(nanoseconds(calls, reference));
     }
-    const double our = medianOf(mine);
-    const double their = medianOf(theirs);
+    const double our = median(mine);
+    const double their = median(theirs);
     std::printf("%s ours=%.1fns reference=%.1fns ratio=%.4f goal=%s\n", name, our, their, our / their, goal);
 }
 

@@ -1,4 +1,6 @@
 // Reading and decoding a large configuration, against an XML parser that only parses the same bytes.
+#include "Median.h"
+
 #include <Configuration/Configuration.h>
 #include <Foundation/PropertyList.h>
 #include <Support/GeneratedConfiguration.h>
@@ -70,11 +72,6 @@ double secondsOf(const Function &function) {
     const auto start = std::chrono::steady_clock::now();
     function();
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-double median(std::vector<double> values) {
-    std::ranges::sort(values);
-    return values[values.size() / 2];
 }
 
 // A line such as "VmHWM:  1234 kB" of the process's own status, in bytes.

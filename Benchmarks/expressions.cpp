@@ -1,6 +1,8 @@
 // A condition of three clauses over 200 variables, all of which have to be read: against the same condition
 // compiled in Lua over a table of the same texts, and against looking the three variables up and nothing
 // else.
+#include "Median.h"
+
 #include <expressions/Expression.h>
 
 #include <fmt/format.h>
@@ -78,11 +80,6 @@ double nanoseconds(const Function &function) {
             std::abort();
     }
     return (processorTime() - start) / calls;
-}
-
-double median(std::vector<double> values) {
-    std::ranges::nth_element(values, values.begin() + rounds / 2);
-    return values[rounds / 2];
 }
 
 // The medians of rounds in which both are measured in turn.

@@ -1,6 +1,8 @@
 // The cost of a message on the caller's thread: one that no destination logs, against an empty call, and one
 // that is logged, against the formatting of the same line into a string.
 
+#include "Median.h"
+
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -53,11 +55,6 @@ double nanoseconds(int calls, Function function) {
     return std::chrono::duration<double, std::nano>(Clock::now() - start).count() / calls;
 }
 
-double medianOf(std::vector<double> values) {
-    std::nth_element(values.begin(), values.begin() + rounds / 2, values.end());
-    return values[rounds / 2];
-}
-
 // Prints the medians of rounds in which both are measured in turn. `settle` runs after each round, outside of
 // the time.
 template <class Ours, class Reference, class Settle>
@@ -69,8 +66,8 @@ void compare(const char *name, int calls, Ours ours, Reference reference, Settle
         settle();
         theirs.push_back(nanoseconds(calls, reference));
     }
-    const double our = medianOf(mine);
-    const double their = medianOf(theirs);
+    const double our = median(mine);
+    const double their = median(theirs);
     std::printf("%s ours=%.1fns reference=%.1fns ratio=%.2f goal=%s\n", name, our, their, our / their, goal);
 }
 
