@@ -1,5 +1,5 @@
 #include <AppDelegate/AppDelegate.h>
-#include <Desktop/Alert.h>
+#include <Desktop/DesktopAlertPresenter.h>
 #include <Desktop/DesktopApplication.h>
 #include <Desktop/Display.h>
 #include <Dispatch/UncaughtHandler.h>

@@ -9,8 +9,8 @@
 #include <Managers/Shared.h>
 #include <Views/Content/ContentView/ContentViewModel.h>
 
-#include <Desktop/Alert.h>
 #include <Desktop/DesktopApplication.h>
+#include <Interaction/AlertPresenter.h>
 #include <System/IdentityAuthority.h>
 
 #include <optional>

@@ -33,7 +33,7 @@ REFUSED = [
     ("Sources/Managers/AppManager.cpp", "QString", "Qt is used in"),
     ("Libraries/logger/src/Logger.cpp", "asio.hpp", "asio is used in"),
     ("Sources/main.cpp", "unicode/regex.h", "ICU is used in"),
-    ("Platform/Desktop/src/Alert.cpp", "logger/Logger.h", "may use dispatch, foundation only"),
+    ("Platform/Desktop/src/Alert.cpp", "logger/Logger.h", "may use dispatch, foundation, interaction only"),
     ("Sources/Managers/AppManager.cpp", "Testing/FakeTimer.h", "fakes are for tests"),
 ]
 

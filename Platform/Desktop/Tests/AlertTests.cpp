@@ -1,6 +1,6 @@
 #include "QtTest.h"
 
-#include <Desktop/Alert.h>
+#include <Desktop/DesktopAlertPresenter.h>
 
 #include <QKeyEvent>
 #include <QLabel>

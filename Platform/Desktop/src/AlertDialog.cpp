@@ -1,130 +1,196 @@
 #include "AlertDialog.h"
 
-#include <Desktop/Alert.h>
+#include "AlertSign.h"
+
 #include <Desktop/LiteralLabel.h>
 
 #include <QApplication>
 #include <QBoxLayout>
 #include <QLabel>
-#include <QPainter>
-#include <QPainterPath>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTextBoundaryFinder>
+
+#include <algorithm>
+#include <string>
 
 namespace velmar {
 
 namespace {
 
-// Points.
-constexpr int iconSize = 44;
-constexpr int textWidth = 320;
+// Points, on a grid of 4.
 constexpr int outerMargin = 24;
+constexpr int signGap = 16;
+constexpr int textWidth = 384;
+constexpr int contentWidth = AlertSign::side + signGap + textWidth;
+constexpr int paragraphGap = 8;
+constexpr int buttonGap = 4;  // Beyond the room that each button keeps for the ring of its focus.
+constexpr int ringRoom = 4;   // That room.
+constexpr int frameRoom = 96; // Around the window, for its title bar and for what the desktop shows.
+constexpr int smallestTextRoom = 96;
+constexpr double messageScale = 15.0 / 14; // The body's size, from that of controls.
 
-/// A triangle for what is wrong, a disc for what is worth knowing, each with its sign. Drawn rather than
-/// taken from the desktop's icons, of which a bare installation has none.
-class AlertIcon final : public QWidget {
-public:
-    AlertIcon(Alert::Style style, QWidget *parent) : QWidget(parent), style_(style) {
-        setFixedSize(iconSize, iconSize);
-    }
+// Characters; nobody reads further, and the laying out of a text takes its time.
+constexpr qsizetype longestText = 10'000;
 
-protected:
-    void paintEvent(QPaintEvent * /*event*/) override {
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        const bool isDisc = style_ == Alert::Style::informational;
-        const QColor color = isDisc                            ? palette().color(QPalette::Highlight)
-                             : style_ == Alert::Style::warning ? QColor(0xd9, 0x8a, 0x00)
-                                                               : QColor(0xd1, 0x34, 0x38);
-        QPainterPath shape;
-        if (isDisc) {
-            shape.addEllipse(QRectF(3, 3, 38, 38));
-        } else {
-            shape.addPolygon(QPolygonF({{22, 6}, {40, 38}, {4, 38}, {22, 6}}));
+/// The text with places to break in the words that are longer than a line.
+QString breakable(const QString &text, const QFontMetrics &metrics) {
+    QString result;
+    QTextBoundaryFinder words(QTextBoundaryFinder::Line, text);
+    qsizetype start = 0;
+    while (words.toNextBoundary() >= 0) {
+        const QString word = text.mid(start, words.position() - start);
+        start = words.position();
+        if (metrics.horizontalAdvance(word) <= textWidth) {
+            result += word;
+            continue;
         }
-        painter.setBrush(color);
-        painter.setPen(QPen(color, 4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter.drawPath(shape);
-        painter.setPen(QPen(Qt::white, 4, Qt::SolidLine, Qt::RoundCap));
-        if (isDisc) {
-            painter.drawPoint(QPointF(22, 13));
-            painter.drawLine(QPointF(22, 21), QPointF(22, 31));
-        } else {
-            painter.drawLine(QPointF(22, 17), QPointF(22, 26));
-            painter.drawPoint(QPointF(22, 33));
+        QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, word);
+        qsizetype from = 0;
+        while (characters.toNextBoundary() >= 0) {
+            result += word.mid(from, characters.position() - from) + QChar(0x200b);
+            from = characters.position();
         }
     }
+    return result;
+}
 
-private:
-    Alert::Style style_;
-};
-
-QLabel *paragraph(const std::string &text, QWidget *parent) {
-    auto *label = new QLabel(QString::fromStdString(text), parent);
+QLabel *paragraph(const std::string &content, bool isMessage, QWidget *parent) {
+    auto *label = new QLabel(parent);
+    if (isMessage) {
+        QFont font = label->font();
+        font.setBold(true);
+        font.setPointSizeF(font.pointSizeF() * messageScale);
+        label->setFont(font);
+    } else {
+        label->setForegroundRole(QPalette::PlaceholderText);
+    }
+    QString text = QString::fromStdString(content);
+    if (text.size() > longestText) {
+        text = text.left(longestText) + QChar(0x2026);
+    }
+    const QString shown = breakable(text, label->fontMetrics());
     label->setTextFormat(Qt::PlainText);
+    label->setText(shown);
+    label->setAccessibleName(text);
     label->setWordWrap(true);
-    label->setMinimumWidth(textWidth);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    label->setFixedWidth(textWidth);
+    // A copy would have the places to break in it.
+    label->setTextInteractionFlags(shown == text ? Qt::TextSelectableByMouse : Qt::NoTextInteraction);
     return label;
+}
+
+/// The column, of the given width, as high as it is or else scrolling in the given height.
+QScrollArea *scrolling(QWidget *column, int width, int largestHeight, QWidget *parent) {
+    auto *area = new QScrollArea(parent);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidget(column);
+    column->setAutoFillBackground(false);
+    area->viewport()->setAutoFillBackground(false);
+    const int bar = column->height() > largestHeight ? area->verticalScrollBar()->sizeHint().width() : 0;
+    area->setFocusPolicy(bar > 0 ? Qt::TabFocus : Qt::NoFocus);
+    area->setFixedSize(width + bar, std::min(column->height(), largestHeight));
+    return area;
 }
 
 } // namespace
 
 AlertDialog::AlertDialog(const Alert &alert, QWidget *parent)
-    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint) {
+    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint), buttons_(alert.buttons) {
+    // The last window of the application is one of its own, not an alert.
+    setAttribute(Qt::WA_QuitOnClose, false);
     setWindowTitle(QCoreApplication::applicationName());
     setAccessibleName(QString::fromStdString(alert.messageText));
-
-    auto *message = paragraph(alert.messageText, this);
-    QFont font = message->font();
-    font.setBold(true);
-    message->setFont(font);
-    auto *texts = new QVBoxLayout;
-    texts->setSpacing(8);
-    texts->addWidget(message);
-    if (!alert.informativeText.empty()) {
-        texts->addWidget(paragraph(alert.informativeText, this));
+    if (buttons_.empty()) {
+        buttons_ = {"OK"};
     }
 
-    auto *top = new QHBoxLayout;
-    top->setSpacing(16);
-    top->addWidget(new AlertIcon(alert.style, this), 0, Qt::AlignTop);
-    top->addLayout(texts, 1);
+    const QScreen *screen = parent != nullptr ? parent->screen() : QGuiApplication::primaryScreen();
+    const int room = (screen == nullptr ? 800 : screen->availableGeometry().height()) - frameRoom;
+    QWidget *buttons = buttonArea(room / 2);
+    QWidget *texts = textArea(alert, std::max(smallestTextRoom, room - buttons->height() - 3 * outerMargin));
 
-    auto *row = new QHBoxLayout;
-    row->setSpacing(12);
-    row->setDirection(QBoxLayout::RightToLeft);
-    for (std::size_t index = 0; index < alert.buttons.size(); ++index) {
-        const QString text = QString::fromStdString(alert.buttons[index]);
-        auto *button = new QPushButton(literalLabel(text), this);
+    auto *top = new QHBoxLayout;
+    top->setSpacing(signGap);
+    top->addWidget(new AlertSign(alert.style, alert.icon, this), 0, Qt::AlignTop);
+    top->addWidget(texts, 1, Qt::AlignVCenter);
+    top->setContentsMargins(ringRoom, ringRoom, ringRoom, 0);
+
+    // The buttons reach further out, by the room for their rings.
+    auto *layout = new QVBoxLayout(this);
+    constexpr int margin = outerMargin - ringRoom;
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setSpacing(margin);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->addLayout(top);
+    layout->addWidget(buttons, 0, Qt::AlignRight);
+}
+
+QWidget *AlertDialog::textArea(const Alert &alert, int largestHeight) {
+    auto *column = new QWidget(this);
+    auto *layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(paragraphGap);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->addWidget(paragraph(alert.messageText, true, column));
+    if (!alert.informativeText.empty()) {
+        layout->addWidget(paragraph(alert.informativeText, false, column));
+    }
+    column->setFixedWidth(textWidth);
+    column->setFixedHeight(layout->heightForWidth(textWidth));
+    return scrolling(column, textWidth, largestHeight, this);
+}
+
+QWidget *AlertDialog::buttonArea(int largestHeight) {
+    auto *column = new QWidget(this);
+    std::vector<QPushButton *> buttons;
+    int rowWidth = 0;
+    for (const std::string &title : buttons_) {
+        const std::size_t index = buttons.size();
+        const QString text = QString::fromStdString(title);
+        auto *button = new QPushButton(literalLabel(text), column);
         button->setAccessibleName(text);
         button->setDefault(index == 0);
         button->setAutoDefault(index == 0);
-        row->addWidget(button);
         connect(button, &QPushButton::clicked, this, [this, index] { done(static_cast<int>(index) + 1); });
-        if (index == 0) {
-            button->setFocus();
-        }
+        rowWidth += button->sizeHint().width() + (index == 0 ? 0 : buttonGap);
+        buttons.push_back(button);
     }
-    row->addStretch(1);
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(outerMargin, outerMargin, outerMargin, outerMargin);
-    layout->setSpacing(24);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
-    layout->addLayout(top);
-    layout->addLayout(row);
+    constexpr int width = contentWidth + 2 * ringRoom;
+    const bool isRow = rowWidth <= width;
+    auto *layout = new QBoxLayout(isRow ? QBoxLayout::RightToLeft : QBoxLayout::TopToBottom, column);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(isRow ? buttonGap : 0);
+    for (QPushButton *button : buttons) {
+        button->setMaximumWidth(width);
+        layout->addWidget(button);
+    }
+    if (isRow) {
+        layout->addStretch(1);
+    }
+    buttons.front()->setFocus();
+    column->setFixedSize(width, layout->sizeHint().height());
+    return scrolling(column, width, largestHeight, this);
 }
 
-std::size_t DesktopAlertPresenter::runModal(const Alert &alert) {
-    AlertDialog dialog(alert, QApplication::activeWindow());
-    if (const QScreen *screen =
-            dialog.parentWidget() == nullptr ? QGuiApplication::primaryScreen() : nullptr) {
-        dialog.adjustSize();
-        dialog.move(screen->geometry().center() - dialog.rect().center());
+std::size_t AlertDialog::answer() const {
+    if (result() > 0) {
+        return static_cast<std::size_t>(result()) - 1;
     }
-    // Escape and the window manager's way to close a window give 0, and stand for the last button.
-    const int result = dialog.exec();
-    return result > 0 ? static_cast<std::size_t>(result) - 1 : alert.buttons.size() - 1;
+    const auto cancel = std::find(buttons_.begin(), buttons_.end(), "Cancel");
+    const auto last = buttons_.end() - 1;
+    return static_cast<std::size_t>((cancel == buttons_.end() ? last : cancel) - buttons_.begin());
+}
+
+void AlertDialog::place() {
+    const QScreen *screen = parentWidget() == nullptr ? QGuiApplication::primaryScreen() : nullptr;
+    if (screen != nullptr) {
+        adjustSize();
+        move(screen->geometry().center() - rect().center());
+    }
 }
 
 } // namespace velmar

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <Interaction/SimplePasteboard.h>
+
+#include <optional>
+
+namespace velmar {
+
+/// Keeps what is copied.
+class TestPasteboard final : public SimplePasteboard {
+public:
+    std::optional<std::string> content;
+    bool accepts = true;
+
+    [[nodiscard]] bool setString(const std::string &text) override {
+        if (accepts)
+            content = text;
+        return accepts;
+    }
+};
+
+} // namespace velmar
