@@ -3,6 +3,7 @@
 #include <Configuration/Configuration.h>
 #include <Dispatch/UncaughtHandler.h>
 #include <Foundation/UnicodeText.h>
+#include <Managers/ActionSetManager.h>
 #include <Managers/ConfigurationFile.h>
 #include <logger/Logger.h>
 
@@ -56,6 +57,16 @@ AppManager::~AppManager() = default;
 std::shared_ptr<const Configuration> AppManager::configuration() const {
     const std::lock_guard lock(mutex_);
     return configuration_;
+}
+
+std::shared_ptr<ActionSetManager> AppManager::actionSetManager() const {
+    const std::lock_guard lock(mutex_);
+    return actionSetManager_;
+}
+
+void AppManager::setActionSetManager(std::shared_ptr<ActionSetManager> actionSetManager) {
+    const std::lock_guard lock(mutex_);
+    actionSetManager_.swap(actionSetManager);
 }
 
 void AppManager::reloadInterface(bool byResetingVariables) {

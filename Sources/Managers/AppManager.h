@@ -13,6 +13,7 @@
 namespace velmar {
 
 struct Configuration;
+class ActionSetManager;
 class IdentityAuthority;
 
 /// Owns the decoded configuration, which a reload replaces as a whole. One instance is shared by the process;
@@ -73,6 +74,11 @@ public:
     /// The admitted file, which a reload reads again.
     [[nodiscard]] const URL &configurationFileURL() const noexcept { return configurationFileURL_; }
 
+    /// Who fires the sets of actions; null until the start has come so far. Any thread.
+    [[nodiscard]] std::shared_ptr<ActionSetManager> actionSetManager() const;
+    /// Once, during the start; it stays as long as the application manager.
+    void setActionSetManager(std::shared_ptr<ActionSetManager> actionSetManager);
+
     /// Reads the configuration's file again and replaces the configuration; the file was admitted at the
     /// start and is not judged again. A failure is logged and leaves the configuration as it is. Then, if
     /// asked for, gives the variables of General.Variables the values of the present configuration again, be
@@ -84,7 +90,8 @@ public:
     bool keyDownEventHandler(const KeyEvent &event) const;
 
 private:
-    mutable std::mutex mutex_; // Guards configuration_, the pointer and not what it points to.
+    mutable std::mutex mutex_; // Guards the two pointers and not what they point to.
+    std::shared_ptr<ActionSetManager> actionSetManager_;
     std::shared_ptr<const Configuration> configuration_;
     URL configurationFileURL_;
     std::function<void()> terminate_;

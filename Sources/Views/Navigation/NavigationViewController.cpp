@@ -1,11 +1,11 @@
 #include <Views/Navigation/NavigationViewController.h>
 
+#include <Constants/NavigationNotifications.h>
 #include <Desktop/DesktopAppearance.h>
 #include <Models/Appearance/Color.h>
 #include <Views/CustomViews/Colors.h>
 #include <Views/CustomViews/Theme.h>
 #include <Views/Navigation/NavigationButton.h>
-#include <Views/Navigation/NavigationNotifications.h>
 
 #include <QEvent>
 #include <QHBoxLayout>

@@ -1,6 +1,6 @@
 #include <Views/Navigation/NavigationViewModel.h>
 
-#include <Views/Navigation/NavigationNotifications.h>
+#include <Constants/NavigationNotifications.h>
 
 #include <string>
 

@@ -1,8 +1,8 @@
 #include "SupervisedElement.h"
 
+#include <Constants/NavigationNotifications.h>
 #include <Views/Content/Containers/ContainerViewModel.h>
 #include <Views/Content/Slides/SlideViewModel.h>
-#include <Views/Navigation/NavigationNotifications.h>
 
 #include <Support/RecordedLog.h>
 

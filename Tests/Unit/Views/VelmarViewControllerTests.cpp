@@ -1,9 +1,9 @@
 #include "../Managers/AppManagerFixture.h"
 #include "ViewTest.h"
 
+#include <Constants/NavigationNotifications.h>
 #include <Views/Content/ContentView/ContentViewController.h>
 #include <Views/Navigation/NavigationButton.h>
-#include <Views/Navigation/NavigationNotifications.h>
 #include <Views/Navigation/NavigationViewController.h>
 #include <Views/VelmarViewController.h>
 

@@ -1,11 +1,11 @@
 #include "ViewTest.h"
 
+#include <Constants/NavigationNotifications.h>
 #include <Views/Content/ContentView/ContentViewController.h>
 #include <Views/Content/Slides/SlideViewController.h>
 #include <Views/CustomViews/Colors.h>
 #include <Views/CustomViews/Font.h>
 #include <Views/Navigation/NavigationButton.h>
-#include <Views/Navigation/NavigationNotifications.h>
 #include <Views/Navigation/NavigationViewController.h>
 
 #include <Support/RecordedLog.h>

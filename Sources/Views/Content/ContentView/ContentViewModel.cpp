@@ -1,9 +1,11 @@
 #include <Views/Content/ContentView/ContentViewModel.h>
 
+#include <Constants/NavigationNotifications.h>
 #include <Views/Content/Slides/SlideViewModel.h>
-#include <Views/Navigation/NavigationNotifications.h>
 
 #include <logger/Logger.h>
+
+#include <fmt/format.h>
 
 #include <string>
 #include <utility>
@@ -29,6 +31,7 @@ void ContentViewModel::setupNotifications() {
     observe(willNavigateToPreviousSlide, [this] { goToPreviousSlide(); });
     observe(slideHasInvalidMandatoryElements, [this] { _isCurrentSlideValid.set(false); });
     observe(allMandatoryElementsInSlideAreValid, [this] { _isCurrentSlideValid.set(true); });
+    SlidesActionManager::shared()->addObserver(weak_from_this());
 }
 
 std::shared_ptr<const std::vector<SlideItem>> ContentViewModel::slides() const {
@@ -51,6 +54,37 @@ void ContentViewModel::setSelectedIndex(int index, bool notifyingDelegate) {
         move(index, notifyingDelegate);
     }
     announcePosition();
+}
+
+void ContentViewModel::jumpWith(std::int64_t offset) {
+    const int index = _selectedSlideIndex();
+    const int count = slidesCount();
+    if (offset < -index || offset >= count - index) {
+        Logger::warning([&] {
+            return fmt::format("Slide jump with offset {} at slide {} is out of bounds. Slides count: {}.",
+                               offset, index, count);
+        });
+        return;
+    }
+    setSelectedIndex(index + static_cast<int>(offset), true);
+}
+
+void ContentViewModel::navigateToIndex(std::int64_t index) {
+    mainQueue_.async([model = weak_from_this(), index] {
+        // The slides may be fewer than when the action was checked.
+        const auto self = model.lock();
+        if (self && index >= 0 && index < self->slidesCount()) {
+            self->setSelectedIndex(static_cast<int>(index), true);
+        }
+    });
+}
+
+void ContentViewModel::navigateByOffset(std::int64_t offset) {
+    mainQueue_.async([model = weak_from_this(), offset] {
+        if (const auto self = model.lock()) {
+            self->jumpWith(offset);
+        }
+    });
 }
 
 void ContentViewModel::move(int index, bool notifyingDelegate) {

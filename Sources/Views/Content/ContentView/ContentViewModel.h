@@ -5,6 +5,7 @@
 #include <Foundation/NotificationCenter.h>
 #include <Managers/Config.h>
 #include <Managers/ContentUpdater.h>
+#include <Managers/SlidesActionManager.h>
 
 #include <cstdint>
 #include <functional>
@@ -45,7 +46,8 @@ public:
 };
 
 /// Which slide is the current one, and whether the user may leave it. Made as a shared_ptr. Main thread.
-class ContentViewModel final : public std::enable_shared_from_this<ContentViewModel> {
+class ContentViewModel final : public SlideNavigationObserver,
+                               public std::enable_shared_from_this<ContentViewModel> {
 public:
     /// What the model reads of the configuration.
     struct Settings {
@@ -74,7 +76,8 @@ public:
     [[nodiscard]] NotificationCenter &center() const noexcept { return center_; }
     [[nodiscard]] MainQueue &mainQueue() const noexcept { return mainQueue_; }
 
-    /// Begins to follow the navigation's notifications, and to publish what the model knows.
+    /// Begins to follow the navigation's notifications and the requests of actions, and to publish what the
+    /// model knows.
     void setupNotifications();
 
     /// The slides of the present configuration and mode.
@@ -85,6 +88,13 @@ public:
     /// Moves to a slide unless the current one holds the user back, which it does only forward; in either
     /// case the navigation is told how the slide that is current then stands among the others.
     void setSelectedIndex(int index, bool notifyingDelegate);
+
+    /// Moves by a number of slides, forward or backward. An offset that leads nowhere is logged.
+    void jumpWith(std::int64_t offset);
+
+    /// The requests of actions, on their threads: each is followed on the main thread, later.
+    void navigateToIndex(std::int64_t index) override;
+    void navigateByOffset(std::int64_t offset) override;
 
     /// Drops the transitions that the controller has not been told of yet: it shows the current slide
     /// without.

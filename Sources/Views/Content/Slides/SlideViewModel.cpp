@@ -1,6 +1,6 @@
 #include <Views/Content/Slides/SlideViewModel.h>
 
-#include <Views/Navigation/NavigationNotifications.h>
+#include <Constants/NavigationNotifications.h>
 
 #include <logger/Logger.h>
 

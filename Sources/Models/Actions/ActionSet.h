@@ -1,0 +1,45 @@
+#pragma once
+
+#include <Configuration/ActionSetItem.h>
+#include <Foundation/UUID.h>
+
+#include <algorithm>
+#include <functional>
+#include <memory>
+#include <variant>
+#include <vector>
+
+namespace velmar {
+
+/// A set of actions under the identity that it was registered with.
+struct ActionSet {
+    UUID id;
+    std::shared_ptr<const ActionSetItemProtocol> item; ///< Never null; keeps what it lies in alive.
+
+    bool operator==(const ActionSet &other) const noexcept { return id == other.id; }
+};
+
+/// The sets that a trigger without a payload fires, in their order, each under a new identity.
+template <class Trigger>
+[[nodiscard]] std::vector<ActionSet>
+actionSetsFor(const std::shared_ptr<const std::vector<TriggeredActionSetItem>> &items) {
+    std::vector<ActionSet> sets;
+    for (const TriggeredActionSetItem &item : *items) {
+        const bool isFired = std::ranges::any_of(item._triggers(), [](const ActionTrigger &trigger) {
+            return std::holds_alternative<Trigger>(trigger.value);
+        });
+        if (isFired) {
+            sets.push_back({UUID(), {items, &item.set}});
+        }
+    }
+    return sets;
+}
+
+} // namespace velmar
+
+template <>
+struct std::hash<velmar::ActionSet> {
+    std::size_t operator()(const velmar::ActionSet &set) const noexcept {
+        return std::hash<velmar::UUID>()(set.id);
+    }
+};

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <Managers/ContentManager.h>
+#include <Managers/SlidesActionManager.h>
+
+#include <functional>
+#include <memory>
+
+namespace velmar {
+
+class AlertPresenter;
+class MainQueue;
+class SimplePasteboard;
+class SoundPlayer;
+
+/// What actions work with. The references outlive every action.
+struct ActionSurroundings {
+    MainQueue &mainQueue;
+    AlertPresenter &alerts;
+    SimplePasteboard &pasteboard;
+    SoundPlayer &sounds;
+    /// Begins the termination of the application, whatever would hold a quit back. Any thread.
+    std::function<void()> terminateApp;
+    std::shared_ptr<ContentManagerProtocol> contentManager = ContentManager::shared();
+    std::shared_ptr<SlidesActionManager> slides = SlidesActionManager::shared();
+};
+
+} // namespace velmar
