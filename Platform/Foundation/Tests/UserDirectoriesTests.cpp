@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -17,18 +18,26 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The two variables, as they were again afterwards.
+// The variables of settings, as they were again afterwards; those of data are not set.
 class UserDirectoriesTest : public testing::Test {
 protected:
     void TearDown() override {
         set("XDG_CONFIG_HOME", configuration_.empty() ? nullptr : configuration_.c_str());
         set("HOME", home_.empty() ? nullptr : home_.c_str());
+        set("XDG_DATA_HOME", nullptr);
+        set("XDG_DATA_DIRS", nullptr);
     }
 
     static std::string with(const char *configuration, const char *home) {
         set("XDG_CONFIG_HOME", configuration);
         set("HOME", home);
         return UserDirectories::configuration();
+    }
+
+    static std::vector<std::string> dataWith(const char *own, const char *others) {
+        set("XDG_DATA_HOME", own);
+        set("XDG_DATA_DIRS", others);
+        return UserDirectories::data();
     }
 
     static std::string ofAccount() {
@@ -59,6 +68,15 @@ TEST_F(UserDirectoriesTest, TakesTheFirstAbsolutePath) {
         EXPECT_EQ(with(none, own.c_str()), own + "/.config");
         EXPECT_EQ(with(none, none), ofAccount());
     }
+}
+
+TEST_F(UserDirectoriesTest, ListTheOwnDataFirst) {
+    using List = std::vector<std::string>;
+    const std::string own = directory.path();
+    with(nullptr, own.c_str());
+    EXPECT_EQ(dataWith(nullptr, nullptr), (List{own + "/.local/share", "/usr/local/share", "/usr/share"}));
+    EXPECT_EQ(dataWith(own.c_str(), "/usr/share:relative::/opt"), (List{own, "/usr/share", "/opt"}));
+    EXPECT_EQ(dataWith("relative", ":"), (List{own + "/.local/share", "/usr/local/share", "/usr/share"}));
 }
 
 TEST_F(UserDirectoriesTest, OfRootAreNeverThoseOfSomebodyElse) {

@@ -4,7 +4,7 @@
 
 #include <cerrno>
 #include <cstdlib>
-#include <optional>
+#include <sstream>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -34,22 +34,41 @@ bool isOfRootAlone(std::string path) {
     }
 }
 
-std::optional<std::string> directoryInVariable(const char *name) {
-    const char *path = std::getenv(name); // NOLINT(concurrency-mt-unsafe): see the header
-    if (path == nullptr || *path != '/' || (geteuid() == 0 && !isOfRootAlone(path)))
-        return std::nullopt;
-    return path;
+bool isTrusted(const std::string &path) {
+    return path.starts_with('/') && (geteuid() != 0 || isOfRootAlone(path));
+}
+
+std::string variable(const char *name) {
+    const char *value = std::getenv(name); // NOLINT(concurrency-mt-unsafe): see the header
+    return value == nullptr ? "" : value;
+}
+
+// Below the home directory, unless the variable names another place.
+std::string directory(const char *name, const std::string &belowHome) {
+    if (const std::string path = variable(name); isTrusted(path))
+        return path;
+    if (const std::string home = variable("HOME"); isTrusted(home))
+        return home + belowHome;
+    const auto account = UserAccount::numbered(geteuid());
+    return (account ? account->homeDirectory : std::string()) + belowHome;
 }
 
 } // namespace
 
 std::string configuration() {
-    if (auto directory = directoryInVariable("XDG_CONFIG_HOME"))
-        return *std::move(directory);
-    if (const auto home = directoryInVariable("HOME"))
-        return *home + "/.config";
-    const auto account = UserAccount::numbered(geteuid());
-    return (account ? account->homeDirectory : std::string()) + "/.config";
+    return directory("XDG_CONFIG_HOME", "/.config");
+}
+
+std::vector<std::string> data() {
+    std::vector<std::string> directories = {directory("XDG_DATA_HOME", "/.local/share")};
+    std::istringstream list(variable("XDG_DATA_DIRS"));
+    for (std::string path; std::getline(list, path, ':');) {
+        if (isTrusted(path))
+            directories.push_back(path);
+    }
+    if (directories.size() == 1)
+        directories.insert(directories.end(), {"/usr/local/share", "/usr/share"});
+    return directories;
 }
 
 } // namespace velmar::UserDirectories

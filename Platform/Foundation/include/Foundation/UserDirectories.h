@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 /// Where the user that the process acts as keeps what programs store. Any thread, as long as none changes the
 /// environment.
@@ -13,5 +14,10 @@ namespace velmar::UserDirectories {
 /// each of the two variables counts only if its directory and those above it belong to root and nobody else
 /// may write in them or replace one; a directory that is missing is judged by those above.
 [[nodiscard]] std::string configuration();
+
+/// The directories of what programs bring along (desktop entries, sounds), in the order in which they are
+/// searched: `$XDG_DATA_HOME`, by default `.local/share` in the home directory, then those of
+/// `$XDG_DATA_DIRS`, by default `/usr/local/share` and `/usr/share`. For root the same holds as above.
+[[nodiscard]] std::vector<std::string> data();
 
 } // namespace velmar::UserDirectories

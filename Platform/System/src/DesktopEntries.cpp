@@ -1,0 +1,188 @@
+#include "DesktopEntries.h"
+
+#include <Foundation/FileError.h>
+#include <Foundation/FileManager.h>
+
+#include <cstdlib>
+#include <memory>
+#include <optional>
+#include <sstream>
+
+#include <sys/stat.h>
+
+namespace velmar {
+
+namespace {
+
+constexpr std::size_t largestEntry = 256 * 1024; // Bytes; translations make entries long.
+constexpr int deepestDirectory = 4;
+constexpr std::string_view entrySuffix = ".desktop";
+
+// Nanoseconds; 0 for what isn't there.
+std::int64_t lastChange(const std::string &path) {
+    struct stat status {};
+    return stat(path.c_str(), &status) == 0
+               ? static_cast<std::int64_t>(status.st_mtim.tv_sec) * 1'000'000'000 + status.st_mtim.tv_nsec
+               : 0;
+}
+
+bool isDirectory(const std::string &path) {
+    struct stat status {};
+    return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+// The values of an entry's main group that matter here, as they stand.
+std::map<std::string, std::string> mainGroup(const std::string &content) {
+    std::map<std::string, std::string> values;
+    std::istringstream lines(content);
+    bool isMain = false;
+    for (std::string line; std::getline(lines, line);) {
+        if (line.starts_with('['))
+            isMain = line.starts_with("[Desktop Entry]");
+        const std::size_t equals = line.find('=');
+        if (!isMain || equals == std::string::npos)
+            continue;
+        const std::string key = line.substr(0, line.find_last_not_of(' ', equals - 1) + 1);
+        const std::size_t value = line.find_first_not_of(' ', equals + 1);
+        values.emplace(key, value == std::string::npos ? "" : line.substr(value));
+    }
+    return values;
+}
+
+// The words of a command: blanks part them, quotes hold them together, backslashes in quotes escape.
+std::vector<std::string> words(const std::string &command) {
+    std::vector<std::string> result;
+    bool isQuoted = false;
+    bool isOpen = false;
+    for (std::size_t i = 0; i < command.size(); ++i) {
+        const char character = command[i];
+        if (!isQuoted && (character == ' ' || character == '\t')) {
+            isOpen = false;
+            continue;
+        }
+        if (!std::exchange(isOpen, true))
+            result.emplace_back();
+        if (character == '"')
+            isQuoted = !isQuoted;
+        else if (isQuoted && character == '\\' && i + 1 < command.size())
+            result.back() += command[++i];
+        else
+            result.back() += character;
+    }
+    return result;
+}
+
+struct Start {
+    std::string program;
+    std::size_t options = 0;
+    bool isWhole = true; // The program alone decides what runs: no argument but options and files to open.
+};
+
+Start startOf(const std::string &command) {
+    const std::vector<std::string> all = words(command);
+    std::size_t first = 0;
+    if (!all.empty() && (all[0] == "env" || all[0] == "/usr/bin/env")) {
+        for (first = 1; first < all.size() && all[first].find('=') != std::string::npos;)
+            ++first;
+    }
+    Start start;
+    for (std::size_t i = first; i < all.size(); ++i) {
+        if (i == first)
+            start.program = all[i];
+        else if (all[i].starts_with('-'))
+            ++start.options;
+        else if (!all[i].starts_with('%'))
+            start.isWhole = false;
+    }
+    return start;
+}
+
+} // namespace
+
+DesktopEntries::DesktopEntries(std::vector<std::string> directories, std::vector<std::string> executables)
+    : directories_(std::move(directories)), executables_(std::move(executables)) {}
+
+std::string DesktopEntries::identifierFor(const std::string &executable) {
+    if (!isCurrent())
+        read();
+    const auto found = byExecutable_.find(executable);
+    return found == byExecutable_.end() ? "" : found->second.second;
+}
+
+bool DesktopEntries::isCurrent() const {
+    for (const auto &[path, time] : changes_) {
+        if (lastChange(path) != time)
+            return false;
+    }
+    return !changes_.empty() || directories_.empty();
+}
+
+void DesktopEntries::read() {
+    changes_.clear();
+    seen_.clear();
+    byExecutable_.clear();
+    for (const std::string &directory : directories_)
+        readDirectory(directory, "", 0);
+}
+
+void DesktopEntries::readDirectory(const std::string &path, const std::string &prefix, int depth) {
+    // Before its entries, so that what changes meanwhile is read again.
+    changes_[path] = lastChange(path);
+    const FileManager &files = FileManager::defaultManager();
+    try {
+        for (const std::string &name : files.contentsOfDirectory(path)) {
+            const std::string item = path + "/" + name;
+            if (name.ends_with(entrySuffix))
+                readEntry(item, prefix + name.substr(0, name.size() - entrySuffix.size()));
+            else if (depth < deepestDirectory && isDirectory(item))
+                readDirectory(item, prefix + name + "-", depth + 1);
+        }
+    } catch (const FileError &) {
+        // One that isn't there has no entries; nor has one that may not be read.
+        return;
+    }
+}
+
+void DesktopEntries::readEntry(const std::string &path, const std::string &identifier) {
+    if (!seen_.insert(identifier).second)
+        return;
+    std::map<std::string, std::string> values;
+    try {
+        values = mainGroup(FileManager::defaultManager().contents(path, largestEntry));
+    } catch (const FileError &) {
+        return;
+    }
+    // What is in a box of its own runs in a unit of its own, and is started by the program of all boxes.
+    if (values["Type"] != "Application" || values["Hidden"] == "true" || values.contains("X-Flatpak") ||
+        values.contains("X-SnapInstanceName"))
+        return;
+    const Start start = startOf(values["Exec"]);
+    if (start.isWhole)
+        add(start.program, start.options, identifier);
+    const std::string &tried = values["TryExec"];
+    if (!tried.empty() && tried != start.program)
+        add(tried, start.options, identifier);
+}
+
+void DesktopEntries::add(const std::string &program, std::size_t options, const std::string &identifier) {
+    std::vector<std::string> places;
+    if (program.starts_with('/')) {
+        places = {""};
+    } else if (!program.empty()) {
+        for (const std::string &directory : executables_)
+            places.push_back(directory + "/");
+    }
+    for (const std::string &place : places) {
+        const std::unique_ptr<char, decltype(&std::free)> path(realpath((place + program).c_str(), nullptr),
+                                                               std::free);
+        if (path == nullptr)
+            continue;
+        const Rank rank(options, identifier);
+        const auto [known, isNew] = byExecutable_.emplace(path.get(), rank);
+        if (!isNew)
+            known->second = std::min(known->second, rank);
+        return;
+    }
+}
+
+} // namespace velmar

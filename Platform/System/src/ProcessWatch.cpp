@@ -1,0 +1,219 @@
+#include <System/ProcessWatch.h>
+
+#include <System/IdentityAuthority.h>
+
+#include <Foundation/UserDirectories.h>
+
+#include "ProcessDirectory.h"
+#include "ProcessIdentity.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <iterator>
+#include <sstream>
+#include <tuple>
+#include <unordered_map>
+#include <utility>
+
+#include <unistd.h>
+
+namespace velmar {
+
+namespace {
+
+// The look that finds a process and the next two.
+constexpr int readingsOfNewProcess = 3;
+
+struct Known {
+    ProcessDirectory::Entry entry;
+    ProcessRecord record{};
+    ApplicationIdentity identity{};
+    int readings = 0;    // That are still to come.
+    bool isPart = false; // Of an application that was there before it.
+    bool isTold = false;
+};
+
+bool isEarlier(const Known &one, const Known &other) {
+    return std::tie(one.record.startTime, one.entry.process) <
+           std::tie(other.record.startTime, other.entry.process);
+}
+
+} // namespace
+
+class ProcessWatch::Table {
+public:
+    explicit Table(Places places)
+        : directory_(places.processes),
+          identities_(directory_, std::move(places.applications), std::move(places.executables)),
+          users_(std::move(places.users)) {
+        for (const auto &entry : directory_.list())
+            known_.push_back(Known{.entry = entry});
+    }
+
+    std::vector<RunningApplication> look() {
+        // What ran when the watch began is read now, since that takes its time.
+        if (!std::exchange(isRead_, true))
+            readKnown();
+        told_.clear();
+        compare(directory_.list());
+        readNew();
+        for (const Known &process : ended_)
+            leaveUnit(process.identity);
+        std::sort(told_.begin(), told_.end(), isEarlier);
+        std::vector<RunningApplication> applications;
+        for (Known &process : told_)
+            applications.push_back({std::move(process.identity.identifier), process.entry.process});
+        return applications;
+    }
+
+private:
+    void readKnown() {
+        for (Known &process : known_) {
+            process.isTold = true;
+            readRecord(process);
+            identify(process);
+        }
+    }
+
+    // Brings what is known to what the list has, and collects the processes that have ended.
+    void compare(const std::vector<ProcessDirectory::Entry> &entries) {
+        std::vector<Known> current;
+        current.reserve(entries.size());
+        ended_.clear();
+        auto former = known_.begin();
+        for (const auto &entry : entries) {
+            while (former != known_.end() && former->entry.process < entry.process)
+                ended_.push_back(std::move(*former++));
+            if (former != known_.end() && former->entry.process == entry.process && !isSame(*former, entry))
+                ended_.push_back(std::move(*former++));
+            if (former != known_.end() && former->entry.process == entry.process) {
+                current.push_back(std::move(*former++));
+                current.back().entry = entry;
+            } else {
+                current.push_back(Known{.entry = entry, .readings = readingsOfNewProcess});
+            }
+        }
+        std::move(former, known_.end(), std::back_inserter(ended_));
+        known_ = std::move(current);
+        for (Known &process : ended_)
+            tell(process);
+    }
+
+    // Another process may have the number meanwhile.
+    [[nodiscard]] bool isSame(const Known &process, const ProcessDirectory::Entry &entry) const {
+        if (process.entry.inode == entry.inode)
+            return true;
+        const auto record = directory_.record(entry.process);
+        return record && record->startTime == process.record.startTime;
+    }
+
+    void readNew() {
+        std::vector<Known *> pending;
+        for (Known &process : known_) {
+            if (process.readings > 0 && readRecord(process))
+                pending.push_back(&process);
+        }
+        // A parent comes before its children.
+        std::sort(pending.begin(), pending.end(),
+                  [](const Known *one, const Known *other) { return isEarlier(*one, *other); });
+        for (Known *process : pending) {
+            --process->readings;
+            const bool isAsBefore = identify(*process);
+            if (isAsBefore || !process->identity.unit.empty() || process->readings == 0)
+                tell(*process);
+        }
+    }
+
+    bool readRecord(Known &process) const {
+        auto record = directory_.record(process.entry.process);
+        if (record)
+            process.record = std::move(*record);
+        return record.has_value();
+    }
+
+    // True if it is what it was at the last reading.
+    bool identify(Known &process) {
+        const bool isWatched = !process.record.isKernelThread &&
+                               std::find(users_.begin(), users_.end(), process.record.user) != users_.end();
+        ApplicationIdentity identity =
+            isWatched ? identities_.identityOf(process.entry.process, process.record) : ApplicationIdentity();
+        if (identity == process.identity)
+            return true;
+        leaveUnit(process.identity);
+        process.identity = std::move(identity);
+        process.isPart = isPart(process);
+        if (!process.identity.unit.empty())
+            ++unitSizes_[process.identity.unit];
+        return false;
+    }
+
+    [[nodiscard]] bool isPart(const Known &process) const {
+        const ApplicationIdentity &identity = process.identity;
+        if (!identity.unit.empty())
+            return unitSizes_.contains(identity.unit);
+        const Known *parent = known(process.record.parent);
+        if (parent == nullptr)
+            return false;
+        if (parent->identity.identifier == identity.identifier)
+            return true;
+        // A program that goes on in a child of its own leaves that to the first process, or to the manager of
+        // the user's services.
+        const bool isOrphan = parent->entry.process == 1 || parent->record.name == "systemd";
+        return isOrphan && std::any_of(ended_.begin(), ended_.end(), [&](const Known &ended) {
+                   return ended.identity.identifier == identity.identifier;
+               });
+    }
+
+    [[nodiscard]] const Known *known(std::int32_t process) const {
+        const auto found = std::lower_bound(
+            known_.begin(), known_.end(), process,
+            [](const Known &one, std::int32_t number) { return one.entry.process < number; });
+        return found != known_.end() && found->entry.process == process ? &*found : nullptr;
+    }
+
+    void tell(Known &process) {
+        if (process.isTold || process.isPart || process.identity.identifier.empty())
+            return;
+        process.isTold = true;
+        process.readings = 0;
+        told_.push_back(process);
+    }
+
+    void leaveUnit(const ApplicationIdentity &identity) {
+        const auto unit = unitSizes_.find(identity.unit);
+        if (unit != unitSizes_.end() && --unit->second == 0)
+            unitSizes_.erase(unit);
+    }
+
+    ProcessDirectory directory_;
+    ProcessIdentities identities_;
+    std::vector<std::uint32_t> users_;
+    bool isRead_ = false;
+    std::vector<Known> known_;                       // By number.
+    std::vector<Known> ended_;                       // Since the last look.
+    std::vector<Known> told_;                        // In this look.
+    std::unordered_map<std::string, int> unitSizes_; // Processes of each unit.
+};
+
+ProcessWatch::Places ProcessWatch::placesOfProcess(const IdentityAuthority &authority) {
+    Places places{.applications = {}, .executables = {}, .users = {geteuid()}};
+    for (const std::string &directory : UserDirectories::data())
+        places.applications.push_back(directory + "/applications");
+    const char *path = std::getenv("PATH"); // NOLINT(concurrency-mt-unsafe): nothing changes the environment
+    std::istringstream directories(path == nullptr ? "/usr/local/bin:/usr/bin:/bin" : path);
+    for (std::string directory; std::getline(directories, directory, ':');)
+        places.executables.push_back(directory);
+    if (const auto console = authority.ids(authority.consoleUserName());
+        console && console->userId != geteuid() && geteuid() == 0)
+        places.users.push_back(console->userId);
+    return places;
+}
+
+ProcessWatch::ProcessWatch(Places places) : table_(std::make_unique<Table>(std::move(places))) {}
+ProcessWatch::~ProcessWatch() = default;
+
+std::vector<RunningApplication> ProcessWatch::look() {
+    return table_->look();
+}
+
+} // namespace velmar
