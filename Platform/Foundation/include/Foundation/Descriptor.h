@@ -21,6 +21,8 @@ public:
 
     [[nodiscard]] int number() const noexcept { return number_; }
     [[nodiscard]] explicit operator bool() const noexcept { return number_ >= 0; }
+    /// Hands the descriptor over to the caller.
+    [[nodiscard]] int release() noexcept { return std::exchange(number_, -1); }
 
 private:
     void reset(int number) noexcept {

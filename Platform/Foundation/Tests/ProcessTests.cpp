@@ -1,0 +1,143 @@
+#include <Dispatch/DispatchQueue.h>
+#include <Foundation/ProcessChain.h>
+#include <Foundation/ProcessError.h>
+#include <Testing/TemporaryDirectory.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <future>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+
+namespace velmar {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::MatchesRegex;
+
+Process shell(const std::string &script) {
+    return {"/bin/sh", {"-c", script}};
+}
+
+// What a chain prints; cut at the limit, the text ends in "...".
+std::string outputOf(const std::vector<Process> &processes, std::size_t limit = 1 << 20) {
+    const auto promise = std::make_shared<std::promise<ProcessOutput>>();
+    auto future = promise->get_future();
+    ProcessChain chain;
+    for (const Process &process : processes)
+        chain.launch(process);
+    chain.readOutput(limit, [promise](ProcessOutput output) { promise->set_value(std::move(output)); });
+    if (future.wait_for(60s) != std::future_status::ready)
+        return "no end";
+    const ProcessOutput output = future.get();
+    return output.bytes + (output.isCut ? "..." : "");
+}
+
+bool hasChildren() {
+    siginfo_t child{};
+    return waitid(P_ALL, 0, &child, WEXITED | WNOHANG | WNOWAIT) == 0;
+}
+
+bool hasNoChildrenSoon() {
+    const auto deadline = std::chrono::steady_clock::now() + 30s;
+    while (hasChildren() && std::chrono::steady_clock::now() < deadline)
+        sched_yield();
+    return !hasChildren();
+}
+
+TEST(ProcessChain, GivesAChildNothingButItsStandardStreams) {
+    const int leaked = open("/dev/null", O_RDONLY); // NOLINT: inheritable on purpose
+    sigset_t some;
+    sigemptyset(&some);
+    sigaddset(&some, SIGTERM);
+    pthread_sigmask(SIG_BLOCK, &some, nullptr);
+    const auto former = signal(SIGPIPE, SIG_IGN);
+    // The shell opens a descriptor for the directory it lists; its number is 3.
+    EXPECT_EQ(outputOf({{"/bin/ls", {"/proc/self/fd"}}}), "0\n1\n2\n3\n");
+    for (const std::string name : {"PIPE", "TERM"})
+        EXPECT_EQ(outputOf({shell("kill -" + name + " $$; echo immune")}), "");
+    EXPECT_EQ(outputOf({{"/usr/bin/readlink", {"/proc/self/fd/0"}}}), "/dev/null\n");
+    EXPECT_EQ(outputOf({shell("set -- $(cat /proc/$$/stat); test $1 = $5 && echo own")}), "own\n");
+    signal(SIGPIPE, former);
+    pthread_sigmask(SIG_UNBLOCK, &some, nullptr);
+    close(leaked);
+}
+
+TEST(ProcessChain, KeepsAtMostTheLimitAndDrainsTheRest) {
+    EXPECT_EQ(outputOf({shell("printf 12345")}, 5), "12345");
+    EXPECT_EQ(outputOf({shell("printf 123456")}, 5), "12345...");
+    EXPECT_EQ(outputOf({{"/usr/bin/head", {"-c", "9000000", "/dev/zero"}}, {"/usr/bin/wc", {"-c"}}}, 3),
+              "900...");
+}
+
+TEST(ProcessChain, OneThatIsGivenUpEndsWhatRuns) {
+    for (const std::string failing : {"/nonexistent", ""}) {
+        ProcessChain chain;
+        chain.launch({"/bin/sleep", {"1000"}});
+        chain.launch(shell("sleep 1000 | sleep 1000"));
+        EXPECT_THROW(chain.launch({failing, {}}), ProcessError);
+    }
+    EXPECT_TRUE(hasNoChildrenSoon());
+}
+
+TEST(ProcessChain, RunningOutOfDescriptorsIsAnError) {
+    outputOf({shell("true")}); // the pool has its own
+    rlimit former{};
+    getrlimit(RLIMIT_NOFILE, &former);
+    for (rlim_t room = 4; room < 40; ++room) { // wherever it fails
+        const rlimit few{room, former.rlim_max};
+        setrlimit(RLIMIT_NOFILE, &few);
+        std::string outcome;
+        try {
+            outcome = outputOf(std::vector<Process>(12, {"/bin/cat", {}}));
+        } catch (const ProcessError &error) {
+            outcome = error.errorDescription();
+        }
+        setrlimit(RLIMIT_NOFILE, &former);
+        EXPECT_THAT(outcome, MatchesRegex("|.*: Too many open files\\.")) << room;
+    }
+    EXPECT_TRUE(hasNoChildrenSoon());
+}
+
+// Each in a process of its own.
+TEST(ProcessChainDeathTest, WorksInUnusualSurroundings) {
+    testing::FLAGS_gtest_death_test_style = "threadsafe";
+    const auto leave = [] {
+        std::_Exit(outputOf({shell("cat; echo a"), shell("cat; echo b")}) == "a\nb\n" ? 3 : 4);
+    };
+    EXPECT_EXIT((close(0), close(1), leave()), testing::ExitedWithCode(3), "");
+    EXPECT_EXIT((signal(SIGCHLD, SIG_IGN), leave()), testing::ExitedWithCode(3), "");
+}
+
+TEST(ProcessChainDeathTest, ItsProcessesOutliveThisOne) {
+    testing::FLAGS_gtest_death_test_style = "threadsafe";
+    const TemporaryDirectory directory;
+    // The other process has it from this one. NOLINTBEGIN(concurrency-mt-unsafe)
+    setenv("VELMAR_TEST_DIRECTORY", directory.path().c_str(), 0);
+    const std::string question = std::string(getenv("VELMAR_TEST_DIRECTORY")) + "/question";
+    // NOLINTEND(concurrency-mt-unsafe)
+    const std::string answer = question + ".answer";
+    mkfifo(question.c_str(), 0600);
+    mkfifo(answer.c_str(), 0600);
+    const auto leave = [&] {
+        ProcessChain chain;
+        chain.launch(shell("read -r line <" + question + "; echo $line >" + answer));
+        chain.readOutput(1, [](const ProcessOutput &) { std::_Exit(4); });
+        std::_Exit(DispatchQueue::shutdown(30s) ? 3 : 5);
+    };
+    EXPECT_EXIT(leave(), testing::ExitedWithCode(3), "");
+    EXPECT_EQ(outputOf({shell("echo alive >" + question + "; cat " + answer)}), "alive\n");
+}
+
+} // namespace
+} // namespace velmar

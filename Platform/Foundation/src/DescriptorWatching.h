@@ -1,0 +1,21 @@
+#pragma once
+
+#include <Dispatch/DescriptorWatch.h>
+#include <Foundation/Descriptor.h>
+#include <Foundation/ProcessError.h>
+
+#include <string>
+#include <system_error>
+
+namespace velmar {
+
+/// Hands a descriptor of the launch of a program to the pool. Throws ProcessError.
+inline DescriptorWatch watched(Descriptor descriptor, const std::string &path) {
+    try {
+        return {descriptor.release(), path};
+    } catch (const std::system_error &error) {
+        throw ProcessError(ProcessError::NotLaunched{path, error.code().value()});
+    }
+}
+
+} // namespace velmar
