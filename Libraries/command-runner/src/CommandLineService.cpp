@@ -1,0 +1,200 @@
+#include <command-runner/CommandLineService.h>
+
+#include <Dispatch/DispatchQueue.h>
+#include <Foundation/ProcessChain.h>
+#include <Foundation/ProcessError.h>
+#include <Foundation/RegularExpression.h>
+#include <Foundation/UnicodeText.h>
+#include <command-runner/CompletionError.h>
+#include <logger/Logger.h>
+
+#include "RawCommand.h"
+
+#include <memory>
+#include <string_view>
+#include <utility>
+
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+
+namespace velmar::CommandLineService {
+
+namespace {
+
+// More than any path.
+constexpr std::size_t maximumPath = 64 * 1024;
+
+// The text of an output, or NilString.
+Result<std::string> textOf(ProcessOutput output, const Process &process) {
+    std::string_view bytes = output.bytes;
+    if (output.isCut) {
+        Logger::warning([&] {
+            return fmt::format("The output of the process `{}` was cut at {} MiB", process.description(),
+                               maximumOutput >> 20);
+        });
+        // The cut may go through a character, of four bytes at most.
+        for (int count = 0; count < 3 && !UnicodeText::isValidUtf8(bytes); ++count)
+            bytes.remove_suffix(1);
+    }
+    if (!UnicodeText::isValidUtf8(bytes))
+        return failure(CompletionError(CompletionError::NilString{}));
+    const std::string_view text = UnicodeText::trimmed(bytes);
+    const auto start = static_cast<std::size_t>(text.data() - output.bytes.data());
+    output.bytes.resize(start + text.size());
+    output.bytes.erase(0, start);
+    return std::move(output.bytes);
+}
+
+// The processes of one call, from the look-up of their names to the completion. It lives in the functions
+// that wait for its next step.
+class Execution : public std::enable_shared_from_this<Execution> {
+public:
+    Execution(std::vector<Process> processes, Completion completion)
+        : processes_(std::move(processes)), completion_(std::move(completion)) {}
+
+    // Looks up the bare names from this process on, one after the other, then launches.
+    void proceedFrom(std::size_t index) {
+        while (index < processes_.size() && processes_[index].executablePath.find('/') != std::string::npos)
+            ++index;
+        if (index < processes_.size())
+            lookUp(index);
+        else
+            launch();
+    }
+
+    // Takes a step for a process; false if it threw ProcessError, with which the execution has then ended.
+    template <class Step>
+    bool attempt(const Process &process, const Step &step) {
+        try {
+            step();
+            return true;
+        } catch (const ProcessError &error) {
+            fail(process, error);
+            return false;
+        }
+    }
+
+private:
+    void lookUp(std::size_t index) {
+        attempt(processes_[index], [&] {
+            ProcessChain chain;
+            chain.launch({"/usr/bin/which", {processes_[index].executablePath}});
+            chain.readOutput(maximumPath, [self = shared_from_this(), index](const ProcessOutput &output) {
+                self->resolve(index, output);
+            });
+        });
+    }
+
+    void resolve(std::size_t index, const ProcessOutput &output) {
+        Process &process = processes_[index];
+        const std::size_t start = output.bytes.find_first_not_of('\n');
+        const std::size_t last = output.bytes.find_last_not_of('\n');
+        if (start == std::string::npos) {
+            fail(process, ProcessError(ProcessError::NoSuchCommand{process.executablePath}));
+            return;
+        }
+        process.executablePath = output.bytes.substr(start, last + 1 - start);
+        // Where the search path names the current directory.
+        if (process.executablePath.find('/') == std::string::npos)
+            process.executablePath.insert(0, "./");
+        proceedFrom(index + 1);
+    }
+
+    void launch() {
+        const Process *current = nullptr;
+        try {
+            for (const Process &process : processes_) {
+                current = &process;
+                process.checkLaunchable();
+            }
+            ProcessChain chain;
+            for (const Process &process : processes_) {
+                current = &process;
+                chain.launch(process);
+            }
+            chain.readOutput(maximumOutput, [self = shared_from_this()](ProcessOutput output) {
+                self->complete(textOf(std::move(output), self->processes_.back()));
+            });
+        } catch (const ProcessError &error) {
+            fail(*current, error);
+        }
+    }
+
+    void fail(const Process &process, const ProcessError &error) {
+        Logger::error([&] {
+            return fmt::format("Error while executing the process `{}`. {}", process.description(),
+                               error.errorDescription());
+        });
+        complete(failure(error));
+    }
+
+    void complete(Result<std::string> result) {
+        if (completion_)
+            completion_(std::move(result));
+    }
+
+    std::vector<Process> processes_;
+    Completion completion_;
+};
+
+Result<RawCommand> parsed(std::string_view text) {
+    try {
+        return RawCommand(text);
+    } catch (const CompletionError &error) {
+        return failure(error);
+    } catch (const RegularExpressionError &error) {
+        return failure(error);
+    }
+}
+
+Process throughEnv(const Process &script) {
+    Process env{"/usr/bin/env", {}};
+    // It takes a path with "=" for a variable to be set.
+    if (script.executablePath.find('=') != std::string::npos)
+        env.arguments = {"/bin/sh", "-c", R"(exec "$0" "$@")"};
+    env.arguments.push_back(script.executablePath);
+    env.arguments.insert(env.arguments.end(), script.arguments.begin(), script.arguments.end());
+    return env;
+}
+
+} // namespace
+
+// All on the pool: a caller neither waits for a launch nor is called back before its call has returned.
+
+void execute(std::string rawCommand, Completion completion) {
+    DispatchQueue::global().async([text = std::move(rawCommand), completion = std::move(completion)] {
+        Result<RawCommand> command = parsed(text);
+        if (!command) {
+            if (completion)
+                completion(tl::unexpected(command.error()));
+            return;
+        }
+        if (!command->leftOut.empty()) {
+            Logger::warning([&] {
+                return fmt::format("The command `{}` is executed without `{}`: quotes enclose whole words",
+                                   text, fmt::join(command->leftOut, "` and `"));
+            });
+        }
+        std::make_shared<Execution>(std::move(command->processes), completion)->proceedFrom(0);
+    });
+}
+
+void execute(std::string command, std::vector<std::string> arguments, Completion completion) {
+    const auto execution = std::make_shared<Execution>(
+        std::vector{Process{std::move(command), std::move(arguments)}}, std::move(completion));
+    DispatchQueue::global().async([execution] { execution->proceedFrom(0); });
+}
+
+void executeScript(std::string path, std::vector<std::string> arguments, Completion completion) {
+    // Neither searched for nor an option of the program that runs it.
+    if (!path.starts_with('/'))
+        path.insert(0, "./");
+    DispatchQueue::global().async(
+        [script = Process{std::move(path), std::move(arguments)}, completion = std::move(completion)] {
+            const auto execution = std::make_shared<Execution>(std::vector{throughEnv(script)}, completion);
+            if (execution->attempt(script, [&] { script.checkLaunchable(); }))
+                execution->proceedFrom(0);
+        });
+}
+
+} // namespace velmar::CommandLineService

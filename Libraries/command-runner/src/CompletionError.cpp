@@ -1,0 +1,13 @@
+#include <command-runner/CompletionError.h>
+
+namespace velmar {
+
+std::string CompletionFailure::NoProcessesBuiltFromRawCommand::errorDescription() const {
+    return "No processes could be built from the command '" + command + "'.";
+}
+
+std::string CompletionFailure::NilString::errorDescription() const {
+    return "The output of the command is not valid UTF-8.";
+}
+
+} // namespace velmar
