@@ -5,6 +5,7 @@
 #include <ConfigurationSchema.h>
 #include <DescriptionCommand.h>
 #include <EvalCommand.h>
+#include <RunSetCommand.h>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -23,6 +24,7 @@ ExitStatus run(std::vector<std::string> arguments, const Surroundings &surroundi
     app.require_subcommand(1);
     const CheckCommand check(app);
     const EvalCommand eval(app);
+    const RunSetCommand runSet(app);
     const DescriptionCommand schema(app, "schema", "Print the JSON Schema of a configuration", &writeSchema);
     const DescriptionCommand reference(app, "reference", "Print the keys of a configuration as Markdown",
                                        &writeReference);
@@ -35,7 +37,7 @@ ExitStatus run(std::vector<std::string> arguments, const Surroundings &surroundi
                                                                         : ExitStatus::failed;
     }
     // The parser has seen to it that there is one.
-    const Command *const commands[] = {&check, &eval, &schema, &reference};
+    const Command *const commands[] = {&check, &eval, &runSet, &schema, &reference};
     return (*std::ranges::find_if(commands, &Command::isNamed))->run(surroundings);
 }
 

@@ -5,25 +5,16 @@
 #include <EvaluationContext.h>
 #include <Explanation.h>
 #include <PrintableText.h>
+#include <VariableOption.h>
 
 #include <Foundation/LocalizedError.h>
-
-#include <CLI/CLI.hpp>
 
 namespace velmar {
 
 EvalCommand::EvalCommand(CLI::App &commandLine)
     : Command(commandLine, "eval", "Say whether a condition holds") {
     CLI::Option *expression = options().add_option("EXPRESSION", expression_, "The condition");
-    options()
-        .add_option("--var", variables_, "Give a variable a value; wins over the configuration")
-        ->type_name("NAME=VALUE")
-        ->expected(1)
-        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
-        ->allow_extra_args(false)
-        ->check([](const std::string &text) {
-            return text.find('=') == std::string::npos ? "NAME=VALUE has no '='" : std::string();
-        });
+    addVariableOption(options(), variables_);
     CLI::Option *configuration = options()
                                      .add_option("--config", configuration_,
                                                  "Take the variables and named conditions of a configuration")
@@ -56,8 +47,8 @@ ExitStatus EvalCommand::run(const Surroundings &surroundings) const {
         context = EvaluationContext(std::move(configuration));
     }
     for (const std::string &variable : variables_) {
-        const std::size_t end = variable.find('=');
-        context.set(variable.substr(0, end), variable.substr(end + 1));
+        const auto [name, value] = assignmentOf(variable);
+        context.set(std::string(name), std::string(value));
     }
     if (batch_) {
         answerBatch(surroundings.in, surroundings.out, context);

@@ -1,23 +1,23 @@
-#include <Testing/TestMainQueue.h>
+#include <Dispatch/MainThreadQueue.h>
 
 #include <utility>
 
 namespace velmar {
 
-void TestMainQueue::async(std::function<void()> function) {
+void MainThreadQueue::async(std::function<void()> function) {
     const std::lock_guard lock(mutex_);
     functions_.push_back(std::move(function));
     posted_.notify_all();
 }
 
-std::size_t TestMainQueue::runUntilEmpty() {
+std::size_t MainThreadQueue::runUntilEmpty() {
     std::size_t count = 0;
     while (runNext(std::chrono::steady_clock::now()))
         ++count;
     return count;
 }
 
-bool TestMainQueue::runUntil(const std::function<bool()> &condition, std::chrono::milliseconds timeout) {
+bool MainThreadQueue::runUntil(const std::function<bool()> &condition, std::chrono::milliseconds timeout) {
     const auto deadline = std::chrono::steady_clock::now() + timeout;
     while (!condition()) {
         if (!runNext(deadline))
@@ -26,7 +26,7 @@ bool TestMainQueue::runUntil(const std::function<bool()> &condition, std::chrono
     return true;
 }
 
-bool TestMainQueue::runNext(std::chrono::steady_clock::time_point deadline) {
+bool MainThreadQueue::runNext(std::chrono::steady_clock::time_point deadline) {
     std::function<void()> next;
     {
         std::unique_lock lock(mutex_);

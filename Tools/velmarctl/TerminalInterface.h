@@ -1,0 +1,72 @@
+#pragma once
+
+#include <Interaction/AlertPresenter.h>
+#include <Interaction/SimplePasteboard.h>
+#include <Interaction/SoundPlayer.h>
+#include <Managers/SlidesActionManager.h>
+
+#include <Dispatch/MainQueue.h>
+
+#include <functional>
+#include <istream>
+#include <string>
+
+namespace velmar {
+
+/// Where a line about what an action does goes. Any thread.
+using SayLine = std::function<void(const std::string &line)>;
+
+/// Puts alerts to whoever sits at the terminal: a line of the input is the number of a button, counted from
+/// 1; anything else, the end of the input included, stands for the first button.
+class TerminalAlertPresenter final : public AlertPresenter {
+public:
+    /// The queue and the input must outlive the presenter.
+    TerminalAlertPresenter(MainQueue &mainQueue, std::istream &in, SayLine say);
+
+    /// Any file that can be read.
+    [[nodiscard]] std::shared_ptr<const AlertIcon> icon(const std::string &path) const override;
+    void present(Alert alert, Completion completion) override;
+    std::size_t runModal(const Alert &alert) override;
+
+private:
+    MainQueue &mainQueue_;
+    std::istream &in_;
+    SayLine say_;
+};
+
+/// Says what would be copied.
+class TerminalPasteboard final : public SimplePasteboard {
+public:
+    explicit TerminalPasteboard(SayLine say) : say_(std::move(say)) {}
+    [[nodiscard]] bool setString(const std::string &text) override;
+
+private:
+    SayLine say_;
+};
+
+/// Says what would be played. Files are looked for, names are all taken as known.
+class TerminalSoundPlayer final : public SoundPlayer {
+public:
+    /// The queue must outlive the player.
+    TerminalSoundPlayer(MainQueue &mainQueue, SayLine say) : mainQueue_(mainQueue), say_(std::move(say)) {}
+    [[nodiscard]] std::optional<Sound> soundNamed(const std::string &name) const override;
+    [[nodiscard]] std::optional<Sound> soundAt(const std::string &fileURLOrPath) const override;
+    void play(const Sound &sound, Completion completion) override;
+
+private:
+    MainQueue &mainQueue_;
+    SayLine say_;
+};
+
+/// Says which slide would be shown.
+class TerminalSlides final : public SlideNavigationObserver {
+public:
+    explicit TerminalSlides(SayLine say) : say_(std::move(say)) {}
+    void navigateToIndex(std::int64_t index) override;
+    void navigateByOffset(std::int64_t offset) override;
+
+private:
+    SayLine say_;
+};
+
+} // namespace velmar
