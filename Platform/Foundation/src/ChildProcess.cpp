@@ -99,6 +99,18 @@ std::optional<DescriptorWatch> watchedEnd(pid_t id, const std::string &path) {
     throw ProcessError(ProcessError::NotLaunched{path, errno});
 }
 
+void reapWhenEnded(const DescriptorWatch &end, std::function<void()> function) {
+    end.whenReadable([end, told = std::move(function)]() mutable {
+        siginfo_t status{};
+        // No process: it is still running, and the call came too early.
+        if (waitid(P_PIDFD, static_cast<id_t>(end.number()), &status, WEXITED | WNOHANG) == 0 &&
+            status.si_pid == 0)
+            reapWhenEnded(end, std::move(told));
+        else
+            told();
+    });
+}
+
 } // namespace
 
 ChildProcess::ChildProcess(const Process &process, const Descriptor &input, const Descriptor &output) {
@@ -130,11 +142,7 @@ void ChildProcess::whenEnded(std::function<void()> function) const {
         DispatchQueue::global().async(std::move(function));
         return;
     }
-    end_->whenReadable([end = *end_, told = std::move(function)] {
-        siginfo_t status{};
-        waitid(P_PIDFD, static_cast<id_t>(end.number()), &status, WEXITED | WNOHANG);
-        told();
-    });
+    reapWhenEnded(*end_, std::move(function));
 }
 
 } // namespace velmar

@@ -19,8 +19,8 @@ public:
 
     /// Runs the function once on a thread of the pool, when there is something to read or nothing will come
     /// any more; for a process, when it has ended. Never at once, and at no time after
-    /// DispatchQueue::shutdown. The next call comes after this function has begun. The watch lives until
-    /// then; what the function throws is reported.
+    /// DispatchQueue::shutdown; seldom too early, so that whoever finds nothing asks again. The next call
+    /// comes after this function has begun. The watch lives until then; what the function throws is reported.
     void whenReadable(std::function<void()> function) const;
 
 private:
