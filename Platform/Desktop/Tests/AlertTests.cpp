@@ -2,12 +2,20 @@
 
 #include <Desktop/DesktopAlertPresenter.h>
 
+#include <Dispatch/UncaughtHandler.h>
+#include <Testing/TemporaryDirectory.h>
+
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QTimer>
 
+#include <algorithm>
 #include <functional>
+#include <stdexcept>
+
+#include <sys/stat.h>
 
 namespace velmar {
 namespace {
@@ -71,6 +79,92 @@ TEST_F(Alerts, GiveTheButtonTheFirstForReturnAndTheLastForClosing) {
     for (const auto &[user, expected] : cases) {
         EXPECT_EQ(answer(question, user), expected);
     }
+}
+
+TEST_F(Alerts, TakeCancelForClosingWhereverItStands) {
+    const auto close = [](QWidget &dialog) { dialog.close(); };
+    const std::pair<std::vector<std::string>, std::size_t> cases[] = {
+        {{"Cancel", "Erase"}, 0}, {{"Yes", "No", "Cancel"}, 2}, {{"Yes", "No"}, 1}, {{}, 0}};
+    for (const auto &[buttons, expected] : cases) {
+        EXPECT_EQ(answer({.messageText = "?", .informativeText = {}, .buttons = buttons}, close), expected);
+    }
+}
+
+TEST_F(Alerts, ArePresentedOneAfterAnotherAndAnsweredFromTheLoop) {
+    DesktopAlertPresenter presenter;
+    std::vector<std::pair<int, std::size_t>> answers;
+    QWidget window;
+    window.show();
+    QApplication::setActiveWindow(&window);
+    for (int number = 0; number < 3; ++number) {
+        presenter.present(question, [&, number](std::size_t button) {
+            answers.emplace_back(number, button);
+            throw std::runtime_error("which the next one doesn't mind");
+        });
+    }
+    setUncaughtHandler([](std::string_view, const std::exception_ptr &) {});
+    for (const char *text : {"No", "Save && Quit", "Yes"}) {
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        EXPECT_EQ(std::count_if(windows.begin(), windows.end(),
+                                [](QWidget *each) { return each->isModal() && each->isVisible(); }),
+                  1);
+        const std::size_t before = answers.size();
+        button(*QApplication::activeModalWidget(), text).click();
+        EXPECT_EQ(answers.size(), before) << "not within the click";
+        QCoreApplication::processEvents();
+    }
+    setUncaughtHandler({});
+    EXPECT_EQ(answers, (std::vector<std::pair<int, std::size_t>>{{0, 2}, {1, 1}, {2, 0}}));
+}
+
+TEST_F(Alerts, AreDismissedWithTheWindowBelow) {
+    DesktopAlertPresenter presenter;
+    auto window = std::make_unique<QWidget>();
+    window->show();
+    QApplication::setActiveWindow(window.get());
+    std::vector<std::size_t> answers;
+    const auto note = [&](std::size_t button) { answers.push_back(button); };
+    presenter.present(question, note);
+    presenter.present(question, note);
+    window.reset();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(answers, (std::vector<std::size_t>{2}));
+    // The second is there now, and goes unanswered with the presenter; one that is asked for at once is
+    // above.
+    EXPECT_EQ(answer(question, [](QWidget &dialog) { button(dialog, "Yes").click(); }), 0U);
+    EXPECT_NE(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(Alerts, FitTheScreenWhateverTheySay) {
+    std::string text;
+    for (int i = 0; i < 5000; ++i) {
+        text += "word" + std::string(i % 500, 'x') + " \xf0\x9f\x8c\x8d";
+    }
+    const std::vector<std::string> buttons(30, text.substr(0, 1000));
+    answer({.messageText = text, .informativeText = text, .buttons = buttons}, [](QWidget &dialog) {
+        EXPECT_LE(dialog.height(), dialog.screen()->availableGeometry().height());
+        EXPECT_LE(dialog.width(), 560);
+        dialog.close();
+    });
+}
+
+TEST_F(Alerts, ReadIconsOfFilesThatHoldAPicture) {
+    const TemporaryDirectory directory;
+    const std::string large = directory.path("icon.dat"), pipe = directory.path("pipe.png");
+    QImage(2000, 10, QImage::Format_RGB32).save(QString::fromStdString(large), "PNG");
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    const DesktopAlertPresenter presenter;
+    EXPECT_NE(presenter.icon(large), nullptr);
+    for (const std::string &none :
+         {directory.write("text.png", "no picture"), directory.write("empty.png", ""), directory.path(),
+          directory.path("missing"), pipe, std::string()}) {
+        EXPECT_EQ(presenter.icon(none), nullptr) << none;
+    }
+    answer({.messageText = "", .informativeText = {}, .buttons = {}, .icon = presenter.icon(large)},
+           [](QWidget &dialog) {
+               EXPECT_FALSE(dialog.grab().isNull());
+               dialog.close();
+           });
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
@@ -29,7 +30,7 @@ constexpr int paragraphGap = 8;
 constexpr int buttonGap = 4;  // Beyond the room that each button keeps for the ring of its focus.
 constexpr int ringRoom = 4;   // That room.
 constexpr int frameRoom = 96; // Around the window, for its title bar and for what the desktop shows.
-constexpr int smallestTextRoom = 96;
+constexpr int smallestScreen = 600;
 constexpr double messageScale = 15.0 / 14; // The body's size, from that of controls.
 
 // Characters; nobody reads further, and the laying out of a text takes its time.
@@ -82,8 +83,8 @@ QLabel *paragraph(const std::string &content, bool isMessage, QWidget *parent) {
     return label;
 }
 
-/// The column, of the given width, as high as it is or else scrolling in the given height.
-QScrollArea *scrolling(QWidget *column, int width, int largestHeight, QWidget *parent) {
+/// The column as it is, or else scrolling in the given height.
+QScrollArea *scrolling(QWidget *column, int largestHeight, QWidget *parent) {
     auto *area = new QScrollArea(parent);
     area->setFrameShape(QFrame::NoFrame);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -91,8 +92,8 @@ QScrollArea *scrolling(QWidget *column, int width, int largestHeight, QWidget *p
     column->setAutoFillBackground(false);
     area->viewport()->setAutoFillBackground(false);
     const int bar = column->height() > largestHeight ? area->verticalScrollBar()->sizeHint().width() : 0;
-    area->setFocusPolicy(bar > 0 ? Qt::TabFocus : Qt::NoFocus);
-    area->setFixedSize(width + bar, std::min(column->height(), largestHeight));
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setFixedSize(column->width() + bar, std::min(column->height(), largestHeight));
     return area;
 }
 
@@ -108,15 +109,20 @@ AlertDialog::AlertDialog(const Alert &alert, QWidget *parent)
         buttons_ = {"OK"};
     }
 
+    QWidget *textColumn = makeTexts(alert);
+    QWidget *buttonColumn = makeButtons();
     const QScreen *screen = parent != nullptr ? parent->screen() : QGuiApplication::primaryScreen();
-    const int room = (screen == nullptr ? 800 : screen->availableGeometry().height()) - frameRoom;
-    QWidget *buttons = buttonArea(room / 2);
-    QWidget *texts = textArea(alert, std::max(smallestTextRoom, room - buttons->height() - 3 * outerMargin));
+    const int room = (screen == nullptr ? smallestScreen : screen->availableGeometry().height()) - frameRoom -
+                     3 * outerMargin;
+    // Either may have what the other leaves of its half.
+    const int half = room / 2;
+    texts_ = scrolling(textColumn, std::max(half, room - buttonColumn->height()), this);
+    QScrollArea *buttons = scrolling(buttonColumn, std::max(half, room - textColumn->height()), this);
 
     auto *top = new QHBoxLayout;
     top->setSpacing(signGap);
     top->addWidget(new AlertSign(alert.style, alert.icon, this), 0, Qt::AlignTop);
-    top->addWidget(texts, 1, Qt::AlignVCenter);
+    top->addWidget(texts_, 1, Qt::AlignVCenter);
     top->setContentsMargins(ringRoom, ringRoom, ringRoom, 0);
 
     // The buttons reach further out, by the room for their rings.
@@ -129,22 +135,24 @@ AlertDialog::AlertDialog(const Alert &alert, QWidget *parent)
     layout->addWidget(buttons, 0, Qt::AlignRight);
 }
 
-QWidget *AlertDialog::textArea(const Alert &alert, int largestHeight) {
+QWidget *AlertDialog::makeTexts(const Alert &alert) {
     auto *column = new QWidget(this);
     auto *layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(paragraphGap);
     layout->setSizeConstraint(QLayout::SetFixedSize);
-    layout->addWidget(paragraph(alert.messageText, true, column));
+    if (!alert.messageText.empty()) {
+        layout->addWidget(paragraph(alert.messageText, true, column));
+    }
     if (!alert.informativeText.empty()) {
         layout->addWidget(paragraph(alert.informativeText, false, column));
     }
     column->setFixedWidth(textWidth);
-    column->setFixedHeight(layout->heightForWidth(textWidth));
-    return scrolling(column, textWidth, largestHeight, this);
+    column->setFixedHeight(std::max(layout->heightForWidth(textWidth), 0));
+    return column;
 }
 
-QWidget *AlertDialog::buttonArea(int largestHeight) {
+QWidget *AlertDialog::makeButtons() {
     auto *column = new QWidget(this);
     std::vector<QPushButton *> buttons;
     int rowWidth = 0;
@@ -173,7 +181,7 @@ QWidget *AlertDialog::buttonArea(int largestHeight) {
     }
     buttons.front()->setFocus();
     column->setFixedSize(width, layout->sizeHint().height());
-    return scrolling(column, width, largestHeight, this);
+    return column;
 }
 
 std::size_t AlertDialog::answer() const {
@@ -183,6 +191,17 @@ std::size_t AlertDialog::answer() const {
     const auto cancel = std::find(buttons_.begin(), buttons_.end(), "Cancel");
     const auto last = buttons_.end() - 1;
     return static_cast<std::size_t>((cancel == buttons_.end() ? last : cancel) - buttons_.begin());
+}
+
+void AlertDialog::keyPressEvent(QKeyEvent *event) {
+    // The keys that the buttons have no use for.
+    if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown) {
+        texts_->verticalScrollBar()->triggerAction(event->key() == Qt::Key_PageUp
+                                                       ? QAbstractSlider::SliderPageStepSub
+                                                       : QAbstractSlider::SliderPageStepAdd);
+    } else {
+        QDialog::keyPressEvent(event);
+    }
 }
 
 void AlertDialog::place() {

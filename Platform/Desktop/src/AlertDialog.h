@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+class QScrollArea;
+
 namespace velmar {
 
 struct Alert;
@@ -24,11 +26,15 @@ public:
     /// In the middle of the screen, where there is no window to stand above.
     void place();
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
-    QWidget *textArea(const Alert &alert, int largestHeight);
-    QWidget *buttonArea(int largestHeight);
+    QWidget *makeTexts(const Alert &alert);
+    QWidget *makeButtons();
 
     std::vector<std::string> buttons_;
+    QScrollArea *texts_ = nullptr;
 };
 
 } // namespace velmar

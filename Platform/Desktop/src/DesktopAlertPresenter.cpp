@@ -49,8 +49,9 @@ private:
         completion_ = std::move(completion);
         dialog_ = new AlertDialog(alert, QApplication::activeWindow());
         connect(dialog_, &QDialog::finished, this, [this] {
-            answered(dialog_->answer());
+            dialog_->disconnect(this);
             dialog_->deleteLater();
+            answered(dialog_->answer());
         });
         // A window that goes takes the alerts above it along.
         connect(dialog_, &QObject::destroyed, this,

@@ -10,7 +10,7 @@ public:
     virtual ~SimplePasteboard() = default;
 
     /// Puts a text there, in place of what was there before. False, and nothing is changed, if it is not
-    /// UTF-8 or the desktop refuses it. How long it stays after the program's end is up to the desktop.
+    /// UTF-8. How long it stays after the program's end is up to the desktop.
     [[nodiscard]] virtual bool setString(const std::string &text) = 0;
 };
 

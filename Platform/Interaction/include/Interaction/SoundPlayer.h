@@ -8,7 +8,7 @@ namespace velmar {
 
 /// A sound that was found and looks like one.
 struct Sound {
-    std::string path; ///< Absolute, of a file.
+    std::string path; ///< Absolute, of a file; empty for one that the user's theme turns off.
     bool operator==(const Sound &) const = default;
 };
 
@@ -33,7 +33,7 @@ public:
     [[nodiscard]] virtual std::optional<Sound> soundAt(const std::string &fileURLOrPath) const = 0;
 
     /// Begins to play and returns at once. The completion is called once, on the main thread, unless the
-    /// application ends before.
+    /// application ends before. A sound that is turned off has finished at once.
     virtual void play(const Sound &sound, Completion completion) = 0;
 };
 
