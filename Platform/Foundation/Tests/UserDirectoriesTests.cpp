@@ -18,14 +18,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The variables of settings, as they were again afterwards; those of data are not set.
+// Afterwards none of the variables but HOME is set.
 class UserDirectoriesTest : public testing::Test {
 protected:
     void TearDown() override {
-        set("XDG_CONFIG_HOME", configuration_.empty() ? nullptr : configuration_.c_str());
-        set("HOME", home_.empty() ? nullptr : home_.c_str());
-        set("XDG_DATA_HOME", nullptr);
-        set("XDG_DATA_DIRS", nullptr);
+        with(nullptr, home_.c_str());
+        dataWith(nullptr, nullptr);
     }
 
     static std::string with(const char *configuration, const char *home) {
@@ -50,13 +48,8 @@ private:
     static void set(const char *name, const char *value) {
         value != nullptr ? setenv(name, value, 1) : unsetenv(name);
     }
-    static std::string value(const char *name) {
-        const char *text = std::getenv(name);
-        return text != nullptr ? text : "";
-    }
 
-    const std::string configuration_ = value("XDG_CONFIG_HOME");
-    const std::string home_ = value("HOME");
+    const std::string home_ = std::getenv("HOME") != nullptr ? std::getenv("HOME") : "";
 };
 
 TEST_F(UserDirectoriesTest, TakesTheFirstAbsolutePath) {

@@ -42,9 +42,7 @@ using namespace std::string_literals;
 
 TEST(PropertyListBinary, ReadsEveryFormOfAValue) {
     const std::pair<std::string, PropertyList> cases[] = {
-        {"\x08"s, false},
         {"\x10\xFF"s, 255},
-        {"\x11\x80\x00"s, 32768},
         {"\x12\xFF\xFF\xFF\xFF"s, std::int64_t{4294967295}},
         {"\x13"s + number(~std::uint64_t{0}, 8), -1},
         {"\x14"s + number(0, 8) + number(~std::uint64_t{0}, 8), ~std::uint64_t{0}},
@@ -53,12 +51,8 @@ TEST(PropertyListBinary, ReadsEveryFormOfAValue) {
         {"\x23"s + number(0xBFF8000000000000, 8), -1.5},
         {"\x33"s + number(0x3FF8000000000000, 8), PropertyList::Date{1.5}},
         {"\x42\x01\x02"s, PropertyList::Data{{std::byte{1}, std::byte{2}}}},
-        {"\x52hi"s, "hi"},
         {"\x5F\x13"s + number(2, 8) + "hi", "hi"},
-        {"\x50"s, ""},
         {"\x63\x20\xAC\xD8\x3D\xDE\x00"s, "€\U0001F600"},
-        {"\xA0"s, PropertyList::Array{}},
-        {"\xD0"s, PropertyList()},
     };
     for (const auto &[object, value] : cases) {
         const std::string file = fileOf({object});
@@ -71,27 +65,22 @@ TEST(PropertyListBinary, RefusesDamage) {
     const std::pair<std::string, std::string> cases[] = {
         {fileOf({"\x00"s}), "null and fill"},
         {fileOf({"\x15"s + number(0, 32)}), "an integer is not valid"},
-        {fileOf({"\x13\x00"s}), "an integer is not valid"},
         {fileOf({"\x14"s + number(1, 8) + number(0, 8)}), "between -2^63"},
         {fileOf({"\x21\x00\x00"s}), "a real number is not valid"},
         {fileOf({"\x32"s + number(0, 4)}), "a date is not valid"},
         {fileOf({"\x33"s + number(0x7FF8000000000000, 8)}), "a date is not valid"},
         {fileOf({"\x80\x01"s}), "type 0x8 are not supported"},
         {fileOf({"\x52h"s}), "outside of the file"},
-        {fileOf({"\x5F"s}), "outside of the file"},
         {fileOf({"\x5F\x22"s}), "count of an object"},
         {fileOf({"\x5F\x14"s + number(2, 16)}), "count of an object"},
         {fileOf({"\x5F\x13"s + number(~std::uint64_t{0}, 8)}), "outside of the file"},
-        {fileOf({"\xDF\x13"s + number(std::uint64_t{1} << 63, 8)}), "outside of the file"},
         {fileOf({"\x51\x80"s}), "an ASCII string has other"},
         {fileOf({"\x61\xD8\x00"s}), "half of a surrogate"},
-        {fileOf({"\x61\xDC\x00"s}), "half of a surrogate"},
         {fileOf({"\x62\xD8\x00\x00\x41"s}), "half of a surrogate"},
         {fileOf({"\xA1\x01"s}), "a reference leads to no object"},
         {fileOf({"\xA1\x00"s}), "a value contains itself"},
         {fileOf({"\xA1\x01"s, "\xD1\x02\x00"s, "\x51k"s}), "a value contains itself"},
         {fileOf({"\xD1\x01\x01"s, "\x10\x01"s}), "a key is not a string"},
-        {fileOf({"\x09"s}, number(7, 2)), "an object is outside"},
         {fileOf({"\x09"s}, number(9, 2)), "an object is outside"},
         {"bplist01" + fileOf({"\x09"s}).substr(8), "version of the binary form"},
         {"bplist00", "ends too early"},
@@ -168,18 +157,17 @@ static std::size_t memoryPeak() {
 TEST(PropertyListBinary, RefusesSharedValuesThatExpandToGigabytes) {
     std::vector<std::string> arrays; // Ten references each to the next: 10^9 texts.
     std::vector<std::string> dictionaries;
-    std::vector<std::string> texts = {"\xAF\x11"s + number(4000, 2) + std::string(4000, '\1'),
-                                      "\x5F\x11"s + number(50000, 2) + std::string(50000, 'x')};
     for (int level = 1; level <= 9; ++level) {
         arrays.push_back("\xAA"s + std::string(10, static_cast<char>(level)));
         dictionaries.push_back("\xDA"s + std::string(10, '\xA') + std::string(10, static_cast<char>(level)));
     }
     arrays.push_back("\x54text");
-    dictionaries.push_back("\xA0"s);
-    dictionaries.push_back("\x51k");
+    dictionaries.insert(dictionaries.end(), {"\xA0"s, "\x51k"s});
     expectRefusal(arrays, "more than 1000000 values");
     expectRefusal(dictionaries, "more than 1000000 values");
-    expectRefusal(texts, "expand to more than is allowed");
+    expectRefusal({"\xAF\x11"s + number(4000, 2) + std::string(4000, '\1'),
+                   "\x5F\x11"s + number(50000, 2) + std::string(50000, 'x')},
+                  "expand to more than is allowed");
     EXPECT_LT(memoryPeak(), 200'000'000U);
 }
 
@@ -243,12 +231,4 @@ TEST(PropertyListBinary, NotesKeysGivenTwice) {
     EXPECT_EQ(document.form, PropertyList::Document::Form::Binary);
     EXPECT_EQ(document.lineOf(document.value.offset()), 0U);
     EXPECT_EQ(*document.value.dictionary()->find("r")->dictionary()->find("k"), PropertyList(false));
-}
-
-TEST(PropertyListBinary, WritesEqualTextsAndNumbersOnce) {
-    PropertyList::Array array;
-    for (int count = 0; count < 100; ++count) {
-        array.push_back(PropertyList::Array{"a text that is written once", 12345678, 0.5});
-    }
-    EXPECT_LT(bytesOf(array).size(), 1200U);
 }

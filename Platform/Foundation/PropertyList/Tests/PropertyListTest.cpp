@@ -42,9 +42,6 @@ TEST(PropertyList, TakesAPartOfItselfAsItsValue) {
     PropertyList value(PropertyList::Array{PropertyList("a text longer than what is kept in place")});
     value = std::move(value.array()->front());
     EXPECT_EQ(value, PropertyList("a text longer than what is kept in place"));
-    PropertyList outer(PropertyList::Array{PropertyList("inner")});
-    outer = outer.array()->front();
-    EXPECT_EQ(outer, PropertyList("inner"));
 }
 
 TEST(PropertyListDictionary, IsEqualInAnyOrderAndSetsInPlace) {
