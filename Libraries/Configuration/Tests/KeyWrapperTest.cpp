@@ -2,11 +2,10 @@
 
 #include <Configuration/ItemCoding.h>
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 using namespace velmar;
-using testing::HasSubstr;
+using namespace std::string_literals;
 using velmar::test::fileWith;
 
 namespace {
@@ -35,22 +34,9 @@ struct RuleItem {
     KeyWrapper<bool> _other{false, "Other", optional};
 };
 
-struct EmptyListsItem {
-    static constexpr std::string_view typeName = "EmptyListsItem";
-
-    KeyWrapper<bool> _ifAllOfNone{false, "IfAllOfNone", requiredIfSpecified({})};
-    KeyWrapper<bool> _ifSomeOfNoneIsMissing{false, "IfSomeOfNoneIsMissing", requiredIfNotSpecified({})};
-};
-
-struct MisdeclaredItem {
-    static constexpr std::string_view typeName = "MisdeclaredItem";
-
-    KeyWrapper<bool> _a{false, "A", exclude({"Nowhere"})};
-};
-
 template <class Item>
-Item decodeAt(const PropertyList &value, DecodingNotes *notes = nullptr) {
-    DecodingContext context(notes);
+Item decodeAt(const PropertyList &value) {
+    DecodingContext context;
     const CodingPath root;
     const CodingPath path(root, "Item");
     return Decodable<Item>::decode({value, path, context});
@@ -73,38 +59,36 @@ struct Row {
 
 TEST(KeyWrapper, DecodesOrFailsWithItsText) {
     const std::vector<Row> rows = {
-        {"<key>Name</key><string>x</string>", "decoded"},
-        {"", "Missing required key 'Name' at 'Item'"},
-        {"<key>Name</key><integer>5</integer>",
-         "Decoding error at 'Item.Name'. The value is the integer 5.\nExpected type: string."},
-        {"<key>Name</key><string/><key>Count</key><integer>1</integer>", "decoded"},
-        {"<key>Name</key><string/><key>Count</key><integer>10</integer>", "decoded"},
-        {"<key>Name</key><string/><key>Count</key><real>7.0</real>", "decoded"},
-        {"<key>Name</key><string/><key>Count</key><integer>11</integer>",
+        {"<key>Count</key><integer>1</integer>", "decoded"},
+        {"<key>Count</key><integer>10</integer>", "decoded"},
+        {"<key>Count</key><real>7.0</real>", "decoded"},
+        {"<key>Count</key><integer>11</integer>",
          "Wrong value 11.0 in allowed range 1.0...10.0 at Item.Count"},
-        {"<key>Name</key><string/><key>Count</key><real>1.5</real>",
+        {"<key>Count</key><real>1.5</real>",
          "Decoding error at 'Item.Count'. The value is the real 1.5.\nExpected type: integer (number)."},
-        {"<key>Name</key><string/><key>Count</key><integer>18446744073709551615</integer>",
+        {"<key>Count</key><integer>18446744073709551615</integer>",
          "Decoding error at 'Item.Count'. The value 18446744073709551615 is too large.\nExpected type: "
          "integer "
          "(number)."},
-        {"<key>Name</key><string/><key>Share</key><integer>1</integer>", "decoded"},
-        {"<key>Name</key><string/><key>Share</key><real>1.01</real>",
-         "Wrong value 1.01 in allowed range 0.0...1.0 at Item.Share"},
-        {"<key>Name</key><string/><key>Share</key><real>nan</real>",
-         "Wrong value for key 'Share' when decoding at 'Item.Share'"},
-        {"<key>Name</key><string/><key>Flag</key><integer>1</integer>",
+        {"<key>Share</key><integer>1</integer>", "decoded"},
+        {"<key>Share</key><real>1.01</real>", "Wrong value 1.01 in allowed range 0.0...1.0 at Item.Share"},
+        {"<key>Share</key><real>nan</real>", "Wrong value for key 'Share' when decoding at 'Item.Share'"},
+        {"<key>Flag</key><integer>1</integer>",
          "Decoding error at 'Item.Flag'. The value is the integer 1.\nExpected type: boolean."},
-        {"<key>Name</key><string/><key>List</key><array><string>a</string><integer>1</integer></array>",
+        {"<key>List</key><array><string>a</string><integer>1</integer></array>",
          "Unable to decode or encode the array as [Int], [Real], or [String] at Item.List"},
-        {"<key>Name</key><string/><key>List</key><string>a</string>",
+        {"<key>List</key><string>a</string>",
          "Unable to decode or encode the array as [Int], [Real], or [String] at Item.List"},
-        {"<key>Name</key><string/><key>Texts</key><dict><key>k</key><true/></dict>",
+        {"<key>Texts</key><dict><key>k</key><true/></dict>",
          "Decoding error at 'Item.Texts.k'. The value is a boolean.\nExpected type: string."},
     };
     for (const Row &row : rows) {
-        EXPECT_EQ(outcome<TestItem>(fileWith(row.content)), row.outcome) << row.content;
+        EXPECT_EQ(outcome<TestItem>(fileWith("<key>Name</key><string/>"s + row.content)), row.outcome)
+            << row.content;
     }
+    EXPECT_EQ(outcome<TestItem>(fileWith("")), "Missing required key 'Name' at 'Item'");
+    EXPECT_EQ(outcome<TestItem>(fileWith("<key>Name</key><integer>5</integer>")),
+              "Decoding error at 'Item.Name'. The value is the integer 5.\nExpected type: string.");
     EXPECT_EQ(
         outcome<TestItem>(PropertyList("text")),
         "Decoding error at 'Item'. Missing required key 'Item' or wrong value. Expected type: dictionary "
@@ -176,10 +160,6 @@ TEST(Requirement, HoldsOrFailsWithItsText) {
         }
         EXPECT_EQ(outcome<RuleItem>(fileWith(content)), expected) << content;
     }
-    EXPECT_EQ(outcome<EmptyListsItem>(fileWith("")),
-              bad + "The key 'IfAllOfNone' is required when the key(s) '[]' is/are specified.");
-    EXPECT_EQ(outcome<EmptyListsItem>(fileWith("<key>IfAllOfNone</key><true/>")), "decoded");
-    EXPECT_EQ(outcome<MisdeclaredItem>(fileWith("")), "Missing value for key Nowhere");
 }
 
 class Suffix final : public Plugin {
@@ -211,65 +191,6 @@ TEST(Plugin, FiltersTextsWhenTheyAreRead) {
             << "what is written is as it was read";
     }
     EXPECT_EQ(item._name(), "a1");
-}
-
-TEST(DecodingNotes, NameWhatIsPassedOverAndWhatFailed) {
-    const auto file = PropertyList::read(R"(<?xml version="1.0" encoding="UTF-8"?>
-<plist version="1.0">
-<dict>
-	<key>Window</key>
-	<dict>
-		<key>OnScren</key>
-		<string>Simple</string>
-		<key>OnScreen</key>
-		<string>simple</string>
-	</dict>
-	<key>Zebra</key>
-	<true/>
-</dict>
-</plist>)");
-    DecodingNotes notes;
-    EXPECT_THROW(static_cast<void>(Configuration::decode(file.value, &notes)), ConfigurationError);
-    ASSERT_TRUE(notes.failure);
-    EXPECT_EQ(notes.failure->keyPath, "Window.OnScreen");
-    EXPECT_EQ(file.lineOf(notes.failure->offset), 9U);
-    using testing::ElementsAre;
-    const auto messages = [](const DecodingNotes &of) {
-        std::vector<std::string> list;
-        std::ranges::transform(of.notes, std::back_inserter(list), &DecodingNotes::Note::message);
-        return list;
-    };
-    EXPECT_THAT(messages(notes),
-                ElementsAre("Unknown key 'Zebra'", "Unknown key 'OnScren' (did you mean 'OnScreen'?)",
-                            "'simple' differs from 'Simple' in the case of its letters only"));
-
-    const auto unknown = PropertyList::read(R"(<plist version="1.0"><dict>
-<key>Slides</key><array><dict><key>Containers</key><array><dict><key>Components</key><array>
-<dict><key>Type</key><string>Text</string><key>Txt</key><string/><key>Text</key><string/></dict>
-</array></dict></array></dict></array>
-<key>Quite different</key><true/>
-</dict></plist>)");
-    DecodingNotes silent;
-    static_cast<void>(Configuration::decode(unknown.value, &silent));
-    EXPECT_THAT(messages(silent),
-                ElementsAre("Unknown key 'Quite different'", "Unknown key 'Txt' (did you mean 'Text'?)"));
-    EXPECT_EQ(silent.notes[1].keyPath, "Slides.0.Containers.0.Components.0.Txt");
-    EXPECT_EQ(unknown.lineOf(silent.notes[1].offset), 3U);
-}
-
-TEST(DecodingNotes, LeadToTheModelThatFails) {
-    const auto file = PropertyList::read(R"(<plist version="1.0"><dict>
-<key>Slides</key><array><dict><key>Containers</key><array/></dict></array>
-<key>ColorStyles</key><dict>
-<key>A</key><dict><key>DarkMode</key><string>#000000</string><key>LightMode</key><string>#000000</string></dict>
-<key>Z</key><dict>
-<key>Style</key><string>Nope</string></dict>
-</dict></dict></plist>)");
-    DecodingNotes notes;
-    EXPECT_THROW(static_cast<void>(Configuration::decode(file.value, &notes)), ConfigurationError);
-    ASSERT_TRUE(notes.failure);
-    EXPECT_EQ(notes.failure->keyPath, "ColorStyles.Z.Style");
-    EXPECT_EQ(file.lineOf(notes.failure->offset), 6U);
 }
 
 } // namespace

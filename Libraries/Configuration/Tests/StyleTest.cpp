@@ -49,15 +49,7 @@ TEST(Styles, FailWithTheirTexts) {
     const auto color = [](std::string_view keys) {
         return fmt::format("<key>ColorStyles</key><dict><key>C</key><dict>{}</dict></dict>", keys);
     };
-    const std::string both =
-        "<key>DarkMode</key><string>#000000</string><key>LightMode</key><string>#000000</string>";
     const std::vector<std::pair<std::string, std::string>> rows = {
-        {color("<key>LightMode</key><string>#000000</string>"),
-         "Key validation error. The key DarkMode is required when one of the following keys is missing: "
-         "[\"Style\"]"},
-        {color(both + "<key>AlphaDark</key><real>1.5</real>"),
-         "Wrong value 1.5 in allowed range 0.0...1.0 at ColorStyles.C.AlphaDark"},
-        {color(both + "<key>AlphaDark</key><integer>1</integer>"), "decoded"},
         {color("<key>Style</key><string>C</string>"),
          "Error at 'ColorStyles.C.Style'. Variable 'C' ({Style = C}) used within its own initial value"},
         {color("<key>Style</key><string>Nowhere</string>"),
@@ -70,29 +62,10 @@ TEST(Styles, FailWithTheirTexts) {
         {"<key>FontStyles</key><dict><key>F</key><dict><key>Color</key><string>Nowhere</string></dict></"
          "dict>",
          "Error at 'FontStyles.F.Color'. Undefined has an undefined parent Nowhere"},
-        {"<key>Navigation</key><dict><key>NextButtonTextColor</key><true/></dict>",
-         "Decoding error at 'Navigation.NextButtonTextColor'. Missing required key 'NextButtonTextColor' or "
-         "wrong value. Expected type: string (name of a model) | dictionary (ColorItem). The value is a "
-         "boolean."},
     };
     for (const auto &[content, expected] : rows) {
         EXPECT_EQ(outcomeOf(validFileWith(content)), expected) << content;
     }
-    const auto border = [](std::string_view keys) {
-        return validFileWith(
-            fmt::format("<key>SideContainer</key><dict><key>Container</key><dict><key>Components</key>"
-                        "<array><dict><key>Type</key><string>Spacer</string><key>Border</key>"
-                        "<dict>{}</dict></dict></array></dict></dict>",
-                        keys));
-    };
-    EXPECT_EQ(outcomeOf(border("<key>Edge</key><string>Left</string>")),
-              "Decoding error at 'SideContainer.Container.Components.0.Border.Edge'. The value is "
-              "'Left'.\nExpected "
-              "type: string | Possible values: 'Top', 'Bottom'.");
-    EXPECT_EQ(
-        outcomeOf(border("<key>Edge</key><string>Top</string><key>WidthPercent</key><integer>2</integer>")),
-        "Wrong value 2.0 in allowed range 0.0...1.0 at "
-        "SideContainer.Container.Components.0.Border.WidthPercent");
 }
 
 // Grandparent, parent and child, given in an order that is none of inheritance.

@@ -158,27 +158,6 @@ TEST(Variables, AreKnownByThePlacesThatUseThem) {
     EXPECT_EQ(usedVariables(component), (VariableNames{"A", "B"}));
 }
 
-TEST(Variables, LeadTheToolToTheirFault) {
-    const std::vector<std::pair<std::string, std::string_view>> rows = {
-        {"<key>General</key><dict><key>Variables</key><dict><key>A</key><string/>\n"
-         "<key>B</key><string>${X}</string></dict></dict>",
-         "General.Variables.B"},
-        {"<key>Navigation</key><dict>\n<key>NextButtonText</key><string>${X}</string></dict>",
-         "Navigation.NextButtonText"},
-    };
-    for (const auto &[content, path] : rows) {
-        const auto file = PropertyList::read(fmt::format(
-            "<plist><dict>\n<key>Slides</key><array><dict><key>Containers</key><array/></dict></array>{}"
-            "</dict></plist>",
-            content));
-        DecodingNotes notes;
-        EXPECT_THROW(static_cast<void>(Configuration::decode(file.value, &notes)), LocalizedError);
-        ASSERT_TRUE(notes.failure);
-        EXPECT_EQ(notes.failure->keyPath, path);
-        EXPECT_EQ(file.lineOf(notes.failure->offset), 3U);
-    }
-}
-
 struct DeclaringItem {
     static constexpr std::string_view typeName = "DeclaringItem";
 
