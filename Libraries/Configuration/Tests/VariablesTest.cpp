@@ -139,25 +139,6 @@ TEST(Conditions, AreReadAndUseWhatIsDefined) {
     EXPECT_EQ(configuration->variablesRecords.records.front().condition->source(), "isLab");
 }
 
-TEST(Variables, AreKnownByThePlacesThatUseThem) {
-    const auto configuration = Configuration::decode(validFileWith(
-        text("${A} ${B}", "<key>TextFontConfiguration</key><dict><key>Name</key><string>${B}</string>"
-                          "<key>Color</key><dict><key>DarkMode</key><string>#000000</string><key>"
-                          "LightMode</key><string>#000000</string></dict></dict>") +
-        variables({"A=${B}", "B="})));
-    std::vector<std::string> uses;
-    for (const auto &record : configuration->variablesRecords.records) {
-        uses.push_back(fmt::format("{} {}", record.codingPath, fmt::join(record.variables, " ")));
-    }
-    EXPECT_THAT(uses,
-                testing::ElementsAre("General.Variables.A B", fmt::format("{} A B", pathOfText),
-                                     "SideContainer.Container.Components.0.TextFontConfiguration.Name B"));
-    const auto &component = configuration->_sideContainer()->_container()._components()[0];
-    EXPECT_EQ(std::get<ComponentItem::Text>(component.value)._text.usedVariables(),
-              (VariableNames{"A", "B"}));
-    EXPECT_EQ(usedVariables(component), (VariableNames{"A", "B"}));
-}
-
 struct DeclaringItem {
     static constexpr std::string_view typeName = "DeclaringItem";
 
