@@ -1,6 +1,4 @@
-#include <AppDelegate/ApplicationMenu.h>
 #include <AppDelegate/ServiceableAppDelegate.h>
-#include <AppDelegate/Services/AdminModeAppDelegateService.h>
 #include <AppDelegate/Services/LoginRelaunchAppDelegateService.h>
 #include <AppDelegate/Services/WindowPlacement.h>
 #include <Models/VelmarError.h>
@@ -53,24 +51,6 @@ TEST(ServiceableAppDelegate, PassesEachEventToItsServicesInTheirOrder) {
     delegate.applicationDidResignActive();
     delegate.applicationWillTerminate();
     EXPECT_EQ(delegate.calls, "1wl 2wl 1dl 2dl 1wa 2wa 1da 2da 1wr 2wr 1dr 2dr 1wt 2wt ");
-}
-
-TEST(AdminMode, LeavesTheReloadsToAdministrators) {
-    for (const bool isOn : {true, false}) {
-        MainMenu menu;
-        std::string calls;
-        menu.setItems(ApplicationMenu::items({.quit = [&] { calls += 'q'; },
-                                              .reloadInterfaceSavingVariables = [&] { calls += 's'; },
-                                              .reloadInterfaceResetingVariables = [&] { calls += 'r'; }}));
-        AdminModeAppDelegateService(menu, isOn).applicationDidFinishLaunching();
-        for (const MenuItem &item : menu.items()) {
-            for (const MenuItem &entry : item.submenu) {
-                entry.action();
-            }
-        }
-        EXPECT_EQ(calls, isOn ? "qsr" : "q");
-        EXPECT_EQ(menu.items().front().submenu.back().shortcut, (KeyShortcut{.key = 'Q', .command = true}));
-    }
 }
 
 TEST(LoginRelaunch, WritesOrRemovesTheEntryAndLogsWhatFails) {

@@ -42,38 +42,16 @@ TEST_F(ConfigurationLocatorTest, TakesTheNameFromTheOptions) {
         const char *name;
     } cases[] = {
         {{"velmar"}, "Velmar.plist"},
-        {{"velmar", "-c", "foo"}, "foo.plist"},
-        {{"velmar", "-c", "foo.plist"}, "foo.plist"},
-        {{"velmar", "-c", "foo.PLIST"}, "foo.PLIST.plist"},
-        {{"velmar", "--config", "bar"}, "bar.plist"},
-        {{"velmar", "--config", "bar", "-c", "foo"}, "foo.plist"},
         {{"velmar", "-c", "foo", "--config"}, "foo.plist"},
         {{"velmar", "-c", "foo", "-c", "bar"}, "foo.plist"},
         {{"velmar", "-c", "--config", "bar"}, "--config.plist"},
         {{"velmar", "-c=foo"}, "Velmar.plist"},
-        {{"velmar", "-c", "site/foo"}, "site/foo.plist"},
         {{"velmar", "-c", ""}, ".plist"},
     };
     for (const auto &[arguments, name] : cases) {
         EXPECT_EQ(locator(arguments).configurationName(), name)
             << fmt::format("{}", fmt::join(arguments, " "));
     }
-    EXPECT_EQ(defaults().string("configuration"), std::nullopt);
-}
-
-TEST_F(ConfigurationLocatorTest, RemembersANameOnlyWhenAskedTo) {
-    EXPECT_EQ(locator({"--save"}).configurationName(), "Velmar.plist");
-    EXPECT_EQ(defaults().string("configuration"), std::nullopt);
-
-    EXPECT_EQ(locator({"-c", "foo", "--save"}).configurationName(), "foo.plist");
-    EXPECT_EQ(defaults().string("configuration"), "foo.plist");
-    EXPECT_EQ(locator().configurationName(), "foo.plist");
-
-    EXPECT_EQ(locator({"-c", "bar"}).configurationName(), "bar.plist");
-    EXPECT_EQ(locator().configurationName(), "foo.plist");
-
-    defaults().set("configuration", "stored");
-    EXPECT_EQ(locator().configurationName(), "stored.plist");
 }
 
 TEST_F(ConfigurationLocatorTest, GoesOnWithANameThatCannotBeRemembered) {
@@ -83,35 +61,12 @@ TEST_F(ConfigurationLocatorTest, GoesOnWithANameThatCannotBeRemembered) {
     EXPECT_TRUE(log_.lines()[0].starts_with("warning: Unable to save the configuration name 'foo.plist' ["));
 }
 
-TEST_F(ConfigurationLocatorTest, SearchesTheManagedPreferencesFirst) {
-    const std::string local = directory_.write("Application Support/Velmar/a b.plist", "");
-    const std::string link = directory_.path("Managed Preferences/a b.plist");
-    EXPECT_EQ(locator().findConfigurationFile("a b.plist").path(), local);
-    EXPECT_EQ(log_.takeLines(), std::vector{"info: Found configuration file at " + local});
-    std::filesystem::create_directories(directory_.path("Managed Preferences"));
-    std::filesystem::create_symlink(directory_.path("target"), link);
-    EXPECT_EQ(locator().findConfigurationFile("a b.plist").path(), local) << "a link that leads nowhere";
-    directory_.write("target", "");
-    EXPECT_EQ(locator().findConfigurationFile("a b.plist").path(), link);
-}
-
 TEST_F(ConfigurationLocatorTest, KeepsAnAbsoluteNameBelowThePlaces) {
     const std::string outside = directory_.write("outside.plist", "");
     EXPECT_THROW(static_cast<void>(locator().findConfigurationFile(outside)), VelmarError);
     const std::string inside = directory_.write("Managed Preferences" + outside, "");
     EXPECT_EQ(std::filesystem::path(locator().findConfigurationFile(outside).path()).lexically_normal(),
               inside);
-}
-
-TEST(LaunchOptions, RefuseAnOptionWithoutItsValue) {
-    const std::pair<std::vector<std::string>, const char *> cases[] = {
-        {{"velmar", "-c"}, "The option '-c' needs a value"},
-        {{"velmar", "--save", "--config"}, "The option '--config' needs a value"},
-        {{"velmar", "--config", "foo", "-c"}, "The option '-c' needs a value"}};
-    for (const auto &row : cases) {
-        EXPECT_THAT([&row] { static_cast<void>(LaunchOptions::parse(row.first)); },
-                    testing::ThrowsMessage<MissingOptionValue>(row.second));
-    }
 }
 
 } // namespace

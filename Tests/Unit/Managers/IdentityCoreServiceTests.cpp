@@ -35,13 +35,6 @@ TEST(PosixPermissions, RefuseTheFirstPartThatIsNoOctalDigit) {
     }
 }
 
-TEST(PosixPermissions, RefuseSpecialBits) {
-    for (const unsigned int mode : {01644U, 02644U, 04644U, 07777U}) {
-        EXPECT_THROW(static_cast<void>(PosixPermissions::fromMode(mode)), PosixPermissions::PermissionError)
-            << mode;
-    }
-}
-
 TEST(Permission, IsOrderedByReadOneWriteTwoExecuteFourUnlessReplaced) {
     const Permission ascending[] = {Permission::noPermissions, Permission::read,
                                     Permission::write,         Permission::readWrite,

@@ -56,23 +56,6 @@ TEST_F(ProcessEndDeathTest, LetsQueuesEndBeforeTheLogIsWritten) {
         testing::ExitedWithCode(3), "^error: late;$");
 }
 
-TEST_F(ProcessEndDeathTest, IsBounded) {
-    EXPECT_EXIT(
-        {
-            const DispatchQueue queue("hanging");
-            std::promise<void> started;
-            queue.async([&started] {
-                started.set_value();
-                std::promise<void>().get_future().wait_for(1h);
-            });
-            started.get_future().wait();
-            const auto begin = std::chrono::steady_clock::now();
-            const bool hasEnded = settleBeforeExit();
-            std::_Exit(!hasEnded && std::chrono::steady_clock::now() - begin < 30s ? 4 : 1);
-        },
-        testing::ExitedWithCode(4), "^$");
-}
-
 // Prints what happens in which order.
 [[noreturn]] void refuse() {
     const RecordedLog log;

@@ -71,30 +71,6 @@ protected:
     std::function<void()> end;
 };
 
-TEST_F(Components, FollowTheirConditionsInOneChange) {
-    const struct {
-        bool one, two;
-        Asked asked;
-        const char *shown;
-    } rows[] = {{true, false, {"focus"}, "xx."},
-                {false, true, {"focus", "-[0] +[2]", "removal", "rebuild", "insertion"}, ".xx"},
-                {true, true, {"focus", "-[] +[2]", "rebuild", "insertion"}, "xxx"},
-                {false, false, {"focus", "-[0] +[]", "removal", "rebuild", "insertion"}, ".x."}};
-    for (const auto &row : rows) {
-        set(true, false);
-        ComponentsViewModel components = model();
-        EXPECT_EQ(shown(components), "xx.");
-        asked.clear();
-        set(row.one, row.two);
-        components.reload();
-        while (components.animationIsRunning()) {
-            endAnimation();
-        }
-        EXPECT_EQ(asked, row.asked);
-        EXPECT_EQ(shown(components), row.shown);
-    }
-}
-
 TEST_F(Components, AnswerAllRequestsOfAnAnimationByOneReloadWithTheLastValues) {
     using enum ComponentsViewModel::State;
     set(true, false);
