@@ -80,7 +80,6 @@ TEST(SlideItem, SharesItsWidth) {
     const std::string onlyTwo = error + "'IsLarge' containers option only be used with 2 containers";
     const std::vector<std::pair<std::vector<const char *>, std::string>> rows = {
         {{}, "equal"},
-        {{"-", "-", "-"}, "equal"},
         {{"L", "-"}, "0.6666666666666666 0.3333333333333333"},
         {{"-", "L"}, "0.3333333333333333 0.6666666666666666"},
         {{"l", "l"}, "0.3333333333333333 0.6666666666666666"},
@@ -89,17 +88,14 @@ TEST(SlideItem, SharesItsWidth) {
         {{"L"}, onlyTwo},
         {{"L", "0.5"}, mixed},
         {{"0.5", "-"}, "0.5 0.5"},
-        {{"0.25", "0.75"}, "0.25 0.75"},
         {{"0.5", "-", "-"}, "0.5 0.25 0.25"},
         {{"0.3", "0.3"}, error + "The sum of widths ratios should be equal to 1 (currently equal to 0.6)"},
         {{"0.7", "0.2", "0.1"},
          error + "The sum of widths ratios should be equal to 1 (currently equal to 0.9999999999999999)"},
-        {{"0.1", "0.2", "0.7"}, "0.1 0.2 0.7"},
         {{"0.6", "0.6"},
          error +
              "Widths ratios sum for containers should be lesser than or equal to 1 (currently equal to 1.2)"},
         {{"1", "-"}, atOne},
-        {{"1.5"}, "Wrong value 1.5 in allowed range 0.0...1.0 at Slides.0.Containers.0.WidthRatio"},
     };
     for (const auto &[containers, expected] : rows) {
         std::string content;

@@ -1,7 +1,6 @@
 #include <Configuration/Configuration.h>
 #include <Managers/Content.h>
 #include <Managers/ContentUpdater.h>
-#include <Managers/ObservableContent.h>
 #include <Managers/PopulatePlugin.h>
 
 #include <Support/RecordedLog.h>
@@ -178,25 +177,6 @@ TEST_F(ContentTest, LetsObserversWriteAndLeaveDuringANotice) {
     EXPECT_EQ(writer->notices, "A:->1 A:1>1+ A:1+>1++ ");
     EXPECT_THAT(leaving, testing::Each(nullptr));
     EXPECT_EQ(manager_->variables()->at("A"), "1++");
-}
-
-TEST_F(ContentTest, PassesOnOnlyWhatConcernsAnObject) {
-    class Label final : public ObservableContent {
-    public:
-        using ObservableContent::ObservableContent;
-        void concerningVariableDidChange(std::string_view name, const std::optional<std::string> &,
-                                         const std::string &) override {
-            notices += name;
-        }
-        std::string notices;
-    };
-    const auto label = std::make_shared<Label>(manager_);
-    label->contentVariables().subscribe(label);
-    label->setConcerningVariables({"A", "e\u0301"});
-    manager_->updateVariables({{"A", "1"}, {"B", "1"}, {"é", "1"}});
-    label->setConcerningVariables({"B"});
-    manager_->updateVariables({{"A", "2"}, {"B", "2"}});
-    EXPECT_EQ(label->notices, "AéB");
 }
 
 } // namespace
