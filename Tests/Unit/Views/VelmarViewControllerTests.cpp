@@ -3,6 +3,7 @@
 
 #include <Constants/NavigationNotifications.h>
 #include <Views/Content/ContentView/ContentViewController.h>
+#include <Views/Content/Slides/SlideViewController.h>
 #include <Views/Navigation/NavigationButton.h>
 #include <Views/Navigation/NavigationViewController.h>
 #include <Views/VelmarViewController.h>
@@ -13,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include <string>
+#include <vector>
 
 namespace velmar {
 namespace {
@@ -40,6 +42,7 @@ protected:
             VelmarViewController::Surroundings{queue, quits, appearance(), [](bool) {}, center}, &window);
         (new QVBoxLayout(&window))->addWidget(view.get());
         content = view->findChild<ContentViewController *>();
+        bar = view->findChild<NavigationViewController *>();
         window.resize(600, 400);
         window.show();
         window.activateWindow();
@@ -67,44 +70,44 @@ protected:
     QWidget window;
     std::unique_ptr<VelmarViewController> view;
     ContentViewController *content = nullptr;
+    NavigationViewController *bar = nullptr;
 
 private:
     std::unique_ptr<Shared<AppManager>::Scope> shared_;
 };
 
 TEST_F(VelmarView, TakesTheKeysThatScrollAndLeavesTheOthersAlone) {
-    const QScrollBar &bar = *content->findChild<QScrollArea *>()->verticalScrollBar();
-    ASSERT_GT(bar.maximum(), bar.pageStep());
+    const QScrollBar &scroller = *content->findChild<QScrollArea *>()->verticalScrollBar();
+    ASSERT_GT(scroller.maximum(), scroller.pageStep());
     for (const int key : {Qt::Key_X, Qt::Key_F10, Qt::Key_Escape}) {
         press(key);
     }
     press(Qt::Key_Return, true);
-    EXPECT_EQ(bar.value(), 0);
+    EXPECT_EQ(scroller.value(), 0);
     EXPECT_EQ(content->currentSlideIndex(), 0);
     const struct {
         Qt::Key key;
         int value;
-    } rows[] = {{Qt::Key_PageDown, bar.pageStep()},
-                {Qt::Key_Down, bar.pageStep() + bar.singleStep()},
-                {Qt::Key_Up, bar.pageStep()},
-                {Qt::Key_End, bar.maximum()},
+    } rows[] = {{Qt::Key_PageDown, scroller.pageStep()},
+                {Qt::Key_Down, scroller.pageStep() + scroller.singleStep()},
+                {Qt::Key_Up, scroller.pageStep()},
+                {Qt::Key_End, scroller.maximum()},
                 {Qt::Key_Home, 0},
                 {Qt::Key_PageUp, 0}};
     for (const auto &row : rows) {
         press(row.key);
-        EXPECT_EQ(bar.value(), row.value) << row.key;
+        EXPECT_EQ(scroller.value(), row.value) << row.key;
     }
 }
 
 TEST_F(VelmarView, GoesWithTheTabKeyFromTheSlideToTheBar) {
     auto *area = content->findChild<QScrollArea *>();
-    auto &bar = *view->findChild<NavigationViewController *>();
     press(Qt::Key_Right);
     press(Qt::Key_Left);
     area->setFocus();
     QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
     QCoreApplication::sendEvent(area, &tab);
-    EXPECT_EQ(window.focusWidget(), &bar.nextButton()) << "the other button is hidden on the first slide";
+    EXPECT_EQ(window.focusWidget(), &bar->nextButton()) << "the other button is hidden on the first slide";
     view->reloadInterfaceSavingVariables();
     settle();
     area = content->findChild<QScrollArea *>();
@@ -115,28 +118,81 @@ TEST_F(VelmarView, GoesWithTheTabKeyFromTheSlideToTheBar) {
 
 TEST_F(VelmarView, KeepsTheFocusWhereTheKeyboardCanGoOn) {
     auto *area = content->findChild<QScrollArea *>();
-    auto &bar = *view->findChild<NavigationViewController *>();
-    EXPECT_EQ(window.focusWidget(), &bar.nextButton());
+    EXPECT_EQ(window.focusWidget(), &bar->nextButton());
     area->setFocus();
     window.hide();
     window.show();
     EXPECT_EQ(window.focusWidget(), area) << "only the first show takes the focus";
     press(Qt::Key_Right);
-    EXPECT_EQ(window.focusWidget(), &bar.nextButton()) << "the slide with the focus is gone";
+    EXPECT_EQ(window.focusWidget(), &bar->nextButton()) << "the slide with the focus is gone";
     press(Qt::Key_Left);
-    bar.nextButton().setConcealed(true);
+    bar->nextButton().setConcealed(true);
     area->setFocus();
     window.resize(600, 4000);
     settle();
     EXPECT_EQ(area->focusPolicy(), Qt::NoFocus);
     EXPECT_EQ(window.focusWidget(), view.get()) << "nothing else is left to take it";
-    bar.hide();
+    bar->hide();
     view->clearFocus();
     ASSERT_EQ(window.focusWidget(), nullptr);
     center.post(NavigationNotifications::willNavigateToNextSlide);
     settle();
     EXPECT_EQ(content->currentSlideIndex(), 1);
     EXPECT_EQ(window.focusWidget(), view.get());
+}
+
+TEST_F(VelmarView, CatchesUpWhenTheUserIsFasterThanTheAnimation) {
+    appearance().setAnimated(true);
+    bar->pressNext();
+    queue.runUntilEmpty();
+    bar->pressNext();
+    queue.runUntilEmpty();
+    EXPECT_EQ(log_.lines().back(), "debug: Successfully operated the slide transition [0 -> 1]")
+        << "the first one ended when the second began";
+    EXPECT_EQ(content->currentSlideIndex(), 2);
+    window.resize(500, 400);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(shownTexts(*content), QStringList("Third")) << "a new size ends a transition";
+    bar->pressPrevious();
+    content->rebuild();
+    settle();
+    EXPECT_EQ(content->findChildren<SlideViewController *>().size(), 1) << "made when they are needed";
+    EXPECT_EQ(shownTexts(*content), QStringList("Second")) << "whatever transition was still to come";
+}
+
+TEST_F(VelmarView, TellsWhenTheAnimationOfAnEndIsOver) {
+    std::vector<std::string> reached;
+    std::vector<NotificationCenter::Token> tokens;
+    for (const auto name :
+         {NavigationNotifications::didReachFirstSlide, NavigationNotifications::didReachLastSlide}) {
+        tokens.push_back(center.addObserver(std::string(name), [&, name] { reached.emplace_back(name); }));
+    }
+    for (const int key : {Qt::Key_Right, Qt::Key_Right, Qt::Key_Left, Qt::Key_Left}) {
+        press(key);
+    }
+    EXPECT_EQ(reached,
+              (std::vector<std::string>{"didReachLastSlideNotification", "didReachFirstSlideNotification"}));
+}
+
+TEST_F(VelmarView, KeepsTheButtonsAsTheLatestArrivalLeftThemAndTakesNoPressOfOneThatIsGoing) {
+    center.post(NavigationNotifications::willNavigateToNextSlide);
+    center.post(NavigationNotifications::willNavigateToPreviousSlide);
+    settle();
+    EXPECT_TRUE(bar->previousButton().isConcealed()) << "the arrival in the middle was told late";
+    center.post(NavigationNotifications::currentSlideWantsToHideNextButton);
+    center.post(NavigationNotifications::willReachLastSlide);
+    settle();
+    EXPECT_TRUE(bar->nextButton().isConcealed()) << "no press led there";
+    center.post(NavigationNotifications::willNavigateToNextSlide);
+    settle();
+    appearance().setAnimated(true);
+    bar->pressPrevious();
+    settle();
+    ASSERT_TRUE(bar->previousButton().isVisible());
+    const std::size_t lines = log_.lines().size();
+    bar->previousButton().click();
+    settle();
+    EXPECT_EQ(log_.lines().size(), lines);
 }
 
 } // namespace

@@ -1,12 +1,10 @@
 #include "ViewTest.h"
 
-#include <Constants/NavigationNotifications.h>
-#include <Views/Content/ContentView/ContentViewController.h>
+#include <Foundation/NotificationCenter.h>
 #include <Views/Content/Slides/SlideViewController.h>
 #include <Views/CustomViews/Colors.h>
 #include <Views/CustomViews/Font.h>
 #include <Views/Navigation/NavigationButton.h>
-#include <Views/Navigation/NavigationViewController.h>
 
 #include <Support/RecordedLog.h>
 
@@ -48,11 +46,6 @@ protected:
     }
 
     NotificationCenter center;
-};
-
-class NoQuitting final : public AppTerminationManagerProtocol {
-public:
-    void tryToQuitApplication() override { ADD_FAILURE(); }
 };
 
 TEST_F(Views, ATextIsAsHighAsItsWidthAsksForAndNeverWiderThanItsPlace) {
@@ -138,86 +131,6 @@ TEST_F(Views, AFlexibleSpacerTakesWhatIsLeft) {
     const int end = bottom->mapTo(view.get(), QPoint(0, bottom->height())).y();
     EXPECT_GE(end, 400 - 24);
     EXPECT_LE(end, 400);
-}
-
-class Slides : public Views {
-protected:
-    Slides() {
-        ContentViewModel::Settings settings;
-        settings._onScreen.setOverrideValue(WindowSection::OnScreen::simple);
-        settings._onboardSlides.setOverrideValue(
-            std::vector{slide({{text("First")}}), slide({{text("Second")}}), slide({{text("Third")}})});
-        model = std::make_shared<ContentViewModel>(queue, quits, center, settings);
-        model->setupNotifications();
-        bar = std::make_unique<NavigationViewController>(
-            NavigationSection(), NavigationViewController::Surroundings{queue, center, appearance()},
-            nullptr);
-        content = std::make_unique<ContentViewController>(model, appearance(), nullptr);
-        content->resize(600, 400);
-        content->show();
-        bar->show();
-        model->setSelectedIndex(0, false);
-        settle();
-    }
-    RecordedLog log;
-    NoQuitting quits;
-    std::shared_ptr<ContentViewModel> model;
-    std::unique_ptr<NavigationViewController> bar;
-    std::unique_ptr<ContentViewController> content;
-};
-
-TEST_F(Slides, CatchUpWhenTheUserIsFasterThanTheirAnimation) {
-    appearance().setAnimated(true);
-    bar->pressNext();
-    queue.runUntilEmpty();
-    bar->pressNext();
-    queue.runUntilEmpty();
-    EXPECT_EQ(log.lines().back(), "debug: Successfully operated the slide transition [0 -> 1]")
-        << "the first one ended when the second began";
-    EXPECT_EQ(content->currentSlideIndex(), 2);
-    content->resize(500, 400);
-    EXPECT_EQ(shownTexts(*content), QStringList("Third")) << "a new size ends a transition";
-    bar->pressPrevious();
-    content->rebuild();
-    settle();
-    EXPECT_EQ(content->findChildren<SlideViewController *>().size(), 1) << "made when they are needed";
-    EXPECT_EQ(shownTexts(*content), QStringList("Second")) << "whatever transition was still to come";
-}
-
-TEST_F(Slides, TellWhenTheAnimationOfAnEndIsOver) {
-    std::vector<std::string> reached;
-    std::vector<NotificationCenter::Token> tokens;
-    for (const auto name :
-         {NavigationNotifications::didReachFirstSlide, NavigationNotifications::didReachLastSlide}) {
-        tokens.push_back(center.addObserver(std::string(name), [&, name] { reached.emplace_back(name); }));
-    }
-    model->setSelectedIndex(2, true);
-    settle();
-    model->setSelectedIndex(0, true);
-    settle();
-    EXPECT_EQ(reached,
-              (std::vector<std::string>{"didReachLastSlideNotification", "didReachFirstSlideNotification"}));
-}
-
-TEST_F(Slides, KeepTheirButtonsAsTheLatestArrivalLeftThemAndTakeNoPressOfOneThatIsGoing) {
-    model->setSelectedIndex(1, true);
-    model->setSelectedIndex(0, true);
-    settle();
-    EXPECT_TRUE(bar->previousButton().isConcealed()) << "the arrival in the middle was told late";
-    center.post(NavigationNotifications::currentSlideWantsToHideNextButton);
-    center.post(NavigationNotifications::willReachLastSlide);
-    settle();
-    EXPECT_TRUE(bar->nextButton().isConcealed()) << "no press led there";
-    model->setSelectedIndex(1, true);
-    settle();
-    appearance().setAnimated(true);
-    bar->pressPrevious();
-    settle();
-    ASSERT_TRUE(bar->previousButton().isVisible());
-    const std::size_t lines = log.lines().size();
-    bar->previousButton().click();
-    settle();
-    EXPECT_EQ(log.lines().size(), lines);
 }
 
 TEST_F(Views, AButtonShowsItsLabelCharacterForCharacterInAColourThatIsReadable) {
