@@ -6,8 +6,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <thread>
+#include <vector>
 
 namespace velmar {
 namespace {
@@ -18,11 +18,11 @@ using NamedConditions = ConditionEvaluator::NamedConditions;
 
 class EvaluatableTest : public testing::Test {
 protected:
-    void use(NamedConditions::Models conditions) {
+    void use(NamedConditions::Models conditions, std::shared_ptr<ContentManagerProtocol> content = {}) {
         scope_.emplace(std::make_shared<ConditionEvaluator>(
             Config<NamedConditions>([](const Configuration &) { return NamedConditions(); },
                                     NamedConditions(std::move(conditions))),
-            manager_));
+            content ? std::move(content) : manager_));
     }
 
     std::shared_ptr<ContentManager> manager_ = std::make_shared<ContentManager>();
@@ -76,26 +76,51 @@ TEST_F(EvaluatableTest, TellsWhatAConditionDependsOn) {
     EXPECT_THAT(involvedVariables(Expression("READY")), ElementsAre("READY"));
 }
 
-// The other thread writes first Y, then X: what the condition asks holds in every single moment, if the named
-// conditions and the variables are both of it.
-TEST_F(EvaluatableTest, SeesOneMomentWhileAnotherThreadWrites) {
-    manager_->updateVariables({{"X1", "0"}, {"Y1", "0"}});
-    use({{"EQUAL", Expression("Y1 == X1")}, {"AHEAD", Expression("Y1 > X1")}});
-    std::atomic<bool> isOver = false;
-    std::thread writer([&] {
-        for (int value = 1; value <= 20'000; ++value) {
-            manager_->updateVariable("Y1", std::to_string(value), false);
-            manager_->updateVariable("X1", std::to_string(value), false);
-        }
-        isOver = true;
-    });
-    const Expression always("EQUAL && Y1 == X1 || AHEAD && Y1 > X1");
-    int wrong = 0;
-    while (!isOver) {
-        wrong += evaluate(always) ? 0 : 1;
+// Every reading is of another moment: Y1 goes ahead of X1, which then catches up.
+class RestlessContent final : public ContentManagerProtocol {
+public:
+    explicit RestlessContent(std::shared_ptr<ContentManager> manager) : manager_(std::move(manager)) {}
+    [[nodiscard]] VariablesSnapshot variables() const override {
+        ++readings_;
+        manager_->updateVariable(readings_ % 2 == 0 ? "X1" : "Y1", std::to_string((readings_ + 1) / 2),
+                                 false);
+        return manager_->variables();
     }
-    writer.join();
-    EXPECT_EQ(wrong, 0);
+    void updateVariable(std::string_view, std::string, bool) override {}
+    void updateVariables(const std::map<std::string, std::string> &) override {}
+    void updatePlaceholder(GeneralSection::Placeholders, std::string) override {}
+    void addObserver(const UUID &, std::weak_ptr<ContentManagerObserver>) override {}
+    void removeObserver(const UUID &) override {}
+
+private:
+    std::shared_ptr<ContentManager> manager_;
+    mutable int readings_ = 0;
+};
+
+TEST_F(EvaluatableTest, ReadsConditionsAndVariablesOfOneMoment) {
+    manager_->updateVariable("X1", "0", false);
+    use({{"EQUAL", Expression("Y1 == X1")}, {"AHEAD", Expression("Y1 > X1")}},
+        std::make_shared<RestlessContent>(manager_));
+    for (int evaluation = 0; evaluation < 4; ++evaluation) {
+        EXPECT_TRUE(evaluate(Expression("EQUAL && Y1 == X1 || AHEAD && Y1 > X1")));
+    }
+}
+
+TEST_F(EvaluatableTest, IsEvaluatedByManyThreads) {
+    use({{"LARGE", Expression("COUNT > 0")}});
+    manager_->updateVariable("COUNT", "1", false);
+    std::vector<std::thread> threads;
+    for (int thread = 0; thread < 4; ++thread) {
+        threads.emplace_back([&] {
+            for (int value = 1; value <= 500; ++value) {
+                manager_->updateVariable("COUNT", std::to_string(value), false);
+                EXPECT_TRUE(evaluate(Expression("LARGE")));
+            }
+        });
+    }
+    for (auto &thread : threads) {
+        thread.join();
+    }
 }
 
 } // namespace
