@@ -137,7 +137,7 @@ TEST_F(Alerts, AreDismissedWithTheWindowBelow) {
 
 TEST_F(Alerts, FitTheScreenWhateverTheySay) {
     std::string text;
-    for (int i = 0; i < 5000; ++i) {
+    for (std::size_t i = 0; i < 5000; ++i) {
         text += "word" + std::string(i % 500, 'x') + " \xf0\x9f\x8c\x8d";
     }
     const std::vector<std::string> buttons(30, text.substr(0, 1000));

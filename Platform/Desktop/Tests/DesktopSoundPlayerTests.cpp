@@ -7,6 +7,7 @@
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QProcess>
 
 #include <vector>
 
@@ -164,7 +165,9 @@ TEST_F(DesktopSoundPlayerTest, EndsWhatPlaysWithThePlayer) {
 TEST(HeroSound, IsWhatItsScriptMakes) {
     const TemporaryDirectory directory;
     const std::string made = directory.path("Hero.wav");
-    ASSERT_EQ(std::system((VELMAR_SOURCE_DIR "/Resources/Sounds/make-hero " + made).c_str()), 0);
+    ASSERT_EQ(QProcess::execute(QStringLiteral(VELMAR_SOURCE_DIR "/Resources/Sounds/make-hero"),
+                                {QString::fromStdString(made)}),
+              0);
     const auto content = [](const std::string &path) {
         QFile file(QString::fromStdString(path));
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));

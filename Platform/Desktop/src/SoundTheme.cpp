@@ -64,12 +64,12 @@ std::optional<QString> SoundTheme::find(const QString &name) const {
     for (QString part = name; isPlainName(part);) {
         QStringList visited;
         for (const QString &theme : {theme_, commonTheme}) {
-            if (const QString path = findInTheme(part, theme, visited); !path.isEmpty()) {
+            if (QString path = findInTheme(part, theme, visited); !path.isEmpty()) {
                 return path;
             }
         }
         for (const QString &directory : directories_) {
-            if (const QString path = findInDirectory(part, directory); !path.isEmpty()) {
+            if (QString path = findInDirectory(part, directory); !path.isEmpty()) {
                 return path;
             }
         }
@@ -95,14 +95,14 @@ QString SoundTheme::findInTheme(const QString &name, const QString &theme, QStri
     }
     for (const QString &subdirectory : std::as_const(index->subdirectories)) {
         for (const QString &directory : directories_) {
-            const QString path = findInDirectory(name, directory + u'/' + theme + u'/' + subdirectory);
+            QString path = findInDirectory(name, directory + u'/' + theme + u'/' + subdirectory);
             if (!path.isEmpty()) {
                 return path;
             }
         }
     }
     for (const QString &parent : std::as_const(index->parents)) {
-        if (const QString path = findInTheme(name, parent, visited); !path.isEmpty()) {
+        if (QString path = findInTheme(name, parent, visited); !path.isEmpty()) {
             return path;
         }
     }
@@ -128,7 +128,7 @@ QString SoundTheme::ofUser() {
         const QFileInfo file(path);
         if (file.isFile() && file.size() <= largestIndex) {
             const QSettings settings(path, QSettings::IniFormat);
-            const QString theme = settings.value(QStringLiteral("Settings/gtk-sound-theme-name")).toString();
+            QString theme = settings.value(QStringLiteral("Settings/gtk-sound-theme-name")).toString();
             if (!theme.isEmpty()) {
                 return theme;
             }

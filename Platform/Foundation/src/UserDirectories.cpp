@@ -45,7 +45,7 @@ std::string variable(const char *name) {
 
 // Below the home directory, unless the variable names another place.
 std::string directory(const char *name, const std::string &belowHome) {
-    if (const std::string path = variable(name); isTrusted(path))
+    if (std::string path = variable(name); isTrusted(path))
         return path;
     if (const std::string home = variable("HOME"); isTrusted(home))
         return home + belowHome;

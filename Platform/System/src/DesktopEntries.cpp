@@ -132,10 +132,12 @@ void DesktopEntries::readDirectory(const std::string &path, const std::string &p
     try {
         for (const std::string &name : files.contentsOfDirectory(path)) {
             const std::string item = path + "/" + name;
+            std::string identifier = prefix;
+            identifier += name;
             if (name.ends_with(entrySuffix))
-                readEntry(item, prefix + name.substr(0, name.size() - entrySuffix.size()));
+                readEntry(item, identifier.substr(0, identifier.size() - entrySuffix.size()));
             else if (depth < deepestDirectory && isDirectory(item))
-                readDirectory(item, prefix + name + "-", depth + 1);
+                readDirectory(item, identifier.append("-"), depth + 1);
         }
     } catch (const FileError &) {
         // One that isn't there has no entries; nor has one that may not be read.
