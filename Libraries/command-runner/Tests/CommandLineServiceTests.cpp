@@ -1,13 +1,8 @@
 #include <command-runner/CommandLineService.h>
 
-#include <command-runner/CompletionError.h>
-
-#include <Foundation/Process.h>
-#include <Foundation/ProcessError.h>
+#include <Support/RecordedLog.h>
 #include <Testing/TemporaryDirectory.h>
-
-#include "../../logger/Tests/RecordingDestination.h"
-#include <logger/ScopedDestinations.h>
+#include <command-runner/CompletionError.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -17,10 +12,8 @@
 #include <future>
 #include <memory>
 #include <stdexcept>
-#include <string>
 #include <thread>
-#include <utility>
-#include <vector>
+#include <tuple>
 
 #include <sys/wait.h>
 
@@ -30,46 +23,32 @@ namespace {
 using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
+using Strings = std::vector<std::string>;
 
-// What an operation, called with a completion, completes with.
-template <class Operation>
-Result<std::string> resultOf(const Operation &operation) {
+// What an operation, called with its arguments and a completion, completes with.
+std::future<Result<std::string>> start(const auto &operation, auto... arguments) {
     const auto promise = std::make_shared<std::promise<Result<std::string>>>();
-    auto future = promise->get_future();
-    operation([promise](Result<std::string> result) { promise->set_value(std::move(result)); });
+    operation(arguments..., [promise](Result<std::string> result) { promise->set_value(std::move(result)); });
+    return promise->get_future();
+}
+
+// The text, or "!" and that of the error.
+std::string outcomeOf(std::future<Result<std::string>> future) {
     if (future.wait_for(60s) != std::future_status::ready)
         throw std::runtime_error("no completion");
-    return future.get();
+    const Result<std::string> result = future.get();
+    return result ? *result : "!" + result.error()->errorDescription();
 }
 
-Result<std::string> run(const std::string &rawCommand) {
-    return resultOf([&](auto completion) { CommandLineService::execute(rawCommand, completion); });
-}
-
-Result<std::string> run(const std::string &command, const std::vector<std::string> &arguments) {
-    return resultOf([&](auto completion) { CommandLineService::execute(command, arguments, completion); });
-}
-
-Result<std::string> runScript(const std::string &path, const std::vector<std::string> &arguments) {
-    return resultOf([&](auto completion) { CommandLineService::executeScript(path, arguments, completion); });
-}
-
-std::string textOf(const Result<std::string> &result) {
-    return result ? *result : "failed: " + result.error()->errorDescription();
-}
-
-// Keeps what is logged.
-struct Log {
-    std::shared_ptr<RecordingDestination> destination = [] {
-        DestinationSettings settings;
-        settings.asynchronously = false;
-        return std::make_shared<RecordingDestination>(settings);
-    }();
-    ScopedDestinations scope{{destination}};
+constexpr auto executeRaw = [](const std::string &command, CommandLineService::Completion completion) {
+    CommandLineService::execute(command, std::move(completion));
+};
+constexpr auto execute = [](const std::string &command, const Strings &arguments,
+                            CommandLineService::Completion completion) {
+    CommandLineService::execute(command, arguments, std::move(completion));
 };
 
-TEST(CommandLineService, GivesWhatARawCommandPrints) {
+TEST(CommandLineService, RawCommandsGiveWhatTheyPrint) {
     const std::pair<std::string, std::string> cases[] = {
         {R"(echo "a b")", "a b"},
         {R"(/usr/bin/printf [%s] a "b c" 'd "e"' f'g "" '' ")", "[a][b c][d e][fg][][]"},
@@ -77,46 +56,35 @@ TEST(CommandLineService, GivesWhatARawCommandPrints) {
         {"printf '\\n\\t text \xC2\xA0\\n\\n'", "text"},
         {"\xE3\x80\x80 echo\xC2\xA0schön\n", "schön"},
         {"true", ""},
-        {"sh -c 'echo kept; exit 3'", "kept"},
-        {"sh -c 'kill -9 $$'", ""},
+        {"sh -c 'echo kept; kill -9 $$'", "kept"},
         {"cat", ""}, // has nothing to read
         {R"(echo --x="a b" c)", "c"},
         {R"(echo one "two 'three don't)", "one three dont"},
         {R"(yes | head -n 1)", "y"},
         {"sh -c 'exec 1>&-; sleep 0.05; exit 1'", ""},
         {"sh -c '(sleep 0.05; echo late) & echo early'", "early\nlate"},
+        {"printf a\\377", "!The output of the command is not valid UTF-8."},
     };
-    for (const auto &[command, text] : cases)
-        EXPECT_EQ(textOf(run(command)), text) << command;
+    for (const auto &[command, outcome] : cases)
+        EXPECT_EQ(outcomeOf(start(executeRaw, command)), outcome);
+    for (const std::string command : {"", " \t\n", "ls |", "| ls", "ls || ls", "echo \"a|b\"", "\"ls"})
+        EXPECT_EQ(outcomeOf(start(executeRaw, command)),
+                  "!No processes could be built from the command '" + command + "'.");
+    const auto error = start(executeRaw, std::string("|")).get().error();
+    EXPECT_NE(std::dynamic_pointer_cast<const CompletionError>(error), nullptr);
 }
 
-TEST(CommandLineService, RefusesARawCommandThatNamesNoProgram) {
-    for (const std::string command : {"", " \t\n", "|", "ls |", "| ls", "ls || ls", "echo \"a|b\"", "\"ls"}) {
-        const auto result = run(command);
-        ASSERT_FALSE(result) << command;
-        const auto error = std::dynamic_pointer_cast<const CompletionError>(result.error());
-        ASSERT_TRUE(error != nullptr) << command;
-        EXPECT_EQ(error->as<CompletionError::NoProcessesBuiltFromRawCommand>()->command, command);
-    }
-}
-
-TEST(CommandLineService, WarnsOfWhatItLeavesOut) {
-    const Log log;
-    EXPECT_EQ(textOf(run(R"(echo --x="a b" c "d)")), "c");
-    EXPECT_THAT(log.destination->messages(),
-                ElementsAre(R"(The command `echo --x="a b" c "d` is executed without `--x="a b"` and `"d`)"
-                            ": quotes enclose whole words"));
-}
-
-TEST(CommandLineService, OutputThatIsNoTextIsAnError) {
-    const auto error = std::dynamic_pointer_cast<const CompletionError>(run("printf a\\377").error());
-    EXPECT_TRUE(error != nullptr && error->as<CompletionError::NilString>() != nullptr);
-}
-
-TEST(CommandLineService, PassesArgumentsAsTheyAre) {
-    const std::vector<std::string> arguments = {"[%s]", "a b", "", "|", "\"q\"", "$HOME", "-x"};
-    EXPECT_EQ(textOf(run("printf", arguments)), R"([a b][][|]["q"][$HOME][-x])");
-    EXPECT_EQ(textOf(run("/usr/bin/printf", arguments)), R"([a b][][|]["q"][$HOME][-x])");
+TEST(CommandLineService, TellsWhatItLeavesOutAndCutsOffInTheLog) {
+    const RecordedLog log;
+    EXPECT_EQ(outcomeOf(start(executeRaw, std::string(R"(echo --x="a b" c "d)"))), "c");
+    EXPECT_THAT(log.lines(), ElementsAre(R"(warning: The command `echo --x="a b" c "d` is executed without )"
+                                         R"(`--x="a b"` and `"d`: quotes enclose whole words)"));
+    // 64 MiB is no multiple of the character's three bytes.
+    const std::string endless = "yes € | tr -d '\\n' | head -c 70000001";
+    const std::string text = outcomeOf(start(execute, std::string("/bin/sh"), Strings{"-c", endless}));
+    EXPECT_EQ(text.size(), CommandLineService::maximumOutput - 1);
+    EXPECT_TRUE(text.ends_with("€"));
+    EXPECT_THAT(log.lines().back(), HasSubstr("was cut at 64 MiB"));
 }
 
 TEST(CommandLineService, TellsWhyALaunchFailed) {
@@ -124,90 +92,68 @@ TEST(CommandLineService, TellsWhyALaunchFailed) {
     const std::string plain = directory.write("plain", "text");
     const std::string orphan = directory.write("orphan", "#!/nonexistent/sh\n");
     std::filesystem::permissions(orphan, std::filesystem::perms::owner_all);
-    const std::string mark = directory.path("mark");
-    struct Case {
-        std::string command;
-        std::vector<std::string> arguments;
-        std::string sentence;
-    };
-    const Case cases[] = {
-        {"no-such-command", {"x"}, "The command 'no-such-command' was not found."},
-        {"", {}, "The command '' was not found."},
-        {"-a", {}, "The command '-a' was not found."},
-        {"/nonexistent", {}, "The program '/nonexistent' couldn't be launched: No such file or directory."},
-        {"/usr", {}, "The program '/usr' couldn't be launched: Is a directory."},
-        {plain, {}, "The program '" + plain + "' couldn't be launched: Permission denied."},
-        {orphan,
-         {},
+    const std::tuple<std::string, std::string, std::string> cases[] = {
+        {"no-such-command", "x", "The command 'no-such-command' was not found."},
+        {"", "", "The command '' was not found."},
+        {"-a", "", "The command '-a' was not found."},
+        {"/nonexistent", "", "The program '/nonexistent' couldn't be launched: No such file or directory."},
+        {"/usr", "", "The program '/usr' couldn't be launched: Is a directory."},
+        {plain, "", "The program '" + plain + "' couldn't be launched: Permission denied."},
+        {orphan, "",
          "The program '" + orphan + "' couldn't be launched: the interpreter that it names is missing."},
         {"/bin/echo",
-         {std::string("a\0b", 3)},
+         {"a\0b", 3},
          "The program '/bin/echo' couldn't be launched: its path or an argument holds a NUL byte."},
-        {"/bin/echo",
-         {std::string(std::size_t{8} << 20, 'x')},
+        {"/bin/echo", std::string(std::size_t{8} << 20, 'x'),
          "The program '/bin/echo' couldn't be launched: Argument list too long."},
     };
-    for (const auto &[command, arguments, sentence] : cases) {
-        const Log log;
-        const auto result = run(command, arguments);
-        EXPECT_EQ(textOf(result), "failed: " + sentence);
-        EXPECT_TRUE(!result && std::dynamic_pointer_cast<const ProcessError>(result.error()) != nullptr);
-        EXPECT_THAT(log.destination->messages(),
-                    ElementsAre("Error while executing the process `" +
-                                Process{command, arguments}.description() + "`. " + sentence));
+    for (const auto &[command, argument, sentence] : cases) {
+        const RecordedLog log;
+        EXPECT_EQ(outcomeOf(start(execute, command, Strings{argument})), "!" + sentence);
+        EXPECT_THAT(log.lines(), ElementsAre("error: Error while executing the process `" + command + " " +
+                                             argument + "`. " + sentence));
     }
     // Not even the first one is started.
-    EXPECT_THAT(textOf(run("touch " + mark + " | no-such-command")), HasSubstr("not found"));
-    EXPECT_THAT(textOf(run("touch " + mark + " | " + plain)), HasSubstr("Permission denied"));
+    const std::string mark = directory.path("mark");
+    for (const std::string &second : {plain, std::string("no-such-command")})
+        EXPECT_THAT(outcomeOf(start(executeRaw, "touch " + mark + " | " + second)), HasSubstr("!The "));
     EXPECT_FALSE(std::filesystem::exists(mark));
 }
 
-TEST(CommandLineService, RunsScripts) {
+TEST(CommandLineService, PassesArgumentsAsTheyAre) {
     const TemporaryDirectory directory;
+    const Strings arguments = {"[%s]", "a b", "", "|", "\"q\"", "$HOME", "A=1"};
+    for (const std::string program : {"printf", "/usr/bin/printf"})
+        EXPECT_EQ(outcomeOf(start(execute, program, arguments)), R"([a b][][|]["q"][$HOME][A=1])");
     for (const std::string name : {"script", "with blank", "a=b", "-i"}) {
-        const std::string path = directory.write(name, "#!/bin/sh\nprintf '[%s]' \"$@\"; exit 2\n");
-        EXPECT_EQ(textOf(runScript(path, {})),
-                  "failed: The program '" + path + "' couldn't be launched: Permission denied.");
+        const std::string path = directory.write(name, "#!/bin/sh\nprintf \"$@\"; exit 2\n");
+        const std::string relative = std::filesystem::relative(path).string();
+        EXPECT_THAT(outcomeOf(start(CommandLineService::executeScript, path, arguments)),
+                    HasSubstr("Permission denied"));
         std::filesystem::permissions(path, std::filesystem::perms::owner_all);
-        EXPECT_EQ(textOf(runScript(path, {"a b", "", "A=1"})), "[a b][][A=1]") << name;
-        EXPECT_EQ(textOf(runScript(std::filesystem::relative(path).string(), {"x"})), "[x]") << name;
+        for (const std::string &script : {path, relative})
+            EXPECT_EQ(outcomeOf(start(CommandLineService::executeScript, script, arguments)),
+                      R"([a b][][|]["q"][$HOME][A=1])");
     }
-    EXPECT_EQ(textOf(runScript("ls", {})),
-              "failed: The program './ls' couldn't be launched: No such file or directory.");
+    // Not the one of the search path.
+    EXPECT_THAT(outcomeOf(start(CommandLineService::executeScript, std::string("ls"), Strings{})),
+                HasSubstr("No such file"));
 }
 
-TEST(CommandLineService, CutsEndlessOutputBetweenCharacters) {
-    const Log log;
-    // 64 MiB is no multiple of three.
-    const auto result = run("/bin/sh", {"-c", "yes € | tr -d '\\n' | head -c 70000001"});
-    ASSERT_TRUE(result);
-    EXPECT_EQ(result->size(), CommandLineService::maximumOutput - 1);
-    EXPECT_TRUE(result->ends_with("€"));
-    EXPECT_THAT(log.destination->messages(), ElementsAre(HasSubstr("was cut at 64 MiB")));
-}
-
-TEST(CommandLineService, ManyAtOnceLeaveNothingBehind) {
-    const auto descriptors = [] {
-        return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
-    };
-    EXPECT_EQ(textOf(run("true | true")), "");
-    const auto before = descriptors();
-    std::vector<std::future<Result<std::string>>> results;
-    results.reserve(60);
-    for (int number = 0; number < 60; ++number)
-        results.push_back(std::async(std::launch::async, [number] {
-            return number % 3 == 0 ? run("echo a | /nonexistent") : run("yes | cat | head -c 2");
-        }));
+TEST(CommandLineService, ManyAtOnceLeaveNoChildBehind) {
+    std::vector<std::future<Result<std::string>>> results(60);
     for (std::size_t number = 0; number < results.size(); ++number)
-        EXPECT_EQ(textOf(results[number].get()).substr(0, 6), number % 3 == 0 ? "failed" : "y");
+        results[number] =
+            start(executeRaw, std::string(number % 3 == 0 ? "yes | /nonexistent" : "yes | cat | head -c 2"));
+    for (std::size_t number = 0; number < results.size(); ++number)
+        EXPECT_EQ(outcomeOf(std::move(results[number])).front(), number % 3 == 0 ? '!' : 'y');
     // The others of a chain end and are reaped soon after the last.
     siginfo_t child{};
     const auto hasChildren = [&] { return waitid(P_ALL, 0, &child, WEXITED | WNOHANG | WNOWAIT) == 0; };
     const auto deadline = std::chrono::steady_clock::now() + 30s;
-    while ((hasChildren() || descriptors() > before) && std::chrono::steady_clock::now() < deadline)
+    while (hasChildren() && std::chrono::steady_clock::now() < deadline)
         std::this_thread::yield();
     EXPECT_FALSE(hasChildren());
-    EXPECT_LE(descriptors(), before); // of those before some were still open then
 }
 
 } // namespace
