@@ -110,13 +110,15 @@ TEST(CommandLineService, TellsWhyALaunchFailed) {
     for (const auto &[command, argument, sentence] : cases) {
         const RecordedLog log;
         EXPECT_EQ(outcomeOf(start(execute, command, Strings{argument})), "!" + sentence);
-        EXPECT_THAT(log.lines(), ElementsAre("error: Error while executing the process `" + command + " " +
-                                             argument + "`. " + sentence));
+        EXPECT_THAT(log.lines(),
+                    ElementsAre(fmt::format("error: Error while executing the process `{} {}`. {}", command,
+                                            argument, sentence)));
     }
     // Not even the first one is started.
     const std::string mark = directory.path("mark");
     for (const std::string &second : {plain, std::string("no-such-command")})
-        EXPECT_THAT(outcomeOf(start(executeRaw, "touch " + mark + " | " + second)), HasSubstr("!The "));
+        EXPECT_THAT(outcomeOf(start(executeRaw, fmt::format("touch {} | {}", mark, second))),
+                    HasSubstr("!The "));
     EXPECT_FALSE(std::filesystem::exists(mark));
 }
 

@@ -10,6 +10,7 @@
 
 #include "RawCommand.h"
 
+#include <algorithm>
 #include <memory>
 #include <string_view>
 #include <utility>
@@ -24,6 +25,14 @@ namespace {
 // More than any path.
 constexpr std::size_t maximumPath = 64 * 1024;
 
+bool endsWithCharacter(std::string_view bytes) {
+    for (std::size_t length = 1; length <= std::min<std::size_t>(bytes.size(), 4); ++length) {
+        if (UnicodeText::isValidUtf8(bytes.substr(bytes.size() - length)))
+            return true;
+    }
+    return false;
+}
+
 // The text of an output, or NilString.
 Result<std::string> textOf(ProcessOutput output, const Process &process) {
     std::string_view bytes = output.bytes;
@@ -33,7 +42,7 @@ Result<std::string> textOf(ProcessOutput output, const Process &process) {
                                maximumOutput >> 20);
         });
         // The cut may go through a character, of four bytes at most.
-        for (int count = 0; count < 3 && !UnicodeText::isValidUtf8(bytes); ++count)
+        for (int count = 0; count < 3 && !endsWithCharacter(bytes); ++count)
             bytes.remove_suffix(1);
     }
     if (!UnicodeText::isValidUtf8(bytes))

@@ -4,6 +4,7 @@
 #include <Foundation/UnicodeText.h>
 #include <command-runner/CompletionError.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 
