@@ -1,12 +1,15 @@
 #include <AppDelegate/AppDelegate.h>
 #include <Desktop/DesktopAlertPresenter.h>
 #include <Desktop/DesktopApplication.h>
+#include <Desktop/DesktopPasteboard.h>
+#include <Desktop/DesktopSoundPlayer.h>
 #include <Desktop/Display.h>
 #include <Dispatch/UncaughtHandler.h>
 #include <Extensions/VelmarLogDestinations.h>
 #include <Managers/LaunchOptions.h>
 #include <Managers/ProcessEnd.h>
 #include <System/SystemIdentityAuthority.h>
+#include <System/SystemRunningApplications.h>
 #include <logger/Logger.h>
 
 #include <fmt/core.h>
@@ -23,6 +26,21 @@ using namespace velmar;
 
 namespace {
 
+int runLoop(DesktopApplication &application, AppDelegate &delegate) {
+    try {
+        return application.run(delegate);
+    } catch (...) {
+        Logger::error([exception = std::current_exception()] { return textOf(exception); });
+        return EXIT_FAILURE;
+    }
+}
+
+void settleOrExit(int status) {
+    if (!settleBeforeExit()) {
+        std::_Exit(status);
+    }
+}
+
 int run(int argumentCount, char **arguments, LaunchOptions options) {
     const auto &authority = SystemIdentityAuthority::shared();
     installVelmarLogDestinations(authority);
@@ -34,12 +52,22 @@ int run(int argumentCount, char **arguments, LaunchOptions options) {
         const std::string executable = std::filesystem::read_symlink("/proc/self/exe", ignored).string();
         DesktopApplication application(argumentCount, arguments);
         DesktopAlertPresenter alerts;
+        DesktopPasteboard pasteboard;
+        DesktopSoundPlayer sounds(application.mainQueue(), DesktopSoundPlayer::placesOfProcess());
+        SystemRunningApplications runningApplications(application.mainQueue(), application.timers(),
+                                                      ProcessWatch::placesOfProcess(authority));
         AppDelegate delegate({.application = application,
                               .alerts = alerts,
+                              .pasteboard = pasteboard,
+                              .sounds = sounds,
+                              .runningApplications = runningApplications,
                               .identityAuthority = authority,
                               .options = std::move(options),
                               .executable = executable});
-        return application.run(delegate);
+        const int status = runLoop(application, delegate);
+        // While what the functions of the queues work with is there.
+        settleOrExit(status);
+        return status;
     } catch (...) {
         Logger::error([exception = std::current_exception()] { return textOf(exception); });
         return EXIT_FAILURE;
@@ -66,8 +94,6 @@ int startAndRun(int argumentCount, char **arguments) {
 
 int main(int argumentCount, char **arguments) {
     const int status = startAndRun(argumentCount, arguments);
-    if (!settleBeforeExit()) {
-        std::_Exit(status);
-    }
+    settleOrExit(status);
     return status;
 }

@@ -2,13 +2,19 @@
 
 #include <AppDelegate/ApplicationMenu.h>
 #include <AppDelegate/Localization.h>
+#include <AppDelegate/Services/ActionSetsAppDelegateService.h>
 #include <AppDelegate/Services/AdminModeAppDelegateService.h>
+#include <AppDelegate/Services/ApplicationTerminationAppDelegateService.h>
 #include <AppDelegate/Services/CustomWindowAppDelegateService.h>
 #include <AppDelegate/Services/LoginRelaunchAppDelegateService.h>
 #include <Constants/Domain.h>
+#include <Managers/ActionSetManager.h>
+#include <Managers/AppTerminationService.h>
 #include <Managers/ConfigurationRefusal.h>
 #include <Managers/ContentManager.h>
 #include <Managers/PopulatePlugin.h>
+#include <Models/Actions/ActionSurroundings.h>
+#include <Models/Actions/DispatchableItem.h>
 #include <Views/CustomViews/Theme.h>
 
 #include <Desktop/DesktopAppearance.h>
@@ -22,16 +28,6 @@
 #include <utility>
 
 namespace velmar {
-
-/// The quit that the last slide offers: nothing else holds it back.
-class AppDelegate::QuitAttempt final : public AppTerminationManagerProtocol {
-public:
-    explicit QuitAttempt(DesktopApplication &application) : application_(application) {}
-    void tryToQuitApplication() override { application_.terminate(); }
-
-private:
-    DesktopApplication &application_;
-};
 
 namespace {
 
@@ -48,14 +44,18 @@ AppManager::KeyDownMonitor addKeyDownMonitor(AppManager::KeyDownHandler handler)
 
 } // namespace
 
-AppDelegate::AppDelegate(Surroundings surroundings)
-    : surroundings_(std::move(surroundings)),
-      quitAttempt_(std::make_unique<QuitAttempt>(surroundings_.application)) {
+AppDelegate::AppDelegate(Surroundings surroundings) : surroundings_(std::move(surroundings)) {
     QCoreApplication::setApplicationName(QStringLiteral("Velmar"));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.nurvan.velmar"));
     DesktopApplication &application = surroundings_.application;
     Theme::install(application.appearance());
     Localization::install();
+    shareActionDispatcher();
+    terminationService_ = std::make_shared<AppTerminationService>(
+        application.mainQueue(), [&application] { application.terminate(); });
+    const auto terminationManager = std::make_shared<AppTerminationManager>(
+        AppTerminationManager::Surroundings{.terminationService = terminationService_});
+    appTerminationManager_.emplace(terminationManager);
     customWindow_ =
         std::make_shared<CustomWindowAppDelegateService>(CustomWindowAppDelegateService::Surroundings{
             .mainMenu = application.mainMenu(),
@@ -66,7 +66,7 @@ AppDelegate::AppDelegate(Surroundings surroundings)
                     application.appearance().followSettingsService();
                 },
             .view = {.mainQueue = application.mainQueue(),
-                     .appTerminationManager = *quitAttempt_,
+                     .appTerminationManager = *terminationManager,
                      .appearance = application.appearance(),
                      .reloadInterface = [](bool byResetingVariables) {
                          AppManager::shared()->reloadInterface(byResetingVariables);
@@ -86,7 +86,9 @@ AppDelegate::~AppDelegate() {
 
 std::vector<std::shared_ptr<AppDelegateService>> AppDelegate::services() {
     return {customWindow_,
+            std::make_shared<ApplicationTerminationAppDelegateService>(surroundings_.application.mainMenu()),
             std::make_shared<AdminModeAppDelegateService>(surroundings_.application.mainMenu()),
+            std::make_shared<ActionSetsAppDelegateService>(),
             std::make_shared<LoginRelaunchAppDelegateService>(LoginItem(), relaunchCommand())};
 }
 
@@ -107,8 +109,32 @@ void AppDelegate::applicationWillFinishLaunching() {
         refusal.exitBecauseOf(error);
     }
     ContentManager::shared()->registerVariables(*AppManager::shared()->configuration());
+    makeActionSetManager();
     populatePlugin_.emplace(Plugins::registerPlugin(std::make_shared<const AppManager::PopulatePlugin>()));
     ServiceableAppDelegate::applicationWillFinishLaunching();
+}
+
+void AppDelegate::shareActionDispatcher() {
+    MainQueue &mainQueue = surroundings_.application.mainQueue();
+    const auto actions = std::make_shared<const ActionSurroundings>(
+        ActionSurroundings{.mainQueue = mainQueue,
+                           .alerts = surroundings_.alerts,
+                           .pasteboard = surroundings_.pasteboard,
+                           .sounds = surroundings_.sounds,
+                           // The service comes after the dispatcher, which it uses.
+                           .terminateApp = [this, &mainQueue] {
+                               mainQueue.async([this] { terminationService_->terminate(); });
+                           }});
+    actionDispatcher_.emplace(
+        std::make_shared<ActionDispatcher>([actions](std::shared_ptr<const ActionItem> item) {
+            return dispatchable(std::move(item), actions);
+        }));
+}
+
+void AppDelegate::makeActionSetManager() {
+    AppManager::shared()->setActionSetManager(
+        ActionSetManager::make(ActionSetManager::configuredActionSets().wrappedValue(),
+                               {.runningApplications = surroundings_.runningApplications}));
 }
 
 void AppDelegate::makeAppManager() {
@@ -123,6 +149,11 @@ void AppDelegate::makeAppManager() {
 void AppDelegate::applicationDidFinishLaunching() {
     ServiceableAppDelegate::applicationDidFinishLaunching();
     Logger::debug("Application did finish launching");
+}
+
+bool AppDelegate::applicationShouldTerminate() {
+    terminationScript_.runBeforeTermination(AppTerminationManager::shared()->isInstallationComplete());
+    return true;
 }
 
 void AppDelegate::applicationWillTerminate() {

@@ -3,10 +3,13 @@
 #include <AppDelegate/ServiceableAppDelegate.h>
 #include <Configuration/Configuration.h>
 #include <Configuration/Plugin.h>
+#include <Managers/ActionDispatcher.h>
 #include <Managers/AppManager.h>
+#include <Managers/AppTerminationManager.h>
 #include <Managers/Config.h>
 #include <Managers/LaunchOptions.h>
 #include <Managers/Shared.h>
+#include <Managers/TerminationScript.h>
 #include <Views/Content/ContentView/ContentViewModel.h>
 
 #include <Desktop/DesktopApplication.h>
@@ -20,6 +23,9 @@
 namespace velmar {
 
 class CustomWindowAppDelegateService;
+class RunningApplications;
+class SimplePasteboard;
+class SoundPlayer;
 
 /// The application's delegate: makes the shared AppManager at the first event, and has the services of the
 /// chain do the rest. Made after the application, and destroyed before it.
@@ -29,6 +35,9 @@ public:
     struct Surroundings {
         DesktopApplication &application;
         AlertPresenter &alerts;
+        SimplePasteboard &pasteboard;
+        SoundPlayer &sounds;
+        RunningApplications &runningApplications;
         const IdentityAuthority &identityAuthority;
         LaunchOptions options;
         /// The absolute path of the program.
@@ -42,22 +51,27 @@ public:
     [[nodiscard]] std::vector<std::shared_ptr<AppDelegateService>> services() override;
 
     /// Ends the process behind an alert if there is no configuration to be admitted. Otherwise registers its
-    /// variables and has texts populated from then on, before any service runs.
+    /// variables, sorts its sets of actions and has texts populated from then on, before any service runs.
     void applicationWillFinishLaunching() override;
     void applicationDidFinishLaunching() override;
+    /// Runs the script of the termination first. Always true.
+    bool applicationShouldTerminate() override;
     void applicationWillTerminate() override;
     bool applicationShouldTerminateAfterLastWindowClosed() override;
 
 private:
-    class QuitAttempt;
-
+    void shareActionDispatcher();
     void makeAppManager();
+    void makeActionSetManager();
     [[nodiscard]] std::vector<std::string> relaunchCommand() const;
 
     Config<WindowSection::OnScreen> _onScreen{
         [](const Configuration &c) -> decltype(auto) { return c._window()._onScreen(); }};
     Surroundings surroundings_;
-    std::unique_ptr<QuitAttempt> quitAttempt_;
+    std::optional<Shared<ActionDispatcher>::Scope> actionDispatcher_;
+    std::shared_ptr<AppTermination> terminationService_;
+    std::optional<Shared<AppTerminationManager>::Scope> appTerminationManager_;
+    TerminationScript terminationScript_;
     std::shared_ptr<CustomWindowAppDelegateService> customWindow_;
     std::optional<Shared<AppManager>::Scope> appManager_;
     std::optional<Plugins::Registration> populatePlugin_;

@@ -1,5 +1,6 @@
 #include <Managers/ActionSetManager.h>
 
+#include <Configuration/Configuration.h>
 #include <Constants/NavigationNotifications.h>
 #include <Extensions/LoggerExtensions.h>
 
@@ -52,6 +53,11 @@ private:
 };
 
 } // namespace
+
+Config<std::vector<TriggeredActionSetItem>> ActionSetManager::configuredActionSets() {
+    return Config<std::vector<TriggeredActionSetItem>>(
+        [](const Configuration &c) -> decltype(auto) { return c._actionSets(); });
+}
 
 std::shared_ptr<ActionSetManager>
 ActionSetManager::make(std::shared_ptr<const std::vector<TriggeredActionSetItem>> actionSets,

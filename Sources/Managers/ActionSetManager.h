@@ -4,6 +4,7 @@
 #include <Foundation/NotificationCenter.h>
 #include <Foundation/RegularExpression.h>
 #include <Managers/ActionDispatcher.h>
+#include <Managers/Config.h>
 #include <Managers/Content.h>
 #include <Managers/CustomTriggerHandler.h>
 #include <Models/Actions/ActionSet.h>
@@ -47,6 +48,9 @@ public:
         std::shared_ptr<ActionDispatcherProtocol> dispatcher = ActionDispatcher::shared();
         std::shared_ptr<ContentManagerProtocol> contentManager = ContentManager::shared();
     };
+
+    /// All sets of the configuration of the moment.
+    [[nodiscard]] static Config<std::vector<TriggeredActionSetItem>> configuredActionSets();
 
     /// Begins to follow the triggers at once.
     [[nodiscard]] static std::shared_ptr<ActionSetManager>

@@ -1,6 +1,5 @@
 #include <Managers/AppTerminationService.h>
 
-#include <Configuration/Configuration.h>
 #include <Dispatch/DispatchGroup.h>
 #include <Dispatch/DispatchQueue.h>
 #include <Models/Actions/ActionSet.h>
@@ -16,11 +15,6 @@ AppTerminationService::AppTerminationService(MainQueue &mainQueue, std::function
       mainQueue_(mainQueue),
       terminateApplication_(std::move(terminateApplication)),
       dispatcher_(std::move(dispatcher)) {}
-
-Config<std::vector<TriggeredActionSetItem>> AppTerminationService::actionSetsOfTheMoment() {
-    return Config<std::vector<TriggeredActionSetItem>>(
-        [](const Configuration &c) -> decltype(auto) { return c._actionSets(); });
-}
 
 void AppTerminationService::terminate() {
     const DispatchGroup group;

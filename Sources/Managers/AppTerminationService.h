@@ -2,8 +2,7 @@
 
 #include <Configuration/ActionSetItem.h>
 #include <Dispatch/MainQueue.h>
-#include <Managers/ActionDispatcher.h>
-#include <Managers/Config.h>
+#include <Managers/ActionSetManager.h>
 
 #include <functional>
 #include <memory>
@@ -26,15 +25,14 @@ public:
 class AppTerminationService final : public AppTermination {
 public:
     /// `mainQueue` must outlive the process's queues; `terminateApplication` is called on it.
-    AppTerminationService(MainQueue &mainQueue, std::function<void()> terminateApplication,
-                          std::shared_ptr<ActionDispatcherProtocol> dispatcher = ActionDispatcher::shared(),
-                          Config<std::vector<TriggeredActionSetItem>> actionSets = actionSetsOfTheMoment());
+    AppTerminationService(
+        MainQueue &mainQueue, std::function<void()> terminateApplication,
+        std::shared_ptr<ActionDispatcherProtocol> dispatcher = ActionDispatcher::shared(),
+        Config<std::vector<TriggeredActionSetItem>> actionSets = ActionSetManager::configuredActionSets());
 
     void terminate() override;
 
 private:
-    [[nodiscard]] static Config<std::vector<TriggeredActionSetItem>> actionSetsOfTheMoment();
-
     Config<std::vector<TriggeredActionSetItem>> _actionSets;
     MainQueue &mainQueue_;
     std::function<void()> terminateApplication_;

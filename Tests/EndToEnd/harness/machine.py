@@ -69,7 +69,8 @@ def enter(root, binaries, sources):
             _mount("--rbind", entry, target)
             if entry.name not in ("dev", "sys"):
                 _mount("-o", "remount,bind,ro", target)
-    for name, source in (("bin", binaries), ("source", sources)):
+    for name, source in (("bin", binaries), ("share", binaries.parent / "share"),
+                         ("libexec", binaries.parent / "libexec"), ("source", sources)):
         (root / "velmar" / name).mkdir()
         _mount("--bind", source, root / "velmar" / name)
     for name, text in (("passwd", _passwd()), ("group", _group())):

@@ -3,6 +3,7 @@
 #include <Configuration/Configuration.h>
 #include <Dispatch/MainQueue.h>
 #include <Foundation/NotificationCenter.h>
+#include <Managers/AppTerminationManager.h>
 #include <Managers/Config.h>
 #include <Managers/ContentUpdater.h>
 #include <Managers/SlidesActionManager.h>
@@ -36,13 +37,6 @@ public:
     /// True also where there is no side container.
     [[nodiscard]] virtual bool isSideContainerValid() const = 0;
     virtual void showSideContainerWarnings() = 0;
-};
-
-/// Who decides whether the application quits.
-class AppTerminationManagerProtocol {
-public:
-    virtual ~AppTerminationManagerProtocol() = default;
-    virtual void tryToQuitApplication() = 0;
 };
 
 /// Which slide is the current one, and whether the user may leave it. Made as a shared_ptr. Main thread.

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <AppDelegate/AppDelegateService.h>
+#include <Managers/ActionSetManager.h>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace velmar {
+
+/// Fires the sets of actions of the launch, in the order of the file.
+class ActionSetsAppDelegateService final : public AppDelegateService {
+public:
+    explicit ActionSetsAppDelegateService(
+        std::shared_ptr<ActionDispatcherProtocol> dispatcher = ActionDispatcher::shared())
+        : dispatcher_(std::move(dispatcher)) {}
+
+    void applicationDidFinishLaunching() override;
+
+private:
+    Config<std::vector<TriggeredActionSetItem>> _actionSets = ActionSetManager::configuredActionSets();
+    std::shared_ptr<ActionDispatcherProtocol> dispatcher_;
+};
+
+} // namespace velmar

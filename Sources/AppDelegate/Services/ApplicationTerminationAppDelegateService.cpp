@@ -1,0 +1,46 @@
+#include <AppDelegate/Services/ApplicationTerminationAppDelegateService.h>
+
+#include <Configuration/Configuration.h>
+#include <Desktop/MainMenu.h>
+#include <Extensions/LoggerExtensions.h>
+
+#include <utility>
+#include <vector>
+
+namespace velmar {
+
+namespace {
+
+void disableQuitShortcut(MenuItem &quitItem) {
+    quitItem.shortcut = KeyShortcut{.key = 'Q', .command = true, .control = true, .option = true};
+    LoggerExtensions::info(LogSubject::termination, "The quit shortcut has been replaced by ⌃⌥⌘Q");
+}
+
+} // namespace
+
+ApplicationTerminationAppDelegateService::ApplicationTerminationAppDelegateService(
+    MainMenu &mainMenu, std::shared_ptr<AppTerminationManagerProtocol> appTerminationManager,
+    Config<AppTerminationSection> appTermination)
+    : _appTermination(std::move(appTermination)),
+      mainMenu_(mainMenu),
+      appTerminationManager_(std::move(appTerminationManager)) {}
+
+Config<AppTerminationSection> ApplicationTerminationAppDelegateService::configuredTermination() {
+    return Config<AppTerminationSection>(
+        [](const Configuration &c) -> decltype(auto) { return c._appTermination(); });
+}
+
+void ApplicationTerminationAppDelegateService::applicationDidFinishLaunching() {
+    std::vector<MenuItem> items = mainMenu_.items();
+    if (items.empty() || items.front().submenu.empty()) {
+        return;
+    }
+    MenuItem &quitItem = items.front().submenu.back();
+    quitItem.action = [manager = appTerminationManager_] { manager->tryToQuitApplication(); };
+    if (!_appTermination.wrappedValue()->_isQuitShortcutEnabled()) {
+        disableQuitShortcut(quitItem);
+    }
+    mainMenu_.setItems(std::move(items));
+}
+
+} // namespace velmar

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <AppDelegate/AppDelegateService.h>
+#include <Configuration/AppTerminationSection.h>
+#include <Managers/AppTerminationManager.h>
+#include <Managers/Config.h>
+
+#include <memory>
+
+namespace velmar {
+
+class MainMenu;
+
+/// Has the Quit entry of the menu ask whether the application may quit, and gives it a shortcut that nobody
+/// presses by accident if the configuration wants that.
+class ApplicationTerminationAppDelegateService final : public AppDelegateService {
+public:
+    explicit ApplicationTerminationAppDelegateService(
+        MainMenu &mainMenu,
+        std::shared_ptr<AppTerminationManagerProtocol> appTerminationManager =
+            AppTerminationManager::shared(),
+        Config<AppTerminationSection> appTermination = configuredTermination());
+
+    /// A menu without a Quit entry, the last one of its first submenu, is left as it is.
+    void applicationDidFinishLaunching() override;
+
+private:
+    [[nodiscard]] static Config<AppTerminationSection> configuredTermination();
+
+    Config<AppTerminationSection> _appTermination;
+    MainMenu &mainMenu_;
+    std::shared_ptr<AppTerminationManagerProtocol> appTerminationManager_;
+};
+
+} // namespace velmar

@@ -1,0 +1,121 @@
+#include <Managers/TerminationScript.h>
+
+#include <Configuration/Configuration.h>
+#include <Dispatch/DispatchQueue.h>
+#include <Extensions/LoggerExtensions.h>
+#include <Foundation/FileManager.h>
+#include <Foundation/Process.h>
+#include <Foundation/ProcessError.h>
+#include <command-runner/CommandLineService.h>
+
+#include <fmt/format.h>
+
+#include <exception>
+#include <future>
+#include <memory>
+#include <thread>
+#include <utility>
+
+namespace velmar {
+
+namespace {
+
+// Until a script that is not waited for has begun.
+constexpr std::chrono::microseconds launchDelay(200'000);
+
+} // namespace
+
+TerminationScript::TerminationScript(Config<AppTerminationSection> appTermination, Run runInUserContext)
+    : _appTermination(std::move(appTermination)), runInUserContext_(std::move(runInUserContext)) {}
+
+Config<AppTerminationSection> TerminationScript::configuredTermination() {
+    return Config<AppTerminationSection>(
+        [](const Configuration &c) -> decltype(auto) { return c._appTermination(); });
+}
+
+void TerminationScript::runBeforeTermination(bool isInstallationComplete) const noexcept {
+    try {
+        const auto section = _appTermination.wrappedValue();
+        const auto path = isInstallationComplete ? section->_completeInstallationScriptPath()
+                                                 : section->_incompleteInstallationScriptPath();
+        if (!path) {
+            return;
+        }
+        if (path->empty()) {
+            LoggerExtensions::warning(LogSubject::termination, "Empty termination script path");
+        } else if (!FileManager::defaultManager().fileExists(*path)) {
+            LoggerExtensions::warning(LogSubject::termination, [&] {
+                return fmt::format("No termination script at path '{}'", *path);
+            });
+        } else {
+            run(*path);
+        }
+    } catch (const std::exception &error) {
+        LoggerExtensions::error(LogSubject::termination, error.what());
+    }
+}
+
+void TerminationScript::run(const std::string &path) const {
+    auto over = std::make_shared<std::promise<void>>();
+    const std::future<void> hasEnded = over->get_future();
+    DispatchQueue("TerminationScript").async([this, path, over] {
+        launchTerminationScript(path, [over] { over->set_value(); });
+    });
+    // A promise that is let go without an end ends the wait, too.
+    over.reset();
+    if (_appTermination.wrappedValue()->_waitForExecutionScriptExecution()) {
+        LoggerExtensions::info(LogSubject::termination, "Waiting for script to complete...");
+        hasEnded.wait();
+    } else {
+        std::this_thread::sleep_for(launchDelay);
+    }
+}
+
+void TerminationScript::launchTerminationScript(const std::string &path, std::function<void()> ended) const {
+    const auto section = _appTermination.wrappedValue();
+    const bool executeAsRoot = section->_executeAsRoot();
+    const std::string suffix = executeAsRoot ? " with root privileges" : "";
+    LoggerExtensions::info(LogSubject::termination,
+                           [&] { return fmt::format("Launched script at '{}'{}", path, suffix); });
+    const auto completion = [path, suffix, ended = std::move(ended)](const Result<std::string> &output) {
+        if (output) {
+            LoggerExtensions::info(LogSubject::termination, [&] {
+                return fmt::format("Executed script at '{}'{} with following output:\n{}", path, suffix,
+                                   *output);
+            });
+        } else {
+            LoggerExtensions::error(LogSubject::termination, [&] {
+                return fmt::format("Error while executing script at '{}'{}: {}", path, suffix,
+                                   output.error()->errorDescription());
+            });
+        }
+        ended();
+    };
+    if (executeAsRoot) {
+        completion(failure(
+            VelmarError(VelmarError::InternalError{"Scripts cannot be run with root privileges yet"})));
+        return;
+    }
+    runInUserContext_(path, !section->_waitForExecutionScriptExecution(), completion);
+}
+
+void TerminationScript::runInUserContext(const std::string &path, bool outlivesApplication,
+                                         std::function<void(Result<std::string>)> completion) {
+    if (!outlivesApplication) {
+        CommandLineService::executeScript(path, {}, std::move(completion));
+        return;
+    }
+    try {
+        Process{path, {}}.checkLaunchable();
+    } catch (const ProcessError &error) {
+        completion(failure(error));
+        return;
+    }
+    // Without the application its output has no reader: that must not end it.
+    const std::string file = path.starts_with('/') ? path : "./" + path;
+    CommandLineService::execute("/usr/bin/env",
+                                {"--ignore-signal=PIPE", "/bin/sh", "-c", R"(exec "$0")", file},
+                                std::move(completion));
+}
+
+} // namespace velmar

@@ -1,0 +1,122 @@
+"""Sets of actions, from each of their triggers to what they leave behind."""
+
+import os
+import shutil
+import signal
+import subprocess
+from pathlib import Path
+
+from harness.scenario import Scenario, configuration, slide
+from harness.waiting import until
+
+
+def log(message, **keys):
+    return {"Type": "Log", "Message": message, **keys}
+
+
+def update(variable, value):
+    return {"Type": "UpdateVariable", "Variable": variable, "NewValue": value}
+
+
+def action_set(trigger, *actions, **keys):
+    return {"Type": "Chained", "Triggers": [trigger] if isinstance(trigger, str) else trigger,
+            "Actions": list(actions), **keys}
+
+
+NAVIGATION = {"PreviousButtonText": "Back", "NextButtonText": "On", "QuitButtonText": "Done"}
+
+
+class Actions(Scenario):
+    def start(self, *sets, variables=None, slides=(slide("At ${STEP}"), slide("Second"), slide("Third")), **sections):
+        self.install(configuration(*slides, General={"Variables": {"STEP": "start", **(variables or {})}},
+                                   Navigation=NAVIGATION, ActionSets=list(sets), **sections))
+        return self.velmar()
+
+    def test_the_launch_fires_its_sets_in_order_and_texts_follow(self):
+        process, screen = self.start(
+            action_set("Launch", update("STEP", "one"), {"Type": "SaveInputs"}, log("never")),
+            action_set(["Launch", "Update(STEP)"], log("step ${STEP}"), ContinueAfterFailure=True))
+        screen.wait_for_text("At one")
+        self.wait_for_message("step one")
+        until("both runs of the second set", lambda: len([m for m in self.messages() if m.startswith("step ")]) == 2)
+        self.assertTrue(any("Actions of the type 'SaveInputs' cannot be run yet" in m for m in self.messages()))
+        self.assertNotIn("never", self.messages())
+
+    def test_clicks_move_the_slides_and_fire_their_sets(self):
+        _, screen = self.start(
+            action_set("NextButtonClick", log("next"), {"Type": "NavigateToSlide", "Offset": 1, "Condition": "SKIP"}),
+            action_set("PreviousButtonClick", log("previous"), update("SKIP", "true")),
+            variables={"SKIP": "false"})
+        screen.wait_for_text("At start")
+        for button, text, message in [("On", "Second", "next"), ("Back", "At start", "previous"),
+                                      ("On", "Third", None)]:
+            screen.button(button).click()
+            screen.wait_for_text(text)
+            if message:
+                self.wait_for_message(message)
+
+    def test_an_alert_waits_for_its_answer_and_others_for_their_turn(self):
+        def alert(title, *buttons):
+            return {"Type": "DisplayAlert", "Title": title, "Message": "Choose.", "Style": "Informational",
+                    "ButtonsText": list(buttons), "Variable": "ANSWER", "IconPath": "/no/such.png"}
+        _, screen = self.start(
+            action_set("Launch", {**alert("First?", "Yes", "No")}, update("STEP", "${ANSWER}")),
+            action_set("Update(STEP)", alert("Second?"), log("second ${ANSWER}")))
+        screen.wait_for_text("First?")
+        screen.button("No").press()
+        screen.wait_for_text("Second?")
+        screen.wait_for_text("At No")
+        screen.button("OK").press()
+        self.wait_for_message("second OK")
+        self.assertIn(". DisplayAlert: could not retrieve icon at /no/such.png", self.messages())
+
+    def test_the_clipboard_and_a_sound_without_a_device(self):
+        process, screen = self.start(action_set("Launch", {"Type": "CopyToClipboard", "Text": "for ${STEP} é"},
+                                                {"Type": "PlaySound", "SoundNameOrFilePath": "/no/such.wav"},
+                                                log("played")))
+        screen.wait_for_text("At start")
+        self.wait_for_message("played")
+        clipboard = subprocess.run(["xclip", "-out", "-selection", "clipboard"], capture_output=True, text=True)
+        self.assertEqual("for start é", clipboard.stdout)
+        self.assertTrue(any("Unable to read the termination sound at /no/such.wav" in m for m in self.messages()))
+
+    def test_another_application_that_starts_fires_its_sets_once(self):
+        program = Path("/tmp/velmar-e2e-calculator")
+        shutil.copy("/usr/bin/sleep", program)
+        self.addCleanup(program.unlink)
+        _, screen = self.start(action_set("AppLaunch(e2e-calc)", log("calculator")))
+        screen.wait_for_text("At start")
+        started = subprocess.Popen([program, "60"])
+        self.addCleanup(started.wait)
+        self.addCleanup(started.kill)
+        self.wait_for_message("calculator")
+        self.assertEqual(1, self.messages().count("calculator"))
+
+    def test_sets_of_the_termination_come_before_the_end(self):
+        process, screen = self.start(action_set("Termination", update("STEP", "end"), log("bye ${STEP}")))
+        screen.wait_for_text("At start")
+        screen.menu_item("Quit Velmar").press()
+        self.assertEqual(0, process.wait())
+        messages = self.messages()
+        self.assertLess(messages.index("bye end"), messages.index("Application will terminate"))
+
+    def test_a_set_of_the_termination_that_stops_keeps_the_program_until_a_signal(self):
+        process, screen = self.start(action_set("Termination", log("first"), {"Type": "SaveInputs"}, log("last")))
+        screen.wait_for_text("At start")
+        screen.menu_item("Quit Velmar").press()
+        self.wait_for_message("first")
+        screen.button("On").click()
+        screen.wait_for_text("Second")
+        self.assertFalse(process.ended())
+        process.send(signal.SIGTERM)
+        self.assertEqual(0, process.wait())
+        self.assertNotIn("last", self.messages())
+
+    def test_the_tool_runs_a_set_of_an_admitted_file_only(self):
+        path = self.install(configuration(slide("Hello"), ActionSets=[action_set("Launch", log("told"))]))
+        tool = self.velmarctl("run-set", path, "0")
+        self.assertEqual(0, tool.status)
+        self.assertIn("    info: told\n", tool.output())
+        os.chmod(path, 0o666)
+        tool = self.velmarctl("run-set", path, "0")
+        self.assertEqual((1, ""), (tool.status, tool.output()))
