@@ -40,11 +40,9 @@ void inTurn(std::function<void()> step) {
         return;
     }
     Steps steps;
-    running = &steps;
-    for (steps.push_back(std::move(step)); !steps.empty();) {
-        const auto next = std::move(steps.front());
-        steps.pop_front();
-        runReportingUncaught(label, next);
+    steps.push_back(std::move(step));
+    for (running = &steps; !steps.empty(); steps.pop_front()) {
+        runReportingUncaught(label, std::exchange(steps.front(), nullptr));
     }
     running = nullptr;
 }
@@ -92,17 +90,17 @@ void ActionDispatcher::runParallel(const Actions &actions, std::function<void()>
         group.enter();
         action->dispatch();
     }
-    DispatchQueue{std::string(label)}.async(
-        [count = actions.size(), group, handler = std::move(completionHandler)]() mutable {
-            dispatchParallel(count, group, std::move(handler));
-        });
+    const DispatchQueue queue{std::string(label)};
+    queue.async([count = actions.size(), group, queue, handler = std::move(completionHandler)]() mutable {
+        dispatchParallel(count, group, queue, std::move(handler));
+    });
 }
 
 void ActionDispatcher::dispatchParallel(std::size_t actionsCount, const DispatchGroup &actions,
-                                        std::function<void()> completionHandler) {
+                                        const DispatchQueue &queue, std::function<void()> completionHandler) {
     Logger::debug([&] { return fmt::format("{} action(s) executed!", actionsCount); });
     if (completionHandler) {
-        actions.notify(DispatchQueue{std::string(label)}, std::move(completionHandler));
+        actions.notify(queue, std::move(completionHandler));
     }
 }
 

@@ -11,7 +11,6 @@
 #include <functional>
 #include <memory>
 #include <unordered_map>
-#include <vector>
 
 namespace velmar {
 
@@ -21,7 +20,8 @@ public:
     virtual ~ActionDispatcherProtocol() = default;
 
     /// Runs the actions of a set, later: all at once or one after the other. The handler, which may be null,
-    /// is called on a thread of the pool when the set has run to its end:
+    /// is called when the set has run to its end, for a parallel set on a thread of the pool, for a chain on
+    /// the thread where its last action ended, which may be the main one:
     /// - a parallel set, when each of its actions has ended, whether well or not;
     /// - a chained set, when its last action has ended, whether well or not. An action before it that fails
     ///   ends the chain in silence unless the set continues after failures.
@@ -52,7 +52,7 @@ private:
 
     void runParallel(const Actions &actions, std::function<void()> completionHandler) const;
     static void dispatchParallel(std::size_t actionsCount, const DispatchGroup &actions,
-                                 std::function<void()> completionHandler);
+                                 const DispatchQueue &queue, std::function<void()> completionHandler);
     void runChained(Actions actions, const std::shared_ptr<const Chain> &chain);
     void continueChain(const Chain &chain, bool success);
     [[nodiscard]] std::shared_ptr<Dispatchable> takeFirstAction(const UUID &id);

@@ -26,13 +26,7 @@ public:
         add(sets_.variableUpdate[trigger.variable]);
     }
     void operator()(const ActionTrigger::AppLaunch &trigger) {
-        const RegularExpression &pattern = trigger.bundleIdentifier;
-        auto place =
-            std::ranges::find(sets_.appLaunch, pattern, [](const auto &entry) { return entry.first; });
-        if (place == sets_.appLaunch.end()) {
-            place = sets_.appLaunch.insert(place, {pattern, {}});
-        }
-        add(place->second);
+        add(sets_.appLaunch[trigger.bundleIdentifier]);
     }
     void operator()(const ActionTrigger::Custom &trigger) { add(sets_.customNames[trigger.name]); }
     void operator()(const ActionTrigger::PreviousButtonClick &) { add(sets_.previousButtonClick); }
@@ -94,7 +88,11 @@ void ActionSetManager::setupNotifications() {
     // Nobody looks at what runs on the machine where nothing depends on it.
     if (!setsForTrigger_.appLaunch.empty()) {
         observation_ = surroundings_.runningApplications.observe(
-            [this](const RunningApplication &application) { dispatchSetsFor(application); });
+            [manager = weak_from_this()](const RunningApplication &application) {
+                if (const auto self = manager.lock()) {
+                    self->dispatchSetsFor(application);
+                }
+            });
     }
 }
 

@@ -12,18 +12,18 @@
 
 #include <boost/unordered/unordered_flat_map.hpp>
 
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace velmar {
 
 /// Sorts the sets of actions of the configuration by what triggers them, once, and fires them: on clicks on
 /// Next and Previous, changes of variables, starts of other applications and custom triggers. Those of the
-/// launch and of the termination are others' to fire. Owned by AppManager. Made and destroyed on the main
-/// thread.
+/// launch and of the termination are others' to fire. Owned by AppManager. Made on the main thread; destroyed
+/// there, too, once no queue runs that may hold it for a moment.
 class ActionSetManager final : public ContentObserver,
                                public CustomTriggerHandler,
                                public std::enable_shared_from_this<ActionSetManager> {
@@ -33,11 +33,17 @@ public:
     using ActionSetsByName =
         boost::unordered_flat_map<std::string, ActionSets, VariableNameHash, VariableNameEqual>;
 
+    struct ByPattern {
+        bool operator()(const RegularExpression &left, const RegularExpression &right) const {
+            return left.pattern() < right.pattern();
+        }
+    };
+
     struct SetsForTrigger {
         ActionSets previousButtonClick;
         ActionSets nextButtonClick;
         ActionSetsByName variableUpdate;
-        std::vector<std::pair<RegularExpression, ActionSets>> appLaunch; ///< By pattern, each once.
+        std::map<RegularExpression, ActionSets, ByPattern> appLaunch;
         ActionSetsByName customNames;
     };
 

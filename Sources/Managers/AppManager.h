@@ -17,8 +17,8 @@ class ActionSetManager;
 class IdentityAuthority;
 
 /// Owns the decoded configuration, which a reload replaces as a whole. One instance is shared by the process;
-/// it is made in the first launching event. Main thread, except for `configuration()` and `shared()`, which
-/// any thread calls.
+/// it is made in the first launching event. Main thread, but for `configuration()`, `actionSetManager()` and
+/// `shared()`, which any thread calls.
 class AppManager {
 public:
     class PopulatePlugin;

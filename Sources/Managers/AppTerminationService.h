@@ -15,7 +15,8 @@ class AppTermination {
 public:
     virtual ~AppTermination() = default;
 
-    /// Returns at once.
+    /// Returns at once. Each call begins anew, so that a termination that does not come to its end can be
+    /// tried again.
     virtual void terminate() = 0;
 };
 

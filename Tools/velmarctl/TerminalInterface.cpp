@@ -1,21 +1,32 @@
 #include <TerminalInterface.h>
 
-#include <Foundation/FileManager.h>
-#include <Foundation/NumberText.h>
 #include <Foundation/URL.h>
 
 #include <fmt/format.h>
 
 #include <charconv>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
+#include <unistd.h>
+
 namespace velmar {
+
+namespace {
+
+bool isReadableFile(const std::string &path) {
+    std::error_code ignored;
+    return std::filesystem::is_regular_file(path, ignored) && ::access(path.c_str(), R_OK) == 0;
+}
+
+} // namespace
 
 TerminalAlertPresenter::TerminalAlertPresenter(MainQueue &mainQueue, std::istream &in, SayLine say)
     : mainQueue_(mainQueue), in_(in), say_(std::move(say)) {}
 
 std::shared_ptr<const AlertIcon> TerminalAlertPresenter::icon(const std::string &path) const {
-    return FileManager::defaultManager().fileExists(path) ? std::make_shared<const AlertIcon>() : nullptr;
+    return isReadableFile(path) ? std::make_shared<const AlertIcon>() : nullptr;
 }
 
 void TerminalAlertPresenter::present(Alert alert, Completion completion) {
@@ -58,11 +69,11 @@ std::optional<Sound> TerminalSoundPlayer::soundNamed(const std::string &name) co
 std::optional<Sound> TerminalSoundPlayer::soundAt(const std::string &fileURLOrPath) const {
     const auto url = URL::fromString(fileURLOrPath);
     const std::string path = url && url->isFileURL() ? url->path() : fileURLOrPath;
-    return FileManager::defaultManager().fileExists(path) ? std::optional(Sound{path}) : std::nullopt;
+    return isReadableFile(path) ? std::optional(Sound{path}) : std::nullopt;
 }
 
 void TerminalSoundPlayer::play(const Sound &sound, Completion completion) {
-    say_(fmt::format("sound, not done here: {}", sound.path));
+    say_(fmt::format("sound, neither looked for nor done here: {}", sound.path));
     mainQueue_.async(
         [completion = std::move(completion)] { completion({.hasFinished = true, .problem = {}}); });
 }

@@ -1,11 +1,13 @@
 #include <Models/Actions/Action.h>
 
 #include <Dispatch/MainQueue.h>
+#include <Dispatch/UncaughtHandler.h>
 #include <Extensions/Evaluatable.h>
 #include <Extensions/LoggerExtensions.h>
 #include <Models/Actions/ActionSurroundings.h>
 
 #include <exception>
+#include <type_traits>
 
 namespace velmar {
 
@@ -14,8 +16,8 @@ void Action::dispatch() {
         if (const auto &condition = item_->condition(); condition && !evaluate(*condition)) {
             return;
         }
-    } catch (const std::exception &error) {
-        LoggerExtensions::error(LogSubject::actions, error.what());
+    } catch (...) {
+        LoggerExtensions::error(LogSubject::actions, textOf(std::current_exception()));
         return;
     }
     performReportingFailure([this] { perform(); });
@@ -29,10 +31,16 @@ void Action::performOnMainThread(std::function<void()> work) {
 void Action::performReportingFailure(const std::function<void()> &work) noexcept {
     try {
         work();
-    } catch (const std::exception &error) {
-        LoggerExtensions::error(LogSubject::actions, error.what());
-        complete(false);
+    } catch (...) {
+        LoggerExtensions::error(LogSubject::actions, textOf(std::current_exception()));
+        runReportingUncaught("Action", [this] { complete(false); });
     }
+}
+
+std::string_view typeOf(const ActionItem &item) {
+    return rawString(
+        std::visit([](const auto &action) { return std::remove_cvref_t<decltype(action)>::typeIdentifier; },
+                   item.value));
 }
 
 void Action::complete(bool success) {

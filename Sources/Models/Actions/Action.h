@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <string_view>
 #include <utility>
 #include <variant>
 
@@ -55,6 +56,9 @@ private:
     std::shared_ptr<const ActionSurroundings> surroundings_;
     SuccessCompletionBlock successCompletionBlock_;
 };
+
+/// The type of an action as the file names it, such as "Log".
+[[nodiscard]] std::string_view typeOf(const ActionItem &item);
 
 /// An action of one kind of item.
 template <class Item>

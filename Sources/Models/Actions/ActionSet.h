@@ -4,7 +4,6 @@
 #include <Foundation/UUID.h>
 
 #include <algorithm>
-#include <functional>
 #include <memory>
 #include <variant>
 #include <vector>
@@ -36,10 +35,3 @@ actionSetsFor(const std::shared_ptr<const std::vector<TriggeredActionSetItem>> &
 }
 
 } // namespace velmar
-
-template <>
-struct std::hash<velmar::ActionSet> {
-    std::size_t operator()(const velmar::ActionSet &set) const noexcept {
-        return std::hash<velmar::UUID>()(set.id);
-    }
-};

@@ -3,57 +3,43 @@
 #include <Models/Actions/ExecutionActions.h>
 #include <Models/Actions/InteractionActions.h>
 
-#include <type_traits>
 #include <utility>
 
 namespace velmar {
 
 namespace {
 
-template <class Item>
-struct RuntimeAction {
-    using Type = Actions::Unavailable;
-};
-template <>
-struct RuntimeAction<ActionItem::Log> {
-    using Type = Actions::Log;
-};
-template <>
-struct RuntimeAction<ActionItem::DisplayAlert> {
-    using Type = Actions::DisplayAlert;
-};
-template <>
-struct RuntimeAction<ActionItem::PlaySound> {
-    using Type = Actions::PlaySound;
-};
-template <>
-struct RuntimeAction<ActionItem::TerminateApp> {
-    using Type = Actions::TerminateApp;
-};
-template <>
-struct RuntimeAction<ActionItem::CopyToClipboard> {
-    using Type = Actions::CopyToClipboard;
-};
-template <>
-struct RuntimeAction<ActionItem::NavigateToSlide> {
-    using Type = Actions::NavigateToSlide;
-};
-template <>
-struct RuntimeAction<ActionItem::UpdateVariable> {
-    using Type = Actions::UpdateVariable;
+/// Makes the runtime form of one item.
+struct Maker {
+    std::shared_ptr<const ActionItem> item;
+    std::shared_ptr<const ActionSurroundings> surroundings;
+
+    using Result = std::shared_ptr<Dispatchable>;
+    Result operator()(const ActionItem::Log &) const { return make<Actions::Log>(); }
+    Result operator()(const ActionItem::DisplayAlert &) const { return make<Actions::DisplayAlert>(); }
+    Result operator()(const ActionItem::PlaySound &) const { return make<Actions::PlaySound>(); }
+    Result operator()(const ActionItem::TerminateApp &) const { return make<Actions::TerminateApp>(); }
+    Result operator()(const ActionItem::CopyToClipboard &) const { return make<Actions::CopyToClipboard>(); }
+    Result operator()(const ActionItem::NavigateToSlide &) const { return make<Actions::NavigateToSlide>(); }
+    Result operator()(const ActionItem::UpdateVariable &) const { return make<Actions::UpdateVariable>(); }
+    template <class Other>
+    Result operator()(const Other &) const {
+        return make<Actions::Unavailable>();
+    }
+
+private:
+    template <class Action>
+    [[nodiscard]] Result make() const {
+        return std::make_shared<Action>(item, surroundings);
+    }
 };
 
 } // namespace
 
 std::shared_ptr<Dispatchable> dispatchable(std::shared_ptr<const ActionItem> item,
                                            const std::shared_ptr<const ActionSurroundings> &surroundings) {
-    const ActionItem &held = *item;
-    return std::visit(
-        [&](const auto &action) -> std::shared_ptr<Dispatchable> {
-            using Type = typename RuntimeAction<std::remove_cvref_t<decltype(action)>>::Type;
-            return std::make_shared<Type>(std::move(item), surroundings);
-        },
-        held.value);
+    const Maker maker{std::move(item), surroundings};
+    return std::visit(maker, maker.item->value);
 }
 
 } // namespace velmar

@@ -5,8 +5,6 @@
 
 #include <fmt/format.h>
 
-#include <type_traits>
-
 namespace velmar::Actions {
 
 void TerminateApp::perform() {
@@ -16,10 +14,7 @@ void TerminateApp::perform() {
 
 void Unavailable::perform() {
     LoggerExtensions::error(LogSubject::actions, [this] {
-        const auto type = std::visit(
-            [](const auto &action) { return std::remove_cvref_t<decltype(action)>::typeIdentifier; },
-            item().value);
-        return fmt::format("Actions of the type '{}' cannot be run yet", rawString(type));
+        return fmt::format("Actions of the type '{}' cannot be run yet", typeOf(item()));
     });
     complete(false);
 }

@@ -51,8 +51,9 @@ void DisplayAlert::makeAlert() {
                 .informativeText = item._message(),
                 .buttons = item._buttonsText()};
     if (const auto iconPath = item._iconPath()) {
-        const std::string path = iconPath->path();
-        alert.icon = surroundings().alerts.icon(path);
+        const bool isOnDisk = iconPath->isFileURL() || !iconPath->scheme();
+        const std::string path = isOnDisk ? iconPath->path() : iconPath->text();
+        alert.icon = isOnDisk ? surroundings().alerts.icon(path) : nullptr;
         if (!alert.icon) {
             Logger::warning(
                 [&] { return fmt::format(". DisplayAlert: could not retrieve icon at {}", path); });

@@ -2,6 +2,7 @@
 #include <Dispatch/DispatchQueue.h>
 #include <Dispatch/ThreadSafe.h>
 #include <Managers/ActionDispatcher.h>
+#include <Managers/ConditionEvaluator.h>
 #include <Models/Actions/Action.h>
 
 #include <Support/RecordedLog.h>
@@ -9,13 +10,17 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstddef>
 #include <deque>
 #include <future>
+#include <optional>
+#include <random>
 #include <string>
 #include <thread>
 #include <utility>
+#include <vector>
 
 namespace velmar {
 namespace {
@@ -23,6 +28,8 @@ namespace {
 using ExecutionType = ActionItems::ExecutionType;
 using testing::ElementsAre;
 using namespace std::chrono_literals;
+
+using Clock = std::chrono::steady_clock;
 
 /// What an action of a test does; its item's message spells it, one character an action.
 enum Outcome : char {
@@ -37,7 +44,8 @@ enum Outcome : char {
 /// One set of such actions, which notes what it does when it runs.
 class SetRun {
 public:
-    explicit SetRun(std::string_view outcomes, ExecutionType type, bool continueAfterFailure = false) {
+    explicit SetRun(std::string_view outcomes, ExecutionType type, bool continueAfterFailure = false,
+                    std::optional<Expression> condition = std::nullopt) {
         std::vector<ActionItem> actions;
         for (const char outcome : outcomes) {
             ActionItem::Log log;
@@ -48,6 +56,7 @@ public:
         item->_type.set(type);
         item->_actions.set(std::move(actions));
         item->_continueAfterFailure.set(continueAfterFailure);
+        item->_condition.set(std::move(condition));
         set_.item = std::move(item);
     }
 
@@ -124,27 +133,52 @@ private:
         });
 };
 
-TEST(ActionDispatcher, RunsParallelSetsWholeAndChainsUpToTheirEndInTenThousandSetsAtATime) {
-    const struct {
-        const char *outcomes;
+/// What the rules say of a set.
+std::string expected(std::string_view outcomes, ExecutionType type, bool continueAfterFailure) {
+    if (type == ExecutionType::parallel) {
+        return std::string(outcomes) + (outcomes.find(isSkipped) != outcomes.npos ? "" : ".");
+    }
+    const auto stops = [continueAfterFailure](char outcome) {
+        return outcome == isSkipped || ((outcome == fails || outcome == failsLater) && !continueAfterFailure);
+    };
+    const auto stop = std::ranges::find_if(outcomes, stops);
+    if (stop != outcomes.end() && (*stop == isSkipped || stop + 1 != outcomes.end())) {
+        return {outcomes.begin(), stop + 1};
+    }
+    return std::string(outcomes) + (outcomes.empty() ? "" : ".");
+}
+
+TEST(ActionDispatcher, FollowsTheRulesInTenThousandSetsAtATime) {
+    struct Case {
+        std::string outcomes;
         ExecutionType type;
         bool continueAfterFailure;
-        const char *result;
-    } cases[] = {
+        std::string result;
+    };
+    std::vector<Case> cases = {
         {"", ExecutionType::parallel, false, "."},       {"sfS", ExecutionType::parallel, false, "sfS."},
         {"s-F", ExecutionType::parallel, true, "s-F"},   {"", ExecutionType::chained, true, ""},
         {"sSs", ExecutionType::chained, false, "sSs."},  {"sFs", ExecutionType::chained, false, "sF"},
         {"sFfs", ExecutionType::chained, true, "sFfs."}, {"sf", ExecutionType::chained, false, "sf."},
         {"s-s", ExecutionType::chained, true, "s-"},     {"s-", ExecutionType::chained, true, "s-"},
     };
-    std::deque<std::pair<SetRun, std::string>> runs;
-    for (std::size_t i = 0; i < 10'000; ++i) {
-        const auto &[outcomes, type, continueAfterFailure, result] = cases[i % std::size(cases)];
-        runs.emplace_back(SetRun(outcomes, type, continueAfterFailure), result);
-        runs.back().first.start();
+    std::mt19937 random(20); // NOLINT(*-msc51-cpp): the same sets in every run.
+    while (cases.size() < 10'000) {
+        std::string outcomes(random() % 9, succeeds);
+        for (char &outcome : outcomes) {
+            outcome = std::string_view("sssSSSffFF-")[random() % 11];
+        }
+        const auto type = random() % 2 == 0 ? ExecutionType::parallel : ExecutionType::chained;
+        const bool continueAfterFailure = random() % 2 == 0;
+        cases.push_back(
+            {outcomes, type, continueAfterFailure, expected(outcomes, type, continueAfterFailure)});
     }
-    for (auto &[run, result] : runs) {
-        ASSERT_EQ(run.settled(), result);
+    std::deque<SetRun> runs;
+    for (const auto &[outcomes, type, continueAfterFailure, result] : cases) {
+        runs.emplace_back(outcomes, type, continueAfterFailure).start();
+    }
+    for (std::size_t i = 0; i < runs.size(); ++i) {
+        ASSERT_EQ(runs[i].settled(), cases[i].result) << cases[i].outcomes;
     }
 }
 
@@ -152,12 +186,38 @@ TEST(ActionDispatcher, LogsTheNumberOfActionsBeforeTheyHaveEnded) {
     const RecordedLog log;
     SetRun run("hs", ExecutionType::parallel);
     run.start();
-    while (log.lines().empty()) {
+    for (const auto end = Clock::now() + 20s; log.lines().empty() && Clock::now() < end;) {
         std::this_thread::yield();
     }
     EXPECT_THAT(log.lines(), ElementsAre("debug: 2 action(s) executed!"));
     run.finish(false);
     EXPECT_EQ(run.settled(), "hs.");
+}
+
+TEST(ActionDispatcher, RunsASetOnlyIfItsConditionHolds) {
+    const auto store = std::make_shared<ContentManager>();
+    store->updateVariable("NAME", "Ann", false);
+    using NamedConditions = ConditionEvaluator::NamedConditions;
+    const Shared<ConditionEvaluator>::Scope evaluator(std::make_shared<ConditionEvaluator>(
+        Config<NamedConditions>([](const Configuration &) { return NamedConditions(); }, NamedConditions()),
+        store));
+    for (const auto type : {ExecutionType::parallel, ExecutionType::chained}) {
+        const struct {
+            const char *condition;
+            const char *result;
+            std::size_t errors;
+        } cases[] = {{"NAME == \"Ann\"", "s.", 0}, {"NAME == \"Bo\"", "", 0}, {"MISSING == 1", "", 1}};
+        for (const auto &[condition, result, errors] : cases) {
+            SetRun run("s", type, true, Expression(condition));
+            const RecordedLog log;
+            run.start();
+            EXPECT_EQ(run.settled(), result) << condition;
+            const auto lines = log.lines();
+            EXPECT_EQ(
+                std::ranges::count_if(lines, [](const auto &line) { return line.starts_with("error: "); }),
+                errors);
+        }
+    }
 }
 
 TEST(ActionDispatcher, LetsTwoRunsOfAChainShareWhatRemains) {

@@ -86,7 +86,7 @@ TEST(ActionSetManager, FiresTheSetsOfEachTrigger) {
     for (const char *const application : {"org.Calc", "com.Calc", "com.other", ""}) {
         applications.start(application);
     }
-    EXPECT_EQ(dispatcher->take(), "d+ e e+ e+ ");
+    EXPECT_EQ(dispatcher->take(), "e d+ e+ e+ ");
 
     manager->dispatchSetsFor("Nowhere");
     EXPECT_EQ(dispatcher->take(), "");

@@ -11,6 +11,8 @@
 
 #include <fmt/format.h>
 
+#include <cstdint>
+#include <limits>
 #include <memory>
 #include <string>
 #include <vector>
@@ -59,6 +61,7 @@ protected:
         settings._onScreen.setOverrideValue(onScreen);
         settings._onboardSlides.setOverrideValue(std::move(slides));
         settings._menubarSlide.setOverrideValue(slide(false, true));
+        settings.slidesActionManager = slidesActionManager;
         model = std::make_shared<ContentViewModel>(queue, quits, center, settings);
         controller.slide = std::make_shared<SlideViewModel>(center);
         model->setController(&controller);
@@ -93,12 +96,42 @@ protected:
     NotificationCenter center;
     TestMainQueue queue;
     QuitAttempts quits;
+    std::shared_ptr<SlidesActionManager> slidesActionManager = std::make_shared<SlidesActionManager>();
     Controller controller;
     std::shared_ptr<SupervisedElement> element = std::make_shared<SupervisedElement>();
     std::shared_ptr<ContentViewModel> model;
     std::vector<NotificationCenter::Token> tokens;
     Names posted;
 };
+
+TEST_F(ContentModel, FollowsTheRequestsOfActionsOnTheMainThread) {
+    start({slide(), slide(), slide()});
+    constexpr std::int64_t far = std::numeric_limits<std::int64_t>::max();
+    const struct {
+        bool byOffset;
+        std::int64_t number;
+        const char *transition; ///< Null where the request leads nowhere.
+        const char *line = nullptr;
+    } cases[] = {
+        {false, 2, "0>2"},
+        {true, -1, "2>1"},
+        {true, 2, nullptr, "Slide jump with offset 2 at slide 1 is out of bounds. Slides count: 3."},
+        {true, -far, nullptr,
+         "Slide jump with offset -9223372036854775807 at slide 1 is out of bounds. Slides count: 3."},
+        {false, 3, nullptr, "There is no slide 3. Slides count: 3."},
+        {false, -1, nullptr, "There is no slide -1. Slides count: 3."},
+        {false, 0, "1>0"},
+    };
+    for (const auto &[byOffset, number, transition, line] : cases) {
+        const int before = model->selectedSlideIndex();
+        byOffset ? slidesActionManager->navigateByOffset(number)
+                 : slidesActionManager->navigateToIndex(number);
+        EXPECT_EQ(model->selectedSlideIndex(), before); // Not on the thread of the action.
+        EXPECT_EQ(takeTransitions(), transition != nullptr ? Names{transition} : Names()) << number;
+        const auto lines = log.takeLines();
+        EXPECT_EQ(lines, line != nullptr ? Names{std::string("warning: ") + line} : Names());
+    }
+}
 
 TEST_F(ContentModel, SaysWhatASlideWantsHiddenAndThenWhereItStands) {
     const std::string hidePrevious = "currentSlideWantsToHidePreviousButton";

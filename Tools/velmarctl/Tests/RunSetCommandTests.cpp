@@ -66,10 +66,10 @@ TEST_F(RunSetCommandTest, SaysWhereASetStops) {
         const char *output;
     } cases[] = {
         {"Chained", skipped + log("y"), ExitStatus::refused,
-         "0 Log: started\n0 Log: not run, its condition does not hold\nThe set stopped before its end after "
+         "0 Log: started\n0 Log: not run, for its condition\nThe set stopped before its end after "
          "T.\n"},
         {"Parallel", skipped + log("y"), ExitStatus::refused,
-         "0 Log: started\n0 Log: not run, its condition does not hold\n1 Log: started\n    info: y\n"
+         "0 Log: started\n0 Log: not run, for its condition\n1 Log: started\n    info: y\n"
          "1 Log: succeeded after T\nThe set stopped before its end after T.\n"},
         {"Chained", action("SaveInputs", "") + log("y"), ExitStatus::refused,
          "0 SaveInputs: started\n    error: "},
@@ -81,7 +81,7 @@ TEST_F(RunSetCommandTest, SaysWhereASetStops) {
     }
     EXPECT_EQ(runSet("Parallel", log("y"), ExitStatus::refused, {},
                      "<key>Condition</key><string>NAME == \"Bo\"</string>"),
-              "The set stopped before its end after T.\n");
+              "The set was not run, for its condition, after T.\n");
 }
 
 TEST_F(RunSetCommandTest, TakesAnAdmittedFileAndASetThatIsThere) {

@@ -31,7 +31,7 @@ void ContentViewModel::setupNotifications() {
     observe(willNavigateToPreviousSlide, [this] { goToPreviousSlide(); });
     observe(slideHasInvalidMandatoryElements, [this] { _isCurrentSlideValid.set(false); });
     observe(allMandatoryElementsInSlideAreValid, [this] { _isCurrentSlideValid.set(true); });
-    SlidesActionManager::shared()->addObserver(weak_from_this());
+    settings_.slidesActionManager->addObserver(weak_from_this());
 }
 
 std::shared_ptr<const std::vector<SlideItem>> ContentViewModel::slides() const {
@@ -71,11 +71,18 @@ void ContentViewModel::jumpWith(std::int64_t offset) {
 
 void ContentViewModel::navigateToIndex(std::int64_t index) {
     mainQueue_.async([model = weak_from_this(), index] {
-        // The slides may be fewer than when the action was checked.
         const auto self = model.lock();
-        if (self && index >= 0 && index < self->slidesCount()) {
-            self->setSelectedIndex(static_cast<int>(index), true);
+        if (!self) {
+            return;
         }
+        // The slides may be fewer than when the action was checked.
+        const int count = self->slidesCount();
+        if (index < 0 || index >= count) {
+            Logger::warning(
+                [&] { return fmt::format("There is no slide {}. Slides count: {}.", index, count); });
+            return;
+        }
+        self->setSelectedIndex(static_cast<int>(index), true);
     });
 }
 

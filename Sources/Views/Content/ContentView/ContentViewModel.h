@@ -43,7 +43,7 @@ public:
 class ContentViewModel final : public SlideNavigationObserver,
                                public std::enable_shared_from_this<ContentViewModel> {
 public:
-    /// What the model reads of the configuration.
+    /// What the model reads of the configuration, and whom it listens to.
     struct Settings {
         Config<WindowSection::OnScreen> _onScreen{
             [](const Configuration &c) -> decltype(auto) { return c._window()._onScreen(); }};
@@ -51,6 +51,8 @@ public:
             [](const Configuration &c) -> decltype(auto) { return c._slides(); }};
         Config<SlideItem> _menubarSlide{
             [](const Configuration &c) -> decltype(auto) { return c._menuBarSlideSection(); }};
+        /// Who passes the requests of actions on.
+        std::shared_ptr<SlidesActionManager> slidesActionManager = SlidesActionManager::shared();
     };
 
     /// The queue, the manager and the centre must outlive the model.
