@@ -1,6 +1,6 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="en">
+<TS version="2.1" language="en" sourcelanguage="en">
 <context>
     <name></name>
     <message id="navigation.buttons.next">
@@ -23,20 +23,39 @@
         <extracomment>What a screen reader calls a part of a slide that has no text</extracomment>
         <translation>Content</translation>
     </message>
+    <message id="general.alerts.wait-for-complete-installation-before-quitting.title">
+        <source>Some apps are not installed yet. You can quit once all of them are.</source>
+        <extracomment>Text displayed when the user tries to quit the app although not all apps are installed</extracomment>
+        <translation>Some apps are not installed yet. You can quit once all of them are.</translation>
+    </message>
+    <message id="general.alerts.wait-for-mandatory-files-before-quitting.title">
+        <source>Some required files are not on this computer yet. You can quit once all of them are.</source>
+        <extracomment>Text displayed when the user tries to quit the app although not mandatory files are present on device</extracomment>
+        <translation>Some required files are not on this computer yet. You can quit once all of them are.</translation>
+    </message>
+    <message id="components.alerts.wait-for-complete-installation-before-transitionning.title">
+        <source>Some apps are not installed yet. You can continue once all of them are.</source>
+        <extracomment>Text displayed when the user tries to go to the next slide although the AppMonitoring component in the current is marked as Mandatory and not all apps are installed</extracomment>
+        <translation>Some apps are not installed yet. You can continue once all of them are.</translation>
+    </message>
     <message id="menu.application.quit">
         <source>Quit Velmar</source>
+        <extracomment>The entry of the application's menu that ends the session</extracomment>
         <translation>Quit Velmar</translation>
     </message>
     <message id="menu.administrator">
         <source>Administrator</source>
+        <extracomment>The title of the menu that only an administrator's configuration offers</extracomment>
         <translation>Administrator</translation>
     </message>
     <message id="menu.administrator.reload-interface-saving-variables">
         <source>Reload interface (saving variables)</source>
+        <extracomment>Reads the configuration again and leaves the variables with the values that they have</extracomment>
         <translation>Reload interface (saving variables)</translation>
     </message>
     <message id="menu.administrator.reload-interface">
         <source>Reload interface</source>
+        <extracomment>Reads the configuration again and gives the variables their first values</extracomment>
         <translation>Reload interface</translation>
     </message>
 </context>

@@ -1,30 +1,76 @@
 #include <AppDelegate/Localization.h>
 
 #include <QCoreApplication>
-#include <QLocale>
+#include <QDir>
+#include <QGuiApplication>
+#include <QLibraryInfo>
 #include <QTranslator>
 
+#include <algorithm>
 #include <memory>
 
 namespace velmar::Localization {
 
 namespace {
 
-void install(const QLocale &locale) {
-    auto translator = std::make_unique<QTranslator>();
-    if (translator->load(locale, QStringLiteral("velmar"), QStringLiteral("_"), QStringLiteral(":/i18n")) &&
-        QCoreApplication::installTranslator(translator.get())) {
+const auto folder = QStringLiteral(":/i18n");
+const auto prefix = QStringLiteral("velmar_");
+const auto suffix = QStringLiteral(".qm");
+const auto english = QStringLiteral("en");
+
+void install(std::unique_ptr<QTranslator> translator, bool isLoaded) {
+    if (isLoaded && QCoreApplication::installTranslator(translator.get())) {
         translator.release()->setParent(QCoreApplication::instance());
     }
 }
 
+void installTexts(const QString &language) {
+    auto translator = std::make_unique<QTranslator>();
+    const bool isLoaded = translator->load(prefix + language + suffix, folder);
+    install(std::move(translator), isLoaded);
+}
+
+void installTextsOfToolkit(const QLocale &language) {
+    auto translator = std::make_unique<QTranslator>();
+    const bool isLoaded = translator->load(language, QStringLiteral("qtbase"), QStringLiteral("_"),
+                                           QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    install(std::move(translator), isLoaded);
+}
+
 } // namespace
 
-void install() {
+QStringList languages() {
+    QStringList codes = QDir(folder).entryList({prefix + QLatin1Char('*') + suffix}, QDir::Files, QDir::Name);
+    for (QString &code : codes) {
+        code = code.mid(prefix.size()).chopped(suffix.size());
+    }
+    return codes;
+}
+
+QString closestLanguage(const QLocale &locale) {
+    const QStringList known = languages();
+    // The languages of messages, which may differ from that of numbers and dates.
+    for (QString code : locale.uiLanguages()) {
+        code.replace(QLatin1Char('-'), QLatin1Char('_'));
+        for (; !code.isEmpty(); code.truncate(std::max(code.lastIndexOf(QLatin1Char('_')), qsizetype{0}))) {
+            if (known.contains(code)) {
+                return code;
+            }
+        }
+    }
+    return {};
+}
+
+void install(const QLocale &locale) {
     // The last one installed is asked first, and English has every text.
-    install(QLocale(QLocale::English));
-    // Looked up by its uiLanguages(): the languages of messages may differ from that of numbers and dates.
-    install(QLocale::system());
+    installTexts(english);
+    const QString language = closestLanguage(locale);
+    if (language.isEmpty() || language == english) {
+        return;
+    }
+    installTextsOfToolkit(QLocale(language));
+    installTexts(language);
+    QGuiApplication::setLayoutDirection(QLocale(language).textDirection());
 }
 
 } // namespace velmar::Localization

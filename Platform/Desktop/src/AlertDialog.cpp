@@ -106,7 +106,7 @@ AlertDialog::AlertDialog(const Alert &alert, QWidget *parent)
     setWindowTitle(QCoreApplication::applicationName());
     setAccessibleName(QString::fromStdString(alert.messageText));
     if (buttons_.empty()) {
-        buttons_ = {"OK"};
+        buttons_ = {QCoreApplication::translate("QPlatformTheme", "OK").toStdString()};
     }
 
     QWidget *textColumn = makeTexts(alert);
