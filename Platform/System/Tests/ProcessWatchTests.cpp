@@ -78,7 +78,8 @@ protected:
                 ProcessWatch::Places{.processes = directory_.path("proc"),
                                      .applications = {directory_.path("applications")},
                                      .executables = {directory_.path("bin")},
-                                     .users = {geteuid()}});
+                                     .users = {geteuid()},
+                                     .ownProcess = 60});
         return *watch_;
     }
 
@@ -134,6 +135,7 @@ TEST_F(Machine, NamesApplicationsByTheirEntriesOrPrograms) {
     entry("kde/hidden", "Exec=/opt/hidden\nHidden=true");
     program("nested");
     entry("kde/nested", "Exec=nested");
+    std::filesystem::create_directory_symlink(".", directory_.path("applications/again"));
 
     const std::pair<Process, const char *> cases[] = {
         {{.executable = plain}, "org.example.Plain"},
@@ -240,6 +242,20 @@ TEST_F(Machine, TellsAStartOnceAndEachStart) {
     directory_.write("proc/999/stat", ""); // Takes the place of the directory.
     run(104, {.executable = "/opt/editor", .parent = 50});
     EXPECT_THAT(look(3), ElementsAre("editor"));
+}
+
+TEST_F(Machine, TellsNothingThatItStartedItself) {
+    run(60, {.executable = "/opt/velmar", .parent = 50});
+    run(70, {.executable = "/usr/bin/bash", .parent = 60}); // Since before the watch.
+    look();
+    run(100, {.executable = "/usr/bin/bash", .parent = 60});
+    run(101, {.executable = "/opt/tool", .parent = 100});
+    run(102, {.executable = "/opt/late", .parent = 70});
+    EXPECT_THAT(look(), IsEmpty());
+    end(100);
+    run(101, {.executable = "/opt/other"}); // Its parent has gone.
+    run(103, {.executable = "/opt/theirs", .parent = 50});
+    EXPECT_THAT(look(3), ElementsAre("theirs"));
 }
 
 TEST_F(Machine, TellsInTheOrderOfTheStarts) {

@@ -1,13 +1,15 @@
 #include <System/SystemRunningApplications.h>
 
+#include <Dispatch/MainThreadQueue.h>
 #include <Testing/TemporaryDirectory.h>
-#include <Testing/TestMainQueue.h>
 #include <Testing/TestTimerScheduler.h>
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <filesystem>
 #include <string>
+#include <thread>
 #include <tuple>
 #include <vector>
 
@@ -19,11 +21,19 @@
 namespace velmar {
 namespace {
 
+struct CountingQueue final : MainThreadQueue {
+    std::atomic<int> posts = 0;
+    void async(std::function<void()> function) override {
+        MainThreadQueue::async(std::move(function));
+        ++posts;
+    }
+};
+
 TEST(SystemRunningApplications, TellAProcessOfThisMachine) {
     const TemporaryDirectory directory;
     const std::string program = directory.path("velmar-test-program");
     std::filesystem::copy_file("/bin/sleep", program);
-    TestMainQueue mainQueue;
+    CountingQueue mainQueue;
     TestTimerScheduler timers;
     SystemRunningApplications applications(
         mainQueue, timers,
@@ -36,7 +46,7 @@ TEST(SystemRunningApplications, TellAProcessOfThisMachine) {
 
     char name[] = "program", time[] = "60";
     char *arguments[] = {name, time, nullptr};
-    pid_t process = 0;
+    pid_t process = 0, later = 0;
     ASSERT_EQ(posix_spawn(&process, program.c_str(), nullptr, nullptr, arguments, environ), 0);
     // Each turn of the clock is a look, unless the former one is still under way.
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
@@ -46,12 +56,21 @@ TEST(SystemRunningApplications, TellAProcessOfThisMachine) {
     }
     EXPECT_EQ(started, (std::vector<RunningApplication>{{"velmar-test-program", process}}));
 
-    // With a look under way.
+    // A start that is on its way to the observer, and a look under way.
+    ASSERT_EQ(posix_spawn(&later, program.c_str(), nullptr, nullptr, arguments, environ), 0);
+    for (mainQueue.posts = 0; mainQueue.posts == 0 && std::chrono::steady_clock::now() < deadline;) {
+        timers.advance(SystemRunningApplications::interval);
+        std::this_thread::yield();
+    }
     timers.advance(SystemRunningApplications::interval);
     observation.reset();
     EXPECT_EQ(timers.runningTimers(), 0U);
-    kill(process, SIGKILL);
-    waitpid(process, nullptr, 0);
+    EXPECT_GT(mainQueue.runUntilEmpty(), 0U);
+    EXPECT_EQ(started.size(), 1U);
+    for (const pid_t each : {process, later}) {
+        kill(each, SIGKILL);
+        waitpid(each, nullptr, 0);
+    }
 }
 
 } // namespace

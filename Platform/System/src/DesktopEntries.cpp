@@ -18,17 +18,17 @@ constexpr std::size_t largestEntry = 256 * 1024; // Bytes; translations make ent
 constexpr int deepestDirectory = 4;
 constexpr std::string_view entrySuffix = ".desktop";
 
-// Nanoseconds; 0 for what isn't there.
-std::int64_t lastChange(const std::string &path) {
+// All zero for what isn't there.
+struct stat statusOf(const std::string &path) {
     struct stat status {};
-    return stat(path.c_str(), &status) == 0
-               ? static_cast<std::int64_t>(status.st_mtim.tv_sec) * 1'000'000'000 + status.st_mtim.tv_nsec
-               : 0;
+    if (stat(path.c_str(), &status) != 0)
+        status = {};
+    return status;
 }
 
-bool isDirectory(const std::string &path) {
-    struct stat status {};
-    return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+// Nanoseconds.
+std::int64_t lastChange(const struct stat &status) {
+    return static_cast<std::int64_t>(status.st_mtim.tv_sec) * 1'000'000'000 + status.st_mtim.tv_nsec;
 }
 
 // The values of an entry's main group that matter here, as they stand.
@@ -111,7 +111,7 @@ std::string DesktopEntries::identifierFor(const std::string &executable) {
 
 bool DesktopEntries::isCurrent() const {
     for (const auto &[path, time] : changes_) {
-        if (lastChange(path) != time)
+        if (lastChange(statusOf(path)) != time)
             return false;
     }
     return !changes_.empty() || directories_.empty();
@@ -120,6 +120,7 @@ bool DesktopEntries::isCurrent() const {
 void DesktopEntries::read() {
     changes_.clear();
     seen_.clear();
+    visited_.clear();
     byExecutable_.clear();
     for (const std::string &directory : directories_)
         readDirectory(directory, "", 0);
@@ -127,7 +128,10 @@ void DesktopEntries::read() {
 
 void DesktopEntries::readDirectory(const std::string &path, const std::string &prefix, int depth) {
     // Before its entries, so that what changes meanwhile is read again.
-    changes_[path] = lastChange(path);
+    const struct stat status = statusOf(path);
+    changes_[path] = lastChange(status);
+    if (!visited_.emplace(status.st_dev, status.st_ino).second)
+        return;
     const FileManager &files = FileManager::defaultManager();
     try {
         for (const std::string &name : files.contentsOfDirectory(path)) {
@@ -136,7 +140,7 @@ void DesktopEntries::readDirectory(const std::string &path, const std::string &p
             identifier += name;
             if (name.ends_with(entrySuffix))
                 readEntry(item, identifier.substr(0, identifier.size() - entrySuffix.size()));
-            else if (depth < deepestDirectory && isDirectory(item))
+            else if (depth < deepestDirectory && S_ISDIR(statusOf(item).st_mode))
                 readDirectory(item, identifier.append("-"), depth + 1);
         }
     } catch (const FileError &) {

@@ -8,6 +8,8 @@
 #include <utility>
 #include <vector>
 
+#include <sys/types.h>
+
 namespace velmar {
 
 /// The installed applications, by their executables. Read when first asked, and again when one of the
@@ -35,6 +37,7 @@ private:
     std::vector<std::string> executables_;
     std::map<std::string, std::int64_t> changes_; // When each directory was changed last.
     std::set<std::string> seen_;                  // An earlier directory's entry hides a later one's.
+    std::set<std::pair<dev_t, ino_t>> visited_;   // Links may lead to a directory again and again.
     std::map<std::string, Rank> byExecutable_;
 };
 

@@ -11,8 +11,10 @@
 #include <cstdlib>
 #include <iterator>
 #include <sstream>
+#include <string_view>
 #include <tuple>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 #include <unistd.h>
@@ -23,12 +25,15 @@ namespace {
 
 // The look that finds a process and the next two.
 constexpr int readingsOfNewProcess = 3;
+// What was read at different moments can make a circle of parents.
+constexpr int mostGenerations = 100;
 
 struct Known {
     ProcessDirectory::Entry entry;
     ProcessRecord record{};
     ApplicationIdentity identity{};
     int readings = 0;    // That are still to come.
+    bool isOwn = false;  // Descends from the process that watches.
     bool isPart = false; // Of an application that was there before it.
     bool isTold = false;
 };
@@ -45,7 +50,8 @@ public:
     explicit Table(Places places)
         : directory_(places.processes),
           identities_(directory_, std::move(places.applications), std::move(places.executables)),
-          users_(std::move(places.users)) {
+          users_(std::move(places.users)),
+          ownProcess_(places.ownProcess) {
         for (const auto &entry : directory_.list())
             known_.push_back(Known{.entry = entry});
     }
@@ -79,6 +85,7 @@ private:
     void compare(const std::vector<ProcessDirectory::Entry> &entries) {
         std::vector<Known> current;
         current.reserve(entries.size());
+        endedIdentifiers_.clear();
         ended_.clear();
         auto former = known_.begin();
         for (const auto &entry : entries) {
@@ -95,8 +102,10 @@ private:
         }
         std::move(former, known_.end(), std::back_inserter(ended_));
         known_ = std::move(current);
-        for (Known &process : ended_)
+        for (Known &process : ended_) {
+            endedIdentifiers_.insert(process.identity.identifier);
             tell(process);
+        }
     }
 
     // Another process may have the number meanwhile.
@@ -128,7 +137,19 @@ private:
         auto record = directory_.record(process.entry.process);
         if (record)
             process.record = std::move(*record);
+        // It stays so when a parent has gone.
+        process.isOwn = isOwn(process);
         return record.has_value();
+    }
+
+    [[nodiscard]] bool isOwn(const Known &process) const {
+        const Known *ancestor = &process;
+        for (int i = 0; ancestor != nullptr && i < mostGenerations; ++i) {
+            if (ancestor->isOwn || ancestor->entry.process == ownProcess_)
+                return true;
+            ancestor = known(ancestor->record.parent);
+        }
+        return false;
     }
 
     // True if it is what it was at the last reading.
@@ -159,9 +180,7 @@ private:
         // A program that goes on in a child of its own leaves that to the first process, or to the manager of
         // the user's services.
         const bool isOrphan = parent->entry.process == 1 || parent->record.name == "systemd";
-        return isOrphan && std::any_of(ended_.begin(), ended_.end(), [&](const Known &ended) {
-                   return ended.identity.identifier == identity.identifier;
-               });
+        return isOrphan && endedIdentifiers_.contains(identity.identifier);
     }
 
     [[nodiscard]] const Known *known(std::int32_t process) const {
@@ -172,7 +191,7 @@ private:
     }
 
     void tell(Known &process) {
-        if (process.isTold || process.isPart || process.identity.identifier.empty())
+        if (process.isTold || process.isPart || process.isOwn || process.identity.identifier.empty())
             return;
         process.isTold = true;
         process.readings = 0;
@@ -188,15 +207,17 @@ private:
     ProcessDirectory directory_;
     ProcessIdentities identities_;
     std::vector<std::uint32_t> users_;
+    std::int32_t ownProcess_;
     bool isRead_ = false;
-    std::vector<Known> known_;                       // By number.
-    std::vector<Known> ended_;                       // Since the last look.
+    std::vector<Known> known_; // By number.
+    std::vector<Known> ended_; // Since the last look.
+    std::unordered_set<std::string_view> endedIdentifiers_;
     std::vector<Known> told_;                        // In this look.
     std::unordered_map<std::string, int> unitSizes_; // Processes of each unit.
 };
 
 ProcessWatch::Places ProcessWatch::placesOfProcess(const IdentityAuthority &authority) {
-    Places places{.applications = {}, .executables = {}, .users = {geteuid()}};
+    Places places{.applications = {}, .executables = {}, .users = {geteuid()}, .ownProcess = getpid()};
     for (const std::string &directory : UserDirectories::data())
         places.applications.push_back(directory + "/applications");
     const char *path = std::getenv("PATH"); // NOLINT(concurrency-mt-unsafe): nothing changes the environment

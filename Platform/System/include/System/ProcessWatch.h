@@ -14,12 +14,12 @@ class IdentityAuthority;
 /// Notices applications that start, by looking at the processes of the machine from time to time and
 /// comparing.
 ///
-/// A process is an application's start if it belongs to one of the users and is no part of what runs already:
-/// not in the unit of the service manager that a running application has, and not the same application as its
-/// parent, or as an ancestor that has gone. A look takes a list of the processes and reads the new ones only:
-/// at the look that finds them and at the next two, since a process is often seen before it has become the
-/// program that it is to run. It is told when it has a unit, when two readings in a row say the same, or when
-/// it has ended.
+/// A process is an application's start if it belongs to one of the users, doesn't descend from the process
+/// that watches, and is no part of what runs already: not in the unit of the service manager that a running
+/// application has, and not the same application as its parent, or as an ancestor that has gone. A look takes
+/// a list of the processes and reads the new ones only: at the look that finds them and at the next two,
+/// since a process is often seen before it has become the program that it is to run. It is told when it has a
+/// unit, when two readings in a row say the same, or when it has ended.
 ///
 /// The identifier is, in this order:
 /// - that in the name of the unit, as session managers name them: "app-gnome-org.example.App-123.scope",
@@ -36,6 +36,8 @@ public:
         std::vector<std::string> applications; ///< Directories of desktop entries; the first is preferred.
         std::vector<std::string> executables;  ///< Directories that are searched for a program's name.
         std::vector<std::uint32_t> users;      ///< Whose processes are looked at.
+        /// The process that watches: what it starts, and what that starts, is no start of an application.
+        std::int32_t ownProcess = 0;
     };
 
     /// Those of this process. The users are the one that it acts as and, for root, also the one in front of
