@@ -112,6 +112,8 @@ TEST_F(Alerts, ArePresentedOneAfterAnotherAndAnsweredFromTheLoop) {
         button(*QApplication::activeModalWidget(), text).click();
         EXPECT_EQ(answers.size(), before) << "not within the click";
         QCoreApplication::processEvents();
+        // The one that was answered goes while the next one is open.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
     setUncaughtHandler({});
     EXPECT_EQ(answers, (std::vector<std::pair<int, std::size_t>>{{0, 2}, {1, 1}, {2, 0}}));
