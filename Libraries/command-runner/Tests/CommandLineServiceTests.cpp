@@ -1,5 +1,6 @@
 #include <command-runner/CommandLineService.h>
 
+#include <Dispatch/UncaughtHandler.h>
 #include <Support/RecordedLog.h>
 #include <Testing/TemporaryDirectory.h>
 #include <command-runner/CompletionError.h>
@@ -120,6 +121,23 @@ TEST(CommandLineService, TellsWhyALaunchFailed) {
         EXPECT_THAT(outcomeOf(start(executeRaw, fmt::format("touch {} | {}", mark, second))),
                     HasSubstr("!The "));
     EXPECT_FALSE(std::filesystem::exists(mark));
+}
+
+TEST(CommandLineService, ReportsWhatACompletionThrowsAndCallsItOnce) {
+    int calls = 0;
+    for (const std::string command : {"echo a", "no-such-command", "/nonexistent"}) {
+        const auto reported = std::make_shared<std::promise<std::string>>();
+        setUncaughtHandler([reported](std::string_view, const std::exception_ptr &error) {
+            reported->set_value(std::string(textOf(error)));
+        });
+        executeRaw(command, [&](const Result<std::string> &) {
+            ++calls;
+            throw std::runtime_error(command);
+        });
+        EXPECT_EQ(reported->get_future().get(), command);
+    }
+    EXPECT_EQ(calls, 3);
+    setUncaughtHandler({});
 }
 
 TEST(CommandLineService, PassesArgumentsAsTheyAre) {

@@ -1,6 +1,7 @@
 #include <command-runner/CommandLineService.h>
 
 #include <Dispatch/DispatchQueue.h>
+#include <Dispatch/UncaughtHandler.h>
 #include <Foundation/ProcessChain.h>
 #include <Foundation/ProcessError.h>
 #include <Foundation/RegularExpression.h>
@@ -11,6 +12,7 @@
 #include "RawCommand.h"
 
 #include <algorithm>
+#include <exception>
 #include <memory>
 #include <string_view>
 #include <utility>
@@ -39,7 +41,7 @@ Result<std::string> textOf(ProcessOutput output, const Process &process) {
     if (output.isCut) {
         Logger::warning([&] {
             return fmt::format("The output of the process `{}` was cut at {} MiB", process.description(),
-                               maximumOutput >> 20);
+                               bytes.size() >> 20);
         });
         // The cut may go through a character, of four bytes at most.
         for (int count = 0; count < 3 && !endsWithCharacter(bytes); ++count)
@@ -54,6 +56,11 @@ Result<std::string> textOf(ProcessOutput output, const Process &process) {
     return std::move(output.bytes);
 }
 
+// Whatever else went wrong, with what is being thrown.
+CompletionError unexpectedError() {
+    return CompletionError::Unexpected{std::string(velmar::textOf(std::current_exception()))};
+}
+
 // The processes of one call, from the look-up of their names to the completion. It lives in the functions
 // that wait for its next step.
 class Execution : public std::enable_shared_from_this<Execution> {
@@ -61,6 +68,28 @@ public:
     Execution(std::vector<Process> processes, Completion completion)
         : processes_(std::move(processes)), completion_(std::move(completion)) {}
 
+    void begin() {
+        attempt(processes_.front(), [&] { proceedFrom(0); });
+    }
+
+    // Takes a step for a process; false if it threw, with which the execution has then ended.
+    template <class Step>
+    bool attempt(const Process &process, const Step &step) {
+        try {
+            step();
+            return true;
+        } catch (const ProcessError &error) {
+            fail(process, error);
+        } catch (...) {
+            // What the completion throws is the queue's to report.
+            if (isComplete_)
+                throw;
+            fail(process, unexpectedError());
+        }
+        return false;
+    }
+
+private:
     // Looks up the bare names from this process on, one after the other, then launches.
     void proceedFrom(std::size_t index) {
         while (index < processes_.size() && processes_[index].executablePath.find('/') != std::string::npos)
@@ -71,25 +100,12 @@ public:
             launch();
     }
 
-    // Takes a step for a process; false if it threw ProcessError, with which the execution has then ended.
-    template <class Step>
-    bool attempt(const Process &process, const Step &step) {
-        try {
-            step();
-            return true;
-        } catch (const ProcessError &error) {
-            fail(process, error);
-            return false;
-        }
-    }
-
-private:
     void lookUp(std::size_t index) {
         attempt(processes_[index], [&] {
             ProcessChain chain;
             chain.launch({"/usr/bin/which", {processes_[index].executablePath}});
             chain.readOutput(maximumPath, [self = shared_from_this(), index](const ProcessOutput &output) {
-                self->resolve(index, output);
+                self->attempt(self->processes_[index], [&] { self->resolve(index, output); });
             });
         });
     }
@@ -110,40 +126,43 @@ private:
     }
 
     void launch() {
-        const Process *current = nullptr;
-        try {
-            for (const Process &process : processes_) {
-                current = &process;
-                process.checkLaunchable();
-            }
-            ProcessChain chain;
-            for (const Process &process : processes_) {
-                current = &process;
-                chain.launch(process);
-            }
-            chain.readOutput(maximumOutput, [self = shared_from_this()](ProcessOutput output) {
-                self->complete(textOf(std::move(output), self->processes_.back()));
-            });
-        } catch (const ProcessError &error) {
-            fail(*current, error);
+        for (const Process &process : processes_) {
+            if (!attempt(process, [&] { process.checkLaunchable(); }))
+                return;
         }
+        ProcessChain chain;
+        for (const Process &process : processes_) {
+            if (!attempt(process, [&] { chain.launch(process); }))
+                return;
+        }
+        attempt(processes_.back(), [&] {
+            chain.readOutput(maximumOutput, [self = shared_from_this()](ProcessOutput output) {
+                const Process &last = self->processes_.back();
+                self->attempt(last, [&] { self->complete(textOf(std::move(output), last)); });
+            });
+        });
     }
 
-    void fail(const Process &process, const ProcessError &error) {
-        Logger::error([&] {
-            return fmt::format("Error while executing the process `{}`. {}", process.description(),
-                               error.errorDescription());
+    template <class Family>
+    void fail(const Process &process, const Family &error) {
+        runReportingUncaught("CommandLineService", [&] {
+            Logger::error([&] {
+                return fmt::format("Error while executing the process `{}`. {}", process.description(),
+                                   error.errorDescription());
+            });
         });
         complete(failure(error));
     }
 
     void complete(Result<std::string> result) {
+        isComplete_ = true;
         if (completion_)
             completion_(std::move(result));
     }
 
     std::vector<Process> processes_;
     Completion completion_;
+    bool isComplete_ = false;
 };
 
 Result<RawCommand> parsed(std::string_view text) {
@@ -153,6 +172,8 @@ Result<RawCommand> parsed(std::string_view text) {
         return failure(error);
     } catch (const RegularExpressionError &error) {
         return failure(error);
+    } catch (...) {
+        return failure(unexpectedError());
     }
 }
 
@@ -184,14 +205,14 @@ void execute(std::string rawCommand, Completion completion) {
                                    text, fmt::join(command->leftOut, "` and `"));
             });
         }
-        std::make_shared<Execution>(std::move(command->processes), completion)->proceedFrom(0);
+        std::make_shared<Execution>(std::move(command->processes), completion)->begin();
     });
 }
 
 void execute(std::string command, std::vector<std::string> arguments, Completion completion) {
     const auto execution = std::make_shared<Execution>(
         std::vector{Process{std::move(command), std::move(arguments)}}, std::move(completion));
-    DispatchQueue::global().async([execution] { execution->proceedFrom(0); });
+    DispatchQueue::global().async([execution] { execution->begin(); });
 }
 
 void executeScript(std::string path, std::vector<std::string> arguments, Completion completion) {
@@ -202,7 +223,7 @@ void executeScript(std::string path, std::vector<std::string> arguments, Complet
         [script = Process{std::move(path), std::move(arguments)}, completion = std::move(completion)] {
             const auto execution = std::make_shared<Execution>(std::vector{throughEnv(script)}, completion);
             if (execution->attempt(script, [&] { script.checkLaunchable(); }))
-                execution->proceedFrom(0);
+                execution->begin();
         });
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <new>
 #include <utility>
 
 #include <fcntl.h>
@@ -55,8 +56,13 @@ void OutputReading::readSome() {
         }
         // What is beyond the limit is read all the same, so that the process isn't held up.
         const std::size_t kept = std::min(static_cast<std::size_t>(length), limit_ - output_.bytes.size());
-        output_.bytes.append(block.data(), kept);
-        output_.isCut |= kept < static_cast<std::size_t>(length);
+        try {
+            output_.bytes.append(block.data(), kept);
+            output_.isCut |= kept < static_cast<std::size_t>(length);
+        } catch (const std::bad_alloc &) {
+            limit_ = output_.bytes.size();
+            output_.isCut = true;
+        }
     }
     start();
 }

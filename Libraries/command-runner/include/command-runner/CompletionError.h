@@ -16,11 +16,17 @@ struct CompletionFailure {
     struct NilString {
         [[nodiscard]] std::string errorDescription() const;
     };
+    /// Something that nobody counts on, such as a want of memory.
+    struct Unexpected {
+        std::string reason;
+        [[nodiscard]] std::string errorDescription() const;
+    };
 };
 
 /// Why a command has no text as its result, apart from a launch that failed.
 class CompletionError final
-    : public ErrorOfCases<CompletionFailure::NoProcessesBuiltFromRawCommand, CompletionFailure::NilString>,
+    : public ErrorOfCases<CompletionFailure::NoProcessesBuiltFromRawCommand, CompletionFailure::NilString,
+                          CompletionFailure::Unexpected>,
       public CompletionFailure {
 public:
     using ErrorOfCases::ErrorOfCases;
