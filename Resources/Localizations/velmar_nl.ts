@@ -23,6 +23,11 @@
         <extracomment>What a screen reader calls a part of a slide that has no text</extracomment>
         <translation>Inhoud</translation>
     </message>
+    <message id="components.button.information">
+        <source>More information</source>
+        <extracomment>What a reader of the screen calls a round button with a question mark</extracomment>
+        <translation>Meer informatie</translation>
+    </message>
     <message id="general.alerts.wait-for-complete-installation-before-quitting.title">
         <source>Some apps are not installed yet. You can quit once all of them are.</source>
         <extracomment>Text displayed when the user tries to quit the app although not all apps are installed</extracomment>

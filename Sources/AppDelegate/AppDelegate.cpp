@@ -68,6 +68,7 @@ AppDelegate::AppDelegate(Surroundings surroundings) : surroundings_(std::move(su
             .view = {.mainQueue = application.mainQueue(),
                      .appTerminationManager = *terminationManager,
                      .appearance = application.appearance(),
+                     .alerts = surroundings_.alerts,
                      .reloadInterface = [](bool byResetingVariables) {
                          AppManager::shared()->reloadInterface(byResetingVariables);
                      }}});

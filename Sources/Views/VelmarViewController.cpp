@@ -8,6 +8,9 @@
 #include <Views/Navigation/NavigationButton.h>
 #include <Views/Navigation/NavigationViewController.h>
 
+#include <Constants/TerminationNotifications.h>
+#include <Interaction/AlertPresenter.h>
+
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
@@ -28,6 +31,7 @@ VelmarViewController::VelmarViewController(Surroundings surroundings, QWidget *p
     row_->addLayout(column_, 1);
     contentViewModel_->setTerminationDelegate(this);
     contentViewModel_->setupNotifications();
+    setupQuitAlerts();
     buildSideContainer();
     buildNavigation();
     contentViewController_ = new ContentViewController(contentViewModel_, surroundings_.appearance, this);
@@ -41,6 +45,35 @@ VelmarViewController::VelmarViewController(Surroundings surroundings, QWidget *p
 
 VelmarViewController::~VelmarViewController() {
     contentViewModel_->setTerminationDelegate(nullptr);
+}
+
+void VelmarViewController::setupQuitAlerts() {
+    using namespace TerminationNotifications;
+    const auto alertOn = [this](std::string_view notification, auto text) {
+        observers_.push_back(surroundings_.center.addObserver(std::string(notification), [this, text] {
+            surroundings_.alerts.present({.style = Alert::Style::warning,
+                                          .messageText = text(*_navigation.wrappedValue()),
+                                          .informativeText = {},
+                                          .buttons = {}},
+                                         [](std::size_t) {});
+        }));
+    };
+    alertOn(userTriesToQuitWhenNotAllMonitorsAreInstalled, [](const NavigationSection &navigation) {
+        const auto text = navigation._installationIncompleteQuitText();
+        //: Text displayed when the user tries to quit the app although not all apps are installed
+        //% "Some apps are not installed yet. You can quit once all of them are."
+        return text ? *text
+                    : qtTrId("general.alerts.wait-for-complete-installation-before-quitting.title")
+                          .toStdString();
+    });
+    alertOn(userTriesToQuitWhenNotAllMonitoredFilesArePresent, [](const NavigationSection &navigation) {
+        const auto text = navigation._mandatoryFilesMissingQuitText();
+        //: Text displayed when the user tries to quit the app although not mandatory files are present on
+        //: device
+        //% "Some required files are not on this computer yet. You can quit once all of them are."
+        return text ? *text
+                    : qtTrId("general.alerts.wait-for-mandatory-files-before-quitting.title").toStdString();
+    });
 }
 
 void VelmarViewController::buildSideContainer() {

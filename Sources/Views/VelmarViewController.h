@@ -10,12 +10,14 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 class QHBoxLayout;
 class QVBoxLayout;
 
 namespace velmar {
 
+class AlertPresenter;
 class ContainerViewController;
 class ContentViewController;
 class DesktopAppearance;
@@ -33,6 +35,7 @@ public:
         MainQueue &mainQueue;
         AppTerminationManagerProtocol &appTerminationManager;
         const DesktopAppearance &appearance;
+        AlertPresenter &alerts;
         /// Reads the configuration again; AppManager::reloadInterface.
         std::function<void(bool byResetingVariables)> reloadInterface;
         NotificationCenter &center = NotificationCenter::defaultCenter();
@@ -54,6 +57,8 @@ protected:
 
 private:
     void reload(bool byResetingVariables);
+    /// Tells the user why a quit was refused.
+    void setupQuitAlerts();
     void buildSideContainer();
     void buildNavigation();
     /// Tells the navigation where the current slide stands.
@@ -75,6 +80,7 @@ private:
     ContainerViewController *sideContainerViewController_ = nullptr;
     ContentViewController *contentViewController_ = nullptr;
     NavigationViewController *navigationViewController_ = nullptr;
+    std::vector<NotificationCenter::Token> observers_;
     bool wasShown_ = false;
 };
 

@@ -92,6 +92,21 @@ class Actions(Scenario):
         self.wait_for_message("calculator")
         self.assertEqual(1, self.messages().count("calculator"))
 
+    def test_a_button_runs_its_set_and_fires_its_trigger_by_mouse_and_keyboard(self):
+        button = {"Type": "Button", "Style": "Simple", "Text": "Take ${STEP}", "Trigger": "Go",
+                  "OnClick": {"Type": "Chained", "Actions": [log("clicked"), update("STEP", "another")]}}
+        unknown = {"Type": "Button", "Style": "Info", "Text": "More", "Trigger": "Nowhere"}
+        _, screen = self.start(action_set("Custom(Go)", log("triggered")),
+                               slides=({"Containers": [{"Components": [button, unknown]}]}, slide("Second")))
+        screen.button("Take start").click()
+        screen.button("Take another")
+        screen.key("Return")
+        for message in ["clicked", "triggered"]:
+            until(f"'{message}' twice", lambda: self.messages().count(message) == 2)
+        screen.button("More").press()
+        until("the complaint", lambda: any("Trying to execute Action sets for trigger 'Nowhere' although" in message
+                                           for message in self.messages()))
+
     def test_sets_of_the_termination_come_before_the_end(self):
         process, screen = self.start(action_set("Termination", update("STEP", "end"), log("bye ${STEP}")))
         screen.wait_for_text("At start")

@@ -41,6 +41,9 @@ public:
         elements_.insert_or_assign(element->mandatoryIdentifier(), element);
     }
 
+    /// Forgets the element of an identifier, if there is one.
+    void remove(const UUID &identifier) { elements_.erase(identifier); }
+
     /// True also where there are none.
     [[nodiscard]] bool areValid() const {
         return std::ranges::all_of(elements_, [](const auto &entry) { return entry.second->isValid(); });

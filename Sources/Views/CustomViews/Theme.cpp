@@ -15,7 +15,7 @@ namespace {
 constexpr int buttonHeight = 36;
 constexpr int buttonMinimumWidth = 104;
 constexpr int buttonSidePadding = 20;
-constexpr qreal buttonRadius = 8;
+constexpr qreal buttonRadius = Theme::cornerRadius;
 constexpr int scrollBarThickness = 12;
 constexpr int scrollThumbMinimumLength = 32;
 
@@ -44,19 +44,23 @@ QColor fillOf(const QStyleOptionButton &button) {
     return isHovered ? base.darker(108) : base;
 }
 
-void drawButtonBevel(const QStyleOptionButton &button, QPainter &painter) {
+// The filled shape of a button, with the ring of the keyboard's focus around it.
+void drawButtonShape(const QStyleOptionButton &button, QPainter &painter, const QRectF &shape, qreal radius) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(fillOf(button));
-    const qreal room = Theme::focusRingRoom;
-    const QRectF shape = QRectF(button.rect).adjusted(room, room, -room, -room);
-    painter.drawRoundedRect(shape, buttonRadius, buttonRadius);
+    painter.drawRoundedRect(shape, radius, radius);
     constexpr auto keyboardFocus = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
     if ((button.state & keyboardFocus) == keyboardFocus) {
-        Theme::drawFocusRing(painter, shape.adjusted(-3, -3, 3, 3), button.palette);
+        Theme::drawFocusRing(painter, shape.adjusted(-3, -3, 3, 3), button.palette, radius);
     }
     painter.restore();
+}
+
+void drawButtonBevel(const QStyleOptionButton &button, QPainter &painter) {
+    const qreal room = Theme::focusRingRoom;
+    drawButtonShape(button, painter, QRectF(button.rect).adjusted(room, room, -room, -room), buttonRadius);
 }
 
 } // namespace
@@ -80,12 +84,21 @@ QFont Theme::font(double points) {
     return font;
 }
 
-void Theme::drawFocusRing(QPainter &painter, const QRectF &shape, const QPalette &palette) {
+void Theme::drawRoundButton(QPainter &painter, const QStyleOptionButton &button) {
+    const qreal diameter = std::min(button.rect.width(), button.rect.height()) - 2 * focusRingRoom;
+    QRectF circle(0, 0, diameter, diameter);
+    circle.moveCenter(QRectF(button.rect).center());
+    drawButtonShape(button, painter, circle, diameter / 2);
+    painter.setPen(button.palette.color(QPalette::ButtonText));
+    painter.drawText(circle, Qt::AlignCenter, button.text);
+}
+
+void Theme::drawFocusRing(QPainter &painter, const QRectF &shape, const QPalette &palette, qreal radius) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(palette.color(QPalette::Highlight), 2));
-    painter.drawRoundedRect(shape, buttonRadius + 3, buttonRadius + 3);
+    painter.drawRoundedRect(shape, radius + 3, radius + 3);
     painter.restore();
 }
 

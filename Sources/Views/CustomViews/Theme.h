@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QProxyStyle>
+#include <QStyleOptionButton>
 
 namespace velmar {
 
@@ -29,8 +30,16 @@ public:
     /// The system's font in a size. A point is a unit of layout, whatever the resolution.
     [[nodiscard]] static QFont font(double points);
 
-    /// Draws the ring of what has the keyboard's focus, centred on the edges of the shape.
-    static void drawFocusRing(QPainter &painter, const QRectF &shape, const QPalette &palette);
+    /// Of the corners of what is drawn as a box, in points.
+    static constexpr double cornerRadius = 8;
+
+    /// Draws the ring of what has the keyboard's focus, centred on the edges of the shape; the radius is that
+    /// of the box within.
+    static void drawFocusRing(QPainter &painter, const QRectF &shape, const QPalette &palette,
+                              qreal radius = cornerRadius);
+
+    /// Draws a push button as a circle with its text in it.
+    static void drawRoundButton(QPainter &painter, const QStyleOptionButton &button);
 
     using QProxyStyle::polish;
     void polish(QPalette &palette) override;

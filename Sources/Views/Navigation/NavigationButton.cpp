@@ -1,9 +1,7 @@
 #include <Views/Navigation/NavigationButton.h>
 
-#include <Desktop/LiteralLabel.h>
 #include <Views/CustomViews/Colors.h>
 
-#include <QKeyEvent>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
@@ -14,9 +12,8 @@ constexpr double readableContrast = 3;
 }
 
 NavigationButton::NavigationButton(bool isPrimary, QWidget *parent)
-    : QPushButton(parent), isPrimary_(isPrimary) {
+    : PushButton(parent), isPrimary_(isPrimary) {
     setDefault(isPrimary);
-    setAutoDefault(false);
     QSizePolicy policy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     policy.setRetainSizeWhenHidden(true);
     setSizePolicy(policy);
@@ -24,17 +21,6 @@ NavigationButton::NavigationButton(bool isPrimary, QWidget *parent)
     opacity_.setEndValue(1.0);
     connect(&opacity_, &QVariantAnimation::valueChanged, this, [this] { update(); });
     connect(&opacity_, &QVariantAnimation::finished, this, [this] { setVisible(!isConcealed_); });
-}
-
-void NavigationButton::setLabel(const QString &label) {
-    label_ = label;
-    setText(literalLabel(label));
-    setAccessibleName(label);
-    updateToolTip();
-}
-
-void NavigationButton::updateToolTip() {
-    setToolTip(width() < sizeHint().width() ? label_ : QString());
 }
 
 void NavigationButton::setTextColor(const std::optional<QColor> &color) {
@@ -79,37 +65,12 @@ void NavigationButton::setConcealed(bool isConcealed, int milliseconds) {
     show();
 }
 
-void NavigationButton::keyPressEvent(QKeyEvent *event) {
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        // A key held down doesn't run through all the slides.
-        if (!event->isAutoRepeat() && !isConcealed_) {
-            click();
-        }
-        return;
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-        event->ignore();
-        return;
-    default:
-        QPushButton::keyPressEvent(event);
-    }
-}
-
 void NavigationButton::paintEvent(QPaintEvent * /*event*/) {
     QStylePainter painter(this);
     painter.setOpacity(opacity_.currentValue().toDouble());
     QStyleOptionButton option;
     initStyleOption(&option);
     painter.drawControl(QStyle::CE_PushButton, option);
-}
-
-void NavigationButton::resizeEvent(QResizeEvent *event) {
-    QPushButton::resizeEvent(event);
-    updateToolTip();
 }
 
 } // namespace velmar

@@ -1,23 +1,20 @@
 #pragma once
 
-#include <QPushButton>
+#include <Views/CustomViews/PushButton.h>
+
 #include <QVariantAnimation>
 
 #include <optional>
 
 namespace velmar {
 
-/// A button of the navigation bar. It keeps its place while it is hidden, and can come and go gradually. The
-/// Return key presses it; the arrow keys are left to the bar.
-class NavigationButton final : public QPushButton {
+/// A button of the navigation bar. It keeps its place while it is hidden, and can come and go gradually.
+class NavigationButton final : public PushButton {
     Q_OBJECT
 
 public:
     /// `isPrimary`: the one that leads on.
     NavigationButton(bool isPrimary, QWidget *parent);
-
-    /// Shown character for character, and in full as the tooltip where the button is too narrow for it.
-    void setLabel(const QString &label);
 
     /// The colour of the label; none for that of the theme. A primary button whose accent would make the
     /// colour hard to read is drawn as an ordinary one.
@@ -30,14 +27,10 @@ public:
     [[nodiscard]] bool isConcealed() const noexcept { return isConcealed_; }
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override;
+    [[nodiscard]] bool takesKeys() const override { return !isConcealed_; }
     void paintEvent(QPaintEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
 
 private:
-    void updateToolTip();
-
-    QString label_;
     bool isPrimary_;
     bool isConcealed_ = false;
     QVariantAnimation opacity_;

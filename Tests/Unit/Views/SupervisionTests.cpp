@@ -55,6 +55,17 @@ TEST_F(Supervision, AContainerTellsItsSlideOnlyWhenItsValidityChanges) {
                                         "debug: All the mandatory elements in the slide are valid"}));
 }
 
+TEST_F(Supervision, AnElementThatLeftNoLongerCountsUntilItComesBack) {
+    slide->willAppear();
+    left->set(false);
+    posted.clear();
+    container->elementWasRemoved(left->mandatoryIdentifier());
+    EXPECT_EQ(std::exchange(posted, {}), std::vector{valid});
+    container->elementWasRemoved(left->mandatoryIdentifier());
+    left->setMandatorySupervisor(container);
+    EXPECT_EQ(posted, std::vector{invalid});
+}
+
 TEST_F(Supervision, AHiddenSlideKeepsSilentAndTellsOnArrival) {
     slide->willAppear();
     slide->willDisappear();

@@ -8,6 +8,9 @@
 #include <Views/Navigation/NavigationViewController.h>
 #include <Views/VelmarViewController.h>
 
+#include <Constants/TerminationNotifications.h>
+#include <Testing/TestAlertPresenter.h>
+
 #include <QKeyEvent>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -33,13 +36,16 @@ protected:
         for (int index = 0; index < 60; ++index) {
             lines += text(fmt::format("Line {}", index));
         }
-        writeFile(
-            fmt::format("<plist version=\"1.0\"><dict><key>Window</key><dict><key>OnScreen</key>"
-                        "<string>Simple</string></dict><key>Slides</key><array>{}{}{}</array></dict></plist>",
-                        slide(lines), slide(text("Second")), slide(text("Third"))));
+        writeFile(fmt::format(
+            "<plist version=\"1.0\"><dict><key>Window</key><dict><key>OnScreen</key>"
+            "<string>Simple</string></dict><key>Navigation</key><dict>"
+            "<key>InstallationIncompleteQuitText</key><string>Not before all is installed</string>"
+            "</dict><key>Slides</key><array>{}{}{}</array></dict></plist>",
+            slide(lines), slide(text("Second")), slide(text("Third"))));
         shared_ = std::make_unique<Shared<AppManager>::Scope>(makeAppManager());
         view = std::make_unique<VelmarViewController>(
-            VelmarViewController::Surroundings{queue, quits, appearance(), [](bool) {}, center}, &window);
+            VelmarViewController::Surroundings{queue, quits, appearance(), alerts, [](bool) {}, center},
+            &window);
         (new QVBoxLayout(&window))->addWidget(view.get());
         content = view->findChild<ContentViewController *>();
         bar = view->findChild<NavigationViewController *>();
@@ -67,6 +73,7 @@ protected:
 
     NotificationCenter center;
     QuitAttempts quits;
+    TestAlertPresenter alerts;
     QWidget window;
     std::unique_ptr<VelmarViewController> view;
     ContentViewController *content = nullptr;
@@ -98,6 +105,14 @@ TEST_F(VelmarView, TakesTheKeysThatScrollAndLeavesTheOthersAlone) {
         press(row.key);
         EXPECT_EQ(scroller.value(), row.value) << row.key;
     }
+}
+
+TEST_F(VelmarView, TellsWhyAQuitWasRefused) {
+    center.post(TerminationNotifications::userTriesToQuitWhenNotAllMonitorsAreInstalled);
+    center.post(TerminationNotifications::userTriesToQuitWhenNotAllMonitoredFilesArePresent);
+    ASSERT_EQ(alerts.alerts.size(), 2U);
+    EXPECT_EQ(alerts.alerts[0].messageText, "Not before all is installed");
+    EXPECT_EQ(alerts.alerts[1].messageText, "general.alerts.wait-for-mandatory-files-before-quitting.title");
 }
 
 TEST_F(VelmarView, GoesWithTheTabKeyFromTheSlideToTheBar) {

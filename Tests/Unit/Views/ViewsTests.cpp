@@ -1,9 +1,11 @@
 #include "ViewTest.h"
 
 #include <Foundation/NotificationCenter.h>
+#include <Views/Content/Components/Button.h>
 #include <Views/Content/Slides/SlideViewController.h>
 #include <Views/CustomViews/Colors.h>
 #include <Views/CustomViews/Font.h>
+#include <Views/CustomViews/StyleConfigurableButton.h>
 #include <Views/Navigation/NavigationButton.h>
 
 #include <Support/RecordedLog.h>
@@ -15,6 +17,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -146,6 +149,50 @@ TEST_F(Views, AButtonShowsItsLabelCharacterForCharacterInAColourThatIsReadable) 
     EXPECT_FALSE(button.isDefault());
     button.setTextColor(QColor(Qt::white));
     EXPECT_TRUE(button.isDefault());
+}
+
+/// Notes what a button starts.
+class Started final : public ActionDispatcherProtocol, public CustomTriggerHandler {
+public:
+    void dispatch(const ActionSet &set, std::function<void()> /*completionHandler*/) override {
+        notes.append(set.item->_actions().empty() ? "set " : "actions ");
+        identities.insert(set.id);
+    }
+    void dispatchSetsFor(std::string_view customTrigger) override { notes.append(customTrigger).append(" "); }
+    std::string notes;
+    std::set<UUID> identities;
+};
+
+TEST_F(Views, AButtonOfASlideRunsItsSetThenItsTrigger) {
+    const auto started = std::make_shared<Started>();
+    ComponentItem::Button item;
+    item._text.set("Save & go");
+    item._onClick.set(ActionSetItem());
+    item._trigger.set("Go");
+    ComponentViews::Button view(item, queue, nullptr, started, Trigger(started));
+    auto *button = view.findChild<StyleConfigurableButton *>();
+    EXPECT_EQ(view.title(), "Save & go");
+    button->click();
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QCoreApplication::sendEvent(button, &key);
+    EXPECT_EQ(started->notes, "set Go set Go ");
+    EXPECT_EQ(started->identities.size(), 1U);
+}
+
+TEST_F(Views, AButtonIsReadableInAnyColour) {
+    using Tint = std::optional<ColorItem::Specification>;
+    for (const Tint &tint : {Tint(), Tint({0, 0, 0, {}}), Tint({255, 255, 255, {}}), Tint({31, 95, 214, {}}),
+                             Tint({255, 212, 0, {}}), Tint({119, 119, 119, {}})}) {
+        std::optional<ColorItem> color;
+        if (tint) {
+            color.emplace()._lightMode.set(*tint);
+            color->_darkMode.set(*tint);
+        }
+        StyleConfigurableButton button(StyleConfigurableButton::Style::simple, nullptr);
+        button.setContent(QString(10'000, 'x'), color);
+        EXPECT_GE(contrast(button.titleColor(), button.tintColor()), 4.5) << (tint ? tint->text() : "none");
+        EXPECT_LT(button.minimumSizeHint().width(), 200);
+    }
 }
 
 TEST_F(Views, AKeyHeldDownPressesAButtonOnce) {

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <Configuration/ComponentItem.h>
+#include <Views/Content/MandatorySupervision.h>
 #include <Views/Content/VariablesRefresh.h>
 
 #include <QVBoxLayout>
 #include <QWidget>
 
+#include <memory>
 #include <optional>
 
 namespace velmar {
@@ -22,6 +24,9 @@ public:
 
     /// What a reader of the screen calls the component; empty for one that says nothing.
     [[nodiscard]] virtual QString title() const { return {}; }
+
+    /// What the slide asks whether the component is right; null for one that is always.
+    [[nodiscard]] virtual std::shared_ptr<MandatorySupervised> mandatoryElement() const { return nullptr; }
 
 signals:
     void titleDidChange();

@@ -1,6 +1,7 @@
 #include <Views/Content/Containers/ContainerViewController.h>
 
 #include <Desktop/DesktopAppearance.h>
+#include <Views/Content/Components/Button.h>
 #include <Views/Content/Components/Spacer.h>
 #include <Views/Content/Components/Text.h>
 #include <Views/Content/Containers/ContainerViewManagementAnimator.h>
@@ -58,6 +59,9 @@ struct ViewMaker {
 
     ComponentView *operator()(const ComponentItem::Text &text) const {
         return new ComponentViews::Text(text, mainQueue, parent);
+    }
+    ComponentView *operator()(const ComponentItem::Button &button) const {
+        return new ComponentViews::Button(button, mainQueue, parent);
     }
     ComponentView *operator()(const ComponentItem::Spacer &spacer) const {
         return new ComponentViews::Spacer(spacer, mainQueue, parent);
@@ -129,6 +133,9 @@ ComponentView *ContainerViewController::makeView(std::size_t position) {
     ComponentView *view =
         std::visit(ViewMaker{surroundings_.mainQueue, column_}, components_->items()[position].value);
     connect(view, &ComponentView::titleDidChange, this, &ContainerViewController::updateAccessibleName);
+    if (const auto element = view->mandatoryElement()) {
+        element->setMandatorySupervisor(viewModel_);
+    }
     return view;
 }
 
@@ -173,6 +180,9 @@ void ContainerViewController::animateRemoval(std::function<void()> completion) {
 
 void ContainerViewController::rebuildLayout() {
     for (ComponentView *view : std::exchange(viewManagementAnimator_->viewsToRemove, {})) {
+        if (const auto element = view->mandatoryElement()) {
+            viewModel_->elementWasRemoved(element->mandatoryIdentifier());
+        }
         view->deleteLater();
     }
     // Each is put before those behind it, so these come first.

@@ -12,6 +12,15 @@ void ContainerViewModel::setMandatorySupervisor(std::weak_ptr<MandatorySuperviso
 
 void ContainerViewModel::elementDidChange(const std::shared_ptr<MandatorySupervised> &element) {
     elements_.file(element);
+    update();
+}
+
+void ContainerViewModel::elementWasRemoved(const UUID &identifier) {
+    elements_.remove(identifier);
+    update();
+}
+
+void ContainerViewModel::update() {
     const bool isValid = elements_.areValid();
     if (isValid != std::exchange(isValid_, isValid)) {
         report();

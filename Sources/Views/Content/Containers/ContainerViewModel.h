@@ -18,7 +18,12 @@ public:
     /// Reports itself to its own supervisor when its validity changes by that.
     void elementDidChange(const std::shared_ptr<MandatorySupervised> &element) override;
 
+    /// An element that has left the container no longer counts. It is filed again when it comes back, by its
+    /// own report.
+    void elementWasRemoved(const UUID &identifier);
+
 private:
+    void update();
     void report();
 
     UUID mandatoryIdentifier_;

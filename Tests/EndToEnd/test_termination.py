@@ -1,0 +1,83 @@
+"""The ways out: the shortcuts, and the script that runs before the end."""
+
+import os
+import signal
+import time
+from pathlib import Path
+
+from harness.scenario import Scenario, configuration, slide
+from harness.waiting import until
+
+MARK = Path("/tmp/velmar-e2e-mark")
+
+
+class Termination(Scenario):
+    def setUp(self):
+        super().setUp()
+        MARK.unlink(missing_ok=True)
+
+    def script(self, text, mode=0o755):
+        path = Path("/Library/end.sh")
+        path.write_text(text)
+        os.chmod(path, mode)
+        return str(path)
+
+    def quit(self, **termination):
+        """Quits by the menu. Gives the messages."""
+        self.install(configuration(slide("Hello"), AppTermination=termination))
+        process, screen = self.velmar()
+        screen.wait_for_text("Hello")
+        screen.menu_item("Quit Velmar").press()
+        self.assertEqual(0, process.wait(), process.story())
+        return self.messages()
+
+    def test_the_end_waits_for_the_script(self):
+        path = self.script(f"#!/bin/sh\nsleep 0.5\ntouch {MARK}\necho written\n")
+        messages = self.quit(CompleteInstallationScriptPath=path, WaitForTerminationScriptExecution=True)
+        self.assertTrue(MARK.exists())
+        story = "\n".join(messages)
+        for part in [f"Launched script at '{path}'", "Waiting for script to complete...",
+                     f"Executed script at '{path}' with following output:", "Application will terminate"]:
+            self.assertIn(part, story)
+
+    def test_a_script_that_is_not_waited_for_outlives_the_program(self):
+        # What it prints has no reader any more.
+        path = self.script(f"#!/bin/sh\nsleep 1.5\nfor i in 1 2 3; do echo line; done\ntouch {MARK}\n")
+        started = time.monotonic()
+        messages = self.quit(CompleteInstallationScriptPath=path)
+        self.assertFalse(MARK.exists(), time.monotonic() - started)
+        self.assertNotIn("Waiting for script to complete...", "\n".join(messages))
+        until("the end of the script", MARK.exists)
+
+    def test_a_script_that_cannot_be_run_holds_nothing_up(self):
+        path = self.script("#!/bin/sh\n", mode=0o644)
+        cases = [({"CompleteInstallationScriptPath": ""}, "Empty termination script path"),
+                 ({"CompleteInstallationScriptPath": "/no/such"}, "No termination script at path '/no/such'"),
+                 ({"IncompleteInstallationScriptPath": "/no/such"}, "Application will terminate"),
+                 ({"CompleteInstallationScriptPath": path}, f"Error while executing script at '{path}': "),
+                 ({"CompleteInstallationScriptPath": path, "ExecuteAsRoot": True,
+                   "WaitForTerminationScriptExecution": True},
+                  f"Error while executing script at '{path}' with root privileges: ")]
+        for keys, line in cases:
+            with self.subTest(keys=keys):
+                self.assertIn(line, "\n".join(self.quit(**keys)))
+                self.log_path().unlink()
+
+    def test_the_shortcut_can_be_replaced_by_one_of_three_modifiers(self):
+        self.install(configuration(slide("Hello"), AppTermination={"QuitShortcutIsEnabled": False}))
+        process, screen = self.velmar()
+        screen.wait_for_text("Hello")
+        self.wait_for_message("🚪 The quit shortcut has been replaced by ⌃⌥⌘Q")
+        screen.key("ctrl+q")
+        screen.key("ctrl+alt+super+q")
+        self.assertEqual(0, process.wait(), process.story())
+
+    def test_signals_run_the_script_too(self):
+        path = self.script(f"#!/bin/sh\ntouch {MARK}\n")
+        self.install(configuration(slide("Hello"), AppTermination={"CompleteInstallationScriptPath": path,
+                                                                   "WaitForTerminationScriptExecution": True}))
+        process, screen = self.velmar()
+        screen.wait_for_text("Hello")
+        process.send(signal.SIGTERM)
+        self.assertEqual(0, process.wait(), process.story())
+        self.assertTrue(MARK.exists())
