@@ -44,7 +44,11 @@ AppManager::KeyDownMonitor addKeyDownMonitor(AppManager::KeyDownHandler handler)
 
 } // namespace
 
-AppDelegate::AppDelegate(Surroundings surroundings) : surroundings_(std::move(surroundings)) {
+AppDelegate::AppDelegate(Surroundings surroundings)
+    : surroundings_(std::move(surroundings)),
+      openedWindow_({.mainQueue = surroundings_.application.mainQueue(),
+                     .appearance = surroundings_.application.appearance(),
+                     .screens = &Screens::current}) {
     QCoreApplication::setApplicationName(QStringLiteral("Velmar"));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.nurvan.velmar"));
     DesktopApplication &application = surroundings_.application;
@@ -122,6 +126,7 @@ void AppDelegate::shareActionDispatcher() {
                            .alerts = surroundings_.alerts,
                            .pasteboard = surroundings_.pasteboard,
                            .sounds = surroundings_.sounds,
+                           .windows = openedWindow_,
                            // The service comes after the dispatcher, which it uses.
                            .terminateApp = [this, &mainQueue] {
                                mainQueue.async([this] { terminationService_->terminate(); });

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <AppDelegate/OpenedWindow.h>
 #include <AppDelegate/ServiceableAppDelegate.h>
 #include <Configuration/Configuration.h>
 #include <Configuration/Plugin.h>
@@ -68,6 +69,7 @@ private:
     Config<WindowSection::OnScreen> _onScreen{
         [](const Configuration &c) -> decltype(auto) { return c._window()._onScreen(); }};
     Surroundings surroundings_;
+    OpenedWindow openedWindow_;
     std::optional<Shared<ActionDispatcher>::Scope> actionDispatcher_;
     std::shared_ptr<AppTermination> terminationService_;
     std::optional<Shared<AppTerminationManager>::Scope> appTerminationManager_;

@@ -107,6 +107,20 @@ class Actions(Scenario):
         until("the complaint", lambda: any("Trying to execute Action sets for trigger 'Nowhere' although" in message
                                            for message in self.messages()))
 
+    def test_a_window_of_its_own_opens_and_is_closed_by_its_own_button(self):
+        window = {"Type": "OpenWindow", "Size": {"Width": 360, "Height": 200},
+                  "Slide": {"Containers": [{"Components": [
+                      {"Type": "Text", "Text": "Beside ${STEP}"},
+                      {"Type": "Button", "Style": "Simple", "Text": "Close",
+                       "OnClick": {"Type": "Chained",
+                                   "Actions": [{"Type": "CloseOpenedWindow"}, update("STEP", "closed")]}}]}]}}
+        _, screen = self.start(action_set("Launch", window))
+        screen.wait_for_text("Beside start")
+        self.assertIn((360, 200), [node.position()[2:] for node in screen.nodes() if node.is_window])
+        screen.button("Close").click()
+        screen.wait_until_gone("Close")
+        screen.wait_for_text("At closed")
+
     def test_sets_of_the_termination_come_before_the_end(self):
         process, screen = self.start(action_set("Termination", update("STEP", "end"), log("bye ${STEP}")))
         screen.wait_for_text("At start")

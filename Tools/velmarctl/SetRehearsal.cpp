@@ -61,7 +61,8 @@ public:
           record_(std::make_shared<RehearsalRecord>(out)),
           alerts_(record_->mainQueue, in, say_),
           pasteboard_(say_),
-          sounds_(record_->mainQueue, say_) {
+          sounds_(record_->mainQueue, say_),
+          windows_(say_) {
         contentManager_->registerVariables(*configuration_);
         slides_->addObserver(slideObserver_);
     }
@@ -132,6 +133,7 @@ private:
     TerminalAlertPresenter alerts_;
     TerminalPasteboard pasteboard_;
     TerminalSoundPlayer sounds_;
+    TerminalWindows windows_;
     std::shared_ptr<TerminalSlides> slideObserver_ = std::make_shared<TerminalSlides>(say_);
     std::shared_ptr<SlidesActionManager> slides_ = std::make_shared<SlidesActionManager>();
     std::shared_ptr<ContentManager> contentManager_ = std::make_shared<ContentManager>();
@@ -140,6 +142,7 @@ private:
                            .alerts = alerts_,
                            .pasteboard = pasteboard_,
                            .sounds = sounds_,
+                           .windows = windows_,
                            .terminateApp = [say = say_] { say("termination, not done here"); },
                            .contentManager = contentManager_,
                            .slides = slides_});

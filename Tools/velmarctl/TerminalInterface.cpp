@@ -78,6 +78,15 @@ void TerminalSoundPlayer::play(const Sound &sound, Completion completion) {
         [completion = std::move(completion)] { completion({.hasFinished = true, .problem = {}}); });
 }
 
+void TerminalWindows::open(std::shared_ptr<const ActionItems::OpenWindow> item) {
+    say_(fmt::format("window, not opened here: {} x {} points", item->_size()._width(),
+                     item->_size()._height()));
+}
+
+void TerminalWindows::close() {
+    say_("window, not closed here");
+}
+
 void TerminalSlides::navigateToIndex(std::int64_t index) {
     say_(fmt::format("slide, not done here: {}", index));
 }

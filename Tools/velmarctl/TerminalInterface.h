@@ -4,6 +4,7 @@
 #include <Interaction/SimplePasteboard.h>
 #include <Interaction/SoundPlayer.h>
 #include <Managers/SlidesActionManager.h>
+#include <Models/Actions/SlideWindowPresenter.h>
 
 #include <Dispatch/MainQueue.h>
 
@@ -55,6 +56,17 @@ public:
 
 private:
     MainQueue &mainQueue_;
+    SayLine say_;
+};
+
+/// Says which window would be opened.
+class TerminalWindows final : public SlideWindowPresenter {
+public:
+    explicit TerminalWindows(SayLine say) : say_(std::move(say)) {}
+    void open(std::shared_ptr<const ActionItems::OpenWindow> item) override;
+    void close() override;
+
+private:
     SayLine say_;
 };
 

@@ -11,6 +11,7 @@ namespace velmar {
 class AlertPresenter;
 class MainQueue;
 class SimplePasteboard;
+class SlideWindowPresenter;
 class SoundPlayer;
 
 /// What actions work with. The references outlive every action.
@@ -19,6 +20,7 @@ struct ActionSurroundings {
     AlertPresenter &alerts;
     SimplePasteboard &pasteboard;
     SoundPlayer &sounds;
+    SlideWindowPresenter &windows;
     /// Begins the termination of the application, whatever would hold a quit back. Any thread.
     std::function<void()> terminateApp;
     std::shared_ptr<ContentManagerProtocol> contentManager = ContentManager::shared();

@@ -20,6 +20,10 @@ struct Maker {
     Result operator()(const ActionItem::PlaySound &) const { return make<Actions::PlaySound>(); }
     Result operator()(const ActionItem::TerminateApp &) const { return make<Actions::TerminateApp>(); }
     Result operator()(const ActionItem::CopyToClipboard &) const { return make<Actions::CopyToClipboard>(); }
+    Result operator()(const ActionItem::OpenWindow &) const { return make<Actions::OpenWindow>(); }
+    Result operator()(const ActionItem::CloseOpenedWindow &) const {
+        return make<Actions::CloseOpenedWindow>();
+    }
     Result operator()(const ActionItem::NavigateToSlide &) const { return make<Actions::NavigateToSlide>(); }
     Result operator()(const ActionItem::UpdateVariable &) const { return make<Actions::UpdateVariable>(); }
     template <class Other>

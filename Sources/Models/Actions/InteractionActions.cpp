@@ -7,6 +7,7 @@
 #include <Interaction/SimplePasteboard.h>
 #include <Interaction/SoundPlayer.h>
 #include <Models/Actions/ActionSurroundings.h>
+#include <Models/Actions/SlideWindowPresenter.h>
 
 #include <fmt/format.h>
 
@@ -122,6 +123,20 @@ void CopyToClipboard::copy() {
                                [&] { return fmt::format("Text to copy to the clipboard: {}", text); });
     }
     complete(isCopied);
+}
+
+void OpenWindow::perform() {
+    performOnMainThread([this] {
+        surroundings().windows.open({shared_from_this(), &actionItem()});
+        complete(true);
+    });
+}
+
+void CloseOpenedWindow::perform() {
+    performOnMainThread([this] {
+        surroundings().windows.close();
+        complete(true);
+    });
 }
 
 void NavigateToSlide::perform() {

@@ -53,6 +53,24 @@ private:
     void copy();
 };
 
+/// Shows a slide in a window of its own.
+class OpenWindow final : public ActionOf<ActionItem::OpenWindow> {
+public:
+    using ActionOf::ActionOf;
+
+private:
+    void perform() override;
+};
+
+/// Closes that window, if there is one.
+class CloseOpenedWindow final : public ActionOf<ActionItem::CloseOpenedWindow> {
+public:
+    using ActionOf::ActionOf;
+
+private:
+    void perform() override;
+};
+
 /// Asks for a slide. It has ended when that is asked, not when the slide is on show.
 class NavigateToSlide final : public ActionOf<ActionItem::NavigateToSlide> {
 public:

@@ -3,6 +3,7 @@
 #include <Models/Actions/ActionSurroundings.h>
 #include <Models/Actions/Dispatchable.h>
 #include <Models/Actions/DispatchableItem.h>
+#include <Models/Actions/SlideWindowPresenter.h>
 
 #include <Support/RecordedLog.h>
 #include <Testing/TestAlertPresenter.h>
@@ -54,6 +55,15 @@ public:
     std::string requests;
 };
 
+class Windows final : public SlideWindowPresenter {
+public:
+    void open(std::shared_ptr<const ActionItems::OpenWindow> item) override {
+        requests += fmt::format("open {} ", item->_size()._width());
+    }
+    void close() override { requests += "close "; }
+    std::string requests;
+};
+
 class ActionsTest : public testing::Test {
 protected:
     /// Starts an action and does what waits on the main thread.
@@ -78,6 +88,7 @@ protected:
     TestAlertPresenter alerts_;
     TestPasteboard pasteboard_;
     TestSoundPlayer sounds_;
+    Windows windows_;
     std::string outcomes_;
     int terminations_ = 0;
     std::shared_ptr<ContentManager> store_ = std::make_shared<ContentManager>();
@@ -87,6 +98,7 @@ protected:
                                                                 .alerts = alerts_,
                                                                 .pasteboard = pasteboard_,
                                                                 .sounds = sounds_,
+                                                                .windows = windows_,
                                                                 .terminateApp = [this] { ++terminations_; },
                                                                 .contentManager = store_,
                                                                 .slides = slides_});
@@ -196,6 +208,13 @@ TEST_F(ActionsTest, CopyNavigateUpdateAndTerminate) {
     EXPECT_EQ(outcomes_, "false ");
     EXPECT_THAT(log_.takeLines(),
                 Contains(HasSubstr("Updating placeholders with the 'UpdateVariable' action is not allowed")));
+
+    ActionItem::OpenWindow window;
+    window._size.modify([](SizeItem &size) { size._width.set(320); });
+    run(std::make_shared<const ActionItem>(ActionItem{window}));
+    EXPECT_EQ(outcomes_, "true ");
+    EXPECT_EQ(runs("CloseOpenedWindow", ""), "true ");
+    EXPECT_EQ(windows_.requests, "open 320 close ");
 
     EXPECT_EQ(runs("TerminateApp", ""), "true ");
     EXPECT_EQ(terminations_, 1);

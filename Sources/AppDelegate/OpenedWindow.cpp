@@ -1,0 +1,62 @@
+#include <AppDelegate/OpenedWindow.h>
+
+#include <AppDelegate/Services/WindowPlacement.h>
+#include <Views/Content/Slides/SlideViewController.h>
+#include <Views/CustomViews/Pixels.h>
+
+#include <Desktop/Window.h>
+
+#include <QCoreApplication>
+
+#include <utility>
+
+namespace velmar {
+
+OpenedWindow::OpenedWindow(Surroundings surroundings) : surroundings_(std::move(surroundings)) {}
+
+OpenedWindow::~OpenedWindow() = default;
+
+void OpenedWindow::open(std::shared_ptr<const ActionItems::OpenWindow> item) {
+    const ScreenFrame screen = WindowPlacement::chooseScreen(surroundings_.screens(), std::nullopt);
+    close();
+    window_ = std::make_unique<Window>(Window::Style{.hasTitleBar = true,
+                                                     .isClosable = item->_isClosable(),
+                                                     .isResizable = false,
+                                                     .isMovable = item->_isMovable()},
+                                       menu_);
+    auto *slide = new SlideViewController(
+        item->_slide(), SlideViewController::Kind::standard, center_,
+        ContainerViewController::Surroundings{surroundings_.mainQueue, surroundings_.appearance},
+        window_.get());
+    window_->setContent(slide);
+    const QSize size = pixels(item->_size());
+    window_->setSizes(size, size, size);
+    window_->setWindowTitle(QString(QChar::Nbsp)); // An empty one would be replaced by the window manager.
+    window_->setAccessibleName(QCoreApplication::applicationName());
+    window_->setWindowFlag(Qt::WindowStaysOnTopHint);
+
+    const WindowPositionItem position = item->_position().value_or(WindowPositionItem());
+    place(position, screen);
+    QObject::connect(window_.get(), &Window::framed, window_.get(),
+                     [this, position, screen] { place(position, screen); });
+    slide->viewWillAppear();
+    window_->show();
+    window_->raise();
+    window_->activateWindow();
+}
+
+void OpenedWindow::close() {
+    // A handler of the window's own button may be what asks for it.
+    if (Window *const former = window_.release()) {
+        former->hide();
+        former->deleteLater();
+    }
+}
+
+void OpenedWindow::place(const WindowPositionItem &position, const ScreenFrame &screen) {
+    const QSize size = window_->frameSize();
+    const auto [x, y] = WindowPlacement::originOf(position, size.width(), size.height(), screen);
+    window_->moveFrame({x, y});
+}
+
+} // namespace velmar

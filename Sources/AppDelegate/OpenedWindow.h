@@ -1,0 +1,47 @@
+#pragma once
+
+#include <Models/Actions/SlideWindowPresenter.h>
+
+#include <Desktop/MainMenu.h>
+#include <Desktop/Screens.h>
+#include <Dispatch/MainQueue.h>
+#include <Foundation/NotificationCenter.h>
+
+#include <functional>
+#include <memory>
+
+namespace velmar {
+
+class DesktopAppearance;
+class Window;
+
+/// The window that the action OpenWindow opens, above the application's own. What its slide demands of the
+/// user holds nobody on the application's slides.
+class OpenedWindow final : public SlideWindowPresenter {
+public:
+    /// The references must outlive it.
+    struct Surroundings {
+        MainQueue &mainQueue;
+        const DesktopAppearance &appearance;
+        std::function<Screens()> screens;
+    };
+
+    explicit OpenedWindow(Surroundings surroundings);
+    ~OpenedWindow() override;
+
+    void open(std::shared_ptr<const ActionItems::OpenWindow> item) override;
+    void close() override;
+
+    /// Null while none is open.
+    [[nodiscard]] Window *window() const noexcept { return window_.get(); }
+
+private:
+    void place(const WindowPositionItem &position, const ScreenFrame &screen);
+
+    Surroundings surroundings_;
+    MainMenu menu_;             // Without entries.
+    NotificationCenter center_; // Of the window's slide alone.
+    std::unique_ptr<Window> window_;
+};
+
+} // namespace velmar
