@@ -52,6 +52,12 @@ AppManager::AppManager(const Surroundings &surroundings)
     }
 }
 
+AppManager::AppManager(URL configurationFileURL)
+    : configuration_(ConfigurationFile(configurationFileURL).retrieveConfiguration()),
+      configurationFileURL_(std::move(configurationFileURL)),
+      terminate_([] {}),
+      contentManager_(ContentManager::shared()) {}
+
 AppManager::~AppManager() = default;
 
 std::shared_ptr<const Configuration> AppManager::configuration() const {

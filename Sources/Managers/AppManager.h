@@ -61,6 +61,11 @@ public:
     /// the configuration switches it off. Throws whatever refuses the configuration: VelmarError,
     /// ConfigurationError, PropertyListError.
     explicit AppManager(const Surroundings &surroundings);
+
+    /// Decodes a file that has been admitted elsewhere, for a process that only shows it: no shortcut ends
+    /// the process. Throws what `ConfigurationFile::retrieveConfiguration` throws.
+    explicit AppManager(URL configurationFileURL);
+
     ~AppManager();
     AppManager(const AppManager &) = delete;
     AppManager &operator=(const AppManager &) = delete;

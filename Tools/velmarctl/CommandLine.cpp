@@ -5,6 +5,7 @@
 #include <ConfigurationSchema.h>
 #include <DescriptionCommand.h>
 #include <EvalCommand.h>
+#include <RenderCommand.h>
 #include <RunSetCommand.h>
 
 #include <CLI/CLI.hpp>
@@ -25,6 +26,7 @@ ExitStatus run(std::vector<std::string> arguments, const Surroundings &surroundi
     const CheckCommand check(app);
     const EvalCommand eval(app);
     const RunSetCommand runSet(app);
+    const RenderCommand render(app);
     const DescriptionCommand schema(app, "schema", "Print the JSON Schema of a configuration", &writeSchema);
     const DescriptionCommand reference(app, "reference", "Print the keys of a configuration as Markdown",
                                        &writeReference);
@@ -37,7 +39,7 @@ ExitStatus run(std::vector<std::string> arguments, const Surroundings &surroundi
                                                                         : ExitStatus::failed;
     }
     // The parser has seen to it that there is one.
-    const Command *const commands[] = {&check, &eval, &runSet, &schema, &reference};
+    const Command *const commands[] = {&check, &eval, &runSet, &render, &schema, &reference};
     return (*std::ranges::find_if(commands, &Command::isNamed))->run(surroundings);
 }
 

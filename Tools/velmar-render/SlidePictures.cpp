@@ -1,0 +1,72 @@
+#include "SlidePictures.h"
+
+#include <Configuration/Configuration.h>
+#include <Constants/NavigationNotifications.h>
+#include <Managers/AppManager.h>
+#include <Managers/SlidesActionManager.h>
+#include <Views/CustomViews/Pixels.h>
+
+#include <QCoreApplication>
+#include <QPixmap>
+
+#include <cstdint>
+
+namespace velmar {
+
+namespace {
+
+using OnScreen = WindowSection::OnScreen;
+constexpr QSize screenSize(1280, 800);
+
+} // namespace
+
+SlidePictures::SlidePictures(QSize size, const DesktopAppearance &appearance)
+    : view_(std::make_unique<VelmarViewController>(
+          VelmarViewController::Surroundings{.mainQueue = queue_,
+                                             .appTerminationManager = termination_,
+                                             .appearance = appearance,
+                                             .alerts = alerts_,
+                                             .reloadInterface = [](bool /*byResetingVariables*/) {},
+                                             .center = center_})) {
+    view_->setFixedSize(size);
+    view_->show();
+    settle();
+}
+
+QSize SlidePictures::sizeOfWindow() {
+    const auto configuration = AppManager::shared()->configuration();
+    const WindowSection &section = configuration->_window();
+    switch (section._onScreen()) {
+    case OnScreen::simple:
+        return pixels(section._minimumSize());
+    case OnScreen::blurredBackground:
+        return pixels(section._maximumSize());
+    case OnScreen::fullScreen:
+        return screenSize;
+    case OnScreen::menuBar:
+        return pixels(section._menuBarSize());
+    }
+    return screenSize;
+}
+
+std::size_t SlidePictures::count() {
+    const auto configuration = AppManager::shared()->configuration();
+    return configuration->_window()._onScreen() == OnScreen::menuBar ? 1 : configuration->_slides().size();
+}
+
+QImage SlidePictures::picture(std::size_t index) {
+    // What the slide before wants hidden or filled in is no matter of this one.
+    center_.post(NavigationNotifications::evaluateButtonsHide);
+    center_.post(NavigationNotifications::allMandatoryElementsInSlideAreValid);
+    SlidesActionManager::shared()->navigateToIndex(static_cast<std::int64_t>(index));
+    settle();
+    return view_->grab().toImage();
+}
+
+void SlidePictures::settle() {
+    do {
+        QCoreApplication::processEvents();
+    } while (queue_.runUntilEmpty() > 0);
+}
+
+} // namespace velmar
