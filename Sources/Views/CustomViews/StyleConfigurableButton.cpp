@@ -59,11 +59,11 @@ void StyleConfigurableButton::updateColors() {
 }
 
 QSize StyleConfigurableButton::sizeHint() const {
+    constexpr QSize room(2 * Theme::focusRingRoom, 0);
     if (style_ == Style::info) {
-        constexpr int side = roundDiameter + 2 * Theme::focusRingRoom;
-        return {side, side};
+        return {roundDiameter, roundDiameter + room.width()};
     }
-    return PushButton::sizeHint();
+    return PushButton::sizeHint() - room;
 }
 
 QSize StyleConfigurableButton::minimumSizeHint() const {
@@ -85,6 +85,12 @@ void StyleConfigurableButton::paintEvent(QPaintEvent * /*event*/) {
     initStyleOption(&option);
     option.palette.setColor(QPalette::Button, tintColor_);
     option.palette.setColor(QPalette::ButtonText, titleColor_);
+    // In line with the texts above and below it: at the sides it makes room for the ring only while there is
+    // one.
+    if (!hasFocus() || !window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
+        constexpr int room = Theme::focusRingRoom;
+        option.rect.adjust(-room, 0, room, 0);
+    }
     if (style_ == Style::simple) {
         painter.drawControl(QStyle::CE_PushButton, option);
         return;

@@ -2,7 +2,6 @@
 
 #include <Views/CustomViews/Font.h>
 #include <Views/CustomViews/StyleConfigurableButton.h>
-#include <Views/CustomViews/Theme.h>
 
 #include <logger/Logger.h>
 
@@ -13,12 +12,8 @@
 namespace velmar::ComponentViews {
 
 namespace {
-
-// The ring of the focus reaches into the margin, so that the button's edge is in line with texts.
-constexpr int side = -Theme::focusRingRoom;
 constexpr QMargins standardMargins(0, 4, 0, 4);
-
-} // namespace
+}
 
 Button::Button(ComponentItem::Button item, MainQueue &mainQueue, QWidget *parent,
                std::shared_ptr<ActionDispatcherProtocol> dispatcher, Trigger trigger)
@@ -31,7 +26,7 @@ Button::Button(ComponentItem::Button item, MainQueue &mainQueue, QWidget *parent
     }
     auto *row = new QWidget(this);
     auto *layout = new QVBoxLayout(row);
-    layout->setContentsMargins(side, 0, side, 0);
+    layout->setContentsMargins(0, 0, 0, 0);
     buttonView_ = new StyleConfigurableButton(this->item()._style(), row);
     layout->addWidget(buttonView_, 0, alignmentOf(this->item()._alignment()));
     Button::refresh();
