@@ -3,6 +3,8 @@
 import plistlib
 import subprocess
 
+import signal
+
 from harness import machine
 from harness.scenario import Scenario, configuration, slide
 from harness.screen import SIZE as SCREEN
@@ -111,3 +113,24 @@ class Navigation(Scenario):
                     screen.wait_for_colour(colour)
                     process.close()
                     service.terminate()
+
+    def test_very_much_in_a_small_window_scrolls_and_goes_on(self):
+        size = {"Width": 300, "Height": 200}
+        many = [{"Type": "Text", "Text": f"Line {line}"} for line in range(98)]
+        long = [{"Type": "Text", "Text": "word " * 20_000},
+                {"Type": "Button", "Style": "Simple", "Text": "title " * 20_000}]
+        slides = [{"Containers": [{"Components": many + long}]}] + [slide(f"Slide {index}") for index in range(1, 200)]
+        self.install(configuration(*slides, Window={"OnScreen": "Simple", "MinimumSize": size, "MaximumSize": size},
+                                   Navigation={"NextButtonText": "On", "PreviousButtonText": "Back"}))
+        process, screen = self.velmar()
+        screen.wait_for_text("Line 0")
+        left, top, width, height = screen.content()
+        self.assertEqual((300, 200), (width, height))
+        x, y, button_width, button_height = screen.button("On").position()
+        self.assertTrue(left <= x and x + button_width <= left + width and y + button_height <= top + height)
+        for index in range(1, 4):
+            screen.button("On").click()
+            screen.wait_for_text(f"Slide {index}")
+        process.send(signal.SIGTERM)
+        self.assertEqual(0, process.wait())
+        self.assertLess(process.cpu_seconds(), 8, process.story())

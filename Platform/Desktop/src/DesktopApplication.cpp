@@ -7,6 +7,7 @@
 
 #include <Dispatch/UncaughtHandler.h>
 
+#include "AccessibleScrollArea.h"
 #include "TerminationSignals.h"
 
 #include <QApplication>
@@ -22,6 +23,7 @@ public:
     Loop(int &argumentCount, char **arguments)
         : QApplication(argumentCount, arguments), signals_([this] { terminate(); }) {
         setQuitOnLastWindowClosed(false);
+        installAccessibleScrollAreas();
         connect(this, &QGuiApplication::lastWindowClosed, this, [this] { lastWindowWasClosed(); });
         connect(this, &QGuiApplication::applicationStateChanged, this,
                 [this](Qt::ApplicationState state) { stateChanged(state); });
