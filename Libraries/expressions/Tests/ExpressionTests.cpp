@@ -5,6 +5,10 @@
 #include <gtest/gtest.h>
 
 #include <ctime>
+#include <iterator>
+#include <random>
+#include <string>
+#include <string_view>
 
 namespace velmar::expressions {
 namespace {
@@ -45,6 +49,32 @@ TEST(Expression, IsWrittenFromItsElementsOrRefused) {
             return true;
         });
         EXPECT_EQ(outcome == "true" ? described : outcome, text) << line;
+    }
+}
+
+TEST(Expression, ReadsPlainLinesAsThePatternDoes) {
+    // Not the default pattern by its text, so that every line is read with it.
+    constexpr std::string_view samePattern = "[a-zA-Z]{1}[a-zA-Z0-9_-]{1,}";
+    const std::string_view pieces[] = {"AB",    "x-1", "A",  "9a",   "3",    "4.5.6", ".",  "true", "\"a b\"",
+                                       "\"(\"", "\"",  "(",  ")",    "((",   ")(",    "==", "=",    "&&",
+                                       "||",    ">=",  "~=", " ",    " ",    "   ",   "\t", "\n",   "é",
+                                       "!",     "-",   "_",  "\x01", "\xff", " "};
+    const auto read = [](std::string_view line, auto... pattern) {
+        std::string described;
+        const std::string outcome = outcomeOf([&] {
+            described = Expression(line, pattern...).description();
+            return true;
+        });
+        return described + outcome;
+    };
+    std::mt19937 random(7); // NOLINT(*-msc51-cpp): the same lines in every run.
+    for (int count = 0; count < 20'000; ++count) {
+        std::string line;
+        for (auto pieceCount = 1 + random() % 12; pieceCount > 0; --pieceCount) {
+            line += pieces[random() % std::size(pieces)];
+            line += random() % 3 == 0 ? "" : " ";
+        }
+        ASSERT_EQ(read(line), read(line, samePattern)) << line;
     }
 }
 

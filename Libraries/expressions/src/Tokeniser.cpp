@@ -1,5 +1,7 @@
 #include "Tokeniser.h"
 
+#include "PlainTokens.h"
+
 #include <expressions/Expression.h>
 
 #include <Foundation/NumberText.h>
@@ -52,10 +54,18 @@ Tokeniser Tokeniser::withNames(std::string_view variableNamePattern) {
 
 // The pattern of names comes first, so that its faults are reported about what the caller gave.
 Tokeniser::Tokeniser(std::string_view variableNamePattern)
-    : names_(variableNamePattern), tokens_(tokenPattern(variableNamePattern), {}, stepLimit) {}
+    : hasDefaultNames_(variableNamePattern == Expression::defaultVariableNamePattern),
+      names_(variableNamePattern),
+      tokens_(tokenPattern(variableNamePattern), {}, stepLimit) {}
 
 std::vector<ExpressionElement> Tokeniser::elements(std::string_view line) const {
     std::vector<ExpressionElement> elements;
+    if (const auto tokens = hasDefaultNames_ ? plainTokens(line) : std::nullopt; tokens && !tokens->empty()) {
+        elements.reserve(tokens->size());
+        for (const std::string_view token : *tokens)
+            append(token, elements);
+        return elements;
+    }
     std::size_t end = 0;
     for (const RegularExpression::Match &match : tokens_.matches(line)) {
         const TextRange range = match.range();
@@ -108,7 +118,7 @@ Operand Tokeniser::operand(std::string_view text) const {
         return {*number};
     if (text == "true" || text == "false")
         return {text == "true"};
-    if (names_.matchesWhole(text))
+    if (hasDefaultNames_ ? isDefaultName(text) : names_.matchesWhole(text))
         return {Operand::Variable{std::string(text)}};
     throw ExpressionError(ExpressionErrors::InvalidVariableName{std::string(text)});
 }

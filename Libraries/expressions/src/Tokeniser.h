@@ -11,7 +11,7 @@
 namespace velmar::expressions {
 
 /// Takes lines apart into elements, with one regular expression that is made of the operators' texts and the
-/// pattern of names. An immutable value: copies share what is compiled.
+/// pattern of names; plain lines without it. An immutable value: copies share what is compiled.
 class Tokeniser {
 public:
     /// The default pattern is compiled once for the process. Throws RegularExpressionError (InvalidPattern).
@@ -29,6 +29,7 @@ private:
     [[nodiscard]] ExpressionElement element(std::string_view text) const;
     [[nodiscard]] Operand operand(std::string_view text) const;
 
+    bool hasDefaultNames_;
     RegularExpression names_;
     RegularExpression tokens_;
 };
