@@ -52,7 +52,8 @@ QFont fontOf(const FontItem &item, const QFont &standard) {
     return font;
 }
 
-Qt::Alignment alignmentOf(const std::optional<FontItem::TextAlignment> &alignment) {
+Qt::Alignment alignmentOf(const std::optional<FontItem::TextAlignment> &alignment,
+                          Qt::LayoutDirection direction) {
     using enum FontItem::TextAlignment;
     switch (alignment.value_or(natural)) {
     case left:
@@ -66,7 +67,7 @@ Qt::Alignment alignmentOf(const std::optional<FontItem::TextAlignment> &alignmen
     case natural:
         break;
     }
-    return Qt::AlignLeading;
+    return (direction == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute;
 }
 
 } // namespace velmar

@@ -3,6 +3,7 @@
 #include <Configuration/FontItem.h>
 
 #include <QFont>
+#include <QGuiApplication>
 
 namespace velmar {
 
@@ -10,7 +11,9 @@ namespace velmar {
 /// weight applies to the system's font only. A family that isn't installed falls back to the system's.
 [[nodiscard]] QFont fontOf(const FontItem &item, const QFont &standard);
 
-/// The alignment of a text's lines; the item's, or else that of the text's own direction.
-[[nodiscard]] Qt::Alignment alignmentOf(const std::optional<FontItem::TextAlignment> &alignment);
+/// The alignment of an item, in which left and right are meant as such; the natural one, and that of an item
+/// without one, is where the direction begins.
+[[nodiscard]] Qt::Alignment alignmentOf(const std::optional<FontItem::TextAlignment> &alignment,
+                                        Qt::LayoutDirection direction = QGuiApplication::layoutDirection());
 
 } // namespace velmar

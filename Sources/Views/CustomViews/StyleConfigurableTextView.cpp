@@ -20,6 +20,22 @@ constexpr double lineSpacing = 1.3;
 constexpr double largeLineSpacing = 1.15;
 constexpr int comfortableWidth = 480; // Points.
 
+/// That of the first character with a direction of its own.
+Qt::LayoutDirection directionOf(const QString &text, Qt::LayoutDirection surrounding) {
+    for (const char32_t character : text.toUcs4()) {
+        switch (QChar::direction(character)) {
+        case QChar::DirL:
+            return Qt::LeftToRight;
+        case QChar::DirR:
+        case QChar::DirAL:
+            return Qt::RightToLeft;
+        default:
+            break;
+        }
+    }
+    return surrounding;
+}
+
 } // namespace
 
 StyleConfigurableTextView::StyleConfigurableTextView(QWidget *parent) : QLabel(parent) {
@@ -52,7 +68,7 @@ void StyleConfigurableTextView::changeEvent(QEvent *event) {
     QLabel::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) {
         updateColor();
-    } else if (event->type() == QEvent::FontChange) {
+    } else if (event->type() == QEvent::FontChange || event->type() == QEvent::LayoutDirectionChange) {
         prepareLayout();
     }
 }
@@ -61,7 +77,9 @@ void StyleConfigurableTextView::prepareLayout() {
     QString content = text();
     content.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     content.replace(QLatin1Char('\n'), QChar::LineSeparator);
-    QTextOption option(alignmentOf(fontItem_ ? fontItem_->_textAlignment() : std::nullopt));
+    const Qt::LayoutDirection direction = directionOf(content, layoutDirection());
+    QTextOption option(alignmentOf(fontItem_ ? fontItem_->_textAlignment() : std::nullopt, direction));
+    option.setTextDirection(direction);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     layout_.setText(content);
     layout_.setFont(font());

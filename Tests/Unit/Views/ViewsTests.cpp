@@ -63,6 +63,33 @@ TEST_F(Views, ATextIsAsHighAsItsWidthAsksForAndNeverWiderThanItsPlace) {
     EXPECT_LT(view.minimumSizeHint().width(), 100);
 }
 
+TEST_F(Views, ATextBeginsWhereItsOwnDirectionDoesUnlessItIsAligned) {
+    using enum FontItem::TextAlignment;
+    struct Case {
+        const char *text;
+        std::optional<FontItem::TextAlignment> alignment;
+        Qt::LayoutDirection surrounding;
+        bool isOnTheRight;
+    };
+    for (const auto &[text, alignment, surrounding, isOnTheRight] :
+         {Case{"1. Text", {}, Qt::LeftToRight, false}, Case{"1. Text", natural, Qt::RightToLeft, false},
+          Case{"1. نص", {}, Qt::LeftToRight, true}, Case{"1. نص", natural, Qt::RightToLeft, true},
+          Case{"12", {}, Qt::LeftToRight, false}, Case{"12", {}, Qt::RightToLeft, true},
+          Case{"Text", right, Qt::LeftToRight, true}, Case{"نص", left, Qt::RightToLeft, false}}) {
+        StyleConfigurableTextView view;
+        view.setLayoutDirection(surrounding);
+        FontItem font;
+        font._textAlignment.set(alignment);
+        view.setContent(QString::fromUtf8(text), font);
+        view.resize(400, 40);
+        const QImage picture = view.grab().toImage();
+        QImage blank(200, 40, picture.format());
+        blank.fill(view.palette().color(QPalette::Window));
+        EXPECT_EQ(picture.copy(0, 0, 200, 40) == blank, isOnTheRight) << text << ' ' << surrounding;
+        EXPECT_EQ(picture.copy(200, 0, 200, 40) == blank, !isOnTheRight) << text << ' ' << surrounding;
+    }
+}
+
 TEST_F(Views, AFontIsTheItemsWhereItSaysSo) {
     const QFont standard = Theme::font(Theme::bodySize);
     FontItem item;

@@ -233,7 +233,9 @@ void ContainerViewController::paintEvent(QPaintEvent * /*event*/) {
                                 borderRadius);
     }
     if (kind_ == Kind::inSidebar) {
-        painter.fillRect(QRect(width() - 1, 0, 1, height()), palette().color(QPalette::Mid));
+        // Towards the slides.
+        painter.fillRect(QRect(isRightToLeft() ? 0 : width() - 1, 0, 1, height()),
+                         palette().color(QPalette::Mid));
     }
     if (scrollArea_->hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
         constexpr qreal inset = Theme::focusRingRoom;
