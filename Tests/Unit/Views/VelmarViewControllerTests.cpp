@@ -107,6 +107,18 @@ TEST_F(VelmarView, TakesTheKeysThatScrollAndLeavesTheOthersAlone) {
     }
 }
 
+TEST_F(VelmarView, IsMirroredWithTheLanguage) {
+    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        const bool isMirrored = direction == Qt::RightToLeft;
+        window.setLayoutDirection(direction);
+        press(isMirrored ? Qt::Key_Left : Qt::Key_Right);
+        EXPECT_EQ(content->currentSlideIndex(), 1);
+        EXPECT_EQ(bar->nextButton().x() < bar->previousButton().x(), isMirrored);
+        press(isMirrored ? Qt::Key_Right : Qt::Key_Left);
+        EXPECT_EQ(content->currentSlideIndex(), 0);
+    }
+}
+
 TEST_F(VelmarView, TellsWhyAQuitWasRefused) {
     center.post(TerminationNotifications::userTriesToQuitWhenNotAllMonitorsAreInstalled);
     center.post(TerminationNotifications::userTriesToQuitWhenNotAllMonitoredFilesArePresent);
