@@ -3,6 +3,7 @@
 #include <Desktop/DesktopApplication.h>
 #include <Desktop/DesktopPasteboard.h>
 #include <Desktop/DesktopSoundPlayer.h>
+#include <Desktop/DesktopUserNotifications.h>
 #include <Desktop/Display.h>
 #include <Dispatch/UncaughtHandler.h>
 #include <Extensions/VelmarLogDestinations.h>
@@ -54,12 +55,14 @@ int run(int argumentCount, char **arguments, LaunchOptions options) {
         DesktopAlertPresenter alerts;
         DesktopPasteboard pasteboard;
         DesktopSoundPlayer sounds(application.mainQueue(), DesktopSoundPlayer::placesOfProcess());
+        DesktopUserNotifications notifications;
         SystemRunningApplications runningApplications(application.mainQueue(), application.timers(),
                                                       ProcessWatch::placesOfProcess(authority));
         AppDelegate delegate({.application = application,
                               .alerts = alerts,
                               .pasteboard = pasteboard,
                               .sounds = sounds,
+                              .notifications = notifications,
                               .runningApplications = runningApplications,
                               .identityAuthority = authority,
                               .options = std::move(options),

@@ -13,6 +13,7 @@
 #include <Managers/ConfigurationRefusal.h>
 #include <Managers/ContentManager.h>
 #include <Managers/PopulatePlugin.h>
+#include <Managers/TriggerNotificationActionsManager.h>
 #include <Models/Actions/ActionSurroundings.h>
 #include <Models/Actions/DispatchableItem.h>
 #include <Views/CustomViews/Theme.h>
@@ -55,6 +56,7 @@ AppDelegate::AppDelegate(Surroundings surroundings)
     Theme::install(application.appearance());
     Localization::install();
     shareActionDispatcher();
+    notificationActions_ = TriggerNotificationActionsManager::make(surroundings_.notifications);
     terminationService_ = std::make_shared<AppTerminationService>(
         application.mainQueue(), [&application] { application.terminate(); });
     const auto terminationManager = std::make_shared<AppTerminationManager>(
@@ -127,6 +129,7 @@ void AppDelegate::shareActionDispatcher() {
                            .pasteboard = surroundings_.pasteboard,
                            .sounds = surroundings_.sounds,
                            .windows = openedWindow_,
+                           .notifications = surroundings_.notifications,
                            // The service comes after the dispatcher, which it uses.
                            .terminateApp = [this, &mainQueue] {
                                mainQueue.async([this] { terminationService_->terminate(); });

@@ -27,6 +27,8 @@ class CustomWindowAppDelegateService;
 class RunningApplications;
 class SimplePasteboard;
 class SoundPlayer;
+class TriggerNotificationActionsManager;
+class UserNotifications;
 
 /// The application's delegate: makes the shared AppManager at the first event, and has the services of the
 /// chain do the rest. Made after the application, and destroyed before it.
@@ -38,6 +40,7 @@ public:
         AlertPresenter &alerts;
         SimplePasteboard &pasteboard;
         SoundPlayer &sounds;
+        UserNotifications &notifications;
         RunningApplications &runningApplications;
         const IdentityAuthority &identityAuthority;
         LaunchOptions options;
@@ -71,6 +74,7 @@ private:
     Surroundings surroundings_;
     OpenedWindow openedWindow_;
     std::optional<Shared<ActionDispatcher>::Scope> actionDispatcher_;
+    std::shared_ptr<TriggerNotificationActionsManager> notificationActions_;
     std::shared_ptr<AppTermination> terminationService_;
     std::optional<Shared<AppTerminationManager>::Scope> appTerminationManager_;
     TerminationScript terminationScript_;

@@ -6,6 +6,7 @@ import signal
 import subprocess
 from pathlib import Path
 
+from harness.notifications import NotificationService
 from harness.scenario import Scenario, configuration, slide
 from harness.waiting import until
 
@@ -69,6 +70,26 @@ class Actions(Scenario):
         screen.button("OK").press()
         self.wait_for_message("second OK")
         self.assertIn(". DisplayAlert: could not retrieve icon at /no/such.png", self.messages())
+
+    def test_a_notification_is_answered_by_its_button_but_not_by_a_tap(self):
+        service = NotificationService()
+        self.addCleanup(service.close)
+        notification = {"Type": "DisplayNotification", "Title": "For ${STEP}", "Body": "1 < 2",
+                        "Actions": [{"Title": "Go on", "Trigger": "go"}]}
+        _, screen = self.start(action_set("Launch", notification, notification, log("shown")),
+                               action_set("Custom(go)", update("STEP", "gone"), log("went on")))
+        self.wait_for_message("shown")
+        self.assertEqual([("For start", "1 &lt; 2", ["default", "", "0", "Go on"])] * 2, service.shown)
+        service.invoke(1, "default")
+        until("the error of the tap", lambda: any("Received notification default notification response. A trigger name "
+                                                  "should have been set." in message for message in self.messages()))
+        screen.wait_for_text("At start")
+        for number, action in [(1, "0"), (3, "0"), (2, "1"), (2, "-1"), (2, "go")]:
+            service.invoke(number, action)
+        service.invoke(2, "0")
+        screen.wait_for_text("At gone")
+        until("the end of both notifications", lambda: service.withdrawn == [1, 2])
+        self.assertEqual(1, self.messages().count("went on"))
 
     def test_the_clipboard_and_a_sound_without_a_device(self):
         process, screen = self.start(action_set("Launch", {"Type": "CopyToClipboard", "Text": "for ${STEP} é"},

@@ -62,7 +62,8 @@ public:
           alerts_(record_->mainQueue, in, say_),
           pasteboard_(say_),
           sounds_(record_->mainQueue, say_),
-          windows_(say_) {
+          windows_(say_),
+          notifications_(record_->mainQueue, say_) {
         contentManager_->registerVariables(*configuration_);
         slides_->addObserver(slideObserver_);
     }
@@ -134,6 +135,7 @@ private:
     TerminalPasteboard pasteboard_;
     TerminalSoundPlayer sounds_;
     TerminalWindows windows_;
+    TerminalUserNotifications notifications_;
     std::shared_ptr<TerminalSlides> slideObserver_ = std::make_shared<TerminalSlides>(say_);
     std::shared_ptr<SlidesActionManager> slides_ = std::make_shared<SlidesActionManager>();
     std::shared_ptr<ContentManager> contentManager_ = std::make_shared<ContentManager>();
@@ -143,6 +145,7 @@ private:
                            .pasteboard = pasteboard_,
                            .sounds = sounds_,
                            .windows = windows_,
+                           .notifications = notifications_,
                            .terminateApp = [say = say_] { say("termination, not done here"); },
                            .contentManager = contentManager_,
                            .slides = slides_});

@@ -87,6 +87,17 @@ void TerminalWindows::close() {
     say_("window, not closed here");
 }
 
+void TerminalUserNotifications::add(UserNotification notification, Completion completion) {
+    say_(fmt::format("notification, not done here: {}", notification.title));
+    if (!notification.body.empty()) {
+        say_(fmt::format("       {}", notification.body));
+    }
+    for (const UserNotification::Action &action : notification.actions) {
+        say_(fmt::format("       {}: triggers {}", action.title, action.identifier));
+    }
+    mainQueue_.async([completion = std::move(completion)] { completion({.isShown = true, .problem = {}}); });
+}
+
 void TerminalSlides::navigateToIndex(std::int64_t index) {
     say_(fmt::format("slide, not done here: {}", index));
 }

@@ -3,6 +3,7 @@
 #include <Interaction/AlertPresenter.h>
 #include <Interaction/SimplePasteboard.h>
 #include <Interaction/SoundPlayer.h>
+#include <Interaction/UserNotifications.h>
 #include <Managers/SlidesActionManager.h>
 #include <Models/Actions/SlideWindowPresenter.h>
 
@@ -67,6 +68,20 @@ public:
     void close() override;
 
 private:
+    SayLine say_;
+};
+
+/// Says what would be shown. Nobody answers.
+class TerminalUserNotifications final : public UserNotifications {
+public:
+    /// The queue must outlive it.
+    TerminalUserNotifications(MainQueue &mainQueue, SayLine say)
+        : mainQueue_(mainQueue), say_(std::move(say)) {}
+    void setDelegate(std::weak_ptr<UserNotificationsDelegate> /*delegate*/) override {}
+    void add(UserNotification notification, Completion completion) override;
+
+private:
+    MainQueue &mainQueue_;
     SayLine say_;
 };
 

@@ -1,10 +1,11 @@
 #include <Desktop/DesktopAppearance.h>
 
+#include "SessionBus.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QFileInfo>
 
 namespace velmar {
 
@@ -17,12 +18,6 @@ const auto appearanceGroup = QStringLiteral("org.freedesktop.appearance");
 const auto colorSchemeKey = QStringLiteral("color-scheme");
 const auto desktopGroup = QStringLiteral("org.gnome.desktop.interface");
 const auto animationsKey = QStringLiteral("enable-animations");
-
-bool hasSessionBus() {
-    // Without either the D-Bus library would try to start a bus of its own.
-    return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
-           QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus"));
-}
 
 } // namespace
 

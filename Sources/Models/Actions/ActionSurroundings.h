@@ -13,6 +13,7 @@ class MainQueue;
 class SimplePasteboard;
 class SlideWindowPresenter;
 class SoundPlayer;
+class UserNotifications;
 
 /// What actions work with. The references outlive every action.
 struct ActionSurroundings {
@@ -21,6 +22,7 @@ struct ActionSurroundings {
     SimplePasteboard &pasteboard;
     SoundPlayer &sounds;
     SlideWindowPresenter &windows;
+    UserNotifications &notifications;
     /// Begins the termination of the application, whatever would hold a quit back. Any thread.
     std::function<void()> terminateApp;
     std::shared_ptr<ContentManagerProtocol> contentManager = ContentManager::shared();

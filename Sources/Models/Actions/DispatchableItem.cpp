@@ -17,6 +17,9 @@ struct Maker {
     using Result = std::shared_ptr<Dispatchable>;
     Result operator()(const ActionItem::Log &) const { return make<Actions::Log>(); }
     Result operator()(const ActionItem::DisplayAlert &) const { return make<Actions::DisplayAlert>(); }
+    Result operator()(const ActionItem::DisplayNotification &) const {
+        return make<Actions::DisplayNotification>();
+    }
     Result operator()(const ActionItem::PlaySound &) const { return make<Actions::PlaySound>(); }
     Result operator()(const ActionItem::TerminateApp &) const { return make<Actions::TerminateApp>(); }
     Result operator()(const ActionItem::CopyToClipboard &) const { return make<Actions::CopyToClipboard>(); }

@@ -6,6 +6,7 @@
 #include <Interaction/AlertPresenter.h>
 #include <Interaction/SimplePasteboard.h>
 #include <Interaction/SoundPlayer.h>
+#include <Interaction/UserNotifications.h>
 #include <Models/Actions/ActionSurroundings.h>
 #include <Models/Actions/SlideWindowPresenter.h>
 
@@ -76,6 +77,30 @@ void DisplayAlert::alertCompletionHandler(int response, const std::vector<std::s
         surroundings().contentManager->updateVariable(*variable, text, true);
     }
     complete(true);
+}
+
+void DisplayNotification::perform() {
+    performOnMainThread([this] { show(); });
+}
+
+void DisplayNotification::show() {
+    const ActionItem::DisplayNotification &item = actionItem();
+    UserNotification notification{.title = item._title(),
+                                  .body = item._body().value_or(std::string()),
+                                  .soundName = item._soundName(),
+                                  .actions = {}};
+    for (const auto &action : item._actions()) {
+        notification.actions.push_back({.identifier = action._trigger(), .title = action._title()});
+    }
+    surroundings().notifications.add(std::move(notification),
+                                     [self = keepingAlive(this)](const UserNotificationOutcome &outcome) {
+                                         if (!outcome.isShown) {
+                                             LoggerExtensions::error(LogSubject::actions, outcome.problem);
+                                         } else if (!outcome.problem.empty()) {
+                                             LoggerExtensions::warning(LogSubject::actions, outcome.problem);
+                                         }
+                                         self->complete(outcome.isShown);
+                                     });
 }
 
 void PlaySound::perform() {

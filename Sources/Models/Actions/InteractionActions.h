@@ -33,6 +33,16 @@ private:
     void alertCompletionHandler(int response, const std::vector<std::string> &buttonsText);
 };
 
+/// Shows a notification. It has ended when that is on show; an answer is fired as a custom trigger.
+class DisplayNotification final : public ActionOf<ActionItem::DisplayNotification> {
+public:
+    using ActionOf::ActionOf;
+
+private:
+    void perform() override;
+    void show();
+};
+
 /// Plays the sound of a name or file; where there is none, the program's own. Ends with the sound.
 class PlaySound final : public ActionOf<ActionItem::PlaySound> {
 public:

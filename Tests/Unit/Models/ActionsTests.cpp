@@ -1,5 +1,6 @@
 #include <Configuration/Configuration.h>
 #include <Managers/ConditionEvaluator.h>
+#include <Managers/TriggerNotificationActionsManager.h>
 #include <Models/Actions/ActionSurroundings.h>
 #include <Models/Actions/Dispatchable.h>
 #include <Models/Actions/DispatchableItem.h>
@@ -10,6 +11,7 @@
 #include <Testing/TestMainQueue.h>
 #include <Testing/TestPasteboard.h>
 #include <Testing/TestSoundPlayer.h>
+#include <Testing/TestUserNotifications.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -64,6 +66,11 @@ public:
     std::string requests;
 };
 
+struct Triggered final : CustomTriggerHandler {
+    void dispatchSetsFor(std::string_view customTrigger) override { (names += customTrigger) += ' '; }
+    std::string names;
+};
+
 class ActionsTest : public testing::Test {
 protected:
     /// Starts an action and does what waits on the main thread.
@@ -89,6 +96,7 @@ protected:
     TestPasteboard pasteboard_;
     TestSoundPlayer sounds_;
     Windows windows_;
+    TestUserNotifications notifications_;
     std::string outcomes_;
     int terminations_ = 0;
     std::shared_ptr<ContentManager> store_ = std::make_shared<ContentManager>();
@@ -99,6 +107,7 @@ protected:
                                                                 .pasteboard = pasteboard_,
                                                                 .sounds = sounds_,
                                                                 .windows = windows_,
+                                                                .notifications = notifications_,
                                                                 .terminateApp = [this] { ++terminations_; },
                                                                 .contentManager = store_,
                                                                 .slides = slides_});
@@ -155,6 +164,30 @@ TEST_F(ActionsTest, AnswerAnAlertWithTheTextOfItsButton) {
     static_cast<void>(log_.takeLines());
     alerts_.answer(1);
     EXPECT_THAT(log_.takeLines(), ElementsAre("info: Successfully updated a variable [ ANSWER: 'Later' ]"));
+}
+
+TEST_F(ActionsTest, ShowANotificationAndFireTheTriggerOfItsAnswer) {
+    const auto handler = std::make_shared<Triggered>();
+    const auto manager = TriggerNotificationActionsManager::make(notifications_, Trigger(handler));
+    for (const bool isShown : {true, false}) {
+        notifications_.outcome = {.isShown = isShown, .problem = isShown ? "" : "No."};
+        run("<key>Type</key><string>DisplayNotification</string><key>Title</key><string>T</string>"
+            "<key>SoundName</key><string>bell</string><key>Actions</key><array><dict><key>Title</key>"
+            "<string>Go</string><key>Trigger</key><string>default</string></dict></array>");
+        EXPECT_EQ(outcomes_, isShown ? "true " : "false ");
+    }
+    EXPECT_THAT(log_.takeLines(), ElementsAre(HasSubstr("No.")));
+    EXPECT_EQ(notifications_.notifications.back().title + *notifications_.notifications.back().soundName,
+              "Tbell");
+    EXPECT_THAT(notifications_.notifications.back().actions,
+                ElementsAre(UserNotification::Action{"default", "Go"}));
+    notifications_.respond("default");
+    EXPECT_THAT(log_.takeLines(), IsEmpty());
+    notifications_.respond(std::nullopt);
+    EXPECT_THAT(log_.takeLines(),
+                ElementsAre(HasSubstr("Received notification default notification response.")));
+    EXPECT_EQ(handler->names, "default ");
+    EXPECT_EQ(notifications_.handledResponses, 2);
 }
 
 TEST_F(ActionsTest, PlayTheSoundOrElseTheOneOfTheProgram) {

@@ -73,6 +73,13 @@ TEST_F(RunSetCommandTest, SaysWhereASetStops) {
          "1 Log: succeeded after T\nThe set stopped before its end after T.\n"},
         {"Chained", action("SaveInputs", "") + log("y"), ExitStatus::refused,
          "0 SaveInputs: started\n    error: "},
+        {"Chained",
+         action("DisplayNotification", "<key>Title</key><string>${NAME}</string><key>Actions</key><array>"
+                                       "<dict><key>Title</key><string>Go</string><key>Trigger</key>"
+                                       "<string>t</string></dict></array>"),
+         ExitStatus::succeeded,
+         "0 DisplayNotification: started\n    notification, not done here: Ann\n           Go: triggers t\n"
+         "0 DisplayNotification: succeeded"},
         {"Parallel", "", ExitStatus::succeeded, "The set ran to its end after T.\n"},
         {"Chained", "", ExitStatus::refused, "The set stopped before its end after T.\n"},
     };

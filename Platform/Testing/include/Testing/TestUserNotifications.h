@@ -1,0 +1,35 @@
+#pragma once
+
+#include <Interaction/UserNotifications.h>
+
+#include <utility>
+#include <vector>
+
+namespace velmar {
+
+/// Records notifications and answers them as the test says.
+class TestUserNotifications final : public UserNotifications {
+public:
+    UserNotificationOutcome outcome{.isShown = true, .problem = {}};
+    std::vector<UserNotification> notifications; ///< All, in the order of asking.
+    int handledResponses = 0;
+
+    /// Somebody presses the button of an action, or taps on the body.
+    void respond(std::optional<std::string> actionIdentifier) {
+        if (const auto delegate = delegate_.lock())
+            delegate->didReceive({std::move(actionIdentifier)}, [this] { ++handledResponses; });
+    }
+
+    void setDelegate(std::weak_ptr<UserNotificationsDelegate> delegate) override {
+        delegate_ = std::move(delegate);
+    }
+    void add(UserNotification notification, Completion completion) override {
+        notifications.push_back(std::move(notification));
+        completion(outcome);
+    }
+
+private:
+    std::weak_ptr<UserNotificationsDelegate> delegate_;
+};
+
+} // namespace velmar
