@@ -1,17 +1,18 @@
 #pragma once
 
+#include <Diagnostic.h>
 #include <logger/BaseDestination.h>
 
-#include <fmt/core.h>
-
-#include <cstdio>
+#include <array>
+#include <iostream>
 #include <set>
 #include <string>
 #include <utility>
 
 namespace velmar {
 
-/// Prints what the application would log as a warning or worse on standard error, each text once.
+/// Prints what the application would log as a warning or worse on standard error, each text once, in lines as
+/// those of `velmarctl check`.
 class WarningLines final : public BaseDestination {
 public:
     explicit WarningLines(std::string file) : BaseDestination(settings()), file_(std::move(file)) {}
@@ -19,7 +20,12 @@ public:
     void write(std::span<const LogRecord> records) override {
         for (const LogRecord &record : records) {
             if (told_.insert(record.message).second) {
-                fmt::print(stderr, "{}: warning: {}\n", file_, record.message);
+                writeText(std::cerr, std::array{Diagnostic{.file = file_,
+                                                           .severity = Diagnostic::Severity::warning,
+                                                           .keyPath = {},
+                                                           .line = {},
+                                                           .message = record.message,
+                                                           .notes = {}}});
             }
         }
     }

@@ -17,6 +17,7 @@
 #include <Managers/ContentManager.h>
 #include <Managers/PopulatePlugin.h>
 #include <Managers/Shared.h>
+#include <PrintableText.h>
 #include <Views/CustomViews/Theme.h>
 #include <logger/ScopedDestinations.h>
 
@@ -120,7 +121,7 @@ int run(int argumentCount, char **arguments) {
         render(options, appearance);
         return EXIT_SUCCESS;
     } catch (...) {
-        fmt::print(stderr, "velmarctl: {}\n", textOf(std::current_exception()));
+        fmt::print(stderr, "velmarctl: {}\n", printable(textOf(std::current_exception())));
         return EXIT_FAILURE;
     }
 }

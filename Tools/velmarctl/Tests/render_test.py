@@ -127,6 +127,13 @@ class Render(unittest.TestCase):
         self.assertTrue(all((self.out / name).read_bytes().startswith(b"\x89PNG") and not (self.out / name).is_symlink()
                             for name in ["slide-01.png", "slide-02.png"]))
 
+    def test_what_the_program_would_log_is_said_once_and_steers_no_terminal(self):
+        configuration = {"Slides": [slide(text("\u202e${DEVICE_NAME}"), text("\u202e${DEVICE_NAME}"))]}
+        path = self.folder / "x.plist"
+        self.assertEqual(f"{path}: warning: Use of undefined variable 'DEVICE_NAME' in condition [ \\u202e${{DEVICE_NAME}} ]\n",
+                         self.render(configuration)[1])
+        self.assertEqual("", self.render(configuration, "--var", "DEVICE_NAME=x")[1])
+
     def test_what_cannot_be_done_is_said_in_a_sentence(self):
         configuration = {"Slides": [slide(text("A"))]}
         taken = self.folder / "file"
