@@ -66,11 +66,8 @@ AppDelegate::AppDelegate(Surroundings surroundings)
         std::make_shared<CustomWindowAppDelegateService>(CustomWindowAppDelegateService::Surroundings{
             .mainMenu = application.mainMenu(),
             .screens = &Screens::current,
-            .didPaint =
-                [&application] {
-                    Logger::debug("First paint");
-                    application.appearance().followSettingsService();
-                },
+            .didPaint = [] { Logger::debug("First paint"); },
+            .didPresent = [&application] { application.appearance().followSettingsService(); },
             .view = {.mainQueue = application.mainQueue(),
                      .appTerminationManager = *terminationManager,
                      .appearance = application.appearance(),

@@ -193,6 +193,14 @@ std::size_t AlertDialog::answer() const {
     return static_cast<std::size_t>((cancel == buttons_.end() ? last : cancel) - buttons_.begin());
 }
 
+void AlertDialog::changeEvent(QEvent *event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && isMinimized()) {
+        // The windows below wait for an answer.
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+    }
+}
+
 void AlertDialog::keyPressEvent(QKeyEvent *event) {
     // The keys that the buttons have no use for.
     if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown) {

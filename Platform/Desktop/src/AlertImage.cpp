@@ -1,7 +1,9 @@
 #include "AlertImage.h"
 
-#include <QFileInfo>
-#include <QImageReader>
+#include "ImageFile.h"
+
+#include <optional>
+#include <utility>
 
 namespace velmar {
 
@@ -13,20 +15,8 @@ constexpr QSize largest(256, 256);
 } // namespace
 
 std::shared_ptr<const AlertImage> AlertImage::read(const std::string &path) {
-    const QString name = QString::fromStdString(path);
-    // Opening what is no file, such as a pipe, could wait for ever.
-    if (!QFileInfo(name).isFile()) {
-        return nullptr;
-    }
-    QImageReader reader(name);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (size.width() > largest.width() || size.height() > largest.height()) {
-        reader.setScaledSize(size.scaled(largest, Qt::KeepAspectRatio).expandedTo({1, 1}));
-    }
-    QImage image = reader.read();
-    return image.isNull() ? nullptr : std::make_shared<const AlertImage>(std::move(image));
+    std::optional<ImageFile> file = ImageFile::read(path, largest);
+    return file ? std::make_shared<const AlertImage>(std::move(file->image)) : nullptr;
 }
 
 const AlertImage *AlertImage::from(const AlertIcon *icon) {

@@ -18,7 +18,10 @@ namespace {
 
 Qt::WindowFlags flagsOf(const Window::Style &style) {
     if (!style.hasTitleBar) {
-        return Qt::Window | Qt::FramelessWindowHint;
+        using Rank = Window::Style::Rank;
+        Qt::WindowFlags flags = style.rank == Rank::popover ? Qt::Tool : Qt::Window;
+        flags.setFlag(Qt::WindowStaysOnTopHint, style.rank != Rank::ordinary);
+        return flags | Qt::FramelessWindowHint;
     }
     Qt::WindowFlags flags =
         Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
@@ -43,6 +46,9 @@ Window::Window(Style style, MainMenu &menu)
             *windowHandle(),
             {.resize = style_.isResizable, .move = style_.isMovable, .close = style_.isClosable});
     }
+    if (style_.rank == Style::Rank::front) {
+        setOnEveryWorkspace(*windowHandle());
+    }
 }
 
 Window::~Window() {
@@ -65,8 +71,9 @@ void Window::setSizes(QSize content, QSize minimum, QSize maximum) {
 }
 
 QSize Window::frameSize() const {
-    // The widget remembers margins that it saw too early; the native window asks for them.
-    return windowHandle()->frameGeometry().size();
+    // The widget remembers margins that it saw too early; the native window asks for them, but knows a size
+    // only when it is shown.
+    return size().grownBy(windowHandle()->frameMargins());
 }
 
 void Window::moveFrame(QPoint origin) {
@@ -80,6 +87,15 @@ bool Window::eventFilter(QObject *watched, QEvent *event) {
         QTimer::singleShot(0, this, &Window::firstPainted);
     }
     return QWidget::eventFilter(watched, event);
+}
+
+void Window::changeEvent(QEvent *event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && isMinimized() && style_.rank == Style::Rank::front) {
+        // Window managers have a key for it too.
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+        activateWindow();
+    }
 }
 
 void Window::closeEvent(QCloseEvent *event) {
@@ -105,7 +121,7 @@ void Window::mousePressEvent(QMouseEvent *event) {
 
 void Window::resizeEvent(QResizeEvent *event) {
     QWidget::resizeEvent(event);
-    if (!style_.hasTitleBar) {
+    if (!style_.hasTitleBar && style_.isRound) {
         QPainterPath path;
         path.addRoundedRect(QRectF(rect()), cornerRadius, cornerRadius);
         setMask(QRegion(path.toFillPolygon().toPolygon()));

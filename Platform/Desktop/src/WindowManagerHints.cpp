@@ -26,14 +26,13 @@ constexpr std::uint32_t decorationResizeHandle = 1U << 2U;
 constexpr std::uint32_t decorationTitle = 1U << 3U;
 constexpr std::uint32_t decorationMenu = 1U << 4U;
 
-/// Null where the window system is none of X11's.
+} // namespace
+
 xcb_connection_t *connectionOfWindowSystem() {
     const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
     // Other platforms may have the interface too, without a connection behind it.
     return x11 == nullptr ? nullptr : x11->connection();
 }
-
-} // namespace
 
 std::uint32_t atomOfWindowSystem(std::string_view name) {
     xcb_connection_t *connection = connectionOfWindowSystem();
@@ -60,6 +59,16 @@ void setWindowManagerFunctions(QWindow &window, WindowFunctions functions) {
         0, 0};
     xcb_change_property(connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window.winId()), hints,
                         hints, 32, static_cast<std::uint32_t>(value.size()), value.data());
+}
+
+void setOnEveryWorkspace(QWindow &window) {
+    xcb_connection_t *connection = connectionOfWindowSystem();
+    if (connection == nullptr) {
+        return;
+    }
+    constexpr std::uint32_t every = 0xFFFFFFFF;
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window.winId()),
+                        atomOfWindowSystem("_NET_WM_DESKTOP"), XCB_ATOM_CARDINAL, 32, 1, &every);
 }
 
 } // namespace velmar

@@ -4,6 +4,7 @@
 #include <string_view>
 
 class QWindow;
+struct xcb_connection_t;
 
 namespace velmar {
 
@@ -14,6 +15,9 @@ struct WindowFunctions {
     bool close = true;
 };
 
+/// Null where the window system is none of X11's.
+[[nodiscard]] xcb_connection_t *connectionOfWindowSystem();
+
 /// The number that the window system gives to a name; 0 where it is none of X11's.
 [[nodiscard]] std::uint32_t atomOfWindowSystem(std::string_view name);
 
@@ -21,5 +25,8 @@ struct WindowFunctions {
 /// Window managers are free not to follow. Before the window is shown; does nothing where there is no X
 /// server.
 void setWindowManagerFunctions(QWindow &window, WindowFunctions functions);
+
+/// Shows the window on every workspace. Before it is shown; does nothing where there is no X server.
+void setOnEveryWorkspace(QWindow &window);
 
 } // namespace velmar

@@ -1,83 +1,144 @@
 #include <AppDelegate/Services/CustomWindowAppDelegateService.h>
 
-#include <AppDelegate/Services/WindowPlacement.h>
+#include <AppDelegate/Services/MenuBarIcon.h>
+#include <AppDelegate/Services/WindowPresentation.h>
 
+#include <Desktop/Popover.h>
+#include <Desktop/ScreenCover.h>
+#include <Desktop/StatusItem.h>
 #include <Desktop/Window.h>
-#include <fmt/core.h>
 #include <logger/Logger.h>
 
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <cmath>
+#include <utility>
 
 namespace velmar {
 
 namespace {
 
-QSize sizeOf(const SizeItem &item) {
-    // Neither nothing nor more than a display server's window can have.
-    const auto side = [](double points) {
-        return static_cast<int>(std::lround(std::clamp(points, 1.0, 16384.0)));
-    };
-    return {side(item._width()), side(item._height())};
-}
+using OnScreen = WindowSection::OnScreen;
 
-void logIfNotAvailable(WindowSection::OnScreen onScreen) {
-    for (const auto &[mode, rawString] : casesOf(onScreen)) {
-        if (mode == onScreen && mode != WindowSection::OnScreen::simple) {
-            Logger::error([&] {
-                return fmt::format(
-                    "The mode '{}' of 'Window.OnScreen' is not available yet. The window is shown as "
-                    "in the mode 'Simple'",
-                    rawString);
-            });
-        }
-    }
+bool isOnSomeScreen(QPoint point, const Screens &screens) {
+    return std::any_of(screens.frames.begin(), screens.frames.end(), [&](const ScreenFrame &screen) {
+        return QRect(screen.x, screen.y, screen.width, screen.height).contains(point);
+    });
 }
 
 } // namespace
 
-CustomWindowAppDelegateService::CustomWindowAppDelegateService(Surroundings surroundings)
-    : surroundings_(std::move(surroundings)) {}
+Config<WindowSection> CustomWindowAppDelegateService::configuredWindow() {
+    return Config<WindowSection>([](const Configuration &c) -> decltype(auto) { return c._window(); });
+}
+
+CustomWindowAppDelegateService::CustomWindowAppDelegateService(Surroundings surroundings,
+                                                               Config<WindowSection> windowConfig)
+    : _windowConfig(std::move(windowConfig)), surroundings_(std::move(surroundings)) {}
 
 CustomWindowAppDelegateService::~CustomWindowAppDelegateService() = default;
 
 void CustomWindowAppDelegateService::applicationDidFinishLaunching() {
-    const auto section = _windowConfig.wrappedValue();
-    logIfNotAvailable(section->_onScreen());
-    const ScreenFrame screen =
-        WindowPlacement::chooseScreen(surroundings_.screens(), section->_screenIndex());
-    window_ = std::make_unique<Window>(Window::Style{.hasTitleBar = !section->_hideTitleBar(),
-                                                     .isClosable = section->_isClosable(),
-                                                     .isResizable = section->_isResizable(),
-                                                     .isMovable = section->_isMovable()},
-                                       surroundings_.mainMenu);
+    if (_windowConfig.wrappedValue()->_onScreen() != OnScreen::menuBar) {
+        buildWindow();
+    } else if (StatusItem::isAvailable()) {
+        configureMenuBar();
+    } else {
+        // Without it there would be nothing at all to be seen.
+        Logger::error(
+            "The mode 'MenuBar' of 'Window.OnScreen' is not available: the desktop has no place for "
+            "status items. The window is shown as in the mode 'Simple'");
+        buildWindow();
+    }
+}
+
+void CustomWindowAppDelegateService::configureMenuBar() {
+    statusItem_ = std::make_unique<StatusItem>(QCoreApplication::applicationName().toStdString(),
+                                               [this] { showApplicationViewController(); });
+    if (auto image = MenuBarIcon::load(_windowConfig.wrappedValue()->_menuBarIconPath())) {
+        statusItem_->setImage(std::move(*image));
+    }
+    statusItem_->show();
+    surroundings_.didPresent();
+}
+
+void CustomWindowAppDelegateService::showApplicationViewController() {
+    if (controller_ == nullptr) {
+        popover_ = std::make_unique<Popover>(surroundings_.mainMenu);
+        QObject::connect(&popover_->window(), &Window::firstPainted, popover_.get(),
+                         [this] { surroundings_.didPaint(); });
+        controller_ = new VelmarViewController(surroundings_.view, &popover_->window());
+        popover_->window().setContent(controller_);
+    }
+    const auto admin = _admin.wrappedValue();
+    popover_->toggle(
+        statusItem_->frame(), WindowPresentation::sizeOf(_windowConfig.wrappedValue()->_menuBarSize()),
+        admin->_isAdminModeOn() && admin->_isMenuBarSemiTransient() ? Popover::Behavior::semitransient
+                                                                    : Popover::Behavior::transient);
+}
+
+void CustomWindowAppDelegateService::buildWindow() {
+    const auto presentation = WindowPresentation::of(*_windowConfig.wrappedValue(), surroundings_.screens());
+    window_ = std::make_unique<Window>(presentation.style, surroundings_.mainMenu);
     controller_ = new VelmarViewController(surroundings_.view, window_.get());
     window_->setContent(controller_);
-    // A window opens at its smallest.
-    const QSize minimum = sizeOf(section->_minimumSize());
-    window_->setSizes(minimum, minimum, sizeOf(section->_maximumSize()));
-    // An empty title would be replaced by one that the window manager makes up.
-    const std::optional<std::string> title = section->_title();
-    window_->setWindowTitle(title && !title->empty() ? QString::fromStdString(*title) : QString(QChar::Nbsp));
-    window_->setAccessibleName(title ? QString::fromStdString(*title) : QCoreApplication::applicationName());
-
-    const WindowPositionItem position = section->_position();
-    place(position, screen);
-    QObject::connect(window_.get(), &Window::framed, window_.get(),
-                     [this, position, screen] { place(position, screen); });
-    QObject::connect(window_.get(), &Window::firstPainted, window_.get(),
-                     [this] { surroundings_.didPaint(); });
+    setTitle();
+    if (presentation.cover) {
+        cover_ = std::make_unique<ScreenCover>(*window_, *presentation.cover);
+        cover_->coverScreens();
+    }
+    arrange(presentation);
+    QObject::connect(window_.get(), &Window::framed, window_.get(), [this] { place(); });
+    QObject::connect(window_.get(), &Window::firstPainted, window_.get(), [this] {
+        surroundings_.didPaint();
+        surroundings_.didPresent();
+    });
+    screensObserver_ = std::make_unique<ScreensObserver>([this] { screensChanged(); });
     window_->show();
     window_->raise();
     window_->activateWindow();
 }
 
-void CustomWindowAppDelegateService::place(const WindowPositionItem &position, const ScreenFrame &screen) {
+void CustomWindowAppDelegateService::setTitle() {
+    const std::optional<std::string> title = _windowConfig.wrappedValue()->_title();
+    // An empty title would be replaced by one that the window manager makes up.
+    window_->setWindowTitle(title && !title->empty() ? QString::fromStdString(*title) : QString(QChar::Nbsp));
+    window_->setAccessibleName(title ? QString::fromStdString(*title) : QCoreApplication::applicationName());
+}
+
+void CustomWindowAppDelegateService::arrange(const WindowPresentation &presentation) {
+    window_->setSizes(presentation.content, presentation.minimum, presentation.maximum);
+    if (presentation.origin) {
+        window_->moveFrame(*presentation.origin);
+    } else {
+        place();
+    }
+    if (presentation.isWholeScreen) {
+        window_->setWindowState(Qt::WindowFullScreen);
+    }
+}
+
+void CustomWindowAppDelegateService::place() {
+    const auto section = _windowConfig.wrappedValue();
     const QSize size = window_->frameSize();
-    const auto [x, y] = WindowPlacement::originOf(position, size.width(), size.height(), screen);
+    const auto [x, y] = WindowPlacement::originOf(
+        section->_position(), size.width(), size.height(),
+        WindowPlacement::chooseScreen(surroundings_.screens(), section->_screenIndex()));
     window_->moveFrame({x, y});
+}
+
+void CustomWindowAppDelegateService::screensChanged() {
+    const Screens screens = surroundings_.screens();
+    if (screens.frames.empty()) {
+        return; // Until one comes back there is nowhere to go.
+    }
+    if (cover_) {
+        cover_->coverScreens();
+        arrange(WindowPresentation::of(*_windowConfig.wrappedValue(), screens));
+        cover_->bringToFront();
+    } else if (!isOnSomeScreen(window_->geometry().center(), screens)) {
+        place();
+    }
 }
 
 } // namespace velmar

@@ -7,43 +7,68 @@
 
 #include <Desktop/Screens.h>
 
+#include <QPointer>
+
 #include <functional>
 #include <memory>
 
 namespace velmar {
 
 class MainMenu;
+class Popover;
+class ScreenCover;
+class StatusItem;
 class Window;
+struct WindowPresentation;
 
-/// Makes the window that the configuration asks for, and keeps it until the application ends: the one service
-/// that lives over the events.
+/// Shows what the configuration's mode asks for, a window, a window over covered screens, or a status item
+/// with its popover, and keeps it until the application ends: the one service that lives over the events.
 class CustomWindowAppDelegateService final : public AppDelegateService {
 public:
     struct Surroundings {
         MainMenu &mainMenu;
         std::function<Screens()> screens;
-        /// Called after the window's first paint, for what would hold it up.
+        /// Called after each first paint of a window.
         std::function<void()> didPaint;
+        /// Called once, when something is on the screen, for what would hold that up.
+        std::function<void()> didPresent;
         VelmarViewController::Surroundings view;
     };
 
-    explicit CustomWindowAppDelegateService(Surroundings surroundings);
+    explicit CustomWindowAppDelegateService(Surroundings surroundings,
+                                            Config<WindowSection> windowConfig = configuredWindow());
     ~CustomWindowAppDelegateService() override;
 
     /// Throws VelmarError::InternalError where there is no screen.
     void applicationDidFinishLaunching() override;
 
-    /// Null before the window is made.
+    /// The action of the status item: its popover comes, or goes.
+    void showApplicationViewController();
+
+    /// Null before the window is made, or the status item was clicked.
     [[nodiscard]] VelmarViewController *controller() const noexcept { return controller_; }
+    /// Null without a window of its own: before it is made, and where there is a status item.
     [[nodiscard]] Window *window() const noexcept { return window_.get(); }
 
 private:
-    void place(const WindowPositionItem &position, const ScreenFrame &screen);
+    [[nodiscard]] static Config<WindowSection> configuredWindow();
+    void configureMenuBar();
+    void buildWindow();
+    void setTitle();
+    /// Gives the window the size and the place that the present screens allow.
+    void arrange(const WindowPresentation &presentation);
+    void place();
+    void screensChanged();
 
-    Config<WindowSection> _windowConfig{[](const Configuration &c) -> decltype(auto) { return c._window(); }};
+    Config<WindowSection> _windowConfig;
+    Config<AdminSection> _admin{[](const Configuration &c) -> decltype(auto) { return c._admin(); }};
     Surroundings surroundings_;
     std::unique_ptr<Window> window_;
-    VelmarViewController *controller_ = nullptr; // Owned by the window.
+    std::unique_ptr<ScreenCover> cover_;
+    std::unique_ptr<ScreensObserver> screensObserver_;
+    std::unique_ptr<Popover> popover_;
+    std::unique_ptr<StatusItem> statusItem_;
+    QPointer<VelmarViewController> controller_; // Owned by its window.
 };
 
 } // namespace velmar

@@ -62,6 +62,7 @@ class Screen:
 
     def __init__(self, process):
         self._process = process
+        self.pid = process.pid
 
     def nodes(self):
         """Everything that the process has on the bus, visible or not, from the windows down."""
@@ -91,6 +92,16 @@ class Screen:
     def content(self):
         """Left, top, width and height of the first window, without what the window manager puts around it."""
         return next(node.position() for node in self.nodes() if node.is_window and node.showing)
+
+    def window(self, text):
+        """The same of the window in which the text stands; nothing where there is none."""
+        found = None
+        for node in self.nodes():
+            if node.is_window:
+                window = node
+            elif node.showing and node.text() == text:
+                found = window
+        return found and found.position()
 
     def frame(self):
         """The same with what the window manager puts around it."""
@@ -125,6 +136,9 @@ class Screen:
 
     def button(self, name):
         return self._wait(f"the button '{name}'", lambda: self._find("push button", name, showing=True))
+
+    def node(self, text):
+        return next(node for node in self.nodes() if node.showing and not node.is_window and node.text() == text)
 
     def menu_items(self):
         """The entries of the menus, open or not."""

@@ -1,6 +1,8 @@
 #include <AppDelegate/ServiceableAppDelegate.h>
 #include <AppDelegate/Services/LoginRelaunchAppDelegateService.h>
+#include <AppDelegate/Services/MenuBarIcon.h>
 #include <AppDelegate/Services/WindowPlacement.h>
+#include <AppDelegate/Services/WindowPresentation.h>
 #include <Models/VelmarError.h>
 
 #include <Support/RecordedLog.h>
@@ -110,6 +112,76 @@ TEST(WindowPlacement, PutsAWindowWhereTheTableSays) {
         position._vertical.set(row.vertical);
         position._padding.set(row.padding);
         EXPECT_EQ(originOf(position, 400, 300, screen), row.origin) << row.padding;
+    }
+}
+
+TEST(WindowPresentation, IsWhatTheTableOfTheModesSays) {
+    using enum WindowSection::OnScreen;
+    using Backing = ScreenCover::Backing;
+    const ScreenFrame main{0, 0, 1000, 800};
+    const Screens two{.frames = {main, {1000, 0, 400, 500}}, .main = main};
+    const Screens noMain{.frames = {{1000, 0, 400, 500}}, .main = {}};
+    struct Case {
+        WindowSection::OnScreen mode;
+        const Screens &screens;
+        std::int64_t screenIndex;
+        QSize content;
+        std::optional<QPoint> origin;
+        bool isRound;
+        std::optional<Backing> cover;
+    };
+    for (const Case &row :
+         {Case{simple, two, 0, {300, 200}, {}, true, {}}, Case{menuBar, two, 1, {300, 200}, {}, true, {}},
+          Case{blurredBackground, two, 1, {600, 450}, QPoint(200, 175), true, Backing::blurred},
+          Case{fullScreen, two, 1, {1000, 800}, QPoint(0, 0), false, Backing::plain},
+          Case{fullScreen, noMain, 7, {}, {}, false, {}},
+          Case{blurredBackground, noMain, 0, {400, 500}, QPoint(1000, 0), false, {}}}) {
+        WindowSection section;
+        section._onScreen.set(row.mode);
+        section._screenIndex.set(row.screenIndex);
+        section._minimumSize.set(SizeItem::of(200, 300));
+        section._maximumSize.set(SizeItem::of(450, 600));
+        if (row.content.isEmpty()) {
+            EXPECT_THROW(static_cast<void>(WindowPresentation::of(section, row.screens)), VelmarError);
+            continue;
+        }
+        const auto presentation = WindowPresentation::of(section, row.screens);
+        const bool isOrdinary = row.mode == simple || row.mode == menuBar;
+        EXPECT_EQ(presentation.content, row.content);
+        EXPECT_EQ(presentation.origin, row.origin);
+        EXPECT_EQ(presentation.cover, row.cover);
+        EXPECT_EQ(presentation.style.isRound, row.isRound);
+        EXPECT_EQ(presentation.style.hasTitleBar, isOrdinary);
+        EXPECT_EQ(presentation.style.isClosable, isOrdinary);
+        EXPECT_EQ(presentation.style.rank == Window::Style::Rank::ordinary, isOrdinary);
+        section._minimumSize.set(SizeItem::of(1e9, -1e9));
+        section._maximumSize.set(SizeItem::of(1e9, 1e9));
+        EXPECT_LE(WindowPresentation::of(section, row.screens).content.height(), 800) << "all can be reached";
+    }
+}
+
+TEST(MenuBarIcon, IsTestedAgainstOneWidthAndWarnsOfAnother) {
+    const auto warning = [](const std::string &side, int pixels) {
+        return "Custom menu bar icon has a " + side + " of " + std::to_string(pixels) +
+               " pixels which is not valid and can lead to unexpected graphics behaviours.\nValid " + side +
+               ": 15...30 pixels and a relevant width for this height.";
+    };
+    struct Case {
+        int width;
+        int height;
+        std::vector<std::string> warnings;
+    };
+    for (const Case &row : {Case{15, 15, {}}, Case{25, 30, {}}, Case{28, 20, {warning("width", 28)}},
+                            Case{14, 31, {warning("height", 31), warning("width", 14)}}}) {
+        EXPECT_EQ(MenuBarIcon::warningsFor(row.width, row.height), row.warnings);
+    }
+    const TemporaryDirectory directory;
+    const RecordedLog log;
+    for (const std::string &path :
+         {directory.path() + "/none.png", directory.path(), std::string("/dev/zero")}) {
+        EXPECT_FALSE(MenuBarIcon::load(path).has_value());
+        EXPECT_EQ(log.lines().back(),
+                  "error: MenuBarIconPath. The file at '" + path + "' cannot be used as an image");
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -21,6 +23,20 @@ struct Screens {
 
     /// Main thread.
     [[nodiscard]] static Screens current();
+};
+
+/// Tells when screens have come, gone, or changed their place, for as long as it lives: once for changes that
+/// come together, from the event loop. Main thread.
+class ScreensObserver {
+public:
+    explicit ScreensObserver(std::function<void()> changed);
+    ~ScreensObserver();
+    ScreensObserver(const ScreensObserver &) = delete;
+    ScreensObserver &operator=(const ScreensObserver &) = delete;
+
+private:
+    class Connections;
+    std::unique_ptr<Connections> connections_;
 };
 
 } // namespace velmar

@@ -22,11 +22,17 @@ class Window final : public QWidget {
 public:
     /// What the window manager draws and allows; fixed for the window's life.
     struct Style {
-        bool hasTitleBar =
-            true; ///< Without one, corners are round and the user has neither button nor resizing.
+        bool hasTitleBar = true; ///< Without one, the user has neither button nor resizing.
         bool isClosable = true;
         bool isResizable = true;
         bool isMovable = true;
+        /// What the window is to the others of the desktop.
+        enum class Rank {
+            ordinary,
+            front,   ///< Above the windows of other applications, on every workspace, and never minimised.
+            popover, ///< Above them as well, and in no list of windows.
+        } rank = Rank::ordinary;
+        bool isRound = true; ///< The corners of a window without title bar.
     };
 
     /// The menu must outlive the window.
@@ -60,6 +66,7 @@ signals:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <memory>
+
+namespace velmar {
+
+class Window;
+
+/// Keeps a window before the eyes of the user: every screen is covered by a backdrop behind it, the keyboard
+/// is the window's unless a dialog is up, and what comes above is put below again, as far as the desktop
+/// allows: docs/decisions/0050-covering-windows.md. Main thread.
+class ScreenCover {
+public:
+    /// What covers the main screen; the others show a blurred picture of what was there.
+    enum class Backing { blurred, plain };
+
+    /// The window, one of the rank `front`, must outlive the cover.
+    ScreenCover(Window &window, Backing onMainScreen);
+    ~ScreenCover();
+    ScreenCover(const ScreenCover &) = delete;
+    ScreenCover &operator=(const ScreenCover &) = delete;
+
+    /// Covers the screens that there are now, and uncovers what is no screen any more. To be called before
+    /// the window is shown for the first time and whenever the screens have changed.
+    void coverScreens();
+
+    /// Puts the window above the backdrops and gives it the keyboard.
+    void bringToFront();
+
+private:
+    class Backdrops;
+    std::unique_ptr<Backdrops> backdrops_;
+};
+
+} // namespace velmar

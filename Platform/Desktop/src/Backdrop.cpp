@@ -1,0 +1,69 @@
+#include "Backdrop.h"
+
+#include "WindowManagerHints.h"
+
+#include <QCloseEvent>
+#include <QPainter>
+#include <QWindow>
+
+#include <utility>
+
+namespace velmar {
+
+namespace {
+
+constexpr float veil = 0.4F; // Of the page's colour over the picture.
+
+} // namespace
+
+Backdrop::Backdrop(QImage picture)
+    : QWidget(nullptr,
+              Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus),
+      picture_(std::move(picture)) {
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    winId(); // The hint belongs to the native window.
+    setOnEveryWorkspace(*windowHandle());
+}
+
+void Backdrop::setPlain(bool isPlain) {
+    isPlain_ = isPlain;
+    update();
+}
+
+void Backdrop::cover(const QRect &geometry) {
+    setGeometry(geometry);
+    if (!isVisible()) {
+        setWindowState(windowState() | Qt::WindowFullScreen);
+        show();
+    }
+}
+
+void Backdrop::changeEvent(QEvent *event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && isMinimized()) {
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+    }
+}
+
+void Backdrop::closeEvent(QCloseEvent *event) {
+    event->ignore();
+}
+
+void Backdrop::mousePressEvent(QMouseEvent * /*event*/) {
+    emit pressed();
+}
+
+void Backdrop::paintEvent(QPaintEvent * /*event*/) {
+    QPainter painter(this);
+    QColor page = palette().color(QPalette::Window);
+    if (!isPlain_ && !picture_.isNull()) {
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(rect(), picture_);
+        page.setAlphaF(veil);
+    }
+    painter.fillRect(rect(), page);
+}
+
+} // namespace velmar

@@ -1,0 +1,68 @@
+#include "KeyboardGrab.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QWidget>
+#include <QWindow>
+
+namespace velmar {
+
+namespace {
+
+constexpr int secondTry = 200; // Milliseconds; another program may hold the keyboard for a moment.
+
+bool isMenuThatCloses(const QObject *object, const QEvent *event) {
+    return event->type() == QEvent::Hide && object->isWidgetType() &&
+           static_cast<const QWidget *>(object)->windowType() == Qt::Popup;
+}
+
+} // namespace
+
+KeyboardGrab::KeyboardGrab(QWidget &window) : window_(window) {
+    later_.setSingleShot(true);
+    connect(&later_, &QTimer::timeout, this, &KeyboardGrab::grab);
+    qApp->installEventFilter(this);
+    later_.start(0);
+}
+
+KeyboardGrab::~KeyboardGrab() {
+    letGo();
+}
+
+bool KeyboardGrab::eventFilter(QObject *watched, QEvent *event) {
+    if (watched == &window_) {
+        if (event->type() == QEvent::WindowDeactivate || event->type() == QEvent::WindowBlocked) {
+            letGo();
+        } else if (event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowUnblocked) {
+            later_.start(0);
+        }
+    } else if (isMenuThatCloses(watched, event) ||
+               (event->type() == QEvent::Expose && isOfTheWindow(watched))) {
+        // The toolkit grabs the keyboard for a menu and lets it go after it, and the server lets it go for a
+        // window that is hidden, if only for a moment.
+        later_.start(0);
+    }
+    return false;
+}
+
+bool KeyboardGrab::isOfTheWindow(const QObject *object) const {
+    return object == window_.windowHandle();
+}
+
+bool KeyboardGrab::isWanted() const {
+    return window_.isActiveWindow() && QApplication::activeModalWidget() == nullptr &&
+           QApplication::activePopupWidget() == nullptr;
+}
+
+void KeyboardGrab::grab() {
+    if (isWanted() && !window_.windowHandle()->setKeyboardGrabEnabled(true)) {
+        later_.start(secondTry);
+    }
+}
+
+void KeyboardGrab::letGo() {
+    later_.stop();
+    window_.windowHandle()->setKeyboardGrabEnabled(false);
+}
+
+} // namespace velmar

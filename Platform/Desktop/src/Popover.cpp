@@ -1,0 +1,94 @@
+#include <Desktop/Popover.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace velmar {
+
+namespace {
+
+constexpr int gap = 4;    // Points between the popover and its place,
+constexpr int margin = 8; // and between it and the edges of the screen.
+
+// Milliseconds within which a click on the place is the one that has closed the popover, where that click
+// makes the desktop's panel the active application first.
+constexpr int sameClick = 250;
+
+constexpr Window::Style style{.hasTitleBar = false,
+                              .isClosable = false,
+                              .isResizable = false,
+                              .isMovable = false,
+                              .rank = Window::Style::Rank::popover};
+
+} // namespace
+
+Popover::Popover(MainMenu &menu) : window_(style, menu) {
+    window_.setAttribute(Qt::WA_QuitOnClose, false);
+    window_.setAccessibleName(QCoreApplication::applicationName());
+    window_.installEventFilter(this);
+    connect(qApp, &QGuiApplication::applicationStateChanged, this, &Popover::applicationStateChanged);
+}
+
+QPoint Popover::originOf(const QRect &place, QSize size, const QRect &area) {
+    const bool isBelow = place.center().y() < area.center().y();
+    const int x = place.center().x() - size.width() / 2;
+    const int y = isBelow ? place.bottom() + 1 + gap : place.top() - gap - size.height();
+    const auto within = [](int value, int first, int room) {
+        return std::clamp(value, first, std::max(first, first + room));
+    };
+    return {within(x, area.left(), area.width() - size.width()),
+            within(y, area.top(), area.height() - size.height())};
+}
+
+void Popover::toggle(const ScreenFrame &place, QSize size, Behavior behavior) {
+    behavior_ = behavior;
+    if (window_.isVisible()) {
+        window_.hide();
+    } else if (!sinceSentAway_.isValid() || sinceSentAway_.elapsed() > sameClick) {
+        show(place, size);
+    }
+}
+
+void Popover::show(const ScreenFrame &place, QSize size) {
+    const QRect item(place.x, place.y, place.width, place.height);
+    const QScreen *screen = QGuiApplication::screenAt(item.center());
+    if (screen == nullptr) {
+        screen = QGuiApplication::primaryScreen();
+    }
+    if (screen == nullptr) {
+        return;
+    }
+    const QRect area = screen->availableGeometry().adjusted(margin, 0, -margin, 0);
+    const QSize shown = size.boundedTo(area.size());
+    window_.setSizes(shown, shown, shown);
+    window_.move(originOf(item, shown, area));
+    window_.show();
+    window_.raise();
+    window_.activateWindow();
+    window_.setFocus();
+}
+
+bool Popover::eventFilter(QObject *watched, QEvent *event) {
+    const bool isEscape =
+        event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape;
+    if (event->type() == QEvent::Close || isEscape) {
+        window_.hide();
+        event->setAccepted(isEscape);
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void Popover::applicationStateChanged(Qt::ApplicationState state) {
+    // An alert above the popover must not lose what it stands on.
+    if (state != Qt::ApplicationActive && behavior_ == Behavior::transient && window_.isVisible() &&
+        QApplication::activeModalWidget() == nullptr) {
+        window_.hide();
+        sinceSentAway_.start();
+    }
+}
+
+} // namespace velmar

@@ -1,0 +1,128 @@
+#include <Desktop/ScreenCover.h>
+
+#include "Backdrop.h"
+#include "BlurredPicture.h"
+#include "KeyboardGrab.h"
+#include "StackingGuard.h"
+
+#include <Desktop/Window.h>
+
+#include <QApplication>
+#include <QPainter>
+#include <QScreen>
+#include <QWindow>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+#include <vector>
+
+namespace velmar {
+
+class ScreenCover::Backdrops final : public QObject {
+public:
+    Backdrops(Window &window, Backing onMainScreen)
+        : window_(window),
+          onMainScreen_(onMainScreen),
+          grab_(window),
+          guard_(*window.windowHandle(), [this] { bringToFront(); }) {}
+
+    void coverScreens() {
+        const QList<QScreen *> screens = QGuiApplication::screens();
+        std::vector<Covered> added;
+        for (QScreen *screen : screens) {
+            if (!isCovered(screen->geometry())) {
+                auto backdrop = std::make_unique<Backdrop>(picture(*screen));
+                connect(backdrop.get(), &Backdrop::pressed, this, [this] { bringToFront(); });
+                added.push_back({screen->geometry(), std::move(backdrop)});
+            }
+        }
+        for (Covered &screen : added) {
+            screen.backdrop->cover(screen.geometry);
+        }
+        // After the new ones, so that nothing is bare in between.
+        std::erase_if(covered_, [&](const Covered &known) {
+            return std::none_of(screens.begin(), screens.end(),
+                                [&](const QScreen *screen) { return screen->geometry() == known.geometry; });
+        });
+        std::move(added.begin(), added.end(), std::back_inserter(covered_));
+        followMainScreen();
+    }
+
+    void bringToFront() {
+        for (const Covered &screen : covered_) {
+            screen.backdrop->raise();
+        }
+        window_.raise();
+        QWidget *dialog = QApplication::activeModalWidget();
+        if (dialog != nullptr) {
+            dialog->raise();
+        }
+        (dialog == nullptr ? &window_ : dialog)->activateWindow();
+    }
+
+private:
+    struct Covered {
+        QRect geometry;
+        std::unique_ptr<Backdrop> backdrop;
+    };
+
+    [[nodiscard]] bool isCovered(const QRect &geometry) const {
+        return std::any_of(covered_.begin(), covered_.end(),
+                           [&](const Covered &known) { return known.geometry == geometry; });
+    }
+
+    /// What was to be seen on the screen before it was covered for the first time, or on what lay there.
+    [[nodiscard]] QImage picture(QScreen &screen) {
+        const QRect geometry = screen.geometry();
+        const auto known = std::find_if(pictures_.begin(), pictures_.end(),
+                                        [&](const auto &entry) { return entry.first == geometry; });
+        if (known != pictures_.end()) {
+            return known->second;
+        }
+        QImage image = blurredPicture(screen.grabWindow().toImage());
+        if (!image.isNull()) {
+            QPainter painter(&image);
+            painter.scale(double(image.width()) / geometry.width(),
+                          double(image.height()) / geometry.height());
+            for (const auto &[place, old] : pictures_) {
+                painter.drawImage(place.translated(-geometry.topLeft()), old);
+            }
+        }
+        return pictures_.emplace_back(geometry, image).second;
+    }
+
+    void followMainScreen() {
+        const QScreen *main = QGuiApplication::primaryScreen();
+        for (const Covered &screen : covered_) {
+            const bool isMain = main != nullptr && screen.geometry == main->geometry();
+            screen.backdrop->setPlain(isMain && onMainScreen_ == Backing::plain);
+            if (isMain) {
+                // Window managers keep the window above the one that it belongs to.
+                window_.windowHandle()->setTransientParent(screen.backdrop->windowHandle());
+            }
+        }
+    }
+
+    Window &window_;
+    Backing onMainScreen_;
+    std::vector<Covered> covered_;
+    std::vector<std::pair<QRect, QImage>> pictures_; // Of every screen so far, on this desktop.
+    KeyboardGrab grab_;
+    StackingGuard guard_;
+};
+
+ScreenCover::ScreenCover(Window &window, Backing onMainScreen)
+    : backdrops_(std::make_unique<Backdrops>(window, onMainScreen)) {}
+
+ScreenCover::~ScreenCover() = default;
+
+void ScreenCover::coverScreens() {
+    backdrops_->coverScreens();
+}
+
+void ScreenCover::bringToFront() {
+    backdrops_->bringToFront();
+}
+
+} // namespace velmar

@@ -1,0 +1,236 @@
+"""The four ways of standing on the desktop: what is covered, what stays away, and what comes and goes."""
+
+import contextlib
+import re
+import subprocess
+
+from harness.scenario import Scenario, configuration, slide
+from harness.screen import SIZE as SCREEN
+from harness.tray import Settings, Tray
+from harness.waiting import until
+
+MAIN, OTHER = (0, 0, 800, 800), (800, 0, 480, 800)
+DESKTOP = (0x5D, 0x6B, 0x7A)
+LIGHT, DARK = (0xFF, 0xFF, 0xFF), (0x1E, 0x1F, 0x24)
+VEIL = 0.4
+
+
+def xrandr(*arguments):
+    subprocess.run(["xrandr", *arguments], check=True, capture_output=True)
+
+
+def two_screens():
+    xrandr("--setmonitor", "main", "800/211x800/211+0+0", "screen")
+    plug_in()
+
+
+def plug_in():
+    xrandr("--setmonitor", "other", "480/127x800/211+800+0", "none")
+
+
+def monitors():
+    text = subprocess.run(["xrandr", "--listmonitors"], capture_output=True, text=True, check=True).stdout
+    return re.findall(r"\b(?:main|other)\b", text)
+
+
+def colour_at(x, y):
+    text = subprocess.run(["import", "-silent", "-window", "root", "-crop", f"1x1+{x}+{y}", "-depth", "8", "rgb:-"],
+                          capture_output=True, check=True).stdout
+    return tuple(text[:3])
+
+
+def veiled(page):
+    return tuple(round(VEIL * own + (1 - VEIL) * behind) for own, behind in zip(page, DESKTOP))
+
+
+def near(colour, other):
+    return all(abs(one - two) <= 2 for one, two in zip(colour, other))
+
+
+def xdotool(*arguments):
+    return subprocess.run(["xdotool", *map(str, arguments)], capture_output=True, text=True).stdout.split()
+
+
+def root_property(name):
+    return subprocess.run(["xprop", "-root", "-notype", name], capture_output=True, text=True, check=True).stdout.strip()
+
+
+def stacking():
+    """The windows of all applications, from the lowest up."""
+    return [int(number, 16) for number in re.findall("0x[0-9a-f]+", root_property("_NET_CLIENT_LIST_STACKING"))]
+
+
+@contextlib.contextmanager
+def another_application():
+    """A window of another application, as the number of the X server."""
+    process = subprocess.Popen(["xev", "-name", "Another", "-geometry", "300x200+40+40"],
+                               stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    try:
+        yield int(until("another application", lambda: xdotool("search", "--onlyvisible", "--name", "Another"))[0])
+    finally:
+        process.kill()
+        process.wait()
+
+
+class Windows(Scenario):
+    def setUp(self):
+        super().setUp()
+        self.addCleanup(lambda: [xrandr("--delmonitor", name) for name in monitors()])
+
+    def start(self, mode, *slides, **sections):
+        window = sections.pop("Window", {})
+        self.install(configuration(*(slides or (slide("Text"), slide("Next text"))),
+                                   Window={"OnScreen": mode, **window}, MenuBarSlide=slide("In the popover"), **sections))
+        return self.velmar()
+
+    def wait_for_place(self, screen, place):
+        until(lambda: f"{place}, not {screen.window('Text')}", lambda: screen.window("Text") == place)
+
+    def wait_for_colours(self, expected):
+        def seen():
+            return {point: colour_at(*point) for point in expected}
+        until(lambda: f"{expected}, not {seen()}",
+              lambda: all(near(colour, expected[point]) for point, colour in seen().items()))
+
+    def wait_until_below(self, window, screen):
+        def is_below():
+            own = {int(number) for number in xdotool("search", "--onlyvisible", "--pid", screen.pid)}
+            stack = stacking()
+            return own & set(stack[:stack.index(window)]) == set() and set(stack) & own and \
+                int((xdotool("getactivewindow") or [0])[0]) in own
+        until(lambda: f"{window} at the bottom of {stacking()}", is_below)
+
+    def test_the_covering_modes_cover_every_screen(self):
+        sizes = {"MinimumSize": {"Width": 300, "Height": 200}, "MaximumSize": {"Width": 500, "Height": 400}}
+        for mode, on_main, place, corner in [("BlurredBackground", veiled(LIGHT), (150, 200, 500, 400), veiled(LIGHT)),
+                                             ("FullScreen", LIGHT, MAIN, LIGHT)]:
+            with self.subTest(mode=mode):
+                self.setUp()
+                two_screens()
+                process, screen = self.start(mode, Window={**sizes, "ScreenIndex": 1})
+                screen.wait_for_text("Text")
+                self.wait_for_place(screen, place)
+                both = {(5, 5): on_main, (place[0], place[1]): corner, (1200, 400): veiled(LIGHT), (805, 5): veiled(LIGHT)}
+                self.wait_for_colours(both)
+                xrandr("--delmonitor", "other")
+                self.wait_for_colours({(1200, 400): DESKTOP, (5, 5): on_main})
+                plug_in()
+                self.wait_for_colours(both)
+                xrandr("--delmonitor", "other")
+                xrandr("--delmonitor", "main")
+                self.wait_for_place(screen, (0, 0, *SCREEN) if mode == "FullScreen" else (390, 200, 500, 400))
+                self.wait_for_colours({(5, 5): on_main, (1200, 400): on_main})
+                screen.key("ctrl+q")
+                self.assertEqual(0, process.wait(), process.story())
+
+    def test_an_ordinary_window_goes_to_a_screen_that_is_there(self):
+        two_screens()
+        _, screen = self.start("Simple", Window={"ScreenIndex": 1, "IsTitleBarHidden": True,
+                                                 "MinimumSize": {"Width": 300, "Height": 200}})
+        screen.wait_for_text("Text")
+        self.wait_for_place(screen, (890, 300, 300, 200))
+        xrandr("--delmonitor", "other")
+        self.wait_for_place(screen, (250, 300, 300, 200))
+
+    def test_nothing_comes_above_a_covering_window(self):
+        for mode in ["BlurredBackground", "FullScreen"]:
+            with self.subTest(mode=mode):
+                self.setUp()
+                process, screen = self.start(mode)
+                screen.wait_for_text("Text")
+                screen.wait_for_focus()
+                with another_application() as other:
+                    self.wait_until_below(other, screen)
+                    for request in [["windowactivate", other], ["windowraise", other], ["windowfocus", other],
+                                    ["windowminimize", xdotool("getactivewindow")[0]]]:
+                        xdotool(*request)
+                        self.wait_until_below(other, screen)
+                # To the window manager these would mean: show the desktop, close the window, another workspace.
+                for keys in ["super+d", "alt+F4", "ctrl+alt+Right"]:
+                    screen.key(keys)
+                screen.key("Return")
+                screen.wait_for_text("Next text")
+                for state in ["_NET_SHOWING_DESKTOP", "_NET_CURRENT_DESKTOP"]:
+                    self.assertEqual(f"{state} = 0", root_property(state))
+                process.close()
+
+    def test_an_alert_has_the_keyboard_to_itself(self):
+        alert = {"Type": "DisplayAlert", "Title": "An alert", "Message": "Text of it", "Style": "Informational"}
+        _, screen = self.start("BlurredBackground", ActionSets=[{"Type": "Chained", "Triggers": ["Launch"],
+                                                                        "Actions": [alert]}])
+        screen.wait_for_text("An alert")
+        screen.key("alt+F4")
+        screen.wait_until_gone("An alert")
+        screen.key("Return")
+        screen.wait_for_text("Next text")
+
+    def test_every_mode_follows_light_and_dark(self):
+        settings = Settings()
+        self.addCleanup(settings.close)
+        for mode, point in [("Simple", (640, 600)), ("BlurredBackground", (640, 600)), ("FullScreen", (5, 5))]:
+            with self.subTest(mode=mode):
+                process, screen = self.start(mode)
+                screen.wait_for_text("Text")
+                for is_dark, page in [(False, LIGHT), (True, DARK), (False, LIGHT)]:
+                    settings.set_dark(is_dark)
+                    self.wait_for_colours({point: page, **({(5, 5): veiled(page)} if "Blurred" in mode else {})})
+                process.close()
+
+    def test_the_popover_comes_and_goes_and_keeps_its_session(self):
+        tray = Tray()
+        self.addCleanup(tray.close)
+        settings = Settings()
+        self.addCleanup(settings.close)
+        for admin, stays in [({}, False), ({"IsAdminModeEnabled": False, "IsMenuBarSemiTransient": True}, False),
+                             ({"IsAdminModeEnabled": True, "IsMenuBarSemiTransient": True}, True)]:
+            with self.subTest(admin=admin):
+                self.setUp()
+                tray.items.clear()
+                sections = {"Admin": admin} if admin else {}
+                process, screen = self.start("MenuBar", Window={"MenuBarSize": {"Width": 420, "Height": 300}}, **sections)
+                tray.wait_for_item()
+                self.assertEqual([], screen.texts())
+                tray.click()
+                screen.wait_for_text("In the popover")
+                self.assertEqual((420, 300), screen.window("In the popover")[2:])
+                screen.wait_for_focus()
+                with another_application() as other:
+                    xdotool("windowactivate", "--sync", other)
+                    if stays:
+                        self.assertIn("In the popover", screen.texts())
+                        screen.node("In the popover").click()
+                    else:
+                        screen.wait_until_gone("In the popover")
+                        until("the popover", lambda: tray.click() or "In the popover" in screen.texts())
+                screen.key("Escape")
+                screen.wait_until_gone("In the popover")
+                tray.click()
+                screen.wait_for_text("In the popover")
+                screen.key("ctrl+q")
+                self.assertEqual(0, process.wait(), process.story())
+
+    def test_the_icon_of_the_status_item(self):
+        tray = Tray()
+        self.addCleanup(tray.close)
+        wide = "Custom menu bar icon has a width of 28 pixels which is not valid and can lead to unexpected graphics behaviours."
+        cases = {"own": (None, []), "wide": (("-size", "28x20", "xc:red"), [wide]),
+                 "good": (("-size", "18x18", "xc:red"), []), "no image": (b"text", ["cannot be used as an image"])}
+        for kind, (content, problems) in cases.items():
+            with self.subTest(kind=kind):
+                self.setUp()
+                tray.items.clear()
+                icon = self.install(content if isinstance(content, bytes) else b"", name="icon.png")
+                if isinstance(content, tuple):
+                    subprocess.run(["convert", *content, f"png:{icon}"], check=True)
+                process, screen = self.start("MenuBar", Window={} if content is None else {"MenuBarIconPath": str(icon)})
+                tray.wait_for_item()
+                told = [message for message in self.messages() if "menu bar icon" in message or "as an image" in message]
+                self.assertEqual(len(problems), len(told), told)
+                self.assertTrue(all(problem in line for problem, line in zip(problems, told)), told)
+                _, pixels = tray.icon()
+                self.assertEqual(kind != "no image", any(alpha for alpha, *_ in pixels))
+                shades = {tuple(rest) for alpha, *rest in pixels if alpha == 255}
+                self.assertLessEqual(len(shades), 1, "a template has one colour")
+                tray.click()
+                screen.wait_for_text("In the popover")
+                process.close()
