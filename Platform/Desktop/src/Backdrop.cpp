@@ -3,6 +3,7 @@
 #include "WindowManagerHints.h"
 
 #include <QCloseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QWindow>
 
@@ -55,15 +56,24 @@ void Backdrop::mousePressEvent(QMouseEvent * /*event*/) {
     emit pressed();
 }
 
-void Backdrop::paintEvent(QPaintEvent * /*event*/) {
+void Backdrop::paintEvent(QPaintEvent *event) {
     QPainter painter(this);
+    painter.translate(event->rect().topLeft());
+    paint(painter, event->rect().translated(geometry().topLeft()));
+}
+
+void Backdrop::paint(QPainter &painter, const QRect &area) const {
+    painter.save();
+    painter.setClipRect(QRect(QPoint(), area.size()));
+    const QRect whole = geometry().translated(-area.topLeft());
     QColor page = palette().color(QPalette::Window);
     if (!isPlain_ && !picture_.isNull()) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(rect(), picture_);
+        painter.drawImage(whole, picture_);
         page.setAlphaF(veil);
     }
-    painter.fillRect(rect(), page);
+    painter.fillRect(whole, page);
+    painter.restore();
 }
 
 } // namespace velmar

@@ -20,6 +20,9 @@ public:
     /// Covers the rectangle of the desktop, that of a screen.
     void cover(const QRect &geometry);
 
+    /// Paints a part of it, given in the coordinates of the desktop, at the painter's origin.
+    void paint(QPainter &painter, const QRect &area) const;
+
 signals:
     void pressed();
 

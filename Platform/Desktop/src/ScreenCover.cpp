@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QPainter>
+#include <QPointer>
 #include <QScreen>
 #include <QWindow>
 
@@ -100,6 +101,12 @@ private:
             if (isMain) {
                 // Window managers keep the window above the one that it belongs to.
                 window_.windowHandle()->setTransientParent(screen.backdrop->windowHandle());
+                window_.setBehind(
+                    [backdrop = QPointer(screen.backdrop.get())](QPainter &painter, const QRect &area) {
+                        if (backdrop) {
+                            backdrop->paint(painter, area);
+                        }
+                    });
             }
         }
     }

@@ -90,10 +90,6 @@ private:
     std::optional<StatusItemImage> image_;
 };
 
-bool StatusItem::isAvailable() {
-    return QSystemTrayIcon::isSystemTrayAvailable();
-}
-
 StatusItem::StatusItem(std::string title, std::function<void()> action)
     : icon_(std::make_unique<Icon>(QString::fromStdString(title), std::move(action))) {}
 

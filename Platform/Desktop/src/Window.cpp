@@ -2,10 +2,12 @@
 
 #include "FrameWatcher.h"
 #include "MenuBar.h"
+#include "RoundCorners.h"
 #include "WindowManagerHints.h"
 
 #include <QCloseEvent>
-#include <QPainterPath>
+#include <QPaintEvent>
+#include <QPainter>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -38,6 +40,9 @@ Window::Window(Style style, MainMenu &menu)
     menuBar_ = std::make_unique<MenuBar>(menu, *this);
     // Behind what else waits for the paint.
     connect(this, &Window::firstPainted, menuBar_.get(), &MenuBar::prepare, Qt::QueuedConnection);
+    if (!style_.hasTitleBar && style_.isRound) {
+        corners_ = std::make_unique<RoundCorners>(*this, cornerRadius);
+    }
     winId(); // The hints belong to the native window, and are read when it is mapped.
     windowHandle()->installEventFilter(this);
     if (style_.hasTitleBar) {
@@ -119,12 +124,16 @@ void Window::mousePressEvent(QMouseEvent *event) {
     QWidget::mousePressEvent(event);
 }
 
-void Window::resizeEvent(QResizeEvent *event) {
-    QWidget::resizeEvent(event);
-    if (!style_.hasTitleBar && style_.isRound) {
-        QPainterPath path;
-        path.addRoundedRect(QRectF(rect()), cornerRadius, cornerRadius);
-        setMask(QRegion(path.toFillPolygon().toPolygon()));
+void Window::paintEvent(QPaintEvent *event) {
+    // What has no background of the system has none at all.
+    if (testAttribute(Qt::WA_TranslucentBackground)) {
+        QPainter(this).fillRect(event->rect(), palette().color(QPalette::Window));
+    }
+}
+
+void Window::setBehind(std::function<void(QPainter &, const QRect &)> behind) {
+    if (corners_) {
+        corners_->setBehind(std::move(behind));
     }
 }
 

@@ -45,6 +45,22 @@ std::uint32_t atomOfWindowSystem(std::string_view name) {
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
+std::uint32_t ownerOfSelection(std::string_view name) {
+    xcb_connection_t *connection = connectionOfWindowSystem();
+    if (connection == nullptr) {
+        return XCB_WINDOW_NONE;
+    }
+    const auto cookie = xcb_get_selection_owner(connection, atomOfWindowSystem(name));
+    const std::unique_ptr<xcb_get_selection_owner_reply_t, decltype(&std::free)> reply(
+        xcb_get_selection_owner_reply(connection, cookie, nullptr), &std::free);
+    return reply ? reply->owner : xcb_window_t{XCB_WINDOW_NONE};
+}
+
+bool windowsAreComposited() {
+    return QGuiApplication::platformName().startsWith(QStringLiteral("wayland")) ||
+           ownerOfSelection("_NET_WM_CM_S0") != XCB_WINDOW_NONE;
+}
+
 void setWindowManagerFunctions(QWindow &window, WindowFunctions functions) {
     xcb_connection_t *connection = connectionOfWindowSystem();
     if (connection == nullptr) {

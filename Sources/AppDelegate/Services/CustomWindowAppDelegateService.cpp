@@ -6,12 +6,15 @@
 #include <Desktop/Popover.h>
 #include <Desktop/ScreenCover.h>
 #include <Desktop/StatusItem.h>
+#include <Desktop/StatusItemPlace.h>
 #include <Desktop/Window.h>
 #include <logger/Logger.h>
 
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <cstdlib>
+#include <exception>
 #include <utility>
 
 namespace velmar {
@@ -41,14 +44,21 @@ CustomWindowAppDelegateService::~CustomWindowAppDelegateService() = default;
 void CustomWindowAppDelegateService::applicationDidFinishLaunching() {
     if (_windowConfig.wrappedValue()->_onScreen() != OnScreen::menuBar) {
         buildWindow();
-    } else if (StatusItem::isAvailable()) {
-        configureMenuBar();
     } else {
-        // Without it there would be nothing at all to be seen.
-        Logger::error(
-            "The mode 'MenuBar' of 'Window.OnScreen' is not available: the desktop has no place for "
-            "status items. The window is shown as in the mode 'Simple'");
+        statusItemPlace_ = std::make_unique<StatusItemPlace>(
+            [this](bool isThere) { isThere ? configureMenuBar() : standInForStatusItem(); });
+    }
+}
+
+void CustomWindowAppDelegateService::standInForStatusItem() {
+    Logger::error("The mode 'MenuBar' of 'Window.OnScreen' is not available: the desktop has no place for "
+                  "status items. The window is shown as in the mode 'Simple'");
+    try {
         buildWindow();
+    } catch (const std::exception &error) {
+        // The launch is over, and there is nothing to be seen.
+        Logger::error(error.what());
+        QCoreApplication::exit(EXIT_FAILURE);
     }
 }
 

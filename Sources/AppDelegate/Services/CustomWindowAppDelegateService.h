@@ -18,6 +18,7 @@ class MainMenu;
 class Popover;
 class ScreenCover;
 class StatusItem;
+class StatusItemPlace;
 class Window;
 struct WindowPresentation;
 
@@ -39,7 +40,8 @@ public:
                                             Config<WindowSection> windowConfig = configuredWindow());
     ~CustomWindowAppDelegateService() override;
 
-    /// Throws VelmarError::InternalError where there is no screen.
+    /// Throws VelmarError::InternalError where there is no screen. The status item comes when there is a
+    /// place for it; without one the window of the mode "Simple" stands in for it.
     void applicationDidFinishLaunching() override;
 
     /// The action of the status item: its popover comes, or goes.
@@ -53,6 +55,7 @@ public:
 private:
     [[nodiscard]] static Config<WindowSection> configuredWindow();
     void configureMenuBar();
+    void standInForStatusItem();
     void buildWindow();
     void setTitle();
     /// Gives the window the size and the place that the present screens allow.
@@ -67,6 +70,7 @@ private:
     std::unique_ptr<ScreenCover> cover_;
     std::unique_ptr<ScreensObserver> screensObserver_;
     std::unique_ptr<Popover> popover_;
+    std::unique_ptr<StatusItemPlace> statusItemPlace_;
     std::unique_ptr<StatusItem> statusItem_;
     QPointer<VelmarViewController> controller_; // Owned by its window.
 };

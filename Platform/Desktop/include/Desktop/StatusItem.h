@@ -36,10 +36,8 @@ private:
 /// and it has the colour of texts, light or dark. Main thread.
 class StatusItem {
 public:
-    /// Whether the desktop has a place for status items.
-    [[nodiscard]] static bool isAvailable();
-
-    /// The title is what assistive technologies and the pointer's hint tell.
+    /// Where `StatusItemPlace` has found a place. The title is what assistive technologies and the pointer's
+    /// hint tell.
     StatusItem(std::string title, std::function<void()> action);
     ~StatusItem();
     StatusItem(const StatusItem &) = delete;

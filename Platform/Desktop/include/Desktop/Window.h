@@ -4,14 +4,17 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
+class QPainter;
 class QVBoxLayout;
 
 namespace velmar {
 
 class FrameWatcher;
 class MenuBar;
+class RoundCorners;
 
 /// A window of the desktop with the application's menus and one content. It never offers to be minimised. The
 /// menu bar is on show while there are more menus than the application's own, and comes by F10 otherwise;
@@ -51,6 +54,10 @@ public:
     /// The top left corner of the frame, in the coordinates of the desktop.
     void moveFrame(QPoint origin);
 
+    /// What is behind round corners, if it is known: a painting of a rectangle of the desktop, given in its
+    /// coordinates, at the painter's origin. To be set again when it has changed.
+    void setBehind(std::function<void(QPainter &painter, const QRect &area)> behind);
+
     [[nodiscard]] const Style &style() const noexcept { return style_; }
 
     /// The radius of the corners of a window without title bar, in points.
@@ -70,11 +77,12 @@ protected:
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     Style style_;
     QVBoxLayout *layout_;
+    std::unique_ptr<RoundCorners> corners_;
     std::unique_ptr<MenuBar> menuBar_;
     std::unique_ptr<FrameWatcher> frameWatcher_;
     QWidget *content_ = nullptr;
