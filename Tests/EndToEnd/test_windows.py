@@ -55,6 +55,12 @@ def root_property(name):
     return subprocess.run(["xprop", "-root", "-notype", name], capture_output=True, text=True, check=True).stdout.strip()
 
 
+def geometry(window):
+    text = subprocess.run(["xwininfo", "-id", str(window)], capture_output=True, text=True, check=True).stdout
+    return tuple(int(re.search(rf"{name}: +(-?\d+)", text)[1])
+                 for name in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+
+
 def stacking():
     """The windows of all applications, from the lowest up."""
     return [int(number, 16) for number in re.findall("0x[0-9a-f]+", root_property("_NET_CLIENT_LIST_STACKING"))]
@@ -164,6 +170,26 @@ class Windows(Scenario):
         screen.key("Return")
         screen.wait_for_text("Next text")
 
+    def test_a_window_that_an_action_opens_stays_above(self):
+        window = {"Type": "OpenWindow", "Size": {"Width": 360, "Height": 200}, "Slide": slide("Beside")}
+        _, screen = self.start("BlurredBackground", ActionSets=[{"Type": "Chained", "Triggers": ["Launch"],
+                                                                 "Actions": [window]}])
+        screen.wait_for_text("Beside")
+        screen.button("Next").click()
+        screen.wait_for_text("Next text")
+        opened = next(number for number in stacking() if geometry(number)[2:] == (360, 200))
+        until(lambda: f"{opened} at the top of {stacking()}", lambda: stacking()[-1] == opened)
+
+    def test_a_dialog_for_a_password_is_let_through(self):
+        with another_application() as other:
+            xdotool("set_window", "--class", "polkit-agent", other)
+            _, screen = self.start("BlurredBackground")
+            screen.wait_for_text("Text")
+            until(lambda: f"{other} at the top of {stacking()}",
+                  lambda: stacking()[-1] == other and int((xdotool("getactivewindow") or [0])[0]) == other)
+        screen.key("Return")
+        screen.wait_for_text("Next text")
+
     def test_every_mode_follows_light_and_dark(self):
         settings = Settings()
         self.addCleanup(settings.close)
@@ -201,7 +227,7 @@ class Windows(Scenario):
                         screen.node("In the popover").click()
                     else:
                         screen.wait_until_gone("In the popover")
-                        until("the popover", lambda: tray.click() or "In the popover" in screen.texts())
+                        until("the popover", lambda: "In the popover" in screen.texts() or tray.click())
                 screen.key("Escape")
                 screen.wait_until_gone("In the popover")
                 tray.click()

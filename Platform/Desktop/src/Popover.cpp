@@ -65,6 +65,7 @@ void Popover::show(const ScreenFrame &place, QSize size) {
     const QSize shown = size.boundedTo(area.size());
     window_.setSizes(shown, shown, shown);
     window_.move(originOf(item, shown, area));
+    hadTheKeyboard_ = false;
     window_.show();
     window_.raise();
     window_.activateWindow();
@@ -72,6 +73,9 @@ void Popover::show(const ScreenFrame &place, QSize size) {
 }
 
 bool Popover::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::WindowActivate) {
+        hadTheKeyboard_ = true;
+    }
     const bool isEscape =
         event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape;
     if (event->type() == QEvent::Close || isEscape) {
@@ -83,9 +87,10 @@ bool Popover::eventFilter(QObject *watched, QEvent *event) {
 }
 
 void Popover::applicationStateChanged(Qt::ApplicationState state) {
-    // An alert above the popover must not lose what it stands on.
-    if (state != Qt::ApplicationActive && behavior_ == Behavior::transient && window_.isVisible() &&
-        QApplication::activeModalWidget() == nullptr) {
+    // What is told now may be of the time before the popover was shown. An alert above it must not lose what
+    // it stands on.
+    if (state != Qt::ApplicationActive && hadTheKeyboard_ && behavior_ == Behavior::transient &&
+        window_.isVisible() && QApplication::activeModalWidget() == nullptr) {
         window_.hide();
         sinceSentAway_.start();
     }

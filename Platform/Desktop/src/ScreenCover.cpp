@@ -26,7 +26,10 @@ public:
         : window_(window),
           onMainScreen_(onMainScreen),
           grab_(window),
-          guard_(*window.windowHandle(), [this] { bringToFront(); }) {}
+          guard_(*window.windowHandle(), [this] { bringToFront(); }) {
+        // Window managers raise a window that is clicked on.
+        connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this] { raiseOtherWindows(); });
+    }
 
     void coverScreens() {
         const QList<QScreen *> screens = QGuiApplication::screens();
@@ -55,11 +58,10 @@ public:
             screen.backdrop->raise();
         }
         window_.raise();
-        QWidget *dialog = QApplication::activeModalWidget();
-        if (dialog != nullptr) {
-            dialog->raise();
-        }
-        (dialog == nullptr ? &window_ : dialog)->activateWindow();
+        raiseOtherWindows();
+        QWidget *const active = QApplication::activeWindow();
+        QWidget *const dialog = QApplication::activeModalWidget();
+        (dialog != nullptr ? dialog : active != nullptr ? active : &window_)->activateWindow();
     }
 
 private:
@@ -91,6 +93,16 @@ private:
             }
         }
         return pictures_.emplace_back(geometry, image).second;
+    }
+
+    /// Our windows beside the one, dialogs among them, stand above it.
+    void raiseOtherWindows() const {
+        for (QWidget *other : QApplication::topLevelWidgets()) {
+            const bool isWindow = other->windowType() == Qt::Window || other->windowType() == Qt::Dialog;
+            if (isWindow && other != &window_ && other->isVisible()) {
+                other->raise();
+            }
+        }
     }
 
     void followMainScreen() {

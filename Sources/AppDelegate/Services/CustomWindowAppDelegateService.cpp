@@ -2,6 +2,7 @@
 
 #include <AppDelegate/Services/MenuBarIcon.h>
 #include <AppDelegate/Services/WindowPresentation.h>
+#include <Views/CustomViews/Pixels.h>
 
 #include <Desktop/Popover.h>
 #include <Desktop/ScreenCover.h>
@@ -81,10 +82,10 @@ void CustomWindowAppDelegateService::showApplicationViewController() {
         popover_->window().setContent(controller_);
     }
     const auto admin = _admin.wrappedValue();
-    popover_->toggle(
-        statusItem_->frame(), WindowPresentation::sizeOf(_windowConfig.wrappedValue()->_menuBarSize()),
-        admin->_isAdminModeOn() && admin->_isMenuBarSemiTransient() ? Popover::Behavior::semitransient
-                                                                    : Popover::Behavior::transient);
+    popover_->toggle(statusItem_->frame(), pixels(_windowConfig.wrappedValue()->_menuBarSize()),
+                     admin->_isAdminModeOn() && admin->_isMenuBarSemiTransient()
+                         ? Popover::Behavior::semitransient
+                         : Popover::Behavior::transient);
 }
 
 void CustomWindowAppDelegateService::buildWindow() {

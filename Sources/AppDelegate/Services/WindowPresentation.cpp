@@ -1,7 +1,6 @@
 #include <AppDelegate/Services/WindowPresentation.h>
 
-#include <algorithm>
-#include <cmath>
+#include <Views/CustomViews/Pixels.h>
 
 namespace velmar {
 
@@ -18,25 +17,24 @@ constexpr Window::Style bare{.hasTitleBar = false,
 
 WindowPresentation simple(const WindowSection &section, QSize room) {
     // A window opens at its smallest.
-    const QSize minimum = WindowPresentation::sizeOf(section._minimumSize()).boundedTo(room);
+    const QSize minimum = pixels(section._minimumSize()).boundedTo(room);
     return {.style = {.hasTitleBar = !section._hideTitleBar(),
                       .isClosable = section._isClosable(),
                       .isResizable = section._isResizable(),
                       .isMovable = section._isMovable()},
             .content = minimum,
             .minimum = minimum,
-            .maximum = WindowPresentation::sizeOf(section._maximumSize()),
+            .maximum = pixels(section._maximumSize()),
             .origin = {},
             .cover = {}};
 }
 
 WindowPresentation blurredBackground(const WindowSection &section, const ScreenFrame &main) {
-    const QSize maximum =
-        WindowPresentation::sizeOf(section._maximumSize()).boundedTo({main.width, main.height});
+    const QSize maximum = pixels(section._maximumSize()).boundedTo({main.width, main.height});
     const QPoint middle(main.x + main.width / 2, main.y + main.height / 2);
     return {.style = bare,
             .content = maximum,
-            .minimum = WindowPresentation::sizeOf(section._minimumSize()).boundedTo(maximum),
+            .minimum = pixels(section._minimumSize()).boundedTo(maximum),
             .maximum = maximum,
             .origin = middle - QPoint(maximum.width() / 2, maximum.height() / 2),
             .cover = ScreenCover::Backing::blurred};
@@ -46,7 +44,7 @@ WindowPresentation wholeScreen(const WindowSection &section, const ScreenFrame &
     const QSize size(screen.width, screen.height);
     WindowPresentation result{.style = bare,
                               .content = size,
-                              .minimum = WindowPresentation::sizeOf(section._minimumSize()).boundedTo(size),
+                              .minimum = pixels(section._minimumSize()).boundedTo(size),
                               .maximum = size,
                               .origin = QPoint(screen.x, screen.y),
                               .isWholeScreen = true,
@@ -56,14 +54,6 @@ WindowPresentation wholeScreen(const WindowSection &section, const ScreenFrame &
 }
 
 } // namespace
-
-QSize WindowPresentation::sizeOf(const SizeItem &item) {
-    // Neither nothing nor more than a display server's window can have.
-    const auto side = [](double points) {
-        return static_cast<int>(std::lround(std::clamp(points, 1.0, 16384.0)));
-    };
-    return {side(item._width()), side(item._height())};
-}
 
 WindowPresentation WindowPresentation::of(const WindowSection &section, const Screens &screens) {
     const ScreenFrame chosen = WindowPlacement::chooseScreen(screens, section._screenIndex());

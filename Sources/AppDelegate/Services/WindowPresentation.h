@@ -25,9 +25,6 @@ struct WindowPresentation {
     /// "MenuBar" counts as "Simple". Throws VelmarError::InternalError if there is no screen at all. A
     /// covering mode without a main screen covers nothing.
     [[nodiscard]] static WindowPresentation of(const WindowSection &section, const Screens &screens);
-
-    /// The size of an item, which may be any numbers, as one that a window can have.
-    [[nodiscard]] static QSize sizeOf(const SizeItem &item);
 };
 
 } // namespace velmar

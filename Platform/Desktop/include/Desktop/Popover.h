@@ -45,6 +45,7 @@ private:
 
     Window window_;
     Behavior behavior_ = Behavior::transient;
+    bool hadTheKeyboard_ = false; // Since it was last shown.
     QElapsedTimer sinceSentAway_;
 };
 
