@@ -135,7 +135,8 @@ void DesktopEntries::readDirectory(const std::string &path, const std::string &p
     const FileManager &files = FileManager::defaultManager();
     try {
         for (const std::string &name : files.contentsOfDirectory(path)) {
-            const std::string item = path + "/" + name;
+            std::string item = path;
+            item.append("/").append(name);
             std::string identifier = prefix;
             identifier += name;
             if (name.ends_with(entrySuffix))

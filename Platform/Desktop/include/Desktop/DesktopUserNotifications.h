@@ -7,6 +7,8 @@
 
 namespace velmar {
 
+class NotificationService;
+
 /// Shows notifications by the desktop's notification service, which it looks for when there is something to
 /// show. They stay when the application ends.
 class DesktopUserNotifications final : public UserNotifications {
@@ -21,8 +23,7 @@ public:
     void add(UserNotification notification, Completion completion) override;
 
 private:
-    class Service;
-    std::unique_ptr<Service> service_;
+    std::unique_ptr<NotificationService> service_;
 };
 
 } // namespace velmar
