@@ -4,12 +4,11 @@
 #include <Dispatch/DispatchQueue.h>
 #include <Extensions/LoggerExtensions.h>
 #include <Foundation/FileManager.h>
-#include <Foundation/Process.h>
-#include <Foundation/ProcessError.h>
 #include <command-runner/CommandLineService.h>
 
 #include <fmt/format.h>
 
+#include <chrono>
 #include <exception>
 #include <future>
 #include <memory>
@@ -31,6 +30,12 @@ TerminationScript::TerminationScript(Config<AppTerminationSection> appTerminatio
 Config<AppTerminationSection> TerminationScript::configuredTermination() {
     return Config<AppTerminationSection>(
         [](const Configuration &c) -> decltype(auto) { return c._appTermination(); });
+}
+
+TerminationScript::Run TerminationScript::runDetached() {
+    return [](const std::string &path, std::function<void(Result<std::string>)> completion) {
+        CommandLineService::executeDetachedScript(path, {}, std::move(completion));
+    };
 }
 
 void TerminationScript::runBeforeTermination(bool isInstallationComplete) const noexcept {
@@ -57,11 +62,11 @@ void TerminationScript::runBeforeTermination(bool isInstallationComplete) const 
 
 void TerminationScript::run(const std::string &path) const {
     auto over = std::make_shared<std::promise<void>>();
-    const std::future<void> hasEnded = over->get_future();
+    const std::future<void> hasEnded =
+        over->get_future(); // Also without an end, if nobody is left to tell it.
     DispatchQueue("TerminationScript").async([this, path, over] {
         launchTerminationScript(path, [over] { over->set_value(); });
     });
-    // A promise that is let go without an end ends the wait, too.
     over.reset();
     if (_appTermination.wrappedValue()->_waitForExecutionScriptExecution()) {
         LoggerExtensions::info(LogSubject::termination, "Waiting for script to complete...");
@@ -96,26 +101,7 @@ void TerminationScript::launchTerminationScript(const std::string &path, std::fu
             VelmarError(VelmarError::InternalError{"Scripts cannot be run with root privileges yet"})));
         return;
     }
-    runInUserContext_(path, !section->_waitForExecutionScriptExecution(), completion);
-}
-
-void TerminationScript::runInUserContext(const std::string &path, bool outlivesApplication,
-                                         std::function<void(Result<std::string>)> completion) {
-    if (!outlivesApplication) {
-        CommandLineService::executeScript(path, {}, std::move(completion));
-        return;
-    }
-    try {
-        Process{path, {}}.checkLaunchable();
-    } catch (const ProcessError &error) {
-        completion(failure(error));
-        return;
-    }
-    // Without the application its output has no reader: that must not end it.
-    const std::string file = path.starts_with('/') ? path : "./" + path;
-    CommandLineService::execute("/usr/bin/env",
-                                {"--ignore-signal=PIPE", "/bin/sh", "-c", R"(exec "$0")", file},
-                                std::move(completion));
+    runInUserContext_(path, completion);
 }
 
 } // namespace velmar

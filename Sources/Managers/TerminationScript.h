@@ -4,7 +4,6 @@
 #include <Foundation/Result.h>
 #include <Managers/Config.h>
 
-#include <chrono>
 #include <functional>
 #include <string>
 
@@ -14,12 +13,12 @@ namespace velmar {
 class TerminationScript {
 public:
     /// Runs a script without arguments. The completion is called once on some thread, never on the main one:
-    /// that may wait for it. `outlivesApplication`: nobody may be there to read what it prints.
-    using Run = std::function<void(const std::string &path, bool outlivesApplication,
+    /// that may wait for it.
+    using Run = std::function<void(const std::string &path,
                                    std::function<void(Result<std::string> output)> completion)>;
 
     explicit TerminationScript(Config<AppTerminationSection> appTermination = configuredTermination(),
-                               Run runInUserContext = &TerminationScript::runInUserContext);
+                               Run runInUserContext = runDetached());
 
     /// What stands between the decision to end and the end; main thread. Begins the script for the state of
     /// the installation, if there is one, and waits for its end without limit if the configuration says so;
@@ -28,8 +27,7 @@ public:
 
 private:
     [[nodiscard]] static Config<AppTerminationSection> configuredTermination();
-    static void runInUserContext(const std::string &path, bool outlivesApplication,
-                                 std::function<void(Result<std::string>)> completion);
+    [[nodiscard]] static Run runDetached();
 
     void run(const std::string &path) const;
     /// `ended` is called when the script has ended or could not be run.

@@ -65,8 +65,10 @@ CompletionError unexpectedError() {
 // that wait for its next step.
 class Execution : public std::enable_shared_from_this<Execution> {
 public:
-    Execution(std::vector<Process> processes, Completion completion)
-        : processes_(std::move(processes)), completion_(std::move(completion)) {}
+    enum class Kind { attached, detached };
+
+    Execution(std::vector<Process> processes, Completion completion, Kind kind = Kind::attached)
+        : processes_(std::move(processes)), completion_(std::move(completion)), kind_(kind) {}
 
     void begin() {
         attempt(processes_.front(), [&] { proceedFrom(0); });
@@ -132,7 +134,13 @@ private:
         }
         ProcessChain chain;
         for (const Process &process : processes_) {
-            if (!attempt(process, [&] { chain.launch(process); }))
+            const auto launched = [&] {
+                if (kind_ == Kind::detached)
+                    chain.launchIntoFile(process, maximumOutput);
+                else
+                    chain.launch(process);
+            };
+            if (!attempt(process, launched))
                 return;
         }
         attempt(processes_.back(), [&] {
@@ -162,6 +170,7 @@ private:
 
     std::vector<Process> processes_;
     Completion completion_;
+    Kind kind_;
     bool isComplete_ = false;
 };
 
@@ -215,16 +224,29 @@ void execute(std::string command, std::vector<std::string> arguments, Completion
     DispatchQueue::global().async([execution] { execution->begin(); });
 }
 
-void executeScript(std::string path, std::vector<std::string> arguments, Completion completion) {
+namespace {
+
+void executeScript(std::string path, std::vector<std::string> arguments, Completion completion,
+                   Execution::Kind kind) {
     // Neither searched for nor an option of the program that runs it.
     if (!path.starts_with('/'))
         path.insert(0, "./");
-    DispatchQueue::global().async(
-        [script = Process{std::move(path), std::move(arguments)}, completion = std::move(completion)] {
-            const auto execution = std::make_shared<Execution>(std::vector{throughEnv(script)}, completion);
-            if (execution->attempt(script, [&] { script.checkLaunchable(); }))
-                execution->begin();
-        });
+    DispatchQueue::global().async([script = Process{std::move(path), std::move(arguments)},
+                                   completion = std::move(completion), kind] {
+        const auto execution = std::make_shared<Execution>(std::vector{throughEnv(script)}, completion, kind);
+        if (execution->attempt(script, [&] { script.checkLaunchable(); }))
+            execution->begin();
+    });
+}
+
+} // namespace
+
+void executeScript(std::string path, std::vector<std::string> arguments, Completion completion) {
+    executeScript(std::move(path), std::move(arguments), std::move(completion), Execution::Kind::attached);
+}
+
+void executeDetachedScript(std::string path, std::vector<std::string> arguments, Completion completion) {
+    executeScript(std::move(path), std::move(arguments), std::move(completion), Execution::Kind::detached);
 }
 
 } // namespace velmar::CommandLineService

@@ -5,11 +5,14 @@
 #include "ChildProcess.h"
 #include "OutputReading.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <memory>
 #include <utility>
 
 #include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace velmar {
@@ -39,6 +42,25 @@ Pipe makePipe(const std::string &path) {
     return pipe;
 }
 
+// What was written through the description of the file that the writers share, whose position is its end.
+ProcessOutput contentOf(const Descriptor &file) {
+    const off_t end = lseek(file.number(), 0, SEEK_CUR);
+    ProcessOutput output;
+    output.bytes.resize(end > 0 ? static_cast<std::size_t>(end) : 0);
+    std::size_t length = 0;
+    while (length < output.bytes.size()) {
+        const ssize_t count = pread(file.number(), output.bytes.data() + length, output.bytes.size() - length,
+                                    static_cast<off_t>(length));
+        if (count <= 0 && errno != EINTR)
+            break;
+        length += static_cast<std::size_t>(std::max<ssize_t>(count, 0));
+    }
+    output.bytes.resize(length);
+    struct stat attributes {};
+    output.isCut = fstat(file.number(), &attributes) == 0 && end >= attributes.st_size;
+    return output;
+}
+
 } // namespace
 
 ProcessChain::ProcessChain() = default;
@@ -57,7 +79,23 @@ void ProcessChain::launch(const Process &process) {
     output_ = std::move(pipe.reading);
 }
 
+void ProcessChain::launchIntoFile(const Process &process, std::size_t limit) {
+    Descriptor file =
+        aboveStandardStreams(Descriptor(memfd_create("output", MFD_CLOEXEC | MFD_ALLOW_SEALING)));
+    if (!file || ftruncate(file.number(), static_cast<off_t>(limit)) != 0 ||
+        fcntl(file.number(), F_ADD_SEALS, F_SEAL_GROW | F_SEAL_SHRINK | F_SEAL_SEAL) != 0)
+        throw ProcessError(ProcessError::NotLaunched{process.executablePath, errno});
+    children_.emplace_back(process, output_, file);
+    lastPath_ = process.executablePath;
+    output_ = std::move(file);
+    isOutputFile_ = true;
+}
+
 void ProcessChain::readOutput(std::size_t limit, std::function<void(ProcessOutput)> completion) {
+    if (isOutputFile_) {
+        readFile(std::move(completion));
+        return;
+    }
     const auto reading =
         OutputReading::make(std::exchange(output_, Descriptor()), lastPath_, limit, std::move(completion));
     const std::vector<ChildProcess> children = std::exchange(children_, {});
@@ -68,6 +106,17 @@ void ProcessChain::readOutput(std::size_t limit, std::function<void(ProcessOutpu
             child.whenEnded([] {});
     }
     reading->start();
+}
+
+void ProcessChain::readFile(std::function<void(ProcessOutput)> completion) {
+    const auto file = std::make_shared<const Descriptor>(std::exchange(output_, Descriptor()));
+    const std::vector<ChildProcess> children = std::exchange(children_, {});
+    for (const ChildProcess &child : children) {
+        if (&child == &children.back())
+            child.whenEnded([file, completion] { completion(contentOf(*file)); });
+        else
+            child.whenEnded([] {});
+    }
 }
 
 } // namespace velmar

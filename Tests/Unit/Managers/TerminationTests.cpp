@@ -11,6 +11,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -60,20 +61,25 @@ public:
 
 TEST(AppTerminationManager, LetsTheUserQuitWhenBothConditionsHold) {
     using namespace TerminationNotifications;
+    constexpr auto incomplete = "info: 🚪 App termination prevented since the installation is not complete";
+    constexpr auto missing =
+        "info: 🚪 App termination prevented since at least one mandatory monitored file isn't "
+        "present on the device";
     const struct {
         bool isComplete;
         bool arePresent;
         bool userCanQuit;
         std::string_view posted; ///< Empty for a quit.
+        const char *line = nullptr;
     } cases[] = {
         {true, true, false, ""},
-        {false, true, false, userTriesToQuitWhenNotAllMonitorsAreInstalled},
-        {false, false, false, userTriesToQuitWhenNotAllMonitorsAreInstalled},
+        {false, true, false, userTriesToQuitWhenNotAllMonitorsAreInstalled, incomplete},
+        {false, false, false, userTriesToQuitWhenNotAllMonitorsAreInstalled, incomplete},
         {false, true, true, ""},
-        {false, false, true, userTriesToQuitWhenNotAllMonitoredFilesArePresent},
-        {true, false, false, userTriesToQuitWhenNotAllMonitoredFilesArePresent},
+        {false, false, true, userTriesToQuitWhenNotAllMonitoredFilesArePresent, missing},
+        {true, false, false, userTriesToQuitWhenNotAllMonitoredFilesArePresent, missing},
     };
-    for (const auto &[isComplete, arePresent, userCanQuit, posted] : cases) {
+    for (const auto &[isComplete, arePresent, userCanQuit, posted, line] : cases) {
         const RecordedLog log;
         NotificationCenter center;
         std::string seen;
@@ -93,10 +99,11 @@ TEST(AppTerminationManager, LetsTheUserQuitWhenBothConditionsHold) {
         manager.setInstallationComplete(isComplete);
         manager.setMandatoryFilesPresent(arePresent);
         EXPECT_EQ(store->variables()->at("INSTALLATION_COMPLETE"), isComplete ? "true" : "false");
+        EXPECT_EQ(store->variables()->at("ALL_MANDATORY_FILES_PRESENT"), arePresent ? "true" : "false");
         manager.tryToQuitApplication();
         EXPECT_EQ(seen, posted);
         EXPECT_EQ(termination->count, posted.empty() ? 1 : 0);
-        EXPECT_EQ(log.lines().size(), posted.empty() ? 0U : 1U);
+        EXPECT_EQ(log.lines(), line == nullptr ? std::vector<std::string>() : std::vector<std::string>{line});
     }
 }
 
@@ -109,18 +116,22 @@ protected:
         const TerminationScript script(
             Config<AppTerminationSection>(
                 [](const Configuration &c) -> decltype(auto) { return c._appTermination(); }, section),
-            [this](const std::string &path, bool outlives, auto completion) {
-                runs_ += path.substr(path.rfind('/') + 1) + (outlives ? " left alone;" : " waited for;");
-                // Not before the caller has begun to wait.
-                std::thread([completion] { completion(std::string("done")); }).detach();
+            [this](const std::string & /*path*/, auto completion) {
+                ++runs_;
+                script_ = std::thread([completion] { completion(std::string("done")); });
             });
         script.runBeforeTermination(isInstallationComplete);
+        static_cast<void>(DispatchQueue::global().waitUntilIdle(std::chrono::seconds(10)));
+        if (script_.joinable()) {
+            script_.join();
+        }
         return log_.takeLines();
     }
 
     RecordedLog log_;
     TemporaryDirectory directory_;
-    std::string runs_;
+    std::atomic<int> runs_{0};
+    std::thread script_;
 };
 
 TEST_F(TerminationScriptTest, RunsTheScriptOfTheInstallationsState) {
@@ -131,7 +142,7 @@ TEST_F(TerminationScriptTest, RunsTheScriptOfTheInstallationsState) {
     section._waitForExecutionScriptExecution.set(true);
     EXPECT_THAT(run(section, true), ElementsAre(HasSubstr("Empty termination script path")));
     EXPECT_THAT(run(section, false), ElementsAre(HasSubstr("No termination script at path '/no/such'")));
-    EXPECT_EQ(runs_, "");
+    EXPECT_EQ(runs_, 0);
 
     const std::string path = directory_.write("end.sh", "");
     section._completeInstallationScriptPath.set(path);
@@ -147,8 +158,8 @@ TEST_F(TerminationScriptTest, RunsTheScriptOfTheInstallationsState) {
                     HasSubstr("Error while executing script at '" + path + "' with root privileges: "))));
     section._executeAsRoot.set(false);
     section._waitForExecutionScriptExecution.set(false);
-    static_cast<void>(run(section, true));
-    EXPECT_EQ(runs_, "end.sh waited for;end.sh left alone;");
+    EXPECT_THAT(run(section, true), testing::SizeIs(2)) << "not waited for";
+    EXPECT_EQ(runs_, 2);
 }
 
 } // namespace

@@ -34,15 +34,23 @@ public:
     /// Adds a process to the end and starts it. Throws ProcessError, after which nothing has been added.
     void launch(const Process &process);
 
-    /// Calls the completion once, on a thread of the pool, when the last process has ended and everybody who
-    /// can write to its output has closed it; not if DispatchQueue::shutdown comes first. At most `limit`
+    /// Adds a last process that writes into a file without a name instead of a pipe, of at most `limit` bytes:
+    /// more can't be written. It may go on after this process has ended, and it is over when it has itself
+    /// ended, whatever it leaves running. Throws ProcessError.
+    void launchIntoFile(const Process &process, std::size_t limit);
+
+    /// Calls the completion once, on a thread of the pool, when the last process has ended and, of a pipe,
+    /// everybody who can write to it has closed it; not if DispatchQueue::shutdown comes first. At most `limit`
     /// bytes are kept. To be called once, after a launch; launches nothing any more. Throws ProcessError.
     void readOutput(std::size_t limit, std::function<void(ProcessOutput)> completion);
 
 private:
+    void readFile(std::function<void(ProcessOutput)> completion);
+
     std::vector<ChildProcess> children_;
     std::string lastPath_;
     Descriptor output_; // of the last one
+    bool isOutputFile_ = false;
 };
 
 } // namespace velmar
