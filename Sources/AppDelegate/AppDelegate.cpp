@@ -20,6 +20,7 @@
 
 #include <Desktop/DesktopAppearance.h>
 #include <Desktop/KeyEventMonitor.h>
+#include <Desktop/Window.h>
 #include <Foundation/UserDefaults.h>
 #include <logger/Logger.h>
 
@@ -49,7 +50,8 @@ AppDelegate::AppDelegate(Surroundings surroundings)
     : surroundings_(std::move(surroundings)),
       openedWindow_({.mainQueue = surroundings_.application.mainQueue(),
                      .appearance = surroundings_.application.appearance(),
-                     .screens = &Screens::current}) {
+                     .screens = &Screens::current,
+                     .didClose = [this] { openedWindowDidClose(); }}) {
     QCoreApplication::setApplicationName(QStringLiteral("Velmar"));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.nurvan.velmar"));
     DesktopApplication &application = surroundings_.application;
@@ -135,6 +137,14 @@ void AppDelegate::shareActionDispatcher() {
         std::make_shared<ActionDispatcher>([actions](std::shared_ptr<const ActionItem> item) {
             return dispatchable(std::move(item), actions);
         }));
+}
+
+void AppDelegate::openedWindowDidClose() {
+    // The desktop tells of the last window only when the user closes it.
+    const Window *const window = customWindow_->window();
+    if (window != nullptr && !window->isVisible() && applicationShouldTerminateAfterLastWindowClosed()) {
+        surroundings_.application.terminate();
+    }
 }
 
 void AppDelegate::makeActionSetManager() {

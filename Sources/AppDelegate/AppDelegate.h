@@ -67,6 +67,7 @@ private:
     void shareActionDispatcher();
     void makeAppManager();
     void makeActionSetManager();
+    void openedWindowDidClose();
     [[nodiscard]] std::vector<std::string> relaunchCommand() const;
 
     Config<WindowSection::OnScreen> _onScreen{

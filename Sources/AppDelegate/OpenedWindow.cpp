@@ -12,6 +12,16 @@
 
 namespace velmar {
 
+namespace {
+
+void place(Window &window, const WindowPositionItem &position, const ScreenFrame &screen) {
+    const QSize size = window.frameSize();
+    const auto [x, y] = WindowPlacement::originOf(position, size.width(), size.height(), screen);
+    window.moveFrame({x, y});
+}
+
+} // namespace
+
 OpenedWindow::OpenedWindow(Surroundings surroundings) : surroundings_(std::move(surroundings)) {}
 
 OpenedWindow::~OpenedWindow() = default;
@@ -22,7 +32,8 @@ void OpenedWindow::open(std::shared_ptr<const ActionItems::OpenWindow> item) {
     window_ = std::make_unique<Window>(Window::Style{.hasTitleBar = true,
                                                      .isClosable = item->_isClosable(),
                                                      .isResizable = false,
-                                                     .isMovable = item->_isMovable()},
+                                                     .isMovable = item->_isMovable(),
+                                                     .rank = Window::Style::Rank::front},
                                        menu_);
     auto *slide = new SlideViewController(
         item->_slide(), SlideViewController::Kind::standard, center_,
@@ -33,12 +44,11 @@ void OpenedWindow::open(std::shared_ptr<const ActionItems::OpenWindow> item) {
     window_->setSizes(size, size, size);
     window_->setWindowTitle(QString(QChar::Nbsp)); // An empty one would be replaced by the window manager.
     window_->setAccessibleName(QCoreApplication::applicationName());
-    window_->setWindowFlag(Qt::WindowStaysOnTopHint);
 
     const WindowPositionItem position = item->_position().value_or(WindowPositionItem());
-    place(position, screen);
+    place(*window_, position, screen);
     QObject::connect(window_.get(), &Window::framed, window_.get(),
-                     [this, position, screen] { place(position, screen); });
+                     [window = window_.get(), position, screen] { place(*window, position, screen); });
     slide->viewWillAppear();
     window_->show();
     window_->raise();
@@ -50,13 +60,8 @@ void OpenedWindow::close() {
     if (Window *const former = window_.release()) {
         former->hide();
         former->deleteLater();
+        surroundings_.didClose();
     }
-}
-
-void OpenedWindow::place(const WindowPositionItem &position, const ScreenFrame &screen) {
-    const QSize size = window_->frameSize();
-    const auto [x, y] = WindowPlacement::originOf(position, size.width(), size.height(), screen);
-    window_->moveFrame({x, y});
 }
 
 } // namespace velmar

@@ -24,6 +24,8 @@ public:
         MainQueue &mainQueue;
         const DesktopAppearance &appearance;
         std::function<Screens()> screens;
+        /// Called when the window has been closed by an action.
+        std::function<void()> didClose;
     };
 
     explicit OpenedWindow(Surroundings surroundings);
@@ -36,8 +38,6 @@ public:
     [[nodiscard]] Window *window() const noexcept { return window_.get(); }
 
 private:
-    void place(const WindowPositionItem &position, const ScreenFrame &screen);
-
     Surroundings surroundings_;
     MainMenu menu_;             // Without entries.
     NotificationCenter center_; // Of the window's slide alone.

@@ -142,6 +142,39 @@ class Actions(Scenario):
         screen.wait_until_gone("Close")
         screen.wait_for_text("At closed")
 
+    def test_a_window_that_is_closed_at_once_or_last(self):
+        opened = {"Type": "OpenWindow", "Size": {"Width": 360, "Height": 200}, "IsMovable": False,
+                  "Slide": slide("Beside")}
+        for _ in range(4):
+            process, screen = self.start(action_set("Launch", opened, {"Type": "CloseOpenedWindow"}, log("closed")))
+            self.wait_for_message("closed")
+            screen.wait_for_text("At start")
+            process.send(signal.SIGTERM)
+            self.assertEqual(0, process.wait(), process.story())
+            self.log_path().unlink()
+        close = {"Type": "Button", "Style": "Simple", "Text": "Close",
+                 "OnClick": {"Type": "Chained", "Actions": [{"Type": "CloseOpenedWindow"}]}}
+        opened["Slide"] = {"Containers": [{"Components": [close]}]}
+        process, screen = self.start(action_set("Launch", opened), Window={"OnScreen": "Simple", "Title": "Main"})
+        screen.button("Close")
+        screen.activate("Main")
+        screen.key("alt+F4")
+        screen.wait_until_gone("At start")
+        screen.button("Close").press()
+        self.assertEqual(0, process.wait(), process.story())
+
+    def test_an_action_leads_on_and_back_with_the_buttons_of_each_slide(self):
+        def go(offset):
+            return {"Type": "Button", "Style": "Simple", "Text": f"Go {offset}",
+                    "OnClick": {"Type": "Chained", "Actions": [{"Type": "NavigateToSlide", "Offset": offset}]}}
+        _, screen = self.start(slides=({"Containers": [{"Components": [go(1)]}], "HideNextButton": True},
+                                       {"Containers": [{"Components": [go(1)]}]},
+                                       {"Containers": [{"Components": [go(-1)]}]}))
+        for press, buttons in [("Go 1", ["Back", "Go 1", "On"]), ("Go 1", ["Back", "Done", "Go -1"]),
+                               ("Go -1", ["Back", "Go 1", "On"]), ("Back", ["Go 1"])]:
+            screen.button(press).click()
+            screen.wait_for_buttons(*buttons)
+
     def test_sets_of_the_termination_come_before_the_end(self):
         process, screen = self.start(action_set("Termination", update("STEP", "end"), log("bye ${STEP}")))
         screen.wait_for_text("At start")

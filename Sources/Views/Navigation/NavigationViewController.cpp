@@ -108,6 +108,7 @@ void NavigationViewController::hideWhatTheSlideWantsHidden() {
 }
 
 void NavigationViewController::reachedFirstSlide() {
+    isLastSlideReached_ = false; // An action may lead here at once.
     laterUnlessGoneOn([this] { nextButton_->setLabel(nextLabel_); });
     previousButton_->setConcealed(true, animationDuration());
     nextButton_->setConcealed(viewModel_.currentSlideHideNextButton(), animationDuration());
@@ -133,6 +134,7 @@ void NavigationViewController::reachedSoleSlide() {
 void NavigationViewController::reevaluateButtons() {
     isLastSlideReached_ = false;
     laterUnlessGoneOn([this] {
+        nextButton_->setLabel(nextLabel_);
         previousButton_->setConcealed(viewModel_.currentSlideHidePreviousButton());
         nextButton_->setConcealed(viewModel_.currentSlideHideNextButton());
     });

@@ -152,6 +152,13 @@ class Screen:
         self.wait_for_focus()
         subprocess.run(["xdotool", "key", "--clearmodifiers", combination], check=True)
 
+    def activate(self, title):
+        """Gives the keyboard to the window of that title."""
+        def is_active():
+            _xdotool("search", "--onlyvisible", "--name", f"^{title}$", "windowactivate")
+            return _xdotool("getactivewindow", "getwindowname") == title
+        until(f"the window '{title}' in front", is_active)
+
     def wait_for_focus(self):
         def focused():
             window = _xdotool("getactivewindow", "getwindowpid")

@@ -12,6 +12,7 @@
 #include <fmt/format.h>
 
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <string>
@@ -22,7 +23,13 @@ namespace {
 
 class Controller final : public ContentViewControllerProtocol {
 public:
-    void transition(int from, int to) override { transitions.push_back(fmt::format("{}>{}", from, to)); }
+    void transition(int from, int to) override {
+        transitions.push_back(fmt::format("{}>{}", from, to));
+        didTransition();
+    }
+    [[nodiscard]] bool isTransitionUnderWay() const override { return isMoving; }
+    std::function<void()> didTransition = [] {};
+    bool isMoving = false;
     [[nodiscard]] std::shared_ptr<SlideViewModel> currentSlideViewModel() const override { return slide; }
     std::shared_ptr<SlideViewModel> slide;
     std::vector<std::string> transitions;
@@ -176,6 +183,26 @@ TEST_F(ContentModel, HoldsTheUserOnAnInvalidSlideOnlyForward) {
     previous();
     EXPECT_EQ(takeTransitions(), Names{"1>0"});
     EXPECT_EQ(element->warnings, 1);
+}
+
+TEST_F(ContentModel, HoldsTheUserOnASlideThatIsStillToBeShown) {
+    start({slide(), slide(), slide()});
+    controller.didTransition = [this] { invalidate(); };
+    next();
+    next(); // The second slide turns out not to be right.
+    EXPECT_EQ(model->selectedSlideIndex(), 1);
+    EXPECT_EQ(takeTransitions(), Names{"0>1"});
+}
+
+TEST_F(ContentModel, TakesNoPressForAQuitBeforeTheLastSlideIsOnShow) {
+    start({slide(), slide()});
+    controller.isMoving = true;
+    next();
+    next();
+    EXPECT_EQ(quits.count, 0);
+    controller.isMoving = false;
+    next();
+    EXPECT_EQ(quits.count, 1);
 }
 
 TEST_F(ContentModel, AsksTheSlideAndTheSideContainerBeforeItQuits) {

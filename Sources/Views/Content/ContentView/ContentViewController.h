@@ -27,6 +27,9 @@ public:
     void rebuild();
 
     void transition(int from, int to) override;
+    [[nodiscard]] bool isTransitionUnderWay() const override {
+        return animation_.state() == QAbstractAnimation::Running;
+    }
     [[nodiscard]] std::shared_ptr<SlideViewModel> currentSlideViewModel() const override;
     [[nodiscard]] SlideViewController *currentSlide() const;
     [[nodiscard]] int currentSlideIndex() const noexcept { return currentSlideIndex_; }

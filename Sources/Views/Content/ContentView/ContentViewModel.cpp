@@ -46,6 +46,7 @@ void ContentViewModel::setSelectedIndex(int index, bool notifyingDelegate) {
     if (count == 0 || index > count) {
         return;
     }
+    makePendingTransition();
     if (index > _selectedSlideIndex() && !_isCurrentSlideValid()) {
         showWarningsOfCurrentSlide();
         Logger::warning(
@@ -66,7 +67,13 @@ void ContentViewModel::jumpWith(std::int64_t offset) {
         });
         return;
     }
-    setSelectedIndex(index + static_cast<int>(offset), true);
+    moveForAction(index + static_cast<int>(offset));
+}
+
+void ContentViewModel::moveForAction(int index) {
+    // What the slide on show wants hidden must not hold for the next one. The buttons clear it themselves.
+    center_.post(NavigationNotifications::evaluateButtonsHide);
+    setSelectedIndex(index, true);
 }
 
 void ContentViewModel::navigateToIndex(std::int64_t index) {
@@ -82,7 +89,7 @@ void ContentViewModel::navigateToIndex(std::int64_t index) {
                 [&] { return fmt::format("There is no slide {}. Slides count: {}.", index, count); });
             return;
         }
-        self->setSelectedIndex(static_cast<int>(index), true);
+        self->moveForAction(static_cast<int>(index));
     });
 }
 
@@ -100,12 +107,19 @@ void ContentViewModel::move(int index, bool notifyingDelegate) {
     if (!notifyingDelegate) {
         return;
     }
-    mainQueue_.async([model = weak_from_this(), old, index, generation = transitionGeneration_] {
-        const auto self = model.lock();
-        if (self && self->controller_ != nullptr && generation == self->transitionGeneration_) {
-            self->controller_->transition(old, index);
+    pendingTransition_ = Transition{old, index};
+    mainQueue_.async([model = weak_from_this()] {
+        if (const auto self = model.lock()) {
+            self->makePendingTransition();
         }
     });
+}
+
+void ContentViewModel::makePendingTransition() {
+    const auto pending = std::exchange(pendingTransition_, std::nullopt);
+    if (pending && controller_ != nullptr) {
+        controller_->transition(pending->from, pending->to);
+    }
 }
 
 void ContentViewModel::announcePosition() {
@@ -144,15 +158,20 @@ void ContentViewModel::goToPreviousSlide() {
 
 void ContentViewModel::goToNextSlide() {
     Logger::debug("Will transition to next slide");
+    makePendingTransition();
     const int target = _selectedSlideIndex() + 1;
     if (target < slidesCount()) {
         setSelectedIndex(target, true);
+    } else if (controller_ != nullptr && controller_->isTransitionUnderWay()) {
+        // The press was meant for the slide before.
+        Logger::debug("No quit before the last slide is on show");
     } else {
         tryToQuitApplication();
     }
 }
 
 void ContentViewModel::tryToQuitApplication() {
+    makePendingTransition();
     if (!_isCurrentSlideValid()) {
         showWarningsOfCurrentSlide();
         Logger::warning("App termination prevented since the slide contains invalid mandatory elements");

@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace velmar {
@@ -24,6 +25,9 @@ public:
 
     /// Puts another slide on show.
     virtual void transition(int from, int to) = 0;
+
+    /// True while the user still sees the slide before.
+    [[nodiscard]] virtual bool isTransitionUnderWay() const = 0;
 
     /// Of the slide on show; null while there is none.
     [[nodiscard]] virtual std::shared_ptr<SlideViewModel> currentSlideViewModel() const = 0;
@@ -94,7 +98,7 @@ public:
 
     /// Drops the transitions that the controller has not been told of yet: it shows the current slide
     /// without.
-    void cancelTransitions() noexcept { ++transitionGeneration_; }
+    void cancelTransitions() noexcept { pendingTransition_.reset(); }
 
     /// Quits unless the current slide or the side container is not yet right.
     void tryToQuitApplication();
@@ -107,6 +111,10 @@ private:
     void goToPreviousSlide();
     void goToNextSlide();
     void move(int index, bool notifyingDelegate);
+    void moveForAction(int index);
+    /// Has the controller make the transition that waits on the main queue, if there is one: only then the
+    /// validity and the warnings are those of the current slide.
+    void makePendingTransition();
     void announcePosition();
     void showWarningsOfCurrentSlide();
     [[nodiscard]] int slidesCount() const { return static_cast<int>(slides()->size()); }
@@ -120,7 +128,11 @@ private:
     std::vector<NotificationCenter::Token> observers_;
     ContentUpdater<bool> _isCurrentSlideValid{true, GeneralSection::Placeholders::currentSlideValid};
     ContentUpdater<int> _selectedSlideIndex{0, GeneralSection::Placeholders::currentSlideIndex};
-    std::uint64_t transitionGeneration_ = 0; // Transitions of an earlier one are dropped.
+    struct Transition {
+        int from;
+        int to;
+    };
+    std::optional<Transition> pendingTransition_; // The controller has not been told of it yet.
 };
 
 } // namespace velmar
