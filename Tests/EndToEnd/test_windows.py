@@ -92,8 +92,9 @@ class Windows(Scenario):
     def wait_for_place(self, screen, place):
         until(lambda: f"{place}, not {screen.window('Text')}", lambda: screen.window("Text") == place)
 
-    def wait_for_colours(self, expected):
+    def wait_for_colours(self, expected, meanwhile=lambda: None):
         def seen():
+            meanwhile()
             return {point: colour_at(*point) for point in expected}
         until(lambda: f"{expected}, not {seen()}",
               lambda: all(near(colour, expected[point]) for point, colour in seen().items()))
@@ -145,12 +146,15 @@ class Windows(Scenario):
                 process, screen = self.start(mode)
                 screen.wait_for_text("Text")
                 screen.wait_for_focus()
+                main = int(xdotool("getactivewindow")[0])
                 with another_application() as other:
                     self.wait_until_below(other, screen)
                     for request in [["windowactivate", other], ["windowraise", other], ["windowfocus", other],
-                                    ["windowminimize", xdotool("getactivewindow")[0]]]:
+                                    ["windowminimize", xdotool("getactivewindow")[0]],
+                                    ["mousemove", 2, 400, "click", 1]]:
                         xdotool(*request)
                         self.wait_until_below(other, screen)
+                        until("the window above its backdrop", lambda: stacking()[-1] == main)
                 # To the window manager these would mean: show the desktop, close the window, another workspace.
                 for keys in ["super+d", "alt+F4", "ctrl+alt+Right"]:
                     screen.key(keys)
@@ -165,6 +169,7 @@ class Windows(Scenario):
         _, screen = self.start("BlurredBackground", ActionSets=[{"Type": "Chained", "Triggers": ["Launch"],
                                                                         "Actions": [alert]}])
         screen.wait_for_text("An alert")
+        until("the alert above all", lambda: xdotool("getwindowname", stacking()[-1]) == ["Velmar"])
         screen.key("alt+F4")
         screen.wait_until_gone("An alert")
         screen.key("Return")
@@ -198,8 +203,9 @@ class Windows(Scenario):
                 process, screen = self.start(mode)
                 screen.wait_for_text("Text")
                 for is_dark, page in [(False, LIGHT), (True, DARK), (False, LIGHT)]:
-                    settings.set_dark(is_dark)
-                    self.wait_for_colours({point: page, **({(5, 5): veiled(page)} if "Blurred" in mode else {})})
+                    # Told again until somebody listens: that begins after the first paint.
+                    self.wait_for_colours({point: page, **({(5, 5): veiled(page)} if "Blurred" in mode else {})},
+                                          meanwhile=lambda: settings.set_dark(is_dark))
                 process.close()
 
     def test_the_popover_comes_and_goes_and_keeps_its_session(self):

@@ -27,7 +27,8 @@ public:
           onMainScreen_(onMainScreen),
           grab_(window),
           guard_(*window.windowHandle(), [this] { bringToFront(); }) {
-        // Window managers raise a window that is clicked on.
+        qApp->installEventFilter(this);
+        // A window that is clicked on is raised, and no ordinary window of X11 belongs to another one.
         connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this] { raiseOtherWindows(); });
     }
 
@@ -64,6 +65,18 @@ public:
         (dialog != nullptr ? dialog : active != nullptr ? active : &window_)->activateWindow();
     }
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override {
+        // Window managers keep a dialog above the window that it belongs to.
+        if (event->type() == QEvent::Show && watched->isWidgetType()) {
+            const auto &widget = *static_cast<QWidget *>(watched);
+            if (isOtherWindow(widget) && widget.windowHandle()->transientParent() == nullptr) {
+                widget.windowHandle()->setTransientParent(window_.windowHandle());
+            }
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
 private:
     struct Covered {
         QRect geometry;
@@ -95,12 +108,16 @@ private:
         return pictures_.emplace_back(geometry, image).second;
     }
 
-    /// Our windows beside the one, dialogs among them, stand above it.
+    /// A dialog, or a window that an action has opened; the backdrops are of another type.
+    [[nodiscard]] bool isOtherWindow(const QWidget &widget) const {
+        const bool isWindow = widget.windowType() == Qt::Window || widget.windowType() == Qt::Dialog;
+        return isWindow && &widget != &window_ && widget.windowHandle() != nullptr;
+    }
+
     void raiseOtherWindows() const {
-        for (QWidget *other : QApplication::topLevelWidgets()) {
-            const bool isWindow = other->windowType() == Qt::Window || other->windowType() == Qt::Dialog;
-            if (isWindow && other != &window_ && other->isVisible()) {
-                other->raise();
+        for (QWidget *widget : QApplication::topLevelWidgets()) {
+            if (isOtherWindow(*widget) && widget->isVisible()) {
+                widget->raise();
             }
         }
     }
@@ -111,7 +128,7 @@ private:
             const bool isMain = main != nullptr && screen.geometry == main->geometry();
             screen.backdrop->setPlain(isMain && onMainScreen_ == Backing::plain);
             if (isMain) {
-                // Window managers keep the window above the one that it belongs to.
+                // Compositors keep the window above the one that it belongs to.
                 window_.windowHandle()->setTransientParent(screen.backdrop->windowHandle());
                 window_.setBehind(
                     [backdrop = QPointer(screen.backdrop.get())](QPainter &painter, const QRect &area) {
