@@ -82,28 +82,15 @@ bool StackingGuard::nativeEventFilter(const QByteArray &eventType, void *message
 
 void StackingGuard::look() {
     const std::vector<std::uint32_t> stack = WindowList::fromTheLowest();
-    std::map<std::uint32_t, bool> known;
-    for (const std::uint32_t window : stack) {
-        const auto before = asksForPassword_.find(window);
-        if (before != asksForPassword_.end()) {
-            known.insert(*before);
-            continue;
-        }
-        const bool asks = !isOurs(window) && asksForPassword(window);
-        known[window] = asks;
-        if (asks) {
-            front_.setKeyboardGrabEnabled(false);
-            WindowList::lift(window);
-        }
-    }
-    asksForPassword_ = std::move(known);
+    learn(stack);
+    const bool isCovered = findMisplaced(stack);
     const std::uint32_t active = WindowList::active();
     if (const auto asking = asksForPassword_.find(active);
         asking != asksForPassword_.end() && asking->second) {
         return;
     }
     const bool lostTheKeyboard = active != 0 && !takesOurKeys(active);
-    if (isCovered(stack) || lostTheKeyboard) {
+    if (isCovered || lostTheKeyboard) {
         bringToFront_();
         if (lostTheKeyboard) {
             const QWidget *dialog = QApplication::activeModalWidget();
@@ -113,15 +100,34 @@ void StackingGuard::look() {
     }
 }
 
-bool StackingGuard::isCovered(const std::vector<std::uint32_t> &stack) {
+void StackingGuard::learn(const std::vector<std::uint32_t> &stack) {
+    std::map<std::uint32_t, bool> known;
+    for (const std::uint32_t window : stack) {
+        const auto before = asksForPassword_.find(window);
+        known[window] =
+            before == asksForPassword_.end() ? !isOurs(window) && asksForPassword(window) : before->second;
+    }
+    asksForPassword_ = std::move(known);
+}
+
+bool StackingGuard::findMisplaced(const std::vector<std::uint32_t> &stack) {
+    const auto lowest = std::find_if(stack.begin(), stack.end(), &isOurs);
+    const auto highest = std::find_if(stack.rbegin(), stack.rend(), &isOurs).base();
     std::map<std::uint32_t, int> attempts;
     bool isCovered = false;
-    const auto lowest = std::find_if(stack.begin(), stack.end(), &isOurs);
-    for (auto window = lowest; window != stack.end(); ++window) {
-        if (!isOurs(*window) && !asksForPassword_[*window]) {
-            const int attempt = attempts_[*window] + 1;
-            attempts[*window] = attempt;
-            isCovered = isCovered || attempt <= mostAttempts;
+    for (auto window = stack.begin(); window != stack.end(); ++window) {
+        const bool asks = asksForPassword_[*window];
+        const bool isMisplaced = asks ? window < highest : window > lowest;
+        if (!isMisplaced || isOurs(*window)) {
+            continue;
+        }
+        const int attempt = attempts_[*window] + 1;
+        attempts[*window] = attempt;
+        if (attempt <= mostAttempts && asks) {
+            front_.setKeyboardGrabEnabled(false);
+            WindowList::lift(*window);
+        } else if (attempt <= mostAttempts) {
+            isCovered = true;
         }
     }
     attempts_ = std::move(attempts);

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <vector>
 
 class QWindow;
 
@@ -24,13 +25,15 @@ protected:
 
 private:
     void look();
-    bool isCovered(const std::vector<std::uint32_t> &stack);
+    void learn(const std::vector<std::uint32_t> &stack);
+    /// Lifts the dialogs for a password that are below ours. True if other windows are above ours.
+    bool findMisplaced(const std::vector<std::uint32_t> &stack);
 
     QWindow &front_;
     std::function<void()> bringToFront_;
     std::uint32_t stacking_;
     std::uint32_t active_;
-    std::map<std::uint32_t, int> attempts_; // By the windows that were found above ours.
+    std::map<std::uint32_t, int> attempts_; // By the windows that were found in the wrong place.
     std::map<std::uint32_t, bool> asksForPassword_;
     QTimer later_;
 };
