@@ -19,14 +19,13 @@ namespace velmar {
 namespace {
 
 Qt::WindowFlags flagsOf(const Window::Style &style) {
+    using Rank = Window::Style::Rank;
+    Qt::WindowFlags flags = style.rank == Rank::popover ? Qt::Tool : Qt::Window;
+    flags.setFlag(Qt::WindowStaysOnTopHint, style.rank != Rank::ordinary);
     if (!style.hasTitleBar) {
-        using Rank = Window::Style::Rank;
-        Qt::WindowFlags flags = style.rank == Rank::popover ? Qt::Tool : Qt::Window;
-        flags.setFlag(Qt::WindowStaysOnTopHint, style.rank != Rank::ordinary);
         return flags | Qt::FramelessWindowHint;
     }
-    Qt::WindowFlags flags =
-        Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
+    flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
     flags.setFlag(Qt::WindowCloseButtonHint, style.isClosable);
     return flags;
 }
