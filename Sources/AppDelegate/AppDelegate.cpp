@@ -168,6 +168,8 @@ void AppDelegate::applicationDidFinishLaunching() {
 }
 
 bool AppDelegate::applicationShouldTerminate() {
+    // While the script is waited for, nobody could lift the cover, and the script may have something to show.
+    customWindow_->uncoverScreens();
     terminationScript_.runBeforeTermination(AppTerminationManager::shared()->isInstallationComplete());
     return true;
 }

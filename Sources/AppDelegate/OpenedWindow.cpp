@@ -28,7 +28,7 @@ OpenedWindow::~OpenedWindow() = default;
 
 void OpenedWindow::open(std::shared_ptr<const ActionItems::OpenWindow> item) {
     const ScreenFrame screen = WindowPlacement::chooseScreen(surroundings_.screens(), std::nullopt);
-    close();
+    dismiss();
     window_ = std::make_unique<Window>(Window::Style{.hasTitleBar = true,
                                                      .isClosable = item->_isClosable(),
                                                      .isResizable = false,
@@ -56,12 +56,19 @@ void OpenedWindow::open(std::shared_ptr<const ActionItems::OpenWindow> item) {
 }
 
 void OpenedWindow::close() {
+    if (dismiss()) {
+        surroundings_.didClose();
+    }
+}
+
+bool OpenedWindow::dismiss() {
     // A handler of the window's own button may be what asks for it.
     if (Window *const former = window_.release()) {
         former->hide();
         former->deleteLater();
-        surroundings_.didClose();
+        return true;
     }
+    return false;
 }
 
 } // namespace velmar

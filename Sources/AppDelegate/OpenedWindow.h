@@ -38,6 +38,9 @@ public:
     [[nodiscard]] Window *window() const noexcept { return window_.get(); }
 
 private:
+    /// True if there was one.
+    bool dismiss();
+
     Surroundings surroundings_;
     MainMenu menu_;             // Without entries.
     NotificationCenter center_; // Of the window's slide alone.

@@ -11,7 +11,7 @@
 #include <Desktop/Window.h>
 #include <logger/Logger.h>
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 
 #include <algorithm>
 #include <cstdlib>
@@ -108,6 +108,11 @@ void CustomWindowAppDelegateService::buildWindow() {
     window_->show();
     window_->raise();
     window_->activateWindow();
+}
+
+void CustomWindowAppDelegateService::uncoverScreens() {
+    cover_.reset();
+    QGuiApplication::sync();
 }
 
 void CustomWindowAppDelegateService::setTitle() {
