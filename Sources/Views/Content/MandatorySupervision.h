@@ -3,8 +3,8 @@
 #include <Foundation/UUID.h>
 
 #include <algorithm>
-#include <map>
 #include <memory>
+#include <vector>
 
 namespace velmar {
 
@@ -34,29 +34,41 @@ public:
     virtual void showWarnings() = 0;
 };
 
-/// The elements that a supervisor keeps, by their identifiers.
+/// The elements that a supervisor keeps, one of an identifier, in the order in which they were first filed.
 class MandatoryElements {
 public:
     void file(const std::shared_ptr<MandatorySupervised> &element) {
-        elements_.insert_or_assign(element->mandatoryIdentifier(), element);
+        const auto former = std::ranges::find(elements_, element->mandatoryIdentifier(), identifierOf);
+        if (former == elements_.end()) {
+            elements_.push_back(element);
+        } else {
+            *former = element;
+        }
     }
 
     /// Forgets the element of an identifier, if there is one.
-    void remove(const UUID &identifier) { elements_.erase(identifier); }
+    void remove(const UUID &identifier) {
+        std::erase_if(elements_, [&](const auto &element) { return identifierOf(element) == identifier; });
+    }
 
     /// True also where there are none.
     [[nodiscard]] bool areValid() const {
-        return std::ranges::all_of(elements_, [](const auto &entry) { return entry.second->isValid(); });
+        return std::ranges::all_of(elements_, [](const auto &element) { return element->isValid(); });
     }
 
     void showWarnings() const {
-        for (const auto &[identifier, element] : elements_) {
+        // A warning may have elements come and go.
+        for (const auto &element : std::vector(elements_)) {
             element->showWarnings();
         }
     }
 
 private:
-    std::map<UUID, std::shared_ptr<MandatorySupervised>> elements_;
+    static const UUID &identifierOf(const std::shared_ptr<MandatorySupervised> &element) {
+        return element->mandatoryIdentifier();
+    }
+
+    std::vector<std::shared_ptr<MandatorySupervised>> elements_;
 };
 
 } // namespace velmar

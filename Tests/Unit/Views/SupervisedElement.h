@@ -2,6 +2,7 @@
 
 #include <Views/Content/MandatorySupervision.h>
 
+#include <functional>
 #include <memory>
 #include <utility>
 
@@ -17,7 +18,10 @@ public:
         supervisor_ = std::move(supervisor);
         set(isValid_);
     }
-    void showWarnings() override { ++warnings; }
+    void showWarnings() override {
+        ++warnings;
+        warned();
+    }
     void set(bool isValid) {
         isValid_ = isValid;
         if (const auto supervisor = supervisor_.lock()) {
@@ -25,6 +29,7 @@ public:
         }
     }
     int warnings = 0;
+    std::function<void()> warned = [] {};
 
 private:
     UUID identifier_;

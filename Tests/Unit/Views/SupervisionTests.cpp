@@ -59,11 +59,29 @@ TEST_F(Supervision, AnElementThatLeftNoLongerCountsUntilItComesBack) {
     slide->willAppear();
     left->set(false);
     posted.clear();
-    container->elementWasRemoved(left->mandatoryIdentifier());
+    container->elementWasRemoved(*left);
     EXPECT_EQ(std::exchange(posted, {}), std::vector{valid});
-    container->elementWasRemoved(left->mandatoryIdentifier());
+    container->elementWasRemoved(*left);
+    left->set(false);
+    EXPECT_TRUE(posted.empty()) << "what it reports late is nobody's any more";
     left->setMandatorySupervisor(container);
     EXPECT_EQ(posted, std::vector{invalid});
+}
+
+TEST_F(Supervision, WarningsComeInTheOrderOfFilingWhateverTheyBringAbout) {
+    std::vector<std::shared_ptr<SupervisedElement>> many(8);
+    std::vector<int> warned;
+    for (int index = 0; index < 8; ++index) {
+        auto &element = many[static_cast<std::size_t>(index)] = std::make_shared<SupervisedElement>();
+        element->warned = [&, index] {
+            warned.push_back(index);
+            container->elementWasRemoved(*many[static_cast<std::size_t>(index)]);
+        };
+        element->setMandatorySupervisor(container);
+    }
+    many.front()->set(false);
+    slide->showWarnings();
+    EXPECT_EQ(warned, (std::vector{0, 1, 2, 3, 4, 5, 6, 7}));
 }
 
 TEST_F(Supervision, AHiddenSlideKeepsSilentAndTellsOnArrival) {

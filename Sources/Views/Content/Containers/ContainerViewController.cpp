@@ -165,7 +165,11 @@ void ContainerViewController::prepare(const ComponentsChange &change) {
     }
     viewManagementAnimator_ = new ContainerViewManagementAnimator(column_, isAnimated);
     for (const std::size_t position : change.removed) {
-        viewManagementAnimator_->viewsToRemove.push_back(std::exchange(componentViews_[position], nullptr));
+        ComponentView *view = std::exchange(componentViews_[position], nullptr);
+        if (const auto element = view->mandatoryElement()) {
+            viewModel_->elementWasRemoved(*element);
+        }
+        viewManagementAnimator_->viewsToRemove.push_back(view);
     }
     for (const std::size_t position : change.inserted) {
         componentViews_[position] = makeView(position);
@@ -180,9 +184,6 @@ void ContainerViewController::animateRemoval(std::function<void()> completion) {
 
 void ContainerViewController::rebuildLayout() {
     for (ComponentView *view : std::exchange(viewManagementAnimator_->viewsToRemove, {})) {
-        if (const auto element = view->mandatoryElement()) {
-            viewModel_->elementWasRemoved(element->mandatoryIdentifier());
-        }
         view->deleteLater();
     }
     // Each is put before those behind it, so these come first.

@@ -15,8 +15,9 @@ void ContainerViewModel::elementDidChange(const std::shared_ptr<MandatorySupervi
     update();
 }
 
-void ContainerViewModel::elementWasRemoved(const UUID &identifier) {
-    elements_.remove(identifier);
+void ContainerViewModel::elementWasRemoved(MandatorySupervised &element) {
+    element.setMandatorySupervisor({});
+    elements_.remove(element.mandatoryIdentifier());
     update();
 }
 

@@ -18,9 +18,9 @@ public:
     /// Reports itself to its own supervisor when its validity changes by that.
     void elementDidChange(const std::shared_ptr<MandatorySupervised> &element) override;
 
-    /// An element that has left the container no longer counts. It is filed again when it comes back, by its
-    /// own report.
-    void elementWasRemoved(const UUID &identifier);
+    /// An element that leaves the container no longer counts and loses its supervisor, so that nothing it
+    /// reports later files it again. One that comes back is given its supervisor anew.
+    void elementWasRemoved(MandatorySupervised &element);
 
 private:
     void update();
