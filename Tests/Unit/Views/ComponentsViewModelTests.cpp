@@ -25,6 +25,7 @@ protected:
     void prepare(const ComponentsChange &change) override {
         asked.push_back(fmt::format("-{} +{}", change.removed, change.inserted));
     }
+    void giveKeyboardFocusBack() override { asked.emplace_back("focus back"); }
     void animateRemoval(std::function<void()> completion) override {
         asked.emplace_back("removal");
         end = std::move(completion);
@@ -88,12 +89,14 @@ TEST_F(Components, AnswerAllRequestsOfAnAnimationByOneReloadWithTheLastValues) {
     EXPECT_EQ(shown(components), ".x.") << "what is under way is not disturbed";
     asked.clear();
     endAnimation();
-    EXPECT_EQ(asked, (Asked{"focus", "-[] +[0]", "rebuild", "insertion"}));
+    EXPECT_EQ(asked, (Asked{"focus", "-[] +[0]", "focus back", "rebuild", "insertion"}));
     asked.clear();
     endAnimation();
     EXPECT_EQ(components.state(), idle);
     EXPECT_EQ(asked, Asked()) << "no request is left over";
     EXPECT_EQ(shown(components), "xx.");
+    components.reload();
+    EXPECT_EQ(asked, (Asked{"focus", "focus back"})) << "nothing changes";
 }
 
 TEST_F(Components, AreHiddenByAConditionThatCannotBeEvaluated) {

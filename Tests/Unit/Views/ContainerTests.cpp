@@ -9,7 +9,9 @@
 #include <Managers/PopulatePlugin.h>
 #include <Support/RecordedLog.h>
 
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QVariantAnimation>
 
@@ -173,24 +175,76 @@ TEST_F(Container, MayGoWhileSomethingIsUnderWay) {
     }
 }
 
-TEST_F(Container, TakesTheFocusOnlyFromItsComponentsAndOnlyWhileItIsOnShow) {
-    show({text("a", "A1"), text("b")});
+TEST_F(Container, HasOnlyItsComponentsLoseTheFocusForAReloadAndOnlyWhileItIsOnShow) {
+    set("B1", "true");
+    show({text("a", "A1"), text("b", "B1")});
     QWidget window;
     view->setParent(&window);
     QLineEdit beside(&window);
-    QLineEdit within(view->componentViews()[1]);
+    auto *within = new QLineEdit(view->componentViews()[1]);
     auto *area = view->findChild<QScrollArea *>();
+    int commits = 0;
+    for (const QLineEdit *edit : window.findChildren<QLineEdit *>()) {
+        QObject::connect(edit, &QLineEdit::editingFinished, edit, [&] { ++commits; });
+    }
+    view->show();
     window.show();
+    window.activateWindow();
+    settle();
     const struct {
         QWidget *focused;
-        bool isOnShow, isTaken;
-    } rows[] = {{&within, false, false}, {&within, true, true}, {&beside, true, false}, {area, true, false}};
+        bool isOnShow, goes;
+        int commits;
+        QWidget *then;
+    } rows[] = {{within, false, false, 0, within},  {within, true, false, 1, within},
+                {&beside, true, false, 0, &beside}, {area, true, false, 0, area},
+                {within, true, true, 1, &window},   {&beside, true, true, 0, &beside}};
     for (const auto &row : rows) {
         row.isOnShow ? view->viewWillAppear() : view->viewWillDisappear();
         row.focused->setFocus();
+        QKeyEvent typed(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, "x");
+        QCoreApplication::sendEvent(row.focused, &typed);
+        commits = 0;
+        if (row.goes) {
+            set("B1", "false");
+        }
         set("A1", top("a") < 0 ? "true" : "false");
         settle();
-        EXPECT_EQ(window.focusWidget() != row.focused, row.isTaken);
+        EXPECT_EQ(commits, row.commits);
+        EXPECT_EQ(window.focusWidget(), row.then);
+    }
+    view->setParent(nullptr);
+}
+
+TEST_F(Container, IsGoneThroughByTheTabKeyInTheOrderOfItsComponents) {
+    const auto button = [](const char *label, const char *condition) {
+        ComponentItem::Button item;
+        item._text.set(label);
+        item.common._condition.set(Expression(condition));
+        return ComponentItem{item};
+    };
+    set("ONE", "true");
+    show({button("1", "A1"), button("2", "ONE"), button("3", "A1"), text("4"), button("5", "ONE"),
+          button("6", "A1")});
+    QWidget window;
+    view->setParent(&window);
+    QPushButton bar("bar", &window);
+    window.show();
+    const auto order = [&] {
+        QStringList labels;
+        for (const QWidget *stop = bar.nextInFocusChain(); stop != &bar; stop = stop->nextInFocusChain()) {
+            if (const auto *stopped = qobject_cast<const QPushButton *>(stop)) {
+                labels.append(stopped->text());
+            }
+        }
+        return labels.join(u' ');
+    };
+    for (const char *value : {"true", "false", "true"}) {
+        set("A1", value);
+        settle();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_EQ(order(), *value == 't' ? "1 2 3 5 6" : "2 5");
+        EXPECT_EQ(view->findChild<QScrollArea *>()->focusPolicy(), Qt::NoFocus);
     }
     view->setParent(nullptr);
 }

@@ -36,10 +36,14 @@ void ComponentsViewModel::reload() {
     }
     controller_.takeKeyboardFocusAway();
     const ComponentsChange change = evaluateConditions();
-    if (change == ComponentsChange()) {
+    const bool isNothing = change == ComponentsChange();
+    if (!isNothing) {
+        controller_.prepare(change);
+    }
+    controller_.giveKeyboardFocusBack();
+    if (isNothing) {
         return;
     }
-    controller_.prepare(change);
     if (change.removed.empty()) {
         insert();
         return;

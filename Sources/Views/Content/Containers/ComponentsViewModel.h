@@ -31,8 +31,11 @@ public:
     /// From the components, before the conditions are looked at, so that what the user was entering counts.
     virtual void takeKeyboardFocusAway() = 0;
 
-    /// Makes the views that come.
+    /// Gives up the views that go, which stay in their places for now, and makes those that come.
     virtual void prepare(const ComponentsChange &change) = 0;
+
+    /// To what has lost it, if its component stays. Follows at once, also where nothing changes.
+    virtual void giveKeyboardFocusBack() = 0;
 
     /// Left out where nothing goes.
     virtual void animateRemoval(std::function<void()> completion) = 0;

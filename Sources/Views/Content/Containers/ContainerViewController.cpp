@@ -19,6 +19,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <map>
 #include <utility>
 
 namespace velmar {
@@ -151,8 +152,27 @@ void ContainerViewController::putInPlace(std::size_t position) {
 }
 
 void ContainerViewController::takeKeyboardFocusAway() {
-    if (const QWidget *focused = window()->focusWidget();
+    if (QWidget *focused = window()->focusWidget();
         isOnShow_ && focused != nullptr && column_->isAncestorOf(focused)) {
+        unfocused_ = focused;
+        focused->clearFocus();
+    }
+}
+
+void ContainerViewController::giveKeyboardFocusBack() {
+    const auto unfocused = std::exchange(unfocused_, std::nullopt);
+    // Losing it may have led the focus elsewhere.
+    if (!unfocused || window()->focusWidget() != nullptr) {
+        return;
+    }
+    QWidget *former = *unfocused;
+    const bool stays = former != nullptr && former->isEnabled() &&
+                       std::ranges::any_of(componentViews_, [former](const ComponentView *view) {
+                           return view != nullptr && view->isAncestorOf(former);
+                       });
+    if (stays) {
+        former->setFocus();
+    } else {
         giveFocusToSurroundings(*this);
     }
 }
@@ -192,7 +212,33 @@ void ContainerViewController::rebuildLayout() {
             putInPlace(position);
         }
     }
+    orderTabStops();
     updateAccessibleName();
+}
+
+void ContainerViewController::orderTabStops() {
+    std::map<const QWidget *, std::vector<QWidget *>> stops; // By the views that they stand in.
+    for (QWidget *stop = scrollArea_->nextInFocusChain(); stop != scrollArea_;
+         stop = stop->nextInFocusChain()) {
+        if (stop->focusPolicy() != Qt::NoFocus && column_->isAncestorOf(stop)) {
+            const QWidget *view = stop;
+            while (view->parentWidget() != column_) {
+                view = view->parentWidget();
+            }
+            stops[view].push_back(stop);
+        }
+    }
+    // Nothing is put behind a widget that takes no focus.
+    const Qt::FocusPolicy policy = scrollArea_->focusPolicy();
+    scrollArea_->setFocusPolicy(Qt::TabFocus);
+    QWidget *last = scrollArea_;
+    for (const ComponentView *view : componentViews_) {
+        for (QWidget *stop : stops[view]) {
+            setTabOrder(last, stop);
+            last = stop;
+        }
+    }
+    scrollArea_->setFocusPolicy(policy);
 }
 
 void ContainerViewController::animateInsertion(std::function<void()> completion) {

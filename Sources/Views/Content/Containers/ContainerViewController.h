@@ -6,9 +6,11 @@
 #include <Views/Content/VariablesRefresh.h>
 
 #include <QColor>
+#include <QPointer>
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QSpacerItem;
@@ -68,6 +70,7 @@ public:
 
     void takeKeyboardFocusAway() override;
     void prepare(const ComponentsChange &change) override;
+    void giveKeyboardFocusBack() override;
     void animateRemoval(std::function<void()> completion) override;
     void rebuildLayout() override;
     void animateInsertion(std::function<void()> completion) override;
@@ -80,6 +83,8 @@ private:
     /// A new view, in the column but not yet in its place.
     ComponentView *makeView(std::size_t position);
     void putInPlace(std::size_t position);
+    /// Has the Tab key go through the components in their order, from the scroll area on.
+    void orderTabStops();
     void updateAccessibleName();
     void updateBorderColor();
 
@@ -95,7 +100,8 @@ private:
     std::vector<ComponentView *> componentViews_;
     std::vector<QSpacerItem *> places_; // Empty; the view of a position stands right behind its place.
     ContainerViewManagementAnimator *viewManagementAnimator_ = nullptr; // Of the last change; the column's.
-    bool isOnShow_ = false; // By its slide; the widget itself is visible a while longer.
+    std::optional<QPointer<QWidget>> unfocused_; // What has lost the focus; null if it has gone meanwhile.
+    bool isOnShow_ = false;                      // By its slide; the widget itself is visible a while longer.
     std::optional<VariablesRefresh> variablesRefresh_; // None without conditions.
 };
 
