@@ -187,6 +187,40 @@ TEST_F(VelmarView, CatchesUpWhenTheUserIsFasterThanTheAnimation) {
     EXPECT_EQ(shownTexts(*content), QStringList("Second")) << "whatever transition was still to come";
 }
 
+TEST_F(VelmarView, HasTheLeavingSlideTakeNoClicks) {
+    appearance().setAnimated(true);
+    const QPoint onBoth(window.width() / 2 - 100, 30);
+    const auto slideAt = [&] {
+        const QWidget *widget = content->childAt(onBoth);
+        while (widget != nullptr && qobject_cast<const SlideViewController *>(widget) == nullptr) {
+            widget = widget->parentWidget();
+        }
+        return widget;
+    };
+    const auto *first = content->currentSlide();
+    EXPECT_EQ(slideAt(), first);
+    bar->pressNext();
+    queue.runUntilEmpty();
+    EXPECT_EQ(slideAt(), nullptr);
+    bar->pressPrevious();
+    queue.runUntilEmpty();
+    window.resize(610, 400);
+    settle();
+    EXPECT_EQ(slideAt(), first) << "it takes them again when it is back";
+}
+
+TEST_F(VelmarView, GoesBackFromBehindTheLastSlide) {
+    const auto model = std::make_shared<ContentViewModel>(queue, quits, center);
+    ContentViewController beyond(model, appearance(), &window);
+    model->setSelectedIndex(3, false);
+    beyond.rebuild();
+    EXPECT_EQ(beyond.currentSlide(), nullptr);
+    beyond.show();
+    model->setSelectedIndex(2, true);
+    settle();
+    EXPECT_EQ(shownTexts(beyond), QStringList("Third"));
+}
+
 TEST_F(VelmarView, TellsWhenTheAnimationOfAnEndIsOver) {
     std::vector<std::string> reached;
     std::vector<NotificationCenter::Token> tokens;

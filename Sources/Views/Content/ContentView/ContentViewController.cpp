@@ -53,8 +53,8 @@ void ContentViewController::rebuild() {
 }
 
 SlideViewController *ContentViewController::slide(int index) {
-    if (const auto known = slides_.find(index); known != slides_.end()) {
-        return known->second;
+    if (SlideViewController *known = madeSlide(index)) {
+        return known;
     }
     const auto items = viewModel_->slides();
     if (index < 0 || static_cast<std::size_t>(index) >= items->size()) {
@@ -68,9 +68,13 @@ SlideViewController *ContentViewController::slide(int index) {
     return view;
 }
 
+SlideViewController *ContentViewController::madeSlide(int index) const {
+    const auto made = slides_.find(index);
+    return made == slides_.end() ? nullptr : made->second;
+}
+
 SlideViewController *ContentViewController::currentSlide() const {
-    const auto current = slides_.find(currentSlideIndex_);
-    return current == slides_.end() ? nullptr : current->second;
+    return madeSlide(currentSlideIndex_);
 }
 
 std::shared_ptr<SlideViewModel> ContentViewController::currentSlideViewModel() const {
@@ -91,10 +95,12 @@ void ContentViewController::transition(int /*from*/, int to) {
     currentSlideIndex_ = to;
     if (SlideViewController *previous = slide(previousSlideIndex_)) {
         previous->viewWillDisappear();
+        previous->setAttribute(Qt::WA_TransparentForMouseEvents); // What is leaving takes no clicks.
         emit willLeave(*previous);
     }
     next->resize(size());
     next->viewWillAppear();
+    next->setAttribute(Qt::WA_TransparentForMouseEvents, false);
     place(0);
     next->show();
     next->raise();
@@ -109,13 +115,19 @@ void ContentViewController::place(double progress) {
     const bool isForward = (previousSlideIndex_ < currentSlideIndex_) != isRightToLeft();
     const int direction = isForward ? 1 : -1;
     const int shift = static_cast<int>(std::lround(progress * width()));
-    slides_.at(previousSlideIndex_)->move(-direction * shift, 0);
-    slides_.at(currentSlideIndex_)->move(direction * (width() - shift), 0);
+    if (SlideViewController *previous = madeSlide(previousSlideIndex_)) {
+        previous->move(-direction * shift, 0);
+    }
+    if (SlideViewController *current = currentSlide()) {
+        current->move(direction * (width() - shift), 0);
+    }
 }
 
 void ContentViewController::finishTransition() {
     place(1);
-    slides_.at(previousSlideIndex_)->hide();
+    if (SlideViewController *previous = madeSlide(previousSlideIndex_)) {
+        previous->hide();
+    }
     Logger::debug("Successfully operated the slide transition",
                   fmt::format("[{} -> {}]", previousSlideIndex_, currentSlideIndex_));
 }

@@ -42,7 +42,10 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    /// Null where there is no such slide.
     SlideViewController *slide(int index);
+    /// The same, null also for one that has not been made.
+    [[nodiscard]] SlideViewController *madeSlide(int index) const;
     void place(double progress);
     void finishTransition();
 
