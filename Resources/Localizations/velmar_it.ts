@@ -28,6 +28,11 @@
         <extracomment>What a reader of the screen calls a round button with a question mark</extracomment>
         <translation>Ulteriori informazioni</translation>
     </message>
+    <message id="components.button.untitled">
+        <source>Button</source>
+        <extracomment>What a reader of the screen calls a button without a title</extracomment>
+        <translation>Pulsante</translation>
+    </message>
     <message id="general.alerts.wait-for-complete-installation-before-quitting.title">
         <source>Some apps are not installed yet. You can quit once all of them are.</source>
         <extracomment>Text displayed when the user tries to quit the app although not all apps are installed</extracomment>

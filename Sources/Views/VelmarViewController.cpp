@@ -4,6 +4,7 @@
 #include <Views/Content/Containers/ContainerViewModel.h>
 #include <Views/Content/ContentView/ContentViewController.h>
 #include <Views/Content/Slides/SlideViewController.h>
+#include <Views/CustomViews/ColumnScrollArea.h>
 #include <Views/CustomViews/Pixels.h>
 #include <Views/Navigation/NavigationButton.h>
 #include <Views/Navigation/NavigationViewController.h>
@@ -11,12 +12,38 @@
 #include <Constants/TerminationNotifications.h>
 #include <Interaction/AlertPresenter.h>
 
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
 #include <utility>
 
 namespace velmar {
+
+namespace {
+
+/// What readers of the screen find where the focus is on nothing in particular: a group that is called like
+/// the first container of the slide on show.
+class AccessibleContent final : public QAccessibleWidget {
+public:
+    explicit AccessibleContent(QWidget *widget) : QAccessibleWidget(widget, QAccessible::Grouping) {}
+
+    [[nodiscard]] QString text(QAccessible::Text kind) const override {
+        const auto *content = widget()->findChild<ContentViewController *>();
+        const auto *slide = content == nullptr ? nullptr : content->currentSlide();
+        const auto *container = slide == nullptr ? nullptr : slide->findChild<ColumnScrollArea *>();
+        return kind == QAccessible::Name && container != nullptr ? container->accessibleName()
+                                                                 : QAccessibleWidget::text(kind);
+    }
+};
+
+QAccessibleInterface *accessibleContent(const QString &className, QObject *object) {
+    return className == QLatin1String(VelmarViewController::staticMetaObject.className())
+               ? new AccessibleContent(static_cast<QWidget *>(object))
+               : nullptr;
+}
+
+} // namespace
 
 VelmarViewController::VelmarViewController(Surroundings surroundings, QWidget *parent)
     : QWidget(parent),
@@ -36,7 +63,8 @@ VelmarViewController::VelmarViewController(Surroundings surroundings, QWidget *p
     buildNavigation();
     contentViewController_ = new ContentViewController(contentViewModel_, surroundings_.appearance, this);
     column_->insertWidget(0, contentViewController_, 1);
-    setFocusPolicy(Qt::ClickFocus); // No stop of the Tab key: it shows no ring.
+    QAccessible::installFactory(&accessibleContent); // Once, however often it is called.
+    setFocusPolicy(Qt::ClickFocus);                  // No stop of the Tab key: it shows no ring.
     connect(contentViewController_, &ContentViewController::willLeave, this,
             &VelmarViewController::contentWillLeave);
     orderTabStops();

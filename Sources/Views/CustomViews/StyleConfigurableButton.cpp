@@ -35,6 +35,11 @@ void StyleConfigurableButton::setContent(const QString &title, std::optional<Col
         setToolTip(title);
     } else {
         setLabel(title);
+        if (title.isEmpty()) {
+            //: What a reader of the screen calls a button without a title
+            //% "Button"
+            setAccessibleName(qtTrId("components.button.untitled"));
+        }
     }
     updateColors();
 }

@@ -11,6 +11,7 @@
 #include <Constants/TerminationNotifications.h>
 #include <Testing/TestAlertPresenter.h>
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -219,6 +220,15 @@ TEST_F(VelmarView, GoesBackFromBehindTheLastSlide) {
     model->setSelectedIndex(2, true);
     settle();
     EXPECT_EQ(shownTexts(beyond), QStringList("Third"));
+}
+
+TEST_F(VelmarView, IsCalledLikeItsSlideByReadersOfTheScreen) {
+    for (const char *name : {"Line 0", "Second"}) {
+        auto *interface = QAccessible::queryAccessibleInterface(view.get());
+        EXPECT_EQ(interface->text(QAccessible::Name), name);
+        EXPECT_EQ(interface->role(), QAccessible::Grouping);
+        press(Qt::Key_Right);
+    }
 }
 
 TEST_F(VelmarView, TellsWhenTheAnimationOfAnEndIsOver) {
