@@ -60,6 +60,13 @@ public:
         set_.item = std::move(item);
     }
 
+    ~SetRun() {
+        // They hold the notes that hold them.
+        static_cast<void>(notes_->mutate([](Notes &held) { return std::exchange(held.waiting, {}); }));
+    }
+    SetRun(const SetRun &) = delete;
+    SetRun &operator=(const SetRun &) = delete;
+
     void start() {
         auto over = std::make_shared<std::promise<void>>();
         over_ = over->get_future().share();
