@@ -56,8 +56,9 @@ int run(int argumentCount, char **arguments, LaunchOptions options) {
         DesktopPasteboard pasteboard;
         DesktopSoundPlayer sounds(application.mainQueue(), DesktopSoundPlayer::placesOfProcess());
         DesktopUserNotifications notifications;
-        SystemRunningApplications runningApplications(application.mainQueue(), application.timers(),
-                                                      ProcessWatch::placesOfProcess(authority));
+        SystemRunningApplications runningApplications(
+            application.mainQueue(), application.timers(),
+            [&authority] { return ProcessWatch::placesOfProcess(authority); });
         AppDelegate delegate({.application = application,
                               .alerts = alerts,
                               .pasteboard = pasteboard,

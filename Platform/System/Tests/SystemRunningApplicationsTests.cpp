@@ -39,9 +39,9 @@ TEST(SystemRunningApplications, TellAProcessOfThisMachine) {
     std::filesystem::copy_file("/bin/sleep", program);
     CountingQueue mainQueue;
     TestTimerScheduler timers;
-    SystemRunningApplications applications(
-        mainQueue, timers,
-        {.processes = "/proc", .applications = {}, .executables = {}, .users = {geteuid()}});
+    SystemRunningApplications applications(mainQueue, timers, []() -> ProcessWatch::Places {
+        return {.processes = "/proc", .applications = {}, .executables = {}, .users = {geteuid()}};
+    });
     std::vector<RunningApplication> started;
     auto observation = applications.observe([&](const RunningApplication &application) {
         if (application.identifier == "velmar-test-program")

@@ -71,11 +71,11 @@ private:
 };
 
 SystemRunningApplications::SystemRunningApplications(MainQueue &mainQueue, TimerScheduler &timers,
-                                                     ProcessWatch::Places places)
+                                                     std::function<ProcessWatch::Places()> places)
     : mainQueue_(mainQueue), timers_(timers), places_(std::move(places)) {}
 
 std::unique_ptr<RunningApplications::Observation> SystemRunningApplications::observe(Observer observer) {
-    return std::make_unique<Watching>(mainQueue_, timers_, std::move(observer), places_);
+    return std::make_unique<Watching>(mainQueue_, timers_, std::move(observer), places_());
 }
 
 } // namespace velmar

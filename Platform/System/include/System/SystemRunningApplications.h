@@ -7,6 +7,7 @@
 #include <Dispatch/Timer.h>
 
 #include <chrono>
+#include <functional>
 
 namespace velmar {
 
@@ -14,8 +15,10 @@ namespace velmar {
 /// start is told within a second and a half, most of them within one.
 class SystemRunningApplications final : public RunningApplications {
 public:
-    /// The main queue and the timers must outlive the observations.
-    SystemRunningApplications(MainQueue &mainQueue, TimerScheduler &timers, ProcessWatch::Places places);
+    /// The main queue and the timers must outlive the observations. The places are asked for at each one, so
+    /// that looking for them costs nothing where nobody observes.
+    SystemRunningApplications(MainQueue &mainQueue, TimerScheduler &timers,
+                              std::function<ProcessWatch::Places()> places);
 
     [[nodiscard]] std::unique_ptr<Observation> observe(Observer observer) override;
 
@@ -25,7 +28,7 @@ private:
     class Watching;
     MainQueue &mainQueue_;
     TimerScheduler &timers_;
-    ProcessWatch::Places places_;
+    std::function<ProcessWatch::Places()> places_;
 };
 
 } // namespace velmar
