@@ -12,16 +12,6 @@
 
 namespace velmar {
 
-namespace {
-
-void place(Window &window, const WindowPositionItem &position, const ScreenFrame &screen) {
-    const QSize size = window.frameSize();
-    const auto [x, y] = WindowPlacement::originOf(position, size.width(), size.height(), screen);
-    window.moveFrame({x, y});
-}
-
-} // namespace
-
 OpenedWindow::OpenedWindow(Surroundings surroundings) : surroundings_(std::move(surroundings)) {}
 
 OpenedWindow::~OpenedWindow() = default;
@@ -46,9 +36,10 @@ void OpenedWindow::open(std::shared_ptr<const ActionItems::OpenWindow> item) {
     window_->setAccessibleName(QCoreApplication::applicationName());
 
     const WindowPositionItem position = item->_position().value_or(WindowPositionItem());
-    place(*window_, position, screen);
-    QObject::connect(window_.get(), &Window::framed, window_.get(),
-                     [window = window_.get(), position, screen] { place(*window, position, screen); });
+    WindowPlacement::place(*window_, position, screen);
+    QObject::connect(
+        window_.get(), &Window::framed, window_.get(),
+        [window = window_.get(), position, screen] { WindowPlacement::place(*window, position, screen); });
     slide->viewWillAppear();
     window_->show();
     window_->raise();

@@ -34,9 +34,6 @@ public:
     void open(std::shared_ptr<const ActionItems::OpenWindow> item) override;
     void close() override;
 
-    /// Null while none is open.
-    [[nodiscard]] Window *window() const noexcept { return window_.get(); }
-
 private:
     /// True if there was one.
     bool dismiss();

@@ -1,6 +1,5 @@
 #include <AppDelegate/Services/ApplicationTerminationAppDelegateService.h>
 
-#include <Configuration/Configuration.h>
 #include <Desktop/MainMenu.h>
 #include <Extensions/LoggerExtensions.h>
 
@@ -19,16 +18,8 @@ void disableQuitShortcut(MenuItem &quitItem) {
 } // namespace
 
 ApplicationTerminationAppDelegateService::ApplicationTerminationAppDelegateService(
-    MainMenu &mainMenu, std::shared_ptr<AppTerminationManagerProtocol> appTerminationManager,
-    Config<AppTerminationSection> appTermination)
-    : _appTermination(std::move(appTermination)),
-      mainMenu_(mainMenu),
-      appTerminationManager_(std::move(appTerminationManager)) {}
-
-Config<AppTerminationSection> ApplicationTerminationAppDelegateService::configuredTermination() {
-    return Config<AppTerminationSection>(
-        [](const Configuration &c) -> decltype(auto) { return c._appTermination(); });
-}
+    MainMenu &mainMenu, std::shared_ptr<AppTerminationManagerProtocol> appTerminationManager)
+    : mainMenu_(mainMenu), appTerminationManager_(std::move(appTerminationManager)) {}
 
 void ApplicationTerminationAppDelegateService::applicationDidFinishLaunching() {
     std::vector<MenuItem> items = mainMenu_.items();

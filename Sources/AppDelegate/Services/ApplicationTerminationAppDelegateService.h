@@ -1,7 +1,7 @@
 #pragma once
 
 #include <AppDelegate/AppDelegateService.h>
-#include <Configuration/AppTerminationSection.h>
+#include <Configuration/Configuration.h>
 #include <Managers/AppTerminationManager.h>
 #include <Managers/Config.h>
 
@@ -16,18 +16,15 @@ class MainMenu;
 class ApplicationTerminationAppDelegateService final : public AppDelegateService {
 public:
     explicit ApplicationTerminationAppDelegateService(
-        MainMenu &mainMenu,
-        std::shared_ptr<AppTerminationManagerProtocol> appTerminationManager =
-            AppTerminationManager::shared(),
-        Config<AppTerminationSection> appTermination = configuredTermination());
+        MainMenu &mainMenu, std::shared_ptr<AppTerminationManagerProtocol> appTerminationManager =
+                                AppTerminationManager::shared());
 
     /// A menu without a Quit entry, the last one of its first submenu, is left as it is.
     void applicationDidFinishLaunching() override;
 
 private:
-    [[nodiscard]] static Config<AppTerminationSection> configuredTermination();
-
-    Config<AppTerminationSection> _appTermination;
+    Config<AppTerminationSection> _appTermination{
+        [](const Configuration &c) -> decltype(auto) { return c._appTermination(); }};
     MainMenu &mainMenu_;
     std::shared_ptr<AppTerminationManagerProtocol> appTerminationManager_;
 };

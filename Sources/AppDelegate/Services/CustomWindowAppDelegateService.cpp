@@ -136,11 +136,8 @@ void CustomWindowAppDelegateService::arrange(const WindowPresentation &presentat
 
 void CustomWindowAppDelegateService::place() {
     const auto section = _windowConfig.wrappedValue();
-    const QSize size = window_->frameSize();
-    const auto [x, y] = WindowPlacement::originOf(
-        section->_position(), size.width(), size.height(),
-        WindowPlacement::chooseScreen(surroundings_.screens(), section->_screenIndex()));
-    window_->moveFrame({x, y});
+    WindowPlacement::place(*window_, section->_position(),
+                           WindowPlacement::chooseScreen(surroundings_.screens(), section->_screenIndex()));
 }
 
 void CustomWindowAppDelegateService::screensChanged() {

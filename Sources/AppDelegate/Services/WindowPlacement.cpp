@@ -2,6 +2,8 @@
 
 #include <Models/VelmarError.h>
 
+#include <Desktop/Window.h>
+
 #include <algorithm>
 #include <cmath>
 
@@ -55,6 +57,12 @@ Origin originOf(const WindowPositionItem &position, int width, int height, const
         break;
     }
     return {coordinate(x), coordinate(y)};
+}
+
+void place(Window &window, const WindowPositionItem &position, const ScreenFrame &screen) {
+    const QSize size = window.frameSize();
+    const auto [x, y] = originOf(position, size.width(), size.height(), screen);
+    window.moveFrame({x, y});
 }
 
 } // namespace velmar::WindowPlacement
