@@ -18,6 +18,13 @@ constexpr auto casesOf(TypeIdentifier) {
         {{TypeIdentifier::application, "Application"}, {TypeIdentifier::file, "File"}});
 }
 
+/// The key that every monitor begins with.
+struct MonitorItemProtocol {
+    using IsKeyGroup = void;
+
+    ConditionKeyWrapper _condition{"Condition", optional}; ///< Absent: "IsMandatory" decides what counts.
+};
+
 /// An application whose installation is followed.
 struct App {
     static constexpr std::string_view typeName = "MonitorItem.App";
@@ -36,7 +43,7 @@ struct App {
     /// "My App".
     [[nodiscard]] static std::string stateVariableName(std::string_view name);
 
-    ConditionKeyWrapper _condition{"Condition", optional};
+    MonitorItemProtocol common;
     VariableKeyWrapper<std::string> _name{
         "Name", required, [](const std::string &name) { return std::vector{stateVariableName(name)}; },
         DeclaringForm::populated};
@@ -54,7 +61,7 @@ struct File {
     static constexpr std::string_view typeName = "MonitorItem.File";
     static constexpr TypeIdentifier typeIdentifier = TypeIdentifier::file;
 
-    ConditionKeyWrapper _condition{"Condition", optional};
+    MonitorItemProtocol common;
     KeyWrapper<std::string> _path{"Path", required};
     KeyWrapper<bool> _isMandatory{false, "IsMandatory", optional};
 };
@@ -69,14 +76,16 @@ struct MonitorItem {
     static constexpr bool tellsTypeFaultsAlike = true;
 
     using TypeIdentifier = MonitorItems::TypeIdentifier;
+    using MonitorItemProtocol = MonitorItems::MonitorItemProtocol;
     using App = MonitorItems::App;
     using File = MonitorItems::File;
 
     std::variant<App, File> value;
 
     [[nodiscard]] const std::optional<Expression> &condition() const {
-        return std::visit([](const auto &monitor) -> decltype(auto) { return monitor._condition.rawValue(); },
-                          value);
+        return std::visit(
+            [](const auto &monitor) -> decltype(auto) { return monitor.common._condition.rawValue(); },
+            value);
     }
 };
 
