@@ -3,6 +3,8 @@
 #include <DefinedVariables.h>
 #include <ItemVisitor.h>
 
+#include <Network/APIRequest/RequestBody.h>
+
 #include <boost/unordered/unordered_flat_set.hpp>
 #include <fmt/format.h>
 
@@ -48,6 +50,12 @@ public:
         }
     }
 
+    void visitAction(const ActionItem &action, const ItemPlace &place) override {
+        if (const auto *const send = std::get_if<ActionItem::SendRequest>(&action.value)) {
+            judgeBody(*send->_request.rawValue(), send->_request.name().stringValue, place);
+        }
+    }
+
     void visitNotificationAction(const ActionItem::DisplayNotification::NotificationAction &item,
                                  const ItemPlace &place) override {
         judgeTrigger(item._trigger.rawValue(), item._trigger.name().stringValue, place);
@@ -68,6 +76,24 @@ private:
         if (name.find("${") == std::string::npos && !customTriggers_.contains(name)) {
             warnings_.push_back(
                 place.warning(key, fmt::format("No set of 'ActionSets' has the trigger 'Custom({})'", name)));
+        }
+    }
+
+    // Of the body as the file has it: values of variables may spoil it still.
+    void judgeBody(const APIRequestItem &request, std::string_view key, const ItemPlace &place) {
+        const auto &body = request._body.rawValue();
+        const auto &defaultApi = configuration_._apiRequests.rawValue()._defaultMDMApi.rawValue();
+        const std::optional<MDMApi> api = request._api.rawValue() ? request._api.rawValue() : defaultApi;
+        if (!body || !api) {
+            return;
+        }
+        try {
+            static_cast<void>(encodedBody(*body, encodingFormat(*api), request._body.codingPath()));
+        } catch (const InvalidXMLBody &error) {
+            warnings_.push_back(place.warning(
+                key, fmt::format(
+                         "{} The server '{}' takes a dictionary with one key, and names of elements as keys",
+                         error.errorDescription(), rawString(*api))));
         }
     }
 

@@ -10,8 +10,9 @@ struct Configuration;
 class PropertyList;
 
 /// Warns of parts that do nothing as they stand: a container without width, a trigger that fires no set or
-/// that nothing fires, and an application of the installer "System" without an identifier. That installer's
-/// log names applications by their identifiers alone; the others go by names.
+/// that nothing fires, an application of the installer "System" without an identifier, and a request whose
+/// server takes XML with a body that cannot be written so. That installer's log names applications by their
+/// identifiers alone; the others go by names.
 [[nodiscard]] std::vector<UsageWarning> ineffectiveParts(const PropertyList &file,
                                                          const Configuration &configuration);
 

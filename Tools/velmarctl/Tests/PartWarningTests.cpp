@@ -167,25 +167,33 @@ TEST_F(PartWarningTest, NamesPartsThatDoNothing) {
         return item(entry("Type", "Application") + entry("Name", "My App") + entry("Installer", installer) +
                     keys);
     };
+    const auto request = [](std::string_view api) {
+        return item(entry("Type", "SendRequest") + "<key>Request</key>" +
+                    item(entry("MDMApi", api) + "<key>Body</key>" + item(entry("a", "1") + entry("b", "2"))));
+    };
     const std::string triggers =
         "<string>Custom(Known)</string><string>Update(AB)</string><string>Update(USER_NAME)</string>"
         "<string>Update(MY_APP_INSTALLATION_STATE)</string><string>Update(CD)</string>";
-    const std::string text = warnings(
-        slide(trigger("Known") + trigger("${USER_NAME}") + trigger("Other")) +
-            item(list("Containers", container("0") + container("1"))),
-        "<key>General</key>" + item("<key>Variables</key>" + item(entry("AB", "1"))) +
-            list("ActionSets", set(notification, list("Triggers", triggers))) + "<key>Monitoring</key>" +
-            item(list("Monitors", app("Jamf") + app("Managed") + app("System", entry("Identifier", "a.b")) +
-                                      app("System"))));
+    const std::string text =
+        warnings(slide(trigger("Known") + trigger("${USER_NAME}") + trigger("Other")) +
+                     item(list("Containers", container("0") + container("1"))),
+                 "<key>General</key>" + item("<key>Variables</key>" + item(entry("AB", "1"))) +
+                     list("ActionSets", set(notification + request("Airwatch") + request("Jamf"),
+                                            list("Triggers", triggers))) +
+                     "<key>Monitoring</key>" +
+                     item(list("Monitors", app("Jamf") + app("Managed") +
+                                               app("System", entry("Identifier", "a.b")) + app("System"))));
     const std::string head = "x.plist:[0-9]+: warning: ";
-    EXPECT_THAT(text,
-                testing::MatchesRegex(
-                    head +
-                    "Slides.0.Containers.0.Components.2.Trigger: No set of .* trigger 'Custom\\(Other\\)'\n" +
-                    head + "Slides.1.Containers.0.WidthRatio: The container has no width, .*\n" + head +
-                    "ActionSets.0.Actions.0.Actions.1.Trigger: No set of .* trigger 'Custom\\(known\\)'\n" +
-                    head + "ActionSets.0.Triggers.4: Nothing defines the variable 'CD', .*\n" + head +
-                    "Monitoring.Monitors.3: Without 'Identifier' .*\n"));
+    EXPECT_THAT(
+        text,
+        testing::MatchesRegex(
+            head + "Slides.0.Containers.0.Components.2.Trigger: No set of .* trigger 'Custom\\(Other\\)'\n" +
+            head + "Slides.1.Containers.0.WidthRatio: The container has no width, .*\n" + head +
+            "ActionSets.0.Actions.0.Actions.1.Trigger: No set of .* trigger 'Custom\\(known\\)'\n" + head +
+            "ActionSets.0.Actions.2.Request: Invalid XML body for request at "
+            "'ActionSets.0.Actions.2.Request.Body'. The server 'Jamf' .*\n" +
+            head + "ActionSets.0.Triggers.4: Nothing defines the variable 'CD', .*\n" + head +
+            "Monitoring.Monitors.3: Without 'Identifier' .*\n"));
 }
 
 TEST_F(PartWarningTest, FollowsTheWaysBetweenSlides) {

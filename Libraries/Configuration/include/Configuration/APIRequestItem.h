@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Configuration/BodyItem.h>
+#include <Configuration/BodyKeyWrapper.h>
 #include <Configuration/KeyWrapper.h>
 #include <Configuration/MDMApi.h>
 #include <Configuration/VariableKeyWrapper.h>
@@ -35,7 +35,7 @@ struct APIRequestItem {
     KeyWrapper<Method> _method{Method::get, "Method", optional};
     KeyWrapper<std::optional<Texts>> _headers{"Headers", optional};
     KeyWrapper<std::optional<Texts>> _parameters{"Parameters", optional};
-    KeyWrapper<std::optional<BodyItem>> _body{"Body", optional};
+    BodyKeyWrapper _body{"Body", optional};
     KeyWrapper<std::optional<MDMApi>> _api{"MDMApi", optional}; ///< Absent: "DefaultMDMApi" of "APIRequests".
     /// Where in the answer the values of which variables stand.
     VariableKeyWrapper<std::optional<Texts>> _variableReadingPaths{"VariableReadingPaths", optional,
