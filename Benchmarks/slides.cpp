@@ -191,10 +191,7 @@ int main(int argumentCount, char **arguments) {
     DesktopAppearance appearance;
     Theme::install(appearance);
     const Shared<ConditionEvaluator>::Scope evaluator(std::make_shared<ConditionEvaluator>(
-        Config<ConditionEvaluator::NamedConditions>(
-            [](const Configuration &c) -> decltype(auto) { return c._conditions(); },
-            ConditionEvaluator::NamedConditions()),
-        ContentManager::shared()));
+        ConditionEvaluator::NamedConditions(), ContentManager::shared()));
 
     const double reference = median(bareFrames(application));
     const std::vector<double> frames = transitionFrames(application, appearance);

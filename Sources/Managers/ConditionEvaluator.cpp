@@ -12,14 +12,12 @@ namespace velmar {
 using expressions::Expression;
 
 ConditionEvaluator::ConditionEvaluator()
-    : ConditionEvaluator(Config<NamedConditions>([](const Configuration &configuration) -> decltype(auto) {
-                             return configuration._conditions();
-                         }),
-                         nullptr) {}
+    : _conditions([](const Configuration &c) -> decltype(auto) { return c._conditions(); }) {}
 
-ConditionEvaluator::ConditionEvaluator(Config<NamedConditions> conditions,
+ConditionEvaluator::ConditionEvaluator(NamedConditions conditions,
                                        std::shared_ptr<const ContentManagerProtocol> contentManager)
-    : _conditions(std::move(conditions)), contentManager_(std::move(contentManager)) {}
+    : _conditions(Config<NamedConditions>::always(std::move(conditions))),
+      contentManager_(std::move(contentManager)) {}
 
 bool ConditionEvaluator::evaluate(const Expression &condition) {
     const View now = view();

@@ -24,7 +24,8 @@ public:
     using NamedConditions = ExpressionsBook<expressions::Expression>;
 
     ConditionEvaluator(); ///< Of the configuration and the shared store, those of the moment.
-    ConditionEvaluator(Config<NamedConditions> conditions,
+    /// Of a book that stays; a null store is the shared one.
+    ConditionEvaluator(NamedConditions conditions,
                        std::shared_ptr<const ContentManagerProtocol> contentManager);
 
     [[nodiscard]] static std::shared_ptr<ConditionEvaluator> shared() {

@@ -24,11 +24,16 @@ class Config {
 public:
     template <class KeyPath>
     requires std::is_invocable_v<const KeyPath &, const Configuration &>
-    explicit Config(KeyPath keyPath, std::optional<T> overrideValue = std::nullopt)
+    explicit Config(KeyPath keyPath)
         : keyPath_([keyPath = std::move(keyPath)](std::shared_ptr<const Configuration> configuration) {
               return read(keyPath, std::move(configuration));
-          }) {
-        setOverrideValue(std::move(overrideValue));
+          }) {}
+
+    /// Reads this value and no configuration.
+    [[nodiscard]] static Config always(T value) {
+        Config config;
+        config.setOverrideValue(std::move(value));
+        return config;
     }
 
     /// The value, never null; it stays valid and unchanged while it is held, whatever is reloaded meanwhile.
@@ -46,6 +51,8 @@ public:
     }
 
 private:
+    Config() = default;
+
     template <class KeyPath>
     static std::shared_ptr<const T> read(const KeyPath &keyPath,
                                          std::shared_ptr<const Configuration> configuration) {

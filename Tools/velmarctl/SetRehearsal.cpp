@@ -16,7 +16,6 @@
 
 #include <fmt/format.h>
 
-#include <array>
 #include <chrono>
 #include <span>
 #include <utility>
@@ -32,10 +31,8 @@ public:
         : BaseDestination(settings()), record_(std::move(record)) {}
 
     void write(std::span<const LogRecord> records) override {
-        static constexpr std::array levels{"verbose", "debug", "info", "warning", "error"};
         for (const LogRecord &record : records) {
-            record_->detail(
-                fmt::format("{}: {}", levels.at(static_cast<std::size_t>(record.level)), record.message));
+            record_->detail(fmt::format("{}: {}", nameOf(record.level), record.message));
         }
     }
 
@@ -79,11 +76,8 @@ public:
         const ScopedDestinations log({std::make_shared<LogLines>(record_)});
         const auto plugin =
             Plugins::registerPlugin(std::make_shared<const AppManager::PopulatePlugin>(contentManager_));
-        const Shared<ConditionEvaluator>::Scope evaluator(std::make_shared<ConditionEvaluator>(
-            Config<ConditionEvaluator::NamedConditions>(
-                [](const Configuration &c) -> decltype(auto) { return c._conditions(); },
-                configuration_->_conditions()),
-            contentManager_));
+        const Shared<ConditionEvaluator>::Scope evaluator(
+            std::make_shared<ConditionEvaluator>(configuration_->_conditions(), contentManager_));
         const auto start = std::chrono::steady_clock::now();
         dispatch();
         static_cast<void>(record_->mainQueue.runUntil([this] { return isOver(); }, forever));

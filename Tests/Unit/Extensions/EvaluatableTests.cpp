@@ -19,10 +19,8 @@ using NamedConditions = ConditionEvaluator::NamedConditions;
 class EvaluatableTest : public testing::Test {
 protected:
     void use(NamedConditions::Models conditions, std::shared_ptr<ContentManagerProtocol> content = {}) {
-        scope_.emplace(std::make_shared<ConditionEvaluator>(
-            Config<NamedConditions>([](const Configuration &) { return NamedConditions(); },
-                                    NamedConditions(std::move(conditions))),
-            content ? std::move(content) : manager_));
+        scope_.emplace(std::make_shared<ConditionEvaluator>(NamedConditions(std::move(conditions)),
+                                                            content ? std::move(content) : manager_));
     }
 
     std::shared_ptr<ContentManager> manager_ = std::make_shared<ContentManager>();

@@ -204,10 +204,8 @@ TEST(ActionDispatcher, LogsTheNumberOfActionsBeforeTheyHaveEnded) {
 TEST(ActionDispatcher, RunsASetOnlyIfItsConditionHolds) {
     const auto store = std::make_shared<ContentManager>();
     store->updateVariable("NAME", "Ann", false);
-    using NamedConditions = ConditionEvaluator::NamedConditions;
-    const Shared<ConditionEvaluator>::Scope evaluator(std::make_shared<ConditionEvaluator>(
-        Config<NamedConditions>([](const Configuration &) { return NamedConditions(); }, NamedConditions()),
-        store));
+    const Shared<ConditionEvaluator>::Scope evaluator(
+        std::make_shared<ConditionEvaluator>(ConditionEvaluator::NamedConditions(), store));
     for (const auto type : {ExecutionType::parallel, ExecutionType::chained}) {
         const struct {
             const char *condition;

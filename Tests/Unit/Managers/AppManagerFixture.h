@@ -29,14 +29,25 @@ protected:
     }
     ~AppManagerFixture() override { ::unsetenv("XDG_CONFIG_HOME"); }
 
-    /// A configuration with one slide and the sections given, as the file "x.plist".
-    std::string writeConfiguration(std::string_view sections, ::mode_t mode = 0644) const {
-        return writeFile(fmt::format(R"(<plist version="1.0"><dict>{}<key>Slides</key><array><dict>
-            <key>Containers</key><array><dict><key>Components</key><array><dict>
-            <key>Type</key><string>Text</string><key>Text</key><string>Hello.</string>
-            </dict></array></dict></array></dict></array></dict></plist>)",
-                                     sections),
-                         mode);
+    /// A configuration with these sections and slides, as the file "x.plist".
+    std::string writeConfiguration(std::string_view sections, ::mode_t mode = 0644,
+                                   const std::string &slides = slideOf(textComponent("Hello."))) const {
+        return writeFile(
+            fmt::format("<plist version=\"1.0\"><dict>{}<key>Slides</key><array>{}</array></dict>"
+                        "</plist>",
+                        sections, slides),
+            mode);
+    }
+
+    static std::string textComponent(std::string_view text) {
+        return fmt::format(
+            "<dict><key>Type</key><string>Text</string><key>Text</key><string>{}</string></dict>", text);
+    }
+
+    static std::string slideOf(std::string_view components) {
+        return fmt::format("<dict><key>Containers</key><array><dict><key>Components</key><array>{}</array>"
+                           "</dict></array></dict>",
+                           components);
     }
 
     std::string writeFile(std::string_view content, ::mode_t mode = 0644) const {

@@ -1,54 +1,17 @@
 #include "AppManagerFixture.h"
 
 #include <Configuration/Configuration.h>
-#include <Configuration/ConfigurationError.h>
-#include <Models/VelmarError.h>
-
-#include <gmock/gmock.h>
-
-#include <stdexcept>
 
 namespace velmar {
 namespace {
 
 using AppManagerTest = AppManagerFixture;
-using testing::ElementsAre;
 
 constexpr AppManager::KeyModifiers allFour{true, true, true, true};
 
 std::string forceQuitKey(std::string_view key) {
     return fmt::format(
         "<key>AppTermination</key><dict><key>ForceQuitShortcutKey</key><string>{}</string></dict>", key);
-}
-
-TEST_F(AppManagerTest, IsNotMadeOfARefusedFile) {
-    EXPECT_THROW(makeAppManager(), VelmarError) << "no file";
-    writeConfiguration("", 0646);
-    EXPECT_THROW(makeAppManager(), VelmarError) << "wrong permissions";
-    writeFile("<plist><dict/></plist>");
-    EXPECT_THROW(makeAppManager(), ConfigurationError) << "no slides";
-    writeFile("no property list");
-    EXPECT_THROW(makeAppManager(), PropertyListError);
-    EXPECT_EQ(keyDownMonitor_, nullptr);
-}
-
-TEST_F(AppManagerTest, ReloadsWithoutJudgingTheFileAgain) {
-    writeConfiguration(title("One"));
-    const auto manager = makeAppManager();
-    const auto before = manager->configuration();
-    writeConfiguration(title("Two"), 0666);
-    static_cast<void>(log_.takeLines());
-
-    manager->reloadInterface(false);
-    EXPECT_EQ(manager->configuration()->_window()._title(), "Two");
-    EXPECT_EQ(before->_window()._title(), "One") << "who still reads the former one is not disturbed";
-    EXPECT_THAT(log_.lines(), ElementsAre("debug: Retrieving configuration file content...",
-                                          "info: Successfully retrieved configuration file content",
-                                          "debug: Decoding configuration file..."));
-
-    ::unlink(manager->configurationFileURL().path().c_str());
-    manager->reloadInterface(false);
-    EXPECT_EQ(manager->configuration()->_window()._title(), "Two") << "what cannot be read changes nothing";
 }
 
 TEST_F(AppManagerTest, ResetsTheVariablesOfThePresentConfiguration) {

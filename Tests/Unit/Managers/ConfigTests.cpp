@@ -12,44 +12,24 @@ namespace {
 
 using ConfigTest = AppManagerFixture;
 
-Config<std::optional<std::string>> windowTitle() {
-    return Config<std::optional<std::string>>([](const Configuration &configuration) -> decltype(auto) {
-        return configuration._window()._title();
-    });
-}
-
-Config<WindowSection> window() {
-    return Config<WindowSection>(
-        [](const Configuration &configuration) -> decltype(auto) { return configuration._window(); });
-}
+const Config<WindowSection> _window([](const Configuration &c) -> decltype(auto) { return c._window(); });
+const Config<std::optional<std::string>> _title([](const Configuration &c) -> decltype(auto) {
+    return c._window()._title();
+});
 
 TEST_F(ConfigTest, ReadsTheConfigurationOfTheMoment) {
-    writeConfiguration(title("One"));
+    EXPECT_THROW(static_cast<void>(_title()), VelmarError) << "there is none yet";
+    const std::string path = writeConfiguration(title("One"));
     const Shared<AppManager>::Scope scope(makeAppManager());
-    const auto _title = windowTitle();
-    const auto _window = window();
-    EXPECT_EQ(_title(), "One");
-
     const auto before = _window.wrappedValue();
-    writeConfiguration(title("Two"));
+    writeConfiguration(title("Two"), 0666);
     AppManager::shared()->reloadInterface(false);
-    EXPECT_EQ(_title(), "Two");
-    EXPECT_EQ(_window.wrappedValue()->_title(), "Two");
+    EXPECT_EQ(_title(), "Two") << "the file is not judged again";
     EXPECT_EQ(before->_title(), "One") << "what is held keeps its configuration alive";
     EXPECT_EQ(_window.wrappedValue().get(), &AppManager::shared()->configuration()->_window()) << "no copy";
-}
-
-TEST_F(ConfigTest, PrefersTheOverridingValueAndNeedsNoManagerForIt) {
-    auto _title = windowTitle();
-    EXPECT_THROW(static_cast<void>(_title()), VelmarError);
-    _title.setOverrideValue(std::optional<std::string>("Mine"));
-    EXPECT_EQ(_title(), "Mine");
-
-    writeConfiguration(title("One"));
-    const Shared<AppManager>::Scope scope(makeAppManager());
-    EXPECT_EQ(_title(), "Mine");
-    _title.setOverrideValue(std::nullopt);
-    EXPECT_EQ(_title(), "One");
+    ::unlink(path.c_str());
+    AppManager::shared()->reloadInterface(false);
+    EXPECT_EQ(_title(), "Two") << "what cannot be read changes nothing";
 }
 
 TEST_F(ConfigTest, IsReadByOtherThreadsDuringAReload) {
@@ -59,7 +39,6 @@ TEST_F(ConfigTest, IsReadByOtherThreadsDuringAReload) {
     std::atomic<int> readings = 0;
     std::atomic<int> wrong = 0;
     std::thread reader([&] {
-        const auto _title = windowTitle();
         while (!isOver) {
             const auto title = _title();
             wrong += title == "One" || title == "Two" ? 0 : 1;
@@ -76,7 +55,7 @@ TEST_F(ConfigTest, IsReadByOtherThreadsDuringAReload) {
     isOver = true;
     reader.join();
     EXPECT_EQ(wrong, 0);
-    EXPECT_EQ(windowTitle()(), "One");
+    EXPECT_EQ(_title(), "One");
 }
 
 } // namespace

@@ -11,17 +11,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <thread>
 #include <utility>
 #include <vector>
 
 namespace velmar {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
 
 class Dispatcher final : public ActionDispatcherProtocol {
 public:
@@ -42,8 +37,7 @@ TEST(AppTerminationService, EndsTheApplicationWhenEverySetOfTheTerminationHasRun
     int terminations = 0;
     AppTerminationService service(
         mainQueue, [&] { ++terminations; }, dispatcher,
-        Config<std::vector<TriggeredActionSetItem>>(
-            [](const Configuration &c) -> decltype(auto) { return c._actionSets(); }, sets));
+        Config<std::vector<TriggeredActionSetItem>>::always(sets));
     service.terminate();
     ASSERT_EQ(dispatcher->handlers.size(), 2U);
     dispatcher->handlers[1]();
@@ -91,11 +85,11 @@ TEST(AppTerminationManager, LetsTheUserQuitWhenBothConditionsHold) {
             observe(userTriesToQuitWhenNotAllMonitoredFilesArePresent)};
         const auto termination = std::make_shared<Termination>();
         const auto store = std::make_shared<ContentManager>();
-        AppTerminationManager manager({.terminationService = termination,
-                                       .notificationCenter = center,
-                                       .contentManager = store,
-                                       .userCanQuitIfInstallationIsIncomplete = Config<bool>(
-                                           [](const Configuration &) { return false; }, userCanQuit)});
+        AppTerminationManager manager(
+            {.terminationService = termination,
+             .notificationCenter = center,
+             .contentManager = store,
+             .userCanQuitIfInstallationIsIncomplete = Config<bool>::always(userCanQuit)});
         manager.setInstallationComplete(isComplete);
         manager.setMandatoryFilesPresent(arePresent);
         EXPECT_EQ(store->variables()->at("INSTALLATION_COMPLETE"), isComplete ? "true" : "false");
@@ -107,59 +101,22 @@ TEST(AppTerminationManager, LetsTheUserQuitWhenBothConditionsHold) {
     }
 }
 
-class TerminationScriptTest : public testing::Test {
-protected:
-    using Texts = std::vector<std::string>;
-
-    /// The lines of the log behind a termination, without the directory.
-    Texts run(const AppTerminationSection &section, bool isInstallationComplete) {
-        const TerminationScript script(
-            Config<AppTerminationSection>(
-                [](const Configuration &c) -> decltype(auto) { return c._appTermination(); }, section),
-            [this](const std::string & /*path*/, auto completion) {
-                ++runs_;
-                script_ = std::thread([completion] { completion(std::string("done")); });
-            });
-        script.runBeforeTermination(isInstallationComplete);
-        static_cast<void>(DispatchQueue::global().waitUntilIdle(std::chrono::seconds(10)));
-        if (script_.joinable()) {
-            script_.join();
-        }
-        return log_.takeLines();
-    }
-
-    RecordedLog log_;
-    TemporaryDirectory directory_;
-    std::atomic<int> runs_{0};
-    std::thread script_;
-};
-
-TEST_F(TerminationScriptTest, RunsTheScriptOfTheInstallationsState) {
+TEST(TerminationScript, IsThatOfTheInstallationsStateAndIsWaitedForOnAnotherThread) {
+    const TemporaryDirectory directory;
     AppTerminationSection section;
-    EXPECT_THAT(run(section, true), IsEmpty());
-    section._completeInstallationScriptPath.set("");
-    section._incompleteInstallationScriptPath.set("/no/such");
     section._waitForExecutionScriptExecution.set(true);
-    EXPECT_THAT(run(section, true), ElementsAre(HasSubstr("Empty termination script path")));
-    EXPECT_THAT(run(section, false), ElementsAre(HasSubstr("No termination script at path '/no/such'")));
-    EXPECT_EQ(runs_, 0);
-
-    const std::string path = directory_.write("end.sh", "");
-    section._completeInstallationScriptPath.set(path);
-    EXPECT_THAT(run(section, true),
-                testing::UnorderedElementsAre(
-                    HasSubstr("Waiting for script to complete..."),
-                    HasSubstr("Launched script at '" + path + "'"),
-                    HasSubstr("Executed script at '" + path + "' with following output:\ndone")));
-    section._executeAsRoot.set(true);
-    EXPECT_THAT(run(section, true),
-                testing::Contains(testing::AllOf(
-                    testing::StartsWith("error: "),
-                    HasSubstr("Error while executing script at '" + path + "' with root privileges: "))));
-    section._executeAsRoot.set(false);
-    section._waitForExecutionScriptExecution.set(false);
-    EXPECT_THAT(run(section, true), testing::SizeIs(2)) << "not waited for";
-    EXPECT_EQ(runs_, 2);
+    section._completeInstallationScriptPath.set(directory.write("complete", ""));
+    section._incompleteInstallationScriptPath.set(directory.write("incomplete", ""));
+    const TerminationScript script(
+        Config<AppTerminationSection>::always(section), [](const std::string &path, auto completion) {
+            std::thread([=] { completion(path.substr(path.rfind('/'))); }).detach();
+        });
+    for (const bool isComplete : {true, false}) {
+        const RecordedLog log;
+        script.runBeforeTermination(isComplete);
+        EXPECT_THAT(log.lines(), testing::Contains(testing::EndsWith(isComplete ? "output:\n/complete"
+                                                                                : "output:\n/incomplete")));
+    }
 }
 
 } // namespace

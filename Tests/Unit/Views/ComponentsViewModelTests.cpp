@@ -63,11 +63,8 @@ protected:
 
     RecordedLog log;
     std::shared_ptr<ContentManager> manager = std::make_shared<ContentManager>();
-    std::shared_ptr<ConditionEvaluator> conditions = std::make_shared<ConditionEvaluator>(
-        Config<ConditionEvaluator::NamedConditions>(
-            [](const Configuration &c) -> decltype(auto) { return c._conditions(); },
-            ConditionEvaluator::NamedConditions()),
-        manager);
+    std::shared_ptr<ConditionEvaluator> conditions =
+        std::make_shared<ConditionEvaluator>(ConditionEvaluator::NamedConditions(), manager);
     Asked asked;
     std::function<void()> end;
 };

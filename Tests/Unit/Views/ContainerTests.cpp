@@ -77,11 +77,8 @@ protected:
     RecordedLog log;
     std::shared_ptr<ContentManager> manager = std::make_shared<ContentManager>();
     Shared<ContentManager>::Scope scope{manager};
-    std::shared_ptr<ConditionEvaluator> conditions = std::make_shared<ConditionEvaluator>(
-        Config<ConditionEvaluator::NamedConditions>(
-            [](const Configuration &c) -> decltype(auto) { return c._conditions(); },
-            ConditionEvaluator::NamedConditions()),
-        manager);
+    std::shared_ptr<ConditionEvaluator> conditions =
+        std::make_shared<ConditionEvaluator>(ConditionEvaluator::NamedConditions(), manager);
     Plugins::Registration plugin = Plugins::registerPlugin(std::make_shared<AppManager::PopulatePlugin>());
     std::unique_ptr<ContainerViewController> view;
 };

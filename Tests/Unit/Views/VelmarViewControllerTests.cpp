@@ -35,14 +35,13 @@ protected:
     VelmarView() {
         std::string lines;
         for (int index = 0; index < 60; ++index) {
-            lines += text(fmt::format("Line {}", index));
+            lines += textComponent(fmt::format("Line {}", index));
         }
-        writeFile(fmt::format(
-            "<plist version=\"1.0\"><dict><key>Window</key><dict><key>OnScreen</key>"
-            "<string>Simple</string></dict><key>Navigation</key><dict>"
-            "<key>InstallationIncompleteQuitText</key><string>Not before all is installed</string>"
-            "</dict><key>Slides</key><array>{}{}{}</array></dict></plist>",
-            slide(lines), slide(text("Second")), slide(text("Third"))));
+        writeConfiguration(
+            "<key>Window</key><dict><key>OnScreen</key><string>Simple</string></dict>"
+            "<key>Navigation</key><dict><key>InstallationIncompleteQuitText</key>"
+            "<string>Not before all is installed</string></dict>",
+            0644, slideOf(lines) + slideOf(textComponent("Second")) + slideOf(textComponent("Third")));
         shared_ = std::make_unique<Shared<AppManager>::Scope>(makeAppManager());
         view = std::make_unique<VelmarViewController>(
             VelmarViewController::Surroundings{queue, quits, appearance(), alerts, [](bool) {}, center},
@@ -54,16 +53,6 @@ protected:
         window.show();
         window.activateWindow();
         settle();
-    }
-
-    static std::string text(const std::string &content) {
-        return fmt::format(
-            "<dict><key>Type</key><string>Text</string><key>Text</key><string>{}</string></dict>", content);
-    }
-    static std::string slide(const std::string &components) {
-        return fmt::format("<dict><key>Containers</key><array><dict><key>Components</key><array>{}</array>"
-                           "</dict></array></dict>",
-                           components);
     }
 
     void press(int key, bool repeats = false) {

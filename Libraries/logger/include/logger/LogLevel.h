@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace velmar {
 
@@ -11,6 +12,9 @@ namespace velmar {
 enum class LogLevel : std::uint8_t { verbose, debug, info, warning, error };
 
 inline constexpr std::size_t logLevelCount = 5;
+
+/// Such as "warning".
+[[nodiscard]] std::string_view nameOf(LogLevel level) noexcept;
 
 /// One text for each level, UTF-8.
 class LevelTexts {

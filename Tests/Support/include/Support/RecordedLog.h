@@ -5,7 +5,6 @@
 
 #include <fmt/format.h>
 
-#include <array>
 #include <memory>
 #include <mutex>
 #include <span>
@@ -42,12 +41,10 @@ private:
         }
 
         void write(std::span<const LogRecord> records) override {
-            static constexpr std::array levels{"verbose", "debug", "info", "warning", "error"};
             const std::lock_guard lock(mutex);
             for (const LogRecord &record : records) {
-                lines.push_back(fmt::format("{}: {}{}{}", levels.at(static_cast<std::size_t>(record.level)),
-                                            record.message, record.context.empty() ? "" : " ",
-                                            record.context));
+                lines.push_back(fmt::format("{}: {}{}{}", nameOf(record.level), record.message,
+                                            record.context.empty() ? "" : " ", record.context));
             }
         }
 
