@@ -1,8 +1,7 @@
-#include "QtTest.h"
-
 #include <Desktop/DesktopAlertPresenter.h>
 
 #include <Dispatch/UncaughtHandler.h>
+#include <Support/QtTest.h>
 #include <Testing/TemporaryDirectory.h>
 
 #include <QKeyEvent>
@@ -20,7 +19,7 @@
 namespace velmar {
 namespace {
 
-class Alerts : public QtTest {
+class Alerts : public QtTest<> {
 protected:
     /// Shows the alert and lets the user act once it is there.
     static std::size_t answer(const Alert &alert, const std::function<void(QWidget &)> &user) {

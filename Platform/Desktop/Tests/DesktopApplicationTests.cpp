@@ -2,13 +2,12 @@
 #include <Desktop/DesktopApplication.h>
 #include <Desktop/Display.h>
 #include <Dispatch/UncaughtHandler.h>
+#include <Support/QtTest.h>
 
-#include <QApplication>
 #include <QDialog>
 #include <QWidget>
 
 #include <fmt/format.h>
-#include <gtest/gtest.h>
 
 #include <csignal>
 #include <cstdlib>
@@ -63,22 +62,9 @@ private:
     }
 };
 
-class Application : public testing::Test {
+class Application : public QtTest<testing::Test, DesktopApplication> {
 protected:
-    static void SetUpTestSuite() {
-        static int argumentCount = 1;
-        static char name[] = "test";
-        static char *arguments[] = {name, nullptr};
-        application_ = std::make_unique<DesktopApplication>(argumentCount, arguments);
-    }
-    static void TearDownTestSuite() { application_.reset(); }
-
-    static DesktopApplication &application() { return *application_; }
-
     Recorder recorder;
-
-private:
-    static inline std::unique_ptr<DesktopApplication> application_;
 };
 
 TEST_F(Application, EndsInOrderUnlessTheDelegateRefuses) {

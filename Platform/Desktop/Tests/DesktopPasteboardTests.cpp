@@ -1,13 +1,12 @@
-#include "QtTest.h"
-
 #include <Desktop/DesktopPasteboard.h>
+#include <Support/QtTest.h>
 
 #include <QClipboard>
 
 namespace velmar {
 namespace {
 
-using DesktopPasteboardTest = QtTest;
+using DesktopPasteboardTest = QtTest<>;
 
 TEST_F(DesktopPasteboardTest, TakesTextsInUtf8Alone) {
     DesktopPasteboard pasteboard;

@@ -1,7 +1,6 @@
-#include "QtTest.h"
-
 #include <Desktop/DesktopUserNotifications.h>
 
+#include <Support/QtTest.h>
 #include <Testing/TemporaryDirectory.h>
 
 #include <QDBusConnection>
@@ -14,12 +13,12 @@ namespace velmar {
 namespace {
 
 /// A bus, and a notification service on it that answers as the test says.
-class UserNotificationsTest : public QtTest, public QDBusVirtualObject {
+class UserNotificationsTest : public QtTest<>, public QDBusVirtualObject {
 protected:
     static void SetUpTestSuite() {
         // Before the toolkit asks for it: it is read once.
         qputenv("DBUS_SESSION_BUS_ADDRESS", address_.c_str());
-        QtTest::SetUpTestSuite();
+        QtTest<>::SetUpTestSuite();
     }
     ~UserNotificationsTest() override { stopBus(); }
 

@@ -1,6 +1,5 @@
-#include "QtTest.h"
-
 #include <Desktop/KeyEventMonitor.h>
+#include <Support/QtTest.h>
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -11,7 +10,7 @@
 namespace velmar {
 namespace {
 
-class KeyEvents : public QtTest {
+class KeyEvents : public QtTest<> {
 protected:
     KeyEvents() {
         field.show();

@@ -1,8 +1,7 @@
-#include "QtTest.h"
-
 #include <Desktop/QtMainQueue.h>
 #include <Desktop/QtTimerScheduler.h>
 #include <Dispatch/UncaughtHandler.h>
+#include <Support/QtTest.h>
 
 #include <QEventLoop>
 
@@ -16,7 +15,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-class MainQueue : public QtTest {
+class MainQueue : public QtTest<> {
 protected:
     MainQueue() {
         setUncaughtHandler([this](std::string_view, std::exception_ptr exception) {

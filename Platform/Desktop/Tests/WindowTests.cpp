@@ -1,7 +1,6 @@
-#include "QtTest.h"
-
 #include <Desktop/MainMenu.h>
 #include <Desktop/Window.h>
+#include <Support/QtTest.h>
 
 #include <QEventLoop>
 #include <QKeyEvent>
@@ -22,7 +21,7 @@ MenuItem menu(std::string title, int tag, std::vector<MenuItem> submenu) {
         .title = std::move(title), .tag = tag, .shortcut = {}, .action = {}, .submenu = std::move(submenu)};
 }
 
-class Windows : public QtTest {};
+class Windows : public QtTest<> {};
 
 TEST_F(Windows, KeepTheShortcutsOfAHiddenMenuBar) {
     MainMenu mainMenu;

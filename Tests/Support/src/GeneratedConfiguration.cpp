@@ -3,7 +3,7 @@
 #include <Configuration/Configuration.h>
 
 #include <algorithm>
-#include <array>
+#include <map>
 #include <set>
 
 namespace velmar {
@@ -23,38 +23,17 @@ bool isLeftOut(std::string_view typeName, std::string_view key) {
 
 /// The keys that may not stay as they were chosen: what the requirement of each asks of `given`.
 void meetRequirements(const std::vector<KeyDescription> &keys, std::set<std::string_view> &given) {
+    using enum RequirementType;
     for (const KeyDescription &key : keys) {
         const auto isGiven = [&](const ConfigCodingKey &other) { return given.contains(other.stringValue); };
         const bool all = std::ranges::all_of(key.requirement.keys, isGiven);
         const bool any = std::ranges::any_of(key.requirement.keys, isGiven);
-        switch (key.requirement.type) {
-        case RequirementType::required:
+        const RequirementType type = key.requirement.type;
+        if (type == required || (type == requiredIfSpecified && all) ||
+            (type == requiredIfNotSpecified && !all) || (type == requiredExcluding && !any)) {
             given.insert(key.name);
-            break;
-        case RequirementType::requiredIfSpecified:
-            if (all) {
-                given.insert(key.name);
-            }
-            break;
-        case RequirementType::requiredIfNotSpecified:
-            if (!all) {
-                given.insert(key.name);
-            }
-            break;
-        case RequirementType::exclude:
-            if (any) {
-                given.erase(key.name);
-            }
-            break;
-        case RequirementType::requiredExcluding:
-            if (any) {
-                given.erase(key.name);
-            } else {
-                given.insert(key.name);
-            }
-            break;
-        case RequirementType::optional:
-            break;
+        } else if ((type == exclude || type == requiredExcluding) && any) {
+            given.erase(key.name);
         }
     }
 }
@@ -212,28 +191,18 @@ PropertyList GeneratedConfiguration::value(const ValueDescription &description) 
 }
 
 std::string GeneratedConfiguration::text(const ValueDescription &description) {
-    const auto oneOf = [&](std::initializer_list<std::string_view> texts) {
-        return std::string(*std::next(texts.begin(), static_cast<std::ptrdiff_t>(below(texts.size()))));
-    };
-    if (description.name == "name of a model") {
-        return std::string(model);
-    }
-    if (description.name == "URL") {
-        return oneOf({"file:///usr/share/picture.png", "https://example.com/a?b=c", "a picture.png"});
-    }
-    if (description.name == "regular expression") {
-        return oneOf({".*", "[a-z]+(x|y)", "^$"});
-    }
-    if (description.name == "condition") {
-        return oneOf({"SOME_VARIABLE == \"x\"", "( SOME_VARIABLE != USER_NAME ) && SOME_VARIABLE"});
-    }
-    if (description.name == "trigger") {
-        return oneOf({"Launch", "Termination", "Update(SOME_VARIABLE)", "AppLaunch(org\\..*)", "Custom(go)"});
-    }
-    if (!description.pattern.empty()) {
-        return oneOf({"#AABBCC", "#10203040"});
-    }
-    return oneOf({"a text", "", "${SOME_VARIABLE} & \u00e9 <x>", "two\nlines", "\U0001F600"});
+    static const std::map<std::string_view, std::vector<std::string>> texts = {
+        {"name of a model", {std::string(model)}},
+        {"URL", {"file:///usr/share/picture.png", "https://example.com/a?b=c", "a picture.png"}},
+        {"regular expression", {".*", "[a-z]+(x|y)", "^$"}},
+        {"condition", {"SOME_VARIABLE == \"x\"", "( SOME_VARIABLE != USER_NAME ) && SOME_VARIABLE"}},
+        {"trigger", {"Launch", "Termination", "Update(SOME_VARIABLE)", "AppLaunch(org\\..*)", "Custom(go)"}},
+        {"color", {"#AABBCC", "#10203040"}},
+        {"", {"a text", "", "${SOME_VARIABLE} & \u00e9 <x>", "two\nlines", "\U0001F600"}}};
+    const auto named = texts.find(description.name);
+    const auto &choice =
+        named == texts.end() ? texts.at(description.pattern.empty() ? "" : "color") : named->second;
+    return choice[below(choice.size())];
 }
 
 } // namespace velmar

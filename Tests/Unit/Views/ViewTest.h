@@ -2,35 +2,28 @@
 
 #include <Configuration/ComponentItem.h>
 #include <Desktop/DesktopAppearance.h>
+#include <Support/QtTest.h>
 #include <Testing/TestMainQueue.h>
 #include <Views/CustomViews/StyleConfigurableTextView.h>
 #include <Views/CustomViews/Theme.h>
 
-#include <QApplication>
-
-#include <gtest/gtest.h>
-
 #include <map>
-#include <memory>
 #include <string>
 
 namespace velmar {
 
 /// A test over another fixture, with the application and its theme, in which views move at once, and a main
-/// queue that the test moves. The application lasts for the group of tests.
+/// queue that the test moves.
 template <class Fixture = testing::Test>
-class ViewTest : public Fixture {
+class ViewTest : public QtTest<Fixture> {
 protected:
     static void SetUpTestSuite() {
-        static int argumentCount = 1;
-        static char name[] = "test";
-        static char *arguments[] = {name, nullptr};
-        application_ = std::make_unique<QApplication>(argumentCount, arguments);
+        QtTest<Fixture>::SetUpTestSuite();
         appearance_ = std::make_unique<DesktopAppearance>();
         Theme::install(*appearance_);
     }
     static void TearDownTestSuite() {
-        application_.reset();
+        QtTest<Fixture>::TearDownTestSuite();
         appearance_.reset();
     }
 
@@ -74,7 +67,6 @@ protected:
     TestMainQueue queue;
 
 private:
-    static inline std::unique_ptr<QApplication> application_;
     static inline std::unique_ptr<DesktopAppearance> appearance_;
 };
 
