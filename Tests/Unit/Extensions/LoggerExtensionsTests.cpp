@@ -1,35 +1,44 @@
 #include <Extensions/LoggerExtensions.h>
+#include <Extensions/VelmarLogDestinations.h>
+
+#include <Support/RecordedLog.h>
+#include <Testing/TestIdentityAuthority.h>
+#include <logger/FileDestination.h>
+#include <logger/VelmarLogDestination.h>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <logger/BaseDestination.h>
-#include <logger/ScopedDestinations.h>
 
 namespace velmar {
 namespace {
 
-class LastRecord : public BaseDestination {
-public:
-    LastRecord() : BaseDestination({.asynchronously = false}) {}
-    void write(std::span<const LogRecord> records) override { record = records.back(); }
-
-    LogRecord record;
-};
-
 TEST(LoggerExtensions, PutTheSymbolOfTheSubjectBeforeTheMessage) {
-    const auto last = std::make_shared<LastRecord>();
-    const ScopedDestinations scope({last});
+    const RecordedLog log;
     LoggerExtensions::info(
         LogSubject::installationLogParser, [] { return "found"; }, "[context]");
-    EXPECT_EQ(last->record.message, "🔍 found");
-    EXPECT_EQ(last->record.context, "[context]");
-    EXPECT_EQ(last->record.level, LogLevel::info);
-    LoggerExtensions::warning(LogSubject::actions, "slow");
-    EXPECT_EQ(last->record.level, LogLevel::warning);
-    LoggerExtensions::error(LogSubject::actions, "failed");
-    EXPECT_EQ(last->record.level, LogLevel::error);
-    EXPECT_THAT(last->record.where.file, testing::EndsWith("LoggerExtensionsTests.cpp"));
+    LoggerExtensions::warning(LogSubject::variables, "slow");
+    LoggerExtensions::error(LogSubject::requests, "failed");
+    EXPECT_THAT(log.lines(),
+                testing::ElementsAre("info: 🔍 found [context]", "warning: 🔤 slow", "error: 🌐 failed"));
+}
+
+const LogFileSettings &fileOf(const BaseDestination &destination) {
+    const auto &decorator = dynamic_cast<const VelmarLogDestination &>(destination);
+    return dynamic_cast<const FileDestination &>(decorator.finalDestination()).file();
+}
+
+TEST(VelmarLogDestinations, WriteTheFilesOfTheUserAtTheConsole) {
+    TestIdentityAuthority authority;
+    authority.processUser = "root";
+    authority.consoleUser = "ada";
+
+    const auto destinations = makeVelmarLogDestinations(authority);
+    ASSERT_EQ(destinations.size(), 3U);
+    const auto &file = fileOf(*destinations[2]);
+    EXPECT_EQ(file.logFileURL, "/Users/ada/Library/Logs/Velmar/velmar.log");
+    EXPECT_EQ(file.requiredFolder, "/Users/ada");
+
+    authority.consoleUser = "../ada";
+    EXPECT_EQ(fileOf(*makeVelmarLogDestinations(authority)[1]).logFileURL, "");
 }
 
 } // namespace
