@@ -51,7 +51,9 @@ AppDelegate::AppDelegate(Surroundings surroundings)
       openedWindow_({.mainQueue = surroundings_.application.mainQueue(),
                      .appearance = surroundings_.application.appearance(),
                      .screens = &Screens::current,
-                     .didClose = [this] { openedWindowDidClose(); }}) {
+                     .didClose = [this] { openedWindowDidClose(); }}),
+      terminationScript_(
+          [&application = surroundings_.application] { return application.isTerminationDemanded(); }) {
     QCoreApplication::setApplicationName(QStringLiteral("Velmar"));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.nurvan.velmar"));
     DesktopApplication &application = surroundings_.application;

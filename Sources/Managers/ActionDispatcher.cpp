@@ -105,30 +105,33 @@ void ActionDispatcher::dispatchParallel(std::size_t actionsCount, const Dispatch
 }
 
 void ActionDispatcher::runChained(Actions actions, const std::shared_ptr<const Chain> &chain) {
-    for (const auto &action : actions) {
-        action->setSuccessCompletionBlock([chain](bool success) {
-            inTurn([chain, success] {
-                if (const auto dispatcher = chain->dispatcher.lock()) {
-                    dispatcher->continueChain(*chain, success);
-                }
-            });
-        });
-    }
     // What an earlier run of the set has left dies with `actions`, outside of the lock.
     _chainedActions.mutate([&](auto &chains) { chains[chain->id].swap(actions); });
     if (const auto first = takeFirstAction(chain->id)) {
-        inTurn([first] { first->dispatch(); });
+        inTurn([first, chain] { start(*first, chain); });
     }
 }
 
-void ActionDispatcher::continueChain(const Chain &chain, bool success) {
-    const auto next = takeFirstAction(chain.id);
+// Only the action that runs holds the chain: the others may stay for long after an early end.
+void ActionDispatcher::start(Dispatchable &action, const std::shared_ptr<const Chain> &chain) {
+    action.setSuccessCompletionBlock([chain](bool success) {
+        inTurn([chain, success] {
+            if (const auto dispatcher = chain->dispatcher.lock()) {
+                dispatcher->continueChain(chain, success);
+            }
+        });
+    });
+    action.dispatch();
+}
+
+void ActionDispatcher::continueChain(const std::shared_ptr<const Chain> &chain, bool success) {
+    const auto next = takeFirstAction(chain->id);
     if (!next) {
-        if (chain.completionHandler) {
-            chain.completionHandler();
+        if (chain->completionHandler) {
+            chain->completionHandler();
         }
-    } else if (success || chain.continueAfterFailure) {
-        next->dispatch();
+    } else if (success || chain->continueAfterFailure) {
+        start(*next, chain);
     }
 }
 

@@ -26,7 +26,8 @@ public:
     /// - a chained set, when its last action has ended, whether well or not. An action before it that fails
     ///   ends the chain in silence unless the set continues after failures.
     /// The handler is never called if the condition of the set or of one of its actions doesn't hold or can't
-    /// be evaluated; such an action ends a chain in any case. Nor is it called for an empty chain.
+    /// be evaluated; such an action ends a chain in any case. Nor is it called for an empty chain. It is then
+    /// destroyed with the last action that runs.
     virtual void dispatch(const ActionSet &set, std::function<void()> completionHandler) = 0;
 };
 
@@ -54,7 +55,8 @@ private:
     static void dispatchParallel(std::size_t actionsCount, const DispatchGroup &actions,
                                  const DispatchQueue &queue, std::function<void()> completionHandler);
     void runChained(Actions actions, const std::shared_ptr<const Chain> &chain);
-    void continueChain(const Chain &chain, bool success);
+    void continueChain(const std::shared_ptr<const Chain> &chain, bool success);
+    static void start(Dispatchable &action, const std::shared_ptr<const Chain> &chain);
     [[nodiscard]] std::shared_ptr<Dispatchable> takeFirstAction(const UUID &id);
 
     MakeDispatchable makeDispatchable_;

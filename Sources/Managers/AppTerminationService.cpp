@@ -1,7 +1,7 @@
 #include <Managers/AppTerminationService.h>
 
-#include <Dispatch/DispatchGroup.h>
-#include <Dispatch/DispatchQueue.h>
+#include <Constants/Domain.h>
+#include <Extensions/LoggerExtensions.h>
 #include <Models/Actions/ActionSet.h>
 
 #include <utility>
@@ -14,16 +14,31 @@ AppTerminationService::AppTerminationService(MainQueue &mainQueue, std::function
     : _actionSets(std::move(actionSets)),
       mainQueue_(mainQueue),
       terminateApplication_(std::move(terminateApplication)),
-      dispatcher_(std::move(dispatcher)) {}
+      dispatcher_(std::move(dispatcher)),
+      _underWay({}, std::string(Domain::bundleIdentifier) + ".AppTerminationService.underWay") {}
 
 void AppTerminationService::terminate() {
-    const DispatchGroup group;
-    for (const ActionSet &set : actionSetsFor<ActionTrigger::Termination>(_actionSets.wrappedValue())) {
-        group.enter();
-        dispatcher_->dispatch(set, [group] { group.leave(); });
+    const auto left = std::make_shared<SetsLeft>(1);
+    const bool begins = _underWay.mutate([&](auto &underWay) {
+        const bool isFree = underWay.expired();
+        underWay = isFree ? left : underWay;
+        return isFree;
+    });
+    if (!begins) {
+        LoggerExtensions::info(LogSubject::termination,
+                               "The action sets of the termination are still running");
+        return;
     }
-    group.notify(DispatchQueue("AppTerminationService"),
-                 [&mainQueue = mainQueue_, end = terminateApplication_] { mainQueue.async(end); });
+    const auto endOne = [left, &mainQueue = mainQueue_, end = terminateApplication_] {
+        if (--*left == 0) {
+            mainQueue.async([left, end] { end(); });
+        }
+    };
+    for (const ActionSet &set : actionSetsFor<ActionTrigger::Termination>(_actionSets.wrappedValue())) {
+        ++*left;
+        dispatcher_->dispatch(set, endOne);
+    }
+    endOne();
 }
 
 } // namespace velmar

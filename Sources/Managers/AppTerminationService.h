@@ -2,8 +2,11 @@
 
 #include <Configuration/ActionSetItem.h>
 #include <Dispatch/MainQueue.h>
+#include <Dispatch/ThreadSafe.h>
 #include <Managers/ActionSetManager.h>
 
+#include <atomic>
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -15,14 +18,14 @@ class AppTermination {
 public:
     virtual ~AppTermination() = default;
 
-    /// Returns at once. Each call begins anew, so that a termination that does not come to its end can be
-    /// tried again.
+    /// Returns at once. Does nothing while a former call is under way; one that has stopped before its end
+    /// can be tried again.
     virtual void terminate() = 0;
 };
 
 /// Runs the sets of actions of the termination, all of them at the same time, and ends the application when
 /// each has run to its end. One that never does keeps the application running (see
-/// ActionDispatcherProtocol::dispatch).
+/// ActionDispatcherProtocol::dispatch); a next call then runs all of them again.
 class AppTerminationService final : public AppTermination {
 public:
     /// `mainQueue` must outlive the process's queues; `terminateApplication` is called on it.
@@ -34,10 +37,13 @@ public:
     void terminate() override;
 
 private:
+    using SetsLeft = std::atomic<std::size_t>;
+
     Config<std::vector<TriggeredActionSetItem>> _actionSets;
     MainQueue &mainQueue_;
     std::function<void()> terminateApplication_;
     std::shared_ptr<ActionDispatcherProtocol> dispatcher_;
+    ThreadSafe<std::weak_ptr<SetsLeft>> _underWay; // Held by the sets that run.
 };
 
 } // namespace velmar

@@ -10,7 +10,6 @@
 
 #include <chrono>
 #include <exception>
-#include <future>
 #include <memory>
 #include <thread>
 #include <utility>
@@ -19,13 +18,19 @@ namespace velmar {
 
 namespace {
 
-// Until a script that is not waited for has begun.
+// The least and the most for a script that is not waited for to begin.
 constexpr std::chrono::microseconds launchDelay(200'000);
+constexpr std::chrono::seconds launchPatience(5);
+
+constexpr std::chrono::milliseconds restBetweenLooks(100);
 
 } // namespace
 
-TerminationScript::TerminationScript(Config<AppTerminationSection> appTermination, Run runInUserContext)
-    : _appTermination(std::move(appTermination)), runInUserContext_(std::move(runInUserContext)) {}
+TerminationScript::TerminationScript(std::function<bool()> isEndDemanded,
+                                     Config<AppTerminationSection> appTermination, Run runInUserContext)
+    : isEndDemanded_(std::move(isEndDemanded)),
+      _appTermination(std::move(appTermination)),
+      runInUserContext_(std::move(runInUserContext)) {}
 
 Config<AppTerminationSection> TerminationScript::configuredTermination() {
     return Config<AppTerminationSection>(
@@ -33,8 +38,9 @@ Config<AppTerminationSection> TerminationScript::configuredTermination() {
 }
 
 TerminationScript::Run TerminationScript::runDetached() {
-    return [](const std::string &path, std::function<void(Result<std::string>)> completion) {
-        CommandLineService::executeDetachedScript(path, {}, std::move(completion));
+    return [](const std::string &path, std::function<void()> launched,
+              std::function<void(Result<std::string>)> completion) {
+        CommandLineService::executeDetachedScript(path, {}, std::move(launched), std::move(completion));
     };
 }
 
@@ -61,22 +67,44 @@ void TerminationScript::runBeforeTermination(bool isInstallationComplete) const 
 }
 
 void TerminationScript::run(const std::string &path) const {
-    auto over = std::make_shared<std::promise<void>>();
-    const std::future<void> hasEnded =
-        over->get_future(); // Also without an end, if nobody is left to tell it.
-    DispatchQueue("TerminationScript").async([this, path, over] {
-        launchTerminationScript(path, [over] { over->set_value(); });
-    });
-    over.reset();
+    // Ready also if nobody is left who could tell.
+    auto launch = std::make_shared<std::promise<void>>();
+    auto end = std::make_shared<std::promise<void>>();
+    const std::future<void> launched = launch->get_future();
+    const std::future<void> ended = end->get_future();
+    DispatchQueue("TerminationScript")
+        .async([this, path, launch = std::move(launch), end = std::move(end)]() mutable {
+            launchTerminationScript(
+                path, [launch = std::move(launch)] { launch->set_value(); },
+                [end = std::move(end)] { end->set_value(); });
+        });
     if (_appTermination.wrappedValue()->_waitForExecutionScriptExecution()) {
-        LoggerExtensions::info(LogSubject::termination, "Waiting for script to complete...");
-        hasEnded.wait();
+        waitForEnd(ended);
     } else {
         std::this_thread::sleep_for(launchDelay);
+        if (launched.wait_for(launchPatience) != std::future_status::ready) {
+            LoggerExtensions::warning(LogSubject::termination, [&] {
+                return fmt::format("The script at '{}' has not begun after {} seconds", path,
+                                   launchPatience.count());
+            });
+        }
     }
 }
 
-void TerminationScript::launchTerminationScript(const std::string &path, std::function<void()> ended) const {
+void TerminationScript::waitForEnd(const std::future<void> &ended) const {
+    LoggerExtensions::info(LogSubject::termination, "Waiting for script to complete...");
+    while (ended.wait_for(restBetweenLooks) != std::future_status::ready) {
+        if (isEndDemanded_()) {
+            LoggerExtensions::warning(
+                LogSubject::termination,
+                "A signal demands the end: the script goes on and is no longer waited for");
+            return;
+        }
+    }
+}
+
+void TerminationScript::launchTerminationScript(const std::string &path, std::function<void()> launched,
+                                                std::function<void()> ended) const {
     const auto section = _appTermination.wrappedValue();
     const bool executeAsRoot = section->_executeAsRoot();
     const std::string suffix = executeAsRoot ? " with root privileges" : "";
@@ -101,7 +129,7 @@ void TerminationScript::launchTerminationScript(const std::string &path, std::fu
             VelmarError(VelmarError::InternalError{"Scripts cannot be run with root privileges yet"})));
         return;
     }
-    runInUserContext_(path, completion);
+    runInUserContext_(path, std::move(launched), completion);
 }
 
 } // namespace velmar

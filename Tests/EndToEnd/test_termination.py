@@ -83,3 +83,22 @@ class Termination(Scenario):
         process.send(signal.SIGTERM)
         self.assertEqual(0, process.wait(), process.story())
         self.assertTrue(MARK.exists())
+
+    def test_the_force_quit_waits_for_the_script_and_a_signal_ends_the_wait(self):
+        path = self.script(f"#!/bin/sh\nsleep 2\ntouch {MARK}\n")
+        self.install(configuration(slide("Hello"), AppTermination={"CompleteInstallationScriptPath": path,
+                                                                   "WaitForTerminationScriptExecution": True}))
+        for is_urged in [False, True]:
+            with self.subTest(is_urged=is_urged):
+                MARK.unlink(missing_ok=True)
+                self.log_path().unlink(missing_ok=True)
+                process, screen = self.velmar()
+                screen.wait_for_text("Hello")
+                screen.key("ctrl+alt+super+shift+f")
+                self.wait_for_message("🚪 Waiting for script to complete...")
+                if is_urged:
+                    process.send(signal.SIGTERM)
+                self.assertEqual(0, process.wait(), process.story())
+                self.assertEqual(not is_urged, MARK.exists())
+                self.assertEqual("-", self.messages()[-1])
+        until("the end of the script", MARK.exists)

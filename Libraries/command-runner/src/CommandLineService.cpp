@@ -67,8 +67,12 @@ class Execution : public std::enable_shared_from_this<Execution> {
 public:
     enum class Kind { attached, detached };
 
-    Execution(std::vector<Process> processes, Completion completion, Kind kind = Kind::attached)
-        : processes_(std::move(processes)), completion_(std::move(completion)), kind_(kind) {}
+    Execution(std::vector<Process> processes, Completion completion, Kind kind = Kind::attached,
+              std::function<void()> launched = nullptr)
+        : processes_(std::move(processes)),
+          completion_(std::move(completion)),
+          kind_(kind),
+          launched_(std::move(launched)) {}
 
     void begin() {
         attempt(processes_.front(), [&] { proceedFrom(0); });
@@ -143,12 +147,14 @@ private:
             if (!attempt(process, launched))
                 return;
         }
-        attempt(processes_.back(), [&] {
+        const bool isLaunched = attempt(processes_.back(), [&] {
             chain.readOutput(maximumOutput, [self = shared_from_this()](ProcessOutput output) {
                 const Process &last = self->processes_.back();
                 self->attempt(last, [&] { self->complete(textOf(std::move(output), last)); });
             });
         });
+        if (isLaunched && launched_)
+            launched_();
     }
 
     template <class Family>
@@ -171,6 +177,7 @@ private:
     std::vector<Process> processes_;
     Completion completion_;
     Kind kind_;
+    std::function<void()> launched_;
     bool isComplete_ = false;
 };
 
@@ -226,14 +233,15 @@ void execute(std::string command, std::vector<std::string> arguments, Completion
 
 namespace {
 
-void executeScript(std::string path, std::vector<std::string> arguments, Completion completion,
-                   Execution::Kind kind) {
+void executeScript(std::string path, std::vector<std::string> arguments, Execution::Kind kind,
+                   std::function<void()> launched, Completion completion) {
     // Neither searched for nor an option of the program that runs it.
     if (!path.starts_with('/'))
         path.insert(0, "./");
-    DispatchQueue::global().async([script = Process{std::move(path), std::move(arguments)},
-                                   completion = std::move(completion), kind] {
-        const auto execution = std::make_shared<Execution>(std::vector{throughEnv(script)}, completion, kind);
+    DispatchQueue::global().async([script = Process{std::move(path), std::move(arguments)}, kind,
+                                   launched = std::move(launched), completion = std::move(completion)] {
+        const auto execution =
+            std::make_shared<Execution>(std::vector{throughEnv(script)}, completion, kind, launched);
         if (execution->attempt(script, [&] { script.checkLaunchable(); }))
             execution->begin();
     });
@@ -242,11 +250,14 @@ void executeScript(std::string path, std::vector<std::string> arguments, Complet
 } // namespace
 
 void executeScript(std::string path, std::vector<std::string> arguments, Completion completion) {
-    executeScript(std::move(path), std::move(arguments), std::move(completion), Execution::Kind::attached);
+    executeScript(std::move(path), std::move(arguments), Execution::Kind::attached, nullptr,
+                  std::move(completion));
 }
 
-void executeDetachedScript(std::string path, std::vector<std::string> arguments, Completion completion) {
-    executeScript(std::move(path), std::move(arguments), std::move(completion), Execution::Kind::detached);
+void executeDetachedScript(std::string path, std::vector<std::string> arguments,
+                           std::function<void()> launched, Completion completion) {
+    executeScript(std::move(path), std::move(arguments), Execution::Kind::detached, std::move(launched),
+                  std::move(completion));
 }
 
 } // namespace velmar::CommandLineService

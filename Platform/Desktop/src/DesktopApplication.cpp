@@ -69,6 +69,8 @@ public:
         exit(0);
     }
 
+    [[nodiscard]] bool isTerminationDemanded() const { return signals_.isOnePending(); }
+
 protected:
     bool event(QEvent *event) override {
         // The toolkit's own way to quit first asks the windows to close, each of which may refuse.
@@ -156,6 +158,10 @@ int DesktopApplication::run(ApplicationDelegate &delegate) {
 
 void DesktopApplication::terminate() {
     loop_->terminate();
+}
+
+bool DesktopApplication::isTerminationDemanded() const {
+    return loop_->isTerminationDemanded();
 }
 
 } // namespace velmar

@@ -1,5 +1,6 @@
 #include "TerminationSignals.h"
 
+#include <poll.h>
 #include <sys/eventfd.h>
 #include <unistd.h>
 
@@ -57,6 +58,11 @@ TerminationSignals::~TerminationSignals() {
     notifier_.reset();
     signalDescriptor = -1;
     ::close(descriptor_);
+}
+
+bool TerminationSignals::isOnePending() const {
+    pollfd pending{.fd = descriptor_, .events = POLLIN, .revents = 0};
+    return ::poll(&pending, 1, 0) > 0;
 }
 
 } // namespace velmar

@@ -13,6 +13,8 @@ class TerminationSignals {
 public:
     explicit TerminationSignals(std::function<void()> onSignal);
     ~TerminationSignals();
+    /// Whether one has come that the loop has not called for yet.
+    [[nodiscard]] bool isOnePending() const;
     TerminationSignals(const TerminationSignals &) = delete;
     TerminationSignals &operator=(const TerminationSignals &) = delete;
 

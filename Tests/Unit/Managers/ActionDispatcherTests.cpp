@@ -78,12 +78,11 @@ public:
     /// The outcomes of the actions that started, in their order, and a "." for each call of the handler;
     /// once nothing can come any more but from actions that are finished by hand.
     std::string settled() {
-        // A parallel set lets go of its handler when that was called or can't be; a chain is over when the
-        // queue rests.
-        if (set_.item->_type() == ExecutionType::parallel) {
+        EXPECT_TRUE(DispatchQueue::global().waitUntilIdle(20s));
+        // A set lets go of its handler when that was called or can't be.
+        if (notes_->withValue([](const Notes &held) { return held.waiting.empty(); })) {
             EXPECT_EQ(over_.wait_for(20s), std::future_status::ready);
         }
-        EXPECT_TRUE(DispatchQueue::global().waitUntilIdle(20s));
         const Notes notes = notes_->value();
         return notes.started + std::string(notes.completions, '.');
     }

@@ -40,6 +40,12 @@ TEST(AppTerminationService, EndsTheApplicationWhenEverySetOfTheTerminationHasRun
         Config<std::vector<TriggeredActionSetItem>>::always(sets));
     service.terminate();
     ASSERT_EQ(dispatcher->handlers.size(), 2U);
+    dispatcher->handlers[0]();
+    service.terminate();
+    EXPECT_EQ(dispatcher->handlers.size(), 2U) << "one still runs";
+    dispatcher->handlers.clear(); // It stopped before its end.
+    service.terminate();
+    ASSERT_EQ(dispatcher->handlers.size(), 2U);
     dispatcher->handlers[1]();
     ASSERT_TRUE(DispatchQueue::global().waitUntilIdle(std::chrono::seconds(10)));
     EXPECT_EQ(mainQueue.runUntilEmpty(), 0U);
@@ -107,16 +113,36 @@ TEST(TerminationScript, IsThatOfTheInstallationsStateAndIsWaitedForOnAnotherThre
     section._waitForExecutionScriptExecution.set(true);
     section._completeInstallationScriptPath.set(directory.write("complete", ""));
     section._incompleteInstallationScriptPath.set(directory.write("incomplete", ""));
-    const TerminationScript script(
-        Config<AppTerminationSection>::always(section), [](const std::string &path, auto completion) {
-            std::thread([=] { completion(path.substr(path.rfind('/'))); }).detach();
-        });
+    const TerminationScript script([] { return false; }, Config<AppTerminationSection>::always(section),
+                                   [](const std::string &path, const auto & /*launched*/, auto completion) {
+                                       std::thread([=] { completion(path.substr(path.rfind('/'))); }).detach();
+                                   });
     for (const bool isComplete : {true, false}) {
         const RecordedLog log;
         script.runBeforeTermination(isComplete);
         EXPECT_THAT(log.lines(), testing::Contains(testing::EndsWith(isComplete ? "output:\n/complete"
                                                                                 : "output:\n/incomplete")));
     }
+}
+
+TEST(TerminationScript, HasBegunWhenItIsNotWaitedFor) {
+    const TemporaryDirectory directory;
+    AppTerminationSection section;
+    section._completeInstallationScriptPath.set(directory.write("complete", ""));
+    std::atomic<bool> isLaunched{false};
+    std::thread slow;
+    const TerminationScript script(
+        [] { return false; }, Config<AppTerminationSection>::always(section),
+        [&](const std::string & /*path*/, auto launched, const auto & /*completion*/) {
+            slow = std::thread([&isLaunched, launched] {
+                std::this_thread::sleep_for(std::chrono::milliseconds(400)); // Beyond the least delay.
+                isLaunched = true;
+                launched();
+            });
+        });
+    script.runBeforeTermination(true);
+    EXPECT_TRUE(isLaunched);
+    slow.join();
 }
 
 } // namespace

@@ -32,9 +32,11 @@ void execute(std::string command, std::vector<std::string> arguments, Completion
 /// Runs a script, which says itself by what it is to be run. The path is never searched for.
 void executeScript(std::string path, std::vector<std::string> arguments, Completion completion);
 
-/// The same for a script that may outlive this process: whoever reads its output may be gone, which it doesn't
-/// notice. It is over when it has itself ended, whatever it leaves running. Its output may have `maximumOutput`
-/// bytes and no more.
-void executeDetachedScript(std::string path, std::vector<std::string> arguments, Completion completion);
+/// The same for a script that may outlive this process: whoever reads its output may be gone, which it
+/// doesn't notice. It is over when it has itself ended, whatever it leaves running. Its output may have
+/// `maximumOutput` bytes and no more. `launched` is called on a thread of the pool when its process is there
+/// and needs this one no more; not if it can't be launched.
+void executeDetachedScript(std::string path, std::vector<std::string> arguments,
+                           std::function<void()> launched, Completion completion);
 
 } // namespace velmar::CommandLineService

@@ -34,6 +34,10 @@ public:
     /// is to come, the delegate is neither asked nor told.
     void terminate();
 
+    /// Whether SIGTERM or SIGINT has come while the main thread doesn't get to it: for who holds it up in the
+    /// termination.
+    [[nodiscard]] bool isTerminationDemanded() const;
+
     [[nodiscard]] MainMenu &mainMenu() noexcept { return mainMenu_; }
     [[nodiscard]] MainQueue &mainQueue() noexcept { return *mainQueue_; }
     [[nodiscard]] TimerScheduler &timers() noexcept { return *timers_; }
