@@ -48,7 +48,8 @@ AppManager::KeyDownMonitor addKeyDownMonitor(AppManager::KeyDownHandler handler)
 
 AppDelegate::AppDelegate(Surroundings surroundings)
     : surroundings_(std::move(surroundings)),
-      openedWindow_({.mainQueue = surroundings_.application.mainQueue(),
+      openedWindow_({.mainMenu = surroundings_.application.mainMenu(),
+                     .mainQueue = surroundings_.application.mainQueue(),
                      .appearance = surroundings_.application.appearance(),
                      .screens = &Screens::current,
                      .didClose = [this] { openedWindowDidClose(); }}),

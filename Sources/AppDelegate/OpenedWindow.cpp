@@ -12,6 +12,17 @@
 
 namespace velmar {
 
+namespace {
+
+constexpr int longestTitle = 120; // Characters; a text may be a page.
+
+QString titleOf(const SlideViewController &slide) {
+    const QString title = slide.title().left(longestTitle).simplified();
+    return title.isEmpty() ? QCoreApplication::applicationName() : title;
+}
+
+} // namespace
+
 OpenedWindow::OpenedWindow(Surroundings surroundings) : surroundings_(std::move(surroundings)) {}
 
 OpenedWindow::~OpenedWindow() = default;
@@ -23,8 +34,9 @@ void OpenedWindow::open(std::shared_ptr<const ActionItems::OpenWindow> item) {
                                                      .isClosable = item->_isClosable(),
                                                      .isResizable = false,
                                                      .isMovable = item->_isMovable(),
-                                                     .rank = Window::Style::Rank::front},
-                                       menu_);
+                                                     .rank = Window::Style::Rank::front,
+                                                     .hasMenuBar = false},
+                                       surroundings_.mainMenu);
     auto *slide = new SlideViewController(
         item->_slide(), SlideViewController::Kind::standard, center_,
         ContainerViewController::Surroundings{surroundings_.mainQueue, surroundings_.appearance},
@@ -32,14 +44,18 @@ void OpenedWindow::open(std::shared_ptr<const ActionItems::OpenWindow> item) {
     window_->setContent(slide);
     const QSize size = pixels(item->_size());
     window_->setSizes(size, size, size);
-    window_->setWindowTitle(QString(QChar::Nbsp)); // An empty one would be replaced by the window manager.
-    window_->setAccessibleName(QCoreApplication::applicationName());
+    window_->shrinkToScreen();
+    const auto updateTitle = [window = window_.get(), slide] { window->setWindowTitle(titleOf(*slide)); };
+    updateTitle();
+    QObject::connect(slide, &SlideViewController::titleDidChange, window_.get(), updateTitle);
 
     const WindowPositionItem position = item->_position().value_or(WindowPositionItem());
     WindowPlacement::place(*window_, position, screen);
-    QObject::connect(
-        window_.get(), &Window::framed, window_.get(),
-        [window = window_.get(), position, screen] { WindowPlacement::place(*window, position, screen); });
+    QObject::connect(window_.get(), &Window::framed, window_.get(),
+                     [window = window_.get(), position, screen] {
+                         window->shrinkToScreen();
+                         WindowPlacement::place(*window, position, screen);
+                     });
     slide->viewWillAppear();
     window_->show();
     window_->raise();

@@ -2,7 +2,6 @@
 
 #include <Models/Actions/SlideWindowPresenter.h>
 
-#include <Desktop/MainMenu.h>
 #include <Desktop/Screens.h>
 #include <Dispatch/MainQueue.h>
 #include <Foundation/NotificationCenter.h>
@@ -13,14 +12,16 @@
 namespace velmar {
 
 class DesktopAppearance;
+class MainMenu;
 class Window;
 
-/// The window that the action OpenWindow opens, above the application's own. What its slide demands of the
-/// user holds nobody on the application's slides.
+/// The window that the action OpenWindow opens, above the application's own, with the shortcuts of its menus
+/// and called like its slide. What its slide demands of the user holds nobody on the application's slides.
 class OpenedWindow final : public SlideWindowPresenter {
 public:
     /// The references must outlive it.
     struct Surroundings {
+        MainMenu &mainMenu;
         MainQueue &mainQueue;
         const DesktopAppearance &appearance;
         std::function<Screens()> screens;
@@ -39,7 +40,6 @@ private:
     bool dismiss();
 
     Surroundings surroundings_;
-    MainMenu menu_;             // Without entries.
     NotificationCenter center_; // Of the window's slide alone.
     std::unique_ptr<Window> window_;
 };

@@ -185,6 +185,23 @@ class Windows(Scenario):
         opened = next(number for number in stacking() if geometry(number)[2:] == (360, 200))
         until(lambda: f"{opened} at the top of {stacking()}", lambda: stacking()[-1] == opened)
 
+    def test_an_opened_window_fits_the_screen_and_has_a_name_and_the_shortcuts(self):
+        window = {"Type": "OpenWindow", "Size": {"Width": 9000, "Height": 9000}, "Slide": slide("Beside", "Below it")}
+        for shortcut in ["ctrl+q", "ctrl+alt+super+shift+f"]:
+            with self.subTest(shortcut=shortcut):
+                process, screen = self.start("Simple", ActionSets=[{"Type": "Chained", "Triggers": ["Launch"],
+                                                                    "Actions": [window]}])
+                screen.wait_for_title("Beside")
+                # It fills the screen with what the window manager puts around it, a title bar above all.
+                def fills_the_screen():
+                    x, y, width, height = screen.window("Beside")
+                    return 0 <= x < 9 < y < 50 and SCREEN[0] - 9 < x + width <= SCREEN[0] and \
+                        SCREEN[1] - 9 < y + height <= SCREEN[1]
+                until(lambda: f"a window that fits, not {screen.window('Beside')}", fills_the_screen)
+                xdotool("windowactivate", "--sync", stacking()[-1])
+                screen.key(shortcut)
+                self.assertEqual(0, process.wait(), process.story())
+
     def test_a_dialog_for_a_password_is_let_through(self):
         with another_application() as other:
             xdotool("set_window", "--class", "polkit-agent", other)

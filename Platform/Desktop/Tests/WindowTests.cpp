@@ -48,6 +48,7 @@ TEST_F(Windows, KeepTheShortcutsOfAHiddenMenuBar) {
     EXPECT_TRUE(bar->isVisible());
     ASSERT_EQ(bar->actions().size(), 1);
     bar->actions().first()->menu()->hide();
+    QCoreApplication::processEvents();
     EXPECT_FALSE(bar->isVisible());
     ASSERT_EQ(window.actions().size(), 1);
     EXPECT_EQ(window.actions().first()->shortcut(), QKeySequence("Ctrl+Q"));
@@ -55,12 +56,17 @@ TEST_F(Windows, KeepTheShortcutsOfAHiddenMenuBar) {
     EXPECT_EQ(quits, 1);
 }
 
-TEST_F(Windows, SurviveAnEntryThatReplacesTheMenus) {
+TEST_F(Windows, SurviveAnEntryThatReplacesTheMenusOfAllOfThem) {
     MainMenu mainMenu;
     const Window window({}, mainMenu);
+    const Window other({.hasMenuBar = false}, mainMenu);
+    auto gone = std::make_unique<Window>(Window::Style(), mainMenu);
     mainMenu.setItems({menu("App", 0, {entry("Less", 0, [&] { mainMenu.setItems({}); })})});
+    EXPECT_EQ(other.actions().size(), 1);
+    gone.reset();
     window.actions().first()->trigger();
     EXPECT_TRUE(window.actions().isEmpty());
+    EXPECT_TRUE(other.actions().isEmpty());
 }
 
 TEST_F(Windows, AreClosedByTheUserOnlyWhereTheStyleSaysSo) {

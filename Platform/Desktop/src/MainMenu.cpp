@@ -1,5 +1,7 @@
 #include <Desktop/MainMenu.h>
 
+#include <utility>
+
 namespace velmar {
 
 namespace {
@@ -15,9 +17,19 @@ void removeTagged(std::vector<MenuItem> &items, int tag) {
 
 void MainMenu::setItems(std::vector<MenuItem> items) {
     items_ = std::move(items);
-    if (observer_) {
-        observer_();
+    std::erase_if(observers_, [](const auto &observer) { return observer.expired(); });
+    // One may end others.
+    for (const auto &each : std::vector(observers_)) {
+        if (const Observation observer = each.lock()) {
+            (*observer)();
+        }
     }
+}
+
+MainMenu::Observation MainMenu::observe(std::function<void()> observer) {
+    auto observation = std::make_shared<const std::function<void()>>(std::move(observer));
+    observers_.push_back(observation);
+    return observation;
 }
 
 void MainMenu::removeItems(int tag) {

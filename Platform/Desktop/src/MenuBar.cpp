@@ -1,12 +1,13 @@
 #include "MenuBar.h"
 
 #include <Desktop/LiteralLabel.h>
-#include <Desktop/MainMenu.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTimer>
 #include <QWidget>
 
 namespace velmar {
@@ -24,13 +25,10 @@ QKeySequence keySequence(const KeyShortcut &shortcut) {
 
 } // namespace
 
-MenuBar::MenuBar(MainMenu &menu, QWidget &window) : menu_(menu), window_(window) {
+MenuBar::MenuBar(MainMenu &menu, QWidget &window, Visibility visibility)
+    : menu_(menu), window_(window), visibility_(visibility) {
     rebuild();
-    menu_.onChange([this] { rebuild(); });
-}
-
-MenuBar::~MenuBar() {
-    menu_.onChange(nullptr);
+    observation_ = menu_.observe([this] { rebuild(); });
 }
 
 void MenuBar::reveal() {
@@ -58,12 +56,12 @@ void MenuBar::rebuild() {
     }
     if (bar_ != nullptr) {
         fill(*bar_);
-        bar_->setVisible(menu_.items().size() > 1);
+        bar_->setVisible(isOnShow());
     }
 }
 
 void MenuBar::windowWillPaint() {
-    if (menu_.items().size() > 1) {
+    if (isOnShow()) {
         prepare();
     }
 }
@@ -87,7 +85,7 @@ QMenuBar &MenuBar::bar() {
         bar_->setNativeMenuBar(false);
         fill(*bar_);
         window_.layout()->setMenuBar(bar_);
-        bar_->setVisible(menu_.items().size() > 1);
+        bar_->setVisible(isOnShow());
     }
     return *bar_;
 }
@@ -103,10 +101,17 @@ void MenuBar::fill(QMenuBar &bar) {
             menu->addAction(qobject_cast<QAction *>(*action++));
         }
         bar.addMenu(menu);
+        connect(menu, &QMenu::aboutToHide, this, &MenuBar::menuWillHide);
     }
-    if (menu_.items().size() == 1) {
-        connect(bar.actions().constFirst()->menu(), &QMenu::aboutToHide, &bar, &QWidget::hide);
-    }
+}
+
+void MenuBar::menuWillHide() {
+    // Another menu may open in its place.
+    QTimer::singleShot(0, bar_, [this] {
+        if (!isOnShow() && QApplication::activePopupWidget() == nullptr) {
+            bar_->hide();
+        }
+    });
 }
 
 } // namespace velmar

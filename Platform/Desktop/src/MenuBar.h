@@ -1,5 +1,7 @@
 #pragma once
 
+#include <Desktop/MainMenu.h>
+
 #include <QObject>
 
 #include <memory>
@@ -10,9 +12,6 @@ class QWidget;
 
 namespace velmar {
 
-class MainMenu;
-struct MenuItem;
-
 /// Shows the application's menus in a window. The actions belong to the window as well, so that their
 /// shortcuts work without the bar, which is made when it is first to be seen or the window has been painted:
 /// it would hold the paint up.
@@ -20,9 +19,13 @@ class MenuBar final : public QObject {
     Q_OBJECT
 
 public:
+    enum class Visibility {
+        asNeeded, ///< While there are more menus than the application's own.
+        revealed, ///< Only when it is asked for.
+    };
+
     /// The menu must outlive the bar. The window has its layout already.
-    MenuBar(MainMenu &menu, QWidget &window);
-    ~MenuBar() override;
+    MenuBar(MainMenu &menu, QWidget &window, Visibility visibility);
 
     /// Makes the bar if it is one to be seen.
     void windowWillPaint();
@@ -36,14 +39,20 @@ public:
 private:
     void rebuild();
     void fill(QMenuBar &bar);
+    void menuWillHide();
     QAction *makeAction(const MenuItem &item);
     /// Made where there is none.
     QMenuBar &bar();
+    [[nodiscard]] bool isOnShow() const {
+        return visibility_ == Visibility::asNeeded && menu_.items().size() > 1;
+    }
 
     MainMenu &menu_;
     QWidget &window_;
+    Visibility visibility_;
     QMenuBar *bar_ = nullptr;          // Owned by the window; null until it is wanted.
     std::unique_ptr<QObject> actions_; // Owns the actions of the present items.
+    MainMenu::Observation observation_;
 };
 
 } // namespace velmar

@@ -8,6 +8,7 @@
 #include <QCloseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -36,7 +37,8 @@ Window::Window(Style style, MainMenu &menu)
     : QWidget(nullptr, flagsOf(style)), style_(style), layout_(new QVBoxLayout(this)) {
     layout_->setContentsMargins(0, 0, 0, 0);
     layout_->setSpacing(0);
-    menuBar_ = std::make_unique<MenuBar>(menu, *this);
+    menuBar_ = std::make_unique<MenuBar>(
+        menu, *this, style_.hasMenuBar ? MenuBar::Visibility::asNeeded : MenuBar::Visibility::revealed);
     // Behind what else waits for the paint.
     connect(this, &Window::firstPainted, menuBar_.get(), &MenuBar::prepare, Qt::QueuedConnection);
     if (!style_.hasTitleBar && style_.isRound) {
@@ -67,11 +69,25 @@ void Window::setContent(QWidget *content) {
     layout_->addWidget(content_);
 }
 
+QWidget *Window::takeContent() {
+    if (content_ != nullptr) {
+        layout_->removeWidget(content_);
+    }
+    return std::exchange(content_, nullptr);
+}
+
 void Window::setSizes(QSize content, QSize minimum, QSize maximum) {
     const bool isFixed = !style_.isResizable || !style_.hasTitleBar;
     setMinimumSize(isFixed ? content : minimum);
     setMaximumSize(isFixed ? content : maximum.expandedTo(minimum));
     resize(content);
+}
+
+void Window::shrinkToScreen() {
+    const QSize room = screen()->availableGeometry().size().shrunkBy(windowHandle()->frameMargins());
+    if (size() != size().boundedTo(room)) {
+        setSizes(size().boundedTo(room), minimumSize().boundedTo(room), maximumSize());
+    }
 }
 
 QSize Window::frameSize() const {

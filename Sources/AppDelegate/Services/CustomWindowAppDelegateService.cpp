@@ -99,7 +99,10 @@ void CustomWindowAppDelegateService::buildWindow() {
         cover_->coverScreens();
     }
     arrange(presentation);
-    QObject::connect(window_.get(), &Window::framed, window_.get(), [this] { place(); });
+    QObject::connect(window_.get(), &Window::framed, window_.get(), [this] {
+        window_->shrinkToScreen();
+        place();
+    });
     QObject::connect(window_.get(), &Window::firstPainted, window_.get(), [this] {
         surroundings_.didPaint();
         surroundings_.didPresent();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -38,12 +39,15 @@ public:
     /// stays, even if it is empty then.
     void removeItems(int tag);
 
-    /// Called after each change; one observer, the window that shows the menus.
-    void onChange(std::function<void()> observer) { observer_ = std::move(observer); }
+    /// Keeps one observer; letting go of it ends the observation. It may outlive the menu.
+    using Observation = std::shared_ptr<const std::function<void()>>;
+
+    /// The observer, a window that offers the menus, is called after each change.
+    [[nodiscard]] Observation observe(std::function<void()> observer);
 
 private:
     std::vector<MenuItem> items_;
-    std::function<void()> observer_;
+    std::vector<std::weak_ptr<const std::function<void()>>> observers_;
 };
 
 } // namespace velmar

@@ -17,8 +17,8 @@ class MenuBar;
 class RoundCorners;
 
 /// A window of the desktop with the application's menus and one content. It never offers to be minimised. The
-/// menu bar is on show while there are more menus than the application's own, and comes by F10 otherwise;
-/// shortcuts work in either case. Main thread.
+/// menu bar is on show while there are more menus than the application's own, unless the style says
+/// otherwise, and comes by F10 where it isn't; shortcuts work in either case. Main thread.
 class Window final : public QWidget {
     Q_OBJECT
 
@@ -35,7 +35,8 @@ public:
             front,   ///< Above the windows of other applications, on every workspace, and never minimised.
             popover, ///< Above them as well, and in no list of windows.
         } rank = Rank::ordinary;
-        bool isRound = true; ///< The corners of a window without title bar.
+        bool isRound = true;    ///< The corners of a window without title bar.
+        bool hasMenuBar = true; ///< Without it, the menus come by F10 alone.
     };
 
     /// The menu must outlive the window.
@@ -45,9 +46,14 @@ public:
     /// Replaces the content, which is destroyed; the window owns the new one.
     void setContent(QWidget *content);
     [[nodiscard]] QWidget *content() const { return content_; }
+    /// Gives up the content, which the caller has to put somewhere; null where there is none.
+    [[nodiscard]] QWidget *takeContent();
 
     /// The size of the content, and the sizes between which the user may choose.
     void setSizes(QSize content, QSize minimum, QSize maximum);
+    /// Makes a window that its screen has no room for smaller, by the frame that is known. Again when it is
+    /// `framed`.
+    void shrinkToScreen();
 
     /// With what the window manager puts around the window, as far as it is known.
     [[nodiscard]] QSize frameSize() const;

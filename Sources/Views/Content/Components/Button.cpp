@@ -35,7 +35,7 @@ Button::Button(ComponentItem::Button item, MainQueue &mainQueue, QWidget *parent
 }
 
 QString Button::title() const {
-    return buttonView_->accessibleName();
+    return QString::fromStdString(item()._text().value_or(""));
 }
 
 void Button::refresh() {

@@ -111,7 +111,7 @@ ContainerViewController::ContainerViewController(const ContainerItem &item, Kind
         }
     }
     layout_->addStretch(restStretch);
-    updateAccessibleName();
+    updateTitle();
 
     auto *outer = new QVBoxLayout(this);
     const int inset = borderColorItem_ ? borderInset + 1 : 0;
@@ -133,7 +133,7 @@ bool ContainerViewController::scroll(int key) {
 ComponentView *ContainerViewController::makeView(std::size_t position) {
     ComponentView *view =
         std::visit(ViewMaker{surroundings_.mainQueue, column_}, components_->items()[position].value);
-    connect(view, &ComponentView::titleDidChange, this, &ContainerViewController::updateAccessibleName);
+    connect(view, &ComponentView::titleDidChange, this, &ContainerViewController::updateTitle);
     if (const auto element = view->mandatoryElement()) {
         element->setMandatorySupervisor(viewModel_);
     }
@@ -213,7 +213,7 @@ void ContainerViewController::rebuildLayout() {
         }
     }
     orderTabStops();
-    updateAccessibleName();
+    updateTitle();
 }
 
 void ContainerViewController::orderTabStops() {
@@ -245,15 +245,20 @@ void ContainerViewController::animateInsertion(std::function<void()> completion)
     viewManagementAnimator_->animateInsertion(std::move(completion));
 }
 
-void ContainerViewController::updateAccessibleName() {
+QString ContainerViewController::title() const {
     for (const ComponentView *view : componentViews_) {
         if (view != nullptr && !view->title().isEmpty()) {
-            scrollArea_->setAccessibleName(view->title());
-            return;
+            return view->title();
         }
     }
+    return {};
+}
+
+void ContainerViewController::updateTitle() {
+    const QString present = title();
     //% "Content"
-    scrollArea_->setAccessibleName(qtTrId("content.container"));
+    scrollArea_->setAccessibleName(present.isEmpty() ? qtTrId("content.container") : present);
+    emit titleDidChange();
 }
 
 void ContainerViewController::updateBorderColor() {

@@ -60,6 +60,9 @@ public:
         return componentViews_;
     }
 
+    /// That of the first component that has one; empty where none has.
+    [[nodiscard]] QString title() const;
+
     /// Components come and go gradually only in a container that the user sees.
     void viewWillAppear() { isOnShow_ = true; }
     void viewWillDisappear() { isOnShow_ = false; }
@@ -75,6 +78,9 @@ public:
     void rebuildLayout() override;
     void animateInsertion(std::function<void()> completion) override;
 
+signals:
+    void titleDidChange();
+
 protected:
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
@@ -85,7 +91,7 @@ private:
     void putInPlace(std::size_t position);
     /// Has the Tab key go through the components in their order, from the scroll area on.
     void orderTabStops();
-    void updateAccessibleName();
+    void updateTitle();
     void updateBorderColor();
 
     Kind kind_;

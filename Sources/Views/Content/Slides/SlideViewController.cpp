@@ -35,6 +35,8 @@ SlideViewController::SlideViewController(const SlideItem &slide, Kind kind, Noti
         auto *container = new ContainerViewController(item, containerKind(kind, containers.size()),
                                                       slide._containersBorderColor(), surroundings, this);
         container->viewModel()->setMandatorySupervisor(viewModel_);
+        connect(container, &ContainerViewController::titleDidChange, this,
+                &SlideViewController::titleDidChange);
         containerViewControllers_.push_back(container);
     }
 }
@@ -49,6 +51,15 @@ void SlideViewController::viewWillAppear() {
 void SlideViewController::viewWillDisappear() {
     viewModel_->willDisappear();
     std::ranges::for_each(containerViewControllers_, &ContainerViewController::viewWillDisappear);
+}
+
+QString SlideViewController::title() const {
+    for (const ContainerViewController *container : containerViewControllers_) {
+        if (const QString title = container->title(); !title.isEmpty()) {
+            return title;
+        }
+    }
+    return {};
 }
 
 bool SlideViewController::scroll(int key) {

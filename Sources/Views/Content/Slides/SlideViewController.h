@@ -33,8 +33,14 @@ public:
     void viewWillAppear();
     void viewWillDisappear();
 
+    /// What readers of the screen call the slide: the title of its first component that has one.
+    [[nodiscard]] QString title() const;
+
     /// Scrolls the first container that can be by a `Qt::Key`; false where none can, or not by that key.
     bool scroll(int key);
+
+signals:
+    void titleDidChange();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
