@@ -1,6 +1,7 @@
 #include "RenderOptions.h"
 
 #include <Foundation/NumberText.h>
+#include <RenderLimits.h>
 
 #include <cstdlib>
 #include <stdexcept>
@@ -9,9 +10,20 @@ namespace velmar {
 
 namespace {
 
+void require(const std::string &problem) {
+    if (!problem.empty()) {
+        throw std::invalid_argument(problem);
+    }
+}
+
 RenderOptions::Size sizeOf(const std::string &text) {
-    const std::size_t cross = text.find('x');
-    return {std::atoi(text.c_str()), std::atoi(text.c_str() + (cross == std::string::npos ? 0 : cross + 1))};
+    require(RenderLimits::sizeProblem(text));
+    return {std::atoi(text.c_str()), std::atoi(text.c_str() + text.find('x') + 1)};
+}
+
+double scaleOf(const std::string &text) {
+    require(RenderLimits::scaleProblem(text));
+    return numberOf(text).value_or(1);
 }
 
 std::pair<std::string, std::string> assignmentOf(const std::string &text) {
@@ -43,7 +55,7 @@ RenderOptions RenderOptions::parse(std::span<const std::string> arguments) {
         if (name == "--size") {
             options.size = sizeOf(value);
         } else if (name == "--scale") {
-            options.scale = numberOf(value).value_or(1);
+            options.scale = scaleOf(value);
         } else if (name == "--language") {
             options.language = value;
         } else if (name == "--var") {

@@ -1,8 +1,8 @@
 // velmar-render FILE DIRECTORY [--dark] [--size WxH] [--scale N] [--language CODE] [--var NAME=VALUE]...
 //
-// Makes the pictures of `velmarctl render`, which has checked the file and the options. It prints the name of
-// each picture on standard output once it is in the directory, and complaints on standard error; it ends with
-// 0 if all were made.
+// Makes the pictures of `velmarctl render`, which has checked the file, and ends with it. It prints the name
+// of each picture on standard output once it is in the directory, and complaints on standard error; it ends
+// with 0 if all were made.
 
 #include "RenderOptions.h"
 #include "SlidePictures.h"
@@ -26,7 +26,10 @@
 #include <QApplication>
 #include <QBuffer>
 
+#include <sys/prctl.h>
+
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -131,5 +134,7 @@ int run(int argumentCount, char **arguments) {
 } // namespace velmar
 
 int main(int argumentCount, char **arguments) {
+    // The tool's process group is not ours: an interrupt of the user reaches the tool alone.
+    ::prctl(PR_SET_PDEATHSIG, SIGTERM);
     return velmar::run(argumentCount, arguments);
 }

@@ -1,10 +1,10 @@
 #include <RenderCommand.h>
 
 #include <ConfigurationCheck.h>
+#include <RenderLimits.h>
 #include <VariableOption.h>
 
 #include <Configuration/Configuration.h>
-#include <Foundation/NumberText.h>
 #include <command-runner/CommandLineService.h>
 
 #include <fmt/format.h>
@@ -12,34 +12,19 @@
 #include <algorithm>
 #include <filesystem>
 #include <future>
-#include <regex>
 #include <sstream>
+#include <system_error>
 
 namespace velmar {
 
 namespace {
 
-constexpr int longestSide = 8192; // Points.
-constexpr double smallestScale = 0.5;
-constexpr double largestScale = 4;
-
-std::string sizeProblem(const std::string &text) {
-    static const std::regex form("([0-9]{1,4})x([0-9]{1,4})");
-    std::smatch sides;
-    const auto isSide = [](int side) { return side >= 1 && side <= longestSide; };
-    const bool isSize =
-        std::regex_match(text, sides, form) && isSide(std::stoi(sides[1])) && isSide(std::stoi(sides[2]));
-    return isSize ? std::string()
-                  : fmt::format("'{}' is no size: it is WxH in points, such as 800x600, each from 1 to {}.",
-                                text, longestSide);
-}
-
-std::string scaleProblem(const std::string &text) {
-    const std::optional<double> scale = numberOf(text);
-    const bool isScale = scale && *scale >= smallestScale && *scale <= largestScale;
-    return isScale ? std::string()
-                   : fmt::format("'{}' is no scale: it is a number from {} to {}.", text, smallestScale,
-                                 largestScale);
+std::string folderProblem(const std::string &path) {
+    std::error_code ignored;
+    const auto kind = std::filesystem::status(path, ignored).type();
+    using enum std::filesystem::file_type;
+    const bool isFolder = kind == directory || kind == not_found || kind == none;
+    return isFolder ? std::string() : fmt::format("'{}' is there already and no folder.", path);
 }
 
 std::string rendererPath() {
@@ -60,13 +45,17 @@ RenderCommand::RenderCommand(CLI::App &commandLine)
     options()
         .add_option("--out", directory_, "The folder of the pictures, made if it is missing")
         ->type_name("DIR")
+        ->check(folderProblem)
         ->required();
     options().add_flag("--dark", isDark_, "In the dark appearance");
     options()
         .add_option("--size", size_, "The size in points instead of that of the window")
         ->type_name("WxH")
-        ->check(sizeProblem);
-    options().add_option("--scale", scale_, "The pixels a point")->type_name("N")->check(scaleProblem);
+        ->check(RenderLimits::sizeProblem);
+    options()
+        .add_option("--scale", scale_, "The pixels a point")
+        ->type_name("N")
+        ->check(RenderLimits::scaleProblem);
     options()
         .add_option("--language", language_, "The language of the interface")
         ->type_name("CODE")

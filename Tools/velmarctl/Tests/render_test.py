@@ -3,9 +3,11 @@
 import os
 import pathlib
 import plistlib
+import signal
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 
 VELMARCTL, EXAMPLES = sys.argv[1], pathlib.Path(sys.argv[2])
@@ -139,10 +141,30 @@ class Render(unittest.TestCase):
         taken = self.folder / "file"
         taken.write_text("")
         for options, out, fragment in [(["--size", "8192x8192", "--scale", "4"], self.folder / "none", "100 million pixels"),
-                                       ([], taken, str(taken))]:
+                                       ([], taken / "in", str(taken))]:
             names, complaint = self.render(configuration, *options, status=2, out=out)
             self.assertEqual([], names)
             self.assertRegex(complaint, f"^velmarctl: [^\n]*{fragment}[^\n]*\\.\n$")
+        self.assertIn(f"'{taken}' is there already and no folder.", self.render(configuration, status=2, out=taken)[1])
+
+    def test_nothing_goes_on_when_the_program_is_interrupted(self):
+        path = self.folder / "x.plist"
+        path.write_bytes(plistlib.dumps({"Window": {"OnScreen": "Simple"}, "Slides": [slide(text("A " * 50_000))]}))
+        render = subprocess.Popen([VELMARCTL, "render", path, "--no-admission", "--out", self.out], env=ENVIRONMENT,
+                                  stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        deadline = time.monotonic() + 30
+        at_work = []
+        while not at_work and time.monotonic() < deadline:
+            children = subprocess.run(["pgrep", "-P", str(render.pid)], capture_output=True, text=True).stdout.split()
+            # It is well under way when it has loaded what stands for a display.
+            at_work = [child for child in children if "libqoffscreen" in pathlib.Path(f"/proc/{child}/maps").read_text()]
+        render.send_signal(signal.SIGINT)
+        render.wait()
+        # One that has ended and was not reaped has no command line.
+        command_line = pathlib.Path(f"/proc/{at_work[0]}/cmdline")
+        while command_line.exists() and command_line.read_bytes() and time.monotonic() < deadline:
+            time.sleep(0.01)
+        self.assertEqual([], sorted(self.out.glob("*")))
 
 
 if __name__ == "__main__":
