@@ -1,7 +1,7 @@
 #include <Views/VelmarViewController.h>
 
 #include <Views/Content/Containers/ContainerViewController.h>
-#include <Views/Content/Containers/ContainerViewModel.h>
+#include <Views/Content/Containers/SideContainerMandatorySupervisor.h>
 #include <Views/Content/ContentView/ContentViewController.h>
 #include <Views/Content/Slides/SlideViewController.h>
 #include <Views/CustomViews/ColumnScrollArea.h>
@@ -107,6 +107,7 @@ void VelmarViewController::setupQuitAlerts() {
 void VelmarViewController::buildSideContainer() {
     delete sideContainerViewController_;
     sideContainerViewController_ = nullptr;
+    sideContainerSupervisor_.reset();
     const auto section = _sideContainer.wrappedValue();
     if (!*section) {
         return;
@@ -114,6 +115,8 @@ void VelmarViewController::buildSideContainer() {
     sideContainerViewController_ =
         new ContainerViewController((*section)->_container(), ContainerViewController::Kind::inSidebar,
                                     std::nullopt, {surroundings_.mainQueue, surroundings_.appearance}, this);
+    sideContainerSupervisor_ =
+        SideContainerMandatorySupervisor::make(sideContainerViewController_->viewModel());
     sideContainerViewController_->viewWillAppear();
     sideContainerViewController_->setFixedWidth(pixels((*section)->_width()));
     row_->insertWidget(0, sideContainerViewController_);
@@ -176,12 +179,12 @@ void VelmarViewController::reload(bool byResetingVariables) {
 }
 
 bool VelmarViewController::isSideContainerValid() const {
-    return sideContainerViewController_ == nullptr || sideContainerViewController_->viewModel()->isValid();
+    return sideContainerSupervisor_ == nullptr || sideContainerSupervisor_->isValid();
 }
 
 void VelmarViewController::showSideContainerWarnings() {
-    if (sideContainerViewController_ != nullptr) {
-        sideContainerViewController_->viewModel()->showWarnings();
+    if (sideContainerSupervisor_ != nullptr) {
+        sideContainerSupervisor_->showWarnings();
     }
 }
 

@@ -22,6 +22,7 @@ class ContainerViewController;
 class ContentViewController;
 class DesktopAppearance;
 class NavigationViewController;
+class SideContainerMandatorySupervisor;
 class SlideViewController;
 
 /// The whole of what the user sees: the slides, the bar that leads through them, and the container beside
@@ -78,6 +79,7 @@ private:
     QHBoxLayout *row_;
     QVBoxLayout *column_;
     ContainerViewController *sideContainerViewController_ = nullptr;
+    std::shared_ptr<SideContainerMandatorySupervisor> sideContainerSupervisor_; // Null without the container.
     ContentViewController *contentViewController_ = nullptr;
     NavigationViewController *navigationViewController_ = nullptr;
     std::vector<NotificationCenter::Token> observers_;
