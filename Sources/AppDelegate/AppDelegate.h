@@ -9,6 +9,7 @@
 #include <Managers/AppTerminationManager.h>
 #include <Managers/Config.h>
 #include <Managers/LaunchOptions.h>
+#include <Managers/LaunchWindow.h>
 #include <Managers/Shared.h>
 #include <Managers/TerminationScript.h>
 #include <Views/Content/ContentView/ContentViewModel.h>
@@ -70,8 +71,7 @@ private:
     void openedWindowDidClose();
     [[nodiscard]] std::vector<std::string> relaunchCommand() const;
 
-    Config<WindowSection::OnScreen> _onScreen{
-        [](const Configuration &c) -> decltype(auto) { return c._window()._onScreen(); }};
+    Config<WindowSection::OnScreen> _onScreen = LaunchWindow::onScreen();
     Surroundings surroundings_;
     OpenedWindow openedWindow_;
     std::optional<Shared<ActionDispatcher>::Scope> actionDispatcher_;

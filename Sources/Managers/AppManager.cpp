@@ -43,6 +43,7 @@ AppManager::AppManager(const Surroundings &surroundings)
         const ConfigurationFile file(configurationFileURL_);
         file.hasConfigFileCorrectPermissions(surroundings.identityAuthority);
         configuration_ = file.retrieveConfiguration();
+        launchConfiguration_ = configuration_;
     }
     Logger::info("Successfully decoded configuration file");
 
@@ -54,6 +55,7 @@ AppManager::AppManager(const Surroundings &surroundings)
 
 AppManager::AppManager(URL configurationFileURL)
     : configuration_(ConfigurationFile(configurationFileURL).retrieveConfiguration()),
+      launchConfiguration_(configuration_),
       configurationFileURL_(std::move(configurationFileURL)),
       terminate_([] {}),
       contentManager_(ContentManager::shared()) {}
@@ -75,12 +77,23 @@ void AppManager::setActionSetManager(std::shared_ptr<ActionSetManager> actionSet
     actionSetManager_.swap(actionSetManager);
 }
 
+std::shared_ptr<const Configuration> AppManager::retrieveConfigurationForReload() const {
+    auto configuration = ConfigurationFile(configurationFileURL_).retrieveConfiguration();
+    configuration->requireSlidesFor(launchConfiguration_->_window()._onScreen());
+    if (!configuration->hasSameWindow(*launchConfiguration_)) {
+        Logger::warning(
+            "The section 'Window' is not that of the launch: apart from 'MenuBarSize', what has changed "
+            "in it takes effect at the next launch");
+    }
+    return configuration;
+}
+
 void AppManager::reloadInterface(bool byResetingVariables) {
     const auto logFault = [] {
         Logger::error([exception = std::current_exception()] { return textOf(exception); });
     };
     try {
-        auto configuration = ConfigurationFile(configurationFileURL_).retrieveConfiguration();
+        auto configuration = retrieveConfigurationForReload();
         const std::lock_guard lock(mutex_);
         configuration_.swap(configuration);
     } catch (...) {

@@ -76,6 +76,12 @@ public:
     /// The configuration of this moment, never null. Any thread.
     [[nodiscard]] std::shared_ptr<const Configuration> configuration() const;
 
+    /// The configuration that the process was launched with, never null: a reload changes neither the mode
+    /// nor the window that stands on the screen. Any thread.
+    [[nodiscard]] const std::shared_ptr<const Configuration> &launchConfiguration() const noexcept {
+        return launchConfiguration_;
+    }
+
     /// The admitted file, which a reload reads again.
     [[nodiscard]] const URL &configurationFileURL() const noexcept { return configurationFileURL_; }
 
@@ -85,7 +91,8 @@ public:
     void setActionSetManager(std::shared_ptr<ActionSetManager> actionSetManager);
 
     /// Reads the configuration's file again and replaces the configuration; the file was admitted at the
-    /// start and is not judged again. A failure is logged and leaves the configuration as it is. Then, if
+    /// start and is not judged again. A failure is logged and leaves the configuration as it is; one without
+    /// slides for the mode of the launch is a failure. Then, if
     /// asked for, gives the variables of General.Variables the values of the present configuration again, be
     /// it the new one or not. Never throws.
     void reloadInterface(bool byResetingVariables);
@@ -95,9 +102,13 @@ public:
     bool keyDownEventHandler(const KeyEvent &event) const;
 
 private:
+    /// Throws what the reading throws.
+    [[nodiscard]] std::shared_ptr<const Configuration> retrieveConfigurationForReload() const;
+
     mutable std::mutex mutex_; // Guards the two pointers and not what they point to.
     std::shared_ptr<ActionSetManager> actionSetManager_;
     std::shared_ptr<const Configuration> configuration_;
+    std::shared_ptr<const Configuration> launchConfiguration_;
     URL configurationFileURL_;
     std::function<void()> terminate_;
     std::shared_ptr<ContentManager> contentManager_;

@@ -83,10 +83,13 @@ class Windows(Scenario):
         super().setUp()
         self.addCleanup(lambda: [xrandr("--delmonitor", name) for name in monitors()])
 
-    def start(self, mode, *slides, **sections):
+    def configure(self, mode, *slides, **sections):
         window = sections.pop("Window", {})
         self.install(configuration(*(slides or (slide("Text"), slide("Next text"))),
                                    Window={"OnScreen": mode, **window}, MenuBarSlide=slide("In the popover"), **sections))
+
+    def start(self, mode, *slides, **sections):
+        self.configure(mode, *slides, **sections)
         return self.velmar()
 
     def wait_for_place(self, screen, place):
@@ -138,6 +141,25 @@ class Windows(Scenario):
         self.wait_for_place(screen, (890, 300, 300, 200))
         xrandr("--delmonitor", "other")
         self.wait_for_place(screen, (250, 300, 300, 200))
+
+    def test_a_reload_keeps_the_mode_of_the_launch(self):
+        admin = {"Admin": {"IsAdminModeEnabled": True}}
+        two_screens()
+        _, screen = self.start("FullScreen", **admin)
+        screen.wait_for_text("Text")
+        self.wait_for_place(screen, MAIN)
+        small = {"MinimumSize": {"Width": 300, "Height": 200}, "MaximumSize": {"Width": 500, "Height": 400}}
+        for mode in ["Simple", "BlurredBackground", "MenuBar"]:
+            self.configure(mode, slide("Text"), slide(mode), slide(mode), Window=small, **admin)
+            screen.menu_item("Reload interface").press()
+            screen.key("Return")
+            screen.wait_for_text(mode)
+            screen.key("Left")
+            screen.wait_for_text("Text")
+        xrandr("--delmonitor", "other")
+        xrandr("--delmonitor", "main")
+        self.wait_for_place(screen, (0, 0, *SCREEN))
+        self.wait_for_colours({(5, 5): LIGHT})
 
     def test_nothing_comes_above_a_covering_window(self):
         for mode in ["BlurredBackground", "FullScreen"]:

@@ -99,7 +99,16 @@ Descriptions Configuration::describe() {
 }
 
 void Configuration::validate(const CodingPath & /*path*/) const {
-    if (_window()._onScreen() == WindowSection::OnScreen::menuBar) {
+    requireSlidesFor(_window()._onScreen());
+}
+
+bool Configuration::hasSameWindow(const Configuration &other) const {
+    using Coding = Decodable<WindowSection>;
+    return Coding::encode(_window.rawValue()) == Coding::encode(other._window.rawValue());
+}
+
+void Configuration::requireSlidesFor(WindowSection::OnScreen mode) const {
+    if (mode == WindowSection::OnScreen::menuBar) {
         if (!menuBarSlideWasSpecified()) {
             throw ConfigurationError(ConfigurationErrors::Custom{
                 "MenuBarSlide",

@@ -32,13 +32,8 @@ bool isOnSomeScreen(QPoint point, const Screens &screens) {
 
 } // namespace
 
-Config<WindowSection> CustomWindowAppDelegateService::configuredWindow() {
-    return Config<WindowSection>([](const Configuration &c) -> decltype(auto) { return c._window(); });
-}
-
-CustomWindowAppDelegateService::CustomWindowAppDelegateService(Surroundings surroundings,
-                                                               Config<WindowSection> windowConfig)
-    : _windowConfig(std::move(windowConfig)), surroundings_(std::move(surroundings)) {}
+CustomWindowAppDelegateService::CustomWindowAppDelegateService(Surroundings surroundings)
+    : surroundings_(std::move(surroundings)) {}
 
 CustomWindowAppDelegateService::~CustomWindowAppDelegateService() = default;
 
@@ -82,7 +77,7 @@ void CustomWindowAppDelegateService::showApplicationViewController() {
         popover_->window().setContent(controller_);
     }
     const auto admin = _admin.wrappedValue();
-    popover_->toggle(statusItem_->frame(), pixels(_windowConfig.wrappedValue()->_menuBarSize()),
+    popover_->toggle(statusItem_->frame(), pixels(_menuBarSize()),
                      admin->_isAdminModeOn() && admin->_isMenuBarSemiTransient()
                          ? Popover::Behavior::semitransient
                          : Popover::Behavior::transient);

@@ -3,6 +3,7 @@
 #include <AppDelegate/AppDelegateService.h>
 #include <Configuration/Configuration.h>
 #include <Managers/Config.h>
+#include <Managers/LaunchWindow.h>
 #include <Views/VelmarViewController.h>
 
 #include <Desktop/Screens.h>
@@ -36,8 +37,7 @@ public:
         VelmarViewController::Surroundings view;
     };
 
-    explicit CustomWindowAppDelegateService(Surroundings surroundings,
-                                            Config<WindowSection> windowConfig = configuredWindow());
+    explicit CustomWindowAppDelegateService(Surroundings surroundings);
     ~CustomWindowAppDelegateService() override;
 
     /// Throws VelmarError::InternalError where there is no screen. The status item comes when there is a
@@ -56,7 +56,6 @@ public:
     [[nodiscard]] Window *window() const noexcept { return window_.get(); }
 
 private:
-    [[nodiscard]] static Config<WindowSection> configuredWindow();
     void configureMenuBar();
     void standInForStatusItem();
     void buildWindow();
@@ -66,7 +65,10 @@ private:
     void place();
     void screensChanged();
 
-    Config<WindowSection> _windowConfig;
+    Config<WindowSection> _windowConfig = LaunchWindow::section();
+    // The popover is arranged anew each time it is shown.
+    Config<SizeItem> _menuBarSize{
+        [](const Configuration &c) -> decltype(auto) { return c._window()._menuBarSize(); }};
     Config<AdminSection> _admin{[](const Configuration &c) -> decltype(auto) { return c._admin(); }};
     Surroundings surroundings_;
     std::unique_ptr<Window> window_;

@@ -246,7 +246,10 @@ TEST_F(ContentModel, StaysWhereItIsAtAnIndexThatIsNoneAndAtAReloadThatKeepsTheCo
     EXPECT_EQ(log.lines().back(), "warning: No previous slide to transition to");
     EXPECT_EQ(model->selectedSlideIndex(), 0);
     EXPECT_EQ(takeTransitions(), Names{});
-    model->setSelectedIndex(1, false);
+    model->setSelectedIndex(2, true);
+    EXPECT_EQ(takePosted(), Names{}) << "there is no slide to tell of behind the last one";
+    previous();
+    EXPECT_EQ(takeTransitions(), (Names{"0>2", "2>1"}));
     takePosted();
     model->reloadSlidesIfCountChanged([] {});
     EXPECT_EQ(model->selectedSlideIndex(), 1);

@@ -37,14 +37,14 @@ protected:
         for (int index = 0; index < 60; ++index) {
             lines += textComponent(fmt::format("Line {}", index));
         }
-        writeConfiguration(
-            "<key>Window</key><dict><key>OnScreen</key><string>Simple</string></dict>"
-            "<key>Navigation</key><dict><key>InstallationIncompleteQuitText</key>"
-            "<string>Not before all is installed</string></dict>",
-            0644, slideOf(lines) + slideOf(textComponent("Second")) + slideOf(textComponent("Third")));
+        write("Simple", slideOf(lines) + slideOf(textComponent("Second")) + slideOf(textComponent("Third")));
         shared_ = std::make_unique<Shared<AppManager>::Scope>(makeAppManager());
         view = std::make_unique<VelmarViewController>(
-            VelmarViewController::Surroundings{queue, quits, appearance(), alerts, [](bool) {}, center},
+            VelmarViewController::Surroundings{queue, quits, appearance(), alerts,
+                                               [](bool byResetingVariables) {
+                                                   AppManager::shared()->reloadInterface(byResetingVariables);
+                                               },
+                                               center},
             &window);
         (new QVBoxLayout(&window))->addWidget(view.get());
         content = view->findChild<ContentViewController *>();
@@ -53,6 +53,16 @@ protected:
         window.show();
         window.activateWindow();
         settle();
+    }
+
+    void write(std::string_view mode, const std::string &slides) {
+        writeConfiguration(
+            fmt::format("<key>Window</key><dict><key>OnScreen</key><string>{}</string></dict>"
+                        "<key>MenuBarSlide</key>{}"
+                        "<key>Navigation</key><dict><key>InstallationIncompleteQuitText</key>"
+                        "<string>Not before all is installed</string></dict>",
+                        mode, slideOf(textComponent("Below the menu bar"))),
+            0644, slides);
     }
 
     void press(int key, bool repeats = false) {
@@ -209,6 +219,25 @@ TEST_F(VelmarView, GoesBackFromBehindTheLastSlide) {
     model->setSelectedIndex(2, true);
     settle();
     EXPECT_EQ(shownTexts(beyond), QStringList("Third"));
+}
+
+TEST_F(VelmarView, ReloadsInTheModeOfTheLaunchAndFromTheFirstSlideWhenTheirNumberChanged) {
+    press(Qt::Key_Right);
+    const std::string other = slideOf(textComponent("Other"));
+    const struct {
+        const char *mode;
+        std::string slides;
+        const char *shown;
+    } rows[] = {{"Simple", other + slideOf(textComponent("Second of three")) + other, "Second of three"},
+                {"MenuBar", other + slideOf(textComponent("Second of two")), "Other"},
+                {"MenuBar", "", "Other"}};
+    for (const auto &[mode, slides, shown] : rows) {
+        write(mode, slides);
+        view->reloadInterfaceSavingVariables();
+        settle();
+        EXPECT_EQ(shownTexts(*content), QStringList(shown));
+    }
+    EXPECT_TRUE(log_.lines().back().starts_with("error: ")) << "no slides for the mode of the launch";
 }
 
 TEST_F(VelmarView, IsCalledLikeItsSlideByReadersOfTheScreen) {

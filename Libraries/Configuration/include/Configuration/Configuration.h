@@ -67,6 +67,12 @@ struct Configuration {
 
     /// There is something to show in the mode of the window. Throws ConfigurationError.
     void validate(const CodingPath &path) const;
+
+    /// There is something to show in that mode. Throws ConfigurationError.
+    void requireSlidesFor(WindowSection::OnScreen mode) const;
+
+    /// Whether the section of the window says the same.
+    [[nodiscard]] bool hasSameWindow(const Configuration &other) const;
 };
 
 } // namespace velmar

@@ -60,9 +60,10 @@ SlideViewController *ContentViewController::slide(int index) {
     if (index < 0 || static_cast<std::size_t>(index) >= items->size()) {
         return nullptr;
     }
+    using Kind = SlideViewController::Kind;
     auto *view = new SlideViewController((*items)[static_cast<std::size_t>(index)],
-                                         SlideViewController::Kind::standard, viewModel_->center(),
-                                         {viewModel_->mainQueue(), appearance_}, this);
+                                         viewModel_->isMenuBarMode() ? Kind::inMenuBar : Kind::standard,
+                                         viewModel_->center(), {viewModel_->mainQueue(), appearance_}, this);
     view->hide();
     slides_.emplace(index, view);
     return view;

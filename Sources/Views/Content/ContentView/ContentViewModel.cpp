@@ -35,7 +35,7 @@ void ContentViewModel::setupNotifications() {
 }
 
 std::shared_ptr<const std::vector<SlideItem>> ContentViewModel::slides() const {
-    if (settings_._onScreen() == WindowSection::OnScreen::menuBar) {
+    if (isMenuBarMode()) {
         return std::make_shared<const std::vector<SlideItem>>(1, settings_._menubarSlide());
     }
     return settings_._onboardSlides.wrappedValue();

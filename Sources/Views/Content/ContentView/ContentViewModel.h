@@ -6,6 +6,7 @@
 #include <Managers/AppTerminationManager.h>
 #include <Managers/Config.h>
 #include <Managers/ContentUpdater.h>
+#include <Managers/LaunchWindow.h>
 #include <Managers/SlidesActionManager.h>
 
 #include <cstdint>
@@ -49,8 +50,7 @@ class ContentViewModel final : public SlideNavigationObserver,
 public:
     /// What the model reads of the configuration, and whom it listens to.
     struct Settings {
-        Config<WindowSection::OnScreen> _onScreen{
-            [](const Configuration &c) -> decltype(auto) { return c._window()._onScreen(); }};
+        Config<WindowSection::OnScreen> _onScreen = LaunchWindow::onScreen();
         Config<std::vector<SlideItem>> _onboardSlides{
             [](const Configuration &c) -> decltype(auto) { return c._slides(); }};
         Config<SlideItem> _menubarSlide{
@@ -80,7 +80,12 @@ public:
     /// model knows.
     void setupNotifications();
 
-    /// The slides of the present configuration and mode.
+    /// Whether the one slide is that below the menu bar.
+    [[nodiscard]] bool isMenuBarMode() const {
+        return settings_._onScreen() == WindowSection::OnScreen::menuBar;
+    }
+
+    /// The slides of the present configuration, for the mode.
     [[nodiscard]] std::shared_ptr<const std::vector<SlideItem>> slides() const;
     [[nodiscard]] int selectedSlideIndex() const noexcept { return _selectedSlideIndex(); }
     [[nodiscard]] bool isCurrentSlideValid() const noexcept { return _isCurrentSlideValid(); }
