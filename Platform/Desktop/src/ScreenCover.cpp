@@ -22,11 +22,12 @@ namespace velmar {
 
 class ScreenCover::Backdrops final : public QObject {
 public:
-    Backdrops(Window &window, Backing onMainScreen)
+    Backdrops(Window &window, Backing onMainScreen, std::function<void(const std::string &)> giveUp)
         : window_(window),
           onMainScreen_(onMainScreen),
           grab_(window),
-          guard_(*window.windowHandle(), [this] { bringToFront(); }) {
+          guard_(
+              *window.windowHandle(), [this] { bringToFront(); }, std::move(giveUp)) {
         qApp->installEventFilter(this);
         // A window that is clicked on is raised, and no ordinary window of X11 belongs to another one.
         connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this] { raiseOtherWindows(); });
@@ -148,8 +149,9 @@ private:
     StackingGuard guard_;
 };
 
-ScreenCover::ScreenCover(Window &window, Backing onMainScreen)
-    : backdrops_(std::make_unique<Backdrops>(window, onMainScreen)) {}
+ScreenCover::ScreenCover(Window &window, Backing onMainScreen,
+                         std::function<void(const std::string &application)> giveUp)
+    : backdrops_(std::make_unique<Backdrops>(window, onMainScreen, std::move(giveUp))) {}
 
 ScreenCover::~ScreenCover() = default;
 

@@ -19,8 +19,10 @@ namespace velmar {
 namespace {
 
 constexpr int restBetweenLooks = 50; // Milliseconds, in which changes come together.
-// A window that the window manager keeps above ours whatever is asked is not fought without end.
+// A window that the window manager keeps above ours whatever is asked, or that comes back each time, is not
+// fought without end.
 constexpr int mostAttempts = 20;
+constexpr int peace = 1000; // Milliseconds after which the attempts are counted anew.
 
 bool asksForPassword(std::uint32_t window) {
     constexpr std::array<std::string_view, 4> programs{"polkit", "lxpolkit", "pinentry", "gcr-prompter"};
@@ -47,9 +49,11 @@ bool takesOurKeys(std::uint32_t number) {
 
 } // namespace
 
-StackingGuard::StackingGuard(QWindow &front, std::function<void()> bringToFront)
+StackingGuard::StackingGuard(QWindow &front, std::function<void()> bringToFront,
+                             std::function<void(const std::string &application)> giveUp)
     : front_(front),
       bringToFront_(std::move(bringToFront)),
+      giveUp_(std::move(giveUp)),
       stacking_(atomOfWindowSystem("_NET_CLIENT_LIST_STACKING")),
       active_(atomOfWindowSystem("_NET_ACTIVE_WINDOW")) {
     later_.setSingleShot(true);
@@ -89,7 +93,7 @@ void StackingGuard::look() {
         asking != asksForPassword_.end() && asking->second) {
         return;
     }
-    const bool lostTheKeyboard = active != 0 && !takesOurKeys(active);
+    const bool lostTheKeyboard = active != 0 && !takesOurKeys(active) && mayFight(active);
     if (isCovered || lostTheKeyboard) {
         bringToFront_();
         if (lostTheKeyboard) {
@@ -108,30 +112,42 @@ void StackingGuard::learn(const std::vector<std::uint32_t> &stack) {
             before == asksForPassword_.end() ? !isOurs(window) && asksForPassword(window) : before->second;
     }
     asksForPassword_ = std::move(known);
+    std::erase_if(fights_, [this](const auto &fight) { return !asksForPassword_.contains(fight.first); });
 }
 
 bool StackingGuard::findMisplaced(const std::vector<std::uint32_t> &stack) {
     const auto lowest = std::find_if(stack.begin(), stack.end(), &isOurs);
     const auto highest = std::find_if(stack.rbegin(), stack.rend(), &isOurs).base();
-    std::map<std::uint32_t, int> attempts;
     bool isCovered = false;
     for (auto window = stack.begin(); window != stack.end(); ++window) {
         const bool asks = asksForPassword_[*window];
         const bool isMisplaced = asks ? window < highest : window > lowest;
-        if (!isMisplaced || isOurs(*window)) {
+        if (!isMisplaced || isOurs(*window) || !mayFight(*window)) {
             continue;
         }
-        const int attempt = attempts_[*window] + 1;
-        attempts[*window] = attempt;
-        if (attempt <= mostAttempts && asks) {
+        if (asks) {
             front_.setKeyboardGrabEnabled(false);
             WindowList::lift(*window);
-        } else if (attempt <= mostAttempts) {
+        } else {
             isCovered = true;
         }
     }
-    attempts_ = std::move(attempts);
     return isCovered;
+}
+
+bool StackingGuard::mayFight(std::uint32_t window) {
+    Fight &fight = fights_[window];
+    const bool isSameLook = fight.sinceLast.isValid() && fight.sinceLast.elapsed() < restBetweenLooks / 2;
+    if (!isSameLook) {
+        if (fight.sinceLast.isValid() && fight.sinceLast.hasExpired(peace)) {
+            fight.attempts = 0;
+        }
+        fight.sinceLast.start();
+        if (++fight.attempts == mostAttempts + 1) {
+            giveUp_(WindowList::applicationOf(window));
+        }
+    }
+    return fight.attempts <= mostAttempts;
 }
 
 } // namespace velmar

@@ -11,6 +11,8 @@
 #include <Desktop/Window.h>
 #include <logger/Logger.h>
 
+#include <fmt/format.h>
+
 #include <QGuiApplication>
 
 #include <algorithm>
@@ -27,6 +29,15 @@ using OnScreen = WindowSection::OnScreen;
 bool isOnSomeScreen(QPoint point, const Screens &screens) {
     return std::any_of(screens.frames.begin(), screens.frames.end(), [&](const ScreenFrame &screen) {
         return QRect(screen.x, screen.y, screen.width, screen.height).contains(point);
+    });
+}
+
+void logUnequalFight(const std::string &application) {
+    Logger::warning([&] {
+        return fmt::format(
+            "The program '{}' comes above the window or takes the keyboard again and again and "
+            "is left alone until it rests",
+            application);
     });
 }
 
@@ -90,7 +101,7 @@ void CustomWindowAppDelegateService::buildWindow() {
     window_->setContent(controller_);
     setTitle();
     if (presentation.cover) {
-        cover_ = std::make_unique<ScreenCover>(*window_, *presentation.cover);
+        cover_ = std::make_unique<ScreenCover>(*window_, *presentation.cover, &logUnequalFight);
         cover_->coverScreens();
     }
     arrange(presentation);

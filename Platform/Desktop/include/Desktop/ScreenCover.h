@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <string>
 
 namespace velmar {
 
@@ -14,8 +16,10 @@ public:
     /// What covers the main screen; the others show a blurred picture of what was there.
     enum class Backing { blurred, plain };
 
-    /// The window, one of the rank `front`, must outlive the cover.
-    ScreenCover(Window &window, Backing onMainScreen);
+    /// The window, one of the rank `front`, must outlive the cover. `giveUp` is told the application whose
+    /// window comes above or takes the keyboard so often that it is left alone, for as long as it goes on.
+    ScreenCover(Window &window, Backing onMainScreen,
+                std::function<void(const std::string &application)> giveUp);
     ~ScreenCover();
     ScreenCover(const ScreenCover &) = delete;
     ScreenCover &operator=(const ScreenCover &) = delete;
