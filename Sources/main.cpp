@@ -5,6 +5,7 @@
 #include <Desktop/DesktopSoundPlayer.h>
 #include <Desktop/DesktopUserNotifications.h>
 #include <Desktop/Display.h>
+#include <Desktop/SessionBus.h>
 #include <Dispatch/UncaughtHandler.h>
 #include <Extensions/VelmarLogDestinations.h>
 #include <Managers/LaunchOptions.h>
@@ -20,6 +21,7 @@
 #include <exception>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -43,11 +45,15 @@ void settleOrExit(int status) {
 }
 
 int run(int argumentCount, char **arguments, LaunchOptions options) {
+    const std::optional<std::string> busProblem = leaveSilentSessionBus();
     const auto &authority = SystemIdentityAuthority::shared();
     installVelmarLogDestinations(authority);
     setUncaughtHandler([](std::string_view label, std::exception_ptr exception) {
         Logger::error([&] { return fmt::format("Uncaught error in {}: {}", label, textOf(exception)); });
     });
+    if (busProblem) {
+        Logger::error(*busProblem);
+    }
     try {
         std::error_code ignored;
         const std::string executable = std::filesystem::read_symlink("/proc/self/exe", ignored).string();

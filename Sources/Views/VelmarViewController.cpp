@@ -190,7 +190,7 @@ void VelmarViewController::showSideContainerWarnings() {
 
 void VelmarViewController::showEvent(QShowEvent *event) {
     QWidget::showEvent(event);
-    if (!event->spontaneous() && !std::exchange(wasShown_, true)) {
+    if (!event->spontaneous() && std::exchange(shownIn_, window()) != window()) {
         focusNavigation();
     }
 }

@@ -83,7 +83,7 @@ private:
     ContentViewController *contentViewController_ = nullptr;
     NavigationViewController *navigationViewController_ = nullptr;
     std::vector<NotificationCenter::Token> observers_;
-    bool wasShown_ = false;
+    const QWidget *shownIn_ = nullptr; // The window; null before the first show.
 };
 
 } // namespace velmar

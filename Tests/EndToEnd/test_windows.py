@@ -2,7 +2,9 @@
 
 import contextlib
 import re
+import socket
 import subprocess
+import time
 
 from harness.scenario import Scenario, configuration, slide
 from harness.screen import SIZE as SCREEN
@@ -88,9 +90,9 @@ class Windows(Scenario):
         self.install(configuration(*(slides or (slide("Text"), slide("Next text"))),
                                    Window={"OnScreen": mode, **window}, MenuBarSlide=slide("In the popover"), **sections))
 
-    def start(self, mode, *slides, **sections):
+    def start(self, mode, *slides, environment=None, **sections):
         self.configure(mode, *slides, **sections)
-        return self.velmar()
+        return self.velmar(environment=environment)
 
     def wait_for_place(self, screen, place):
         until(lambda: f"{place}, not {screen.window('Text')}", lambda: screen.window("Text") == place)
@@ -288,6 +290,34 @@ class Windows(Scenario):
                 screen.wait_for_text("In the popover")
                 screen.key("ctrl+q")
                 self.assertEqual(0, process.wait(), process.story())
+
+    def test_the_session_moves_into_a_window_when_the_panel_goes(self):
+        tray = Tray()
+        process, screen = self.start("MenuBar")
+        tray.click()
+        screen.wait_for_text("In the popover")
+        tray.close()
+        screen.key("Escape")
+        screen.wait_until_gone("In the popover")
+        screen.wait_for_text("In the popover")
+        screen.key("alt+F4")
+        self.assertEqual(0, process.wait(), process.story())
+
+    def test_what_hangs_on_the_desktop_holds_up_no_launch(self):
+        silent = socket.socket(socket.AF_UNIX)
+        silent.bind("/tmp/silent-bus")
+        silent.listen()
+        self.addCleanup(silent.close)
+        panel = Tray(hangs=True)
+        self.addCleanup(panel.close)
+        for environment in [{}, {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/tmp/silent-bus"}]:
+            with self.subTest(environment=environment):
+                self.setUp()
+                begin = time.monotonic()
+                process, _ = self.start("MenuBar", environment=environment)
+                self.wait_for_message("First paint")
+                self.assertLess(time.monotonic() - begin, 9)
+                process.close()
 
     def test_the_icon_of_the_status_item(self):
         tray = Tray()

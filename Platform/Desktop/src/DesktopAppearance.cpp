@@ -1,6 +1,6 @@
 #include <Desktop/DesktopAppearance.h>
 
-#include "SessionBus.h"
+#include <Desktop/SessionBus.h>
 
 #include <QDBusConnection>
 #include <QDBusMessage>

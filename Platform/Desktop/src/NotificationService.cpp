@@ -1,6 +1,6 @@
 #include "NotificationService.h"
 
-#include "SessionBus.h"
+#include <Desktop/SessionBus.h>
 
 #include <Dispatch/UncaughtHandler.h>
 
@@ -29,6 +29,8 @@ const auto connectionName = QStringLiteral("UserNotifications");
 const auto tapOnBody = QStringLiteral("default");
 // Characters; nobody reads more, and the bus ends the connection of who sends too much.
 constexpr qsizetype longestText = 10'000;
+// For a bus to answer to a connection, which the main thread waits for.
+constexpr std::chrono::milliseconds patience(500);
 
 QDBusMessage methodCall(const QString &method, const QVariantList &arguments = {}) {
     QDBusMessage message = QDBusMessage::createMethodCall(serviceName, path, interface, method);
@@ -96,10 +98,7 @@ void NotificationService::call(const QDBusMessage &message, const UserNotificati
 }
 
 void NotificationService::add(UserNotification notification, UserNotifications::Completion completion) {
-    if (!isConnected()) {
-        const QString reason = hasSessionBus() ? QStringLiteral("the session bus cannot be reached: ") +
-                                                     QDBusConnection(connectionName).lastError().message()
-                                               : QStringLiteral("there is no session bus");
+    if (const QString reason = connectionProblem(); !reason.isEmpty()) {
         QMetaObject::invokeMethod(
             this,
             [completion = std::move(completion), reason] {
@@ -113,19 +112,22 @@ void NotificationService::add(UserNotification notification, UserNotifications::
                           const QStringList &capabilities) { show(notification, capabilities, completion); });
 }
 
-bool NotificationService::isConnected() {
+QString NotificationService::connectionProblem() {
     if (QDBusConnection(connectionName).isConnected()) {
-        return true;
+        return {};
     }
     QDBusConnection::disconnectFromBus(connectionName);
     forgetAll();
     if (!hasSessionBus()) {
-        return false;
+        return QStringLiteral("there is no session bus");
+    }
+    if (isSessionBusSilent(patience)) {
+        return QStringLiteral("the session bus does not answer");
     }
     // Not by the bus's address: the toolkit would then abort the process where the bus refuses it.
     auto bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName);
     if (!bus.isConnected()) {
-        return false;
+        return QStringLiteral("the session bus cannot be reached: ") + bus.lastError().message();
     }
     bus.connect(serviceName, path, interface, QStringLiteral("ActionInvoked"), this,
                 SLOT(actionInvoked(uint, QString)));
@@ -134,7 +136,7 @@ bool NotificationService::isConnected() {
     // Another service begins to count anew.
     watcher_ = std::make_unique<QDBusServiceWatcher>(serviceName, bus);
     connect(watcher_.get(), &QDBusServiceWatcher::serviceUnregistered, this, &NotificationService::forgetAll);
-    return true;
+    return {};
 }
 
 void NotificationService::forgetAll() {

@@ -35,8 +35,8 @@ private:
     Q_SLOT void actionInvoked(uint number, const QString &key);
     Q_SLOT void notificationClosed(uint number, uint reason);
 
-    /// Connects to the bus if that has to be done.
-    bool isConnected();
+    /// Connects to the bus if that has to be done. Empty if there is a connection.
+    QString connectionProblem();
     void show(const UserNotification &notification, const QStringList &capabilities,
               const UserNotifications::Completion &completion);
     void withdraw(uint number);

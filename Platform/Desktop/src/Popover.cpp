@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -29,7 +30,7 @@ Popover::Popover(MainMenu &menu) : window_(style, menu) {
     window_.setAttribute(Qt::WA_QuitOnClose, false);
     window_.setAccessibleName(QCoreApplication::applicationName());
     window_.installEventFilter(this);
-    connect(qApp, &QGuiApplication::applicationStateChanged, this, &Popover::applicationStateChanged);
+    connect(qApp, &QGuiApplication::applicationStateChanged, this, &Popover::hideIfTurnedAway);
 }
 
 QPoint Popover::originOf(const QRect &place, QSize size, const QRect &area) {
@@ -75,6 +76,9 @@ void Popover::show(const ScreenFrame &place, QSize size) {
 bool Popover::eventFilter(QObject *watched, QEvent *event) {
     if (event->type() == QEvent::WindowActivate) {
         hadTheKeyboard_ = true;
+    } else if (event->type() == QEvent::WindowUnblocked) {
+        // An alert is over: until the keyboard has come back to what it stood on, the user looks turned away.
+        QTimer::singleShot(sameClick, this, &Popover::hideIfTurnedAway);
     }
     const bool isEscape =
         event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape;
@@ -86,11 +90,12 @@ bool Popover::eventFilter(QObject *watched, QEvent *event) {
     return QObject::eventFilter(watched, event);
 }
 
-void Popover::applicationStateChanged(Qt::ApplicationState state) {
+void Popover::hideIfTurnedAway() {
     // What is told now may be of the time before the popover was shown. An alert above it must not lose what
     // it stands on.
-    if (state != Qt::ApplicationActive && hadTheKeyboard_ && behavior_ == Behavior::transient &&
-        window_.isVisible() && QApplication::activeModalWidget() == nullptr) {
+    if (QGuiApplication::applicationState() != Qt::ApplicationActive && hadTheKeyboard_ &&
+        behavior_ == Behavior::transient && window_.isVisible() &&
+        QApplication::activeModalWidget() == nullptr) {
         window_.hide();
         sinceSentAway_.start();
     }

@@ -1,12 +1,125 @@
-#include "SessionBus.h"
+#include <Desktop/SessionBus.h>
 
+#include <QByteArray>
 #include <QFileInfo>
+
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstddef>
+#include <cstring>
+#include <thread>
 
 namespace velmar {
 
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr const char *addressVariable = "DBUS_SESSION_BUS_ADDRESS";
+// As every library of D-Bus understands it: there is none, and none is to be looked for.
+constexpr const char *noBus = "disabled:";
+// A bus may be started by the first connection, while the login keeps the machine busy.
+constexpr std::chrono::seconds patienceAtLaunch(3);
+
+QByteArray busAddress() {
+    const QByteArray address = qgetenv(addressVariable);
+    return address.isEmpty() ? "unix:path=" + qgetenv("XDG_RUNTIME_DIR") + "/bus" : address;
+}
+
+/// The name of the socket, with a leading zero in place of the path for an abstract one; empty where the
+/// first of the addresses is of another kind.
+QByteArray socketName(const QByteArray &address) {
+    const QByteArray first = address.split(';').constFirst();
+    if (!first.startsWith("unix:")) {
+        return {};
+    }
+    for (const QByteArray &part : first.mid(5).split(',')) {
+        if (part.startsWith("path=")) {
+            return QByteArray::fromPercentEncoding(part.mid(5));
+        }
+        if (part.startsWith("abstract=")) {
+            return '\0' + QByteArray::fromPercentEncoding(part.mid(9));
+        }
+    }
+    return {};
+}
+
+int timeLeft(Clock::time_point end) {
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now());
+    return static_cast<int>(std::max<std::chrono::milliseconds::rep>(left.count(), 0));
+}
+
+/// Tries until the end while the queue of the socket is full. True also where nobody is to be reached.
+bool isConnected(int descriptor, const QByteArray &name, Clock::time_point end) {
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    std::memcpy(address.sun_path, name.constData(), static_cast<std::size_t>(name.size()));
+    const auto length = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path)) + socklen_t(name.size());
+    while (::connect(descriptor, reinterpret_cast<const sockaddr *>(&address), length) != 0 &&
+           errno == EAGAIN) {
+        if (timeLeft(end) == 0) {
+            return false;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+    return true;
+}
+
+/// Any answer is one, and so is a refusal.
+bool answers(int descriptor, Clock::time_point end) {
+    const QByteArray greeting =
+        QByteArray("\0AUTH EXTERNAL ", 15) + QByteArray::number(::getuid()).toHex() + "\r\n";
+    if (::send(descriptor, greeting.constData(), static_cast<std::size_t>(greeting.size()), MSG_NOSIGNAL) <
+        0) {
+        return true;
+    }
+    pollfd answer{.fd = descriptor, .events = POLLIN, .revents = 0};
+    int count = 0;
+    do {
+        count = ::poll(&answer, 1, timeLeft(end));
+    } while (count < 0 && errno == EINTR);
+    return count != 0;
+}
+
+} // namespace
+
 bool hasSessionBus() {
-    return !qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS") ||
-           QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus"));
+    const QByteArray address = qgetenv(addressVariable);
+    return address.isEmpty()
+               ? QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus"))
+               : address != noBus;
+}
+
+bool isSessionBusSilent(std::chrono::milliseconds patience) {
+    const QByteArray name = hasSessionBus() ? socketName(busAddress()) : QByteArray();
+    if (name.isEmpty() || static_cast<std::size_t>(name.size()) >= sizeof sockaddr_un::sun_path) {
+        return false;
+    }
+    const int descriptor = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    if (descriptor < 0) {
+        return false;
+    }
+    const auto end = Clock::now() + patience;
+    const bool isSilent = !isConnected(descriptor, name, end) || !answers(descriptor, end);
+    ::close(descriptor);
+    return isSilent;
+}
+
+std::optional<std::string> leaveSilentSessionBus() {
+    if (!isSessionBusSilent(patienceAtLaunch)) {
+        return std::nullopt;
+    }
+    const std::string address = busAddress().toStdString();
+    qputenv(addressVariable, noBus);
+    return "The session bus at '" + address +
+           "' does not answer. Notifications, a status item, the desktop's light or dark appearance and "
+           "readers "
+           "of the screen are not available";
 }
 
 } // namespace velmar

@@ -1,11 +1,15 @@
 #include <Desktop/StatusItemPlace.h>
 
-#include "SessionBus.h"
 #include "WindowManagerHints.h"
+
+#include <Desktop/SessionBus.h>
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
 #include <QDBusVariant>
+#include <QElapsedTimer>
 #include <QTimer>
 
 #include <utility>
@@ -14,61 +18,73 @@ namespace velmar {
 
 namespace {
 
-constexpr int rest = 100; // Milliseconds between two looks.
-constexpr int mostLooks = 30;
-constexpr int patience = 500; // Milliseconds for the panel's answer.
-
-/// The toolkit asks the same, but once, and remembers the answer for good.
-bool hasPanelOnTheBus() {
-    if (!hasSessionBus()) {
-        return false;
-    }
-    QDBusMessage call = QDBusMessage::createMethodCall(
-        QStringLiteral("org.kde.StatusNotifierWatcher"), QStringLiteral("/StatusNotifierWatcher"),
-        QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
-    call.setArguments(
-        {QStringLiteral("org.kde.StatusNotifierWatcher"), QStringLiteral("IsStatusNotifierHostRegistered")});
-    call.setAutoStartService(false);
-    const QDBusMessage answer = QDBusConnection::sessionBus().call(call, QDBus::Block, patience);
-    return answer.type() == QDBusMessage::ReplyMessage && !answer.arguments().isEmpty() &&
-           answer.arguments().constFirst().value<QDBusVariant>().variant().toBool();
-}
-
-bool isThere() {
-    return ownerOfSelection("_NET_SYSTEM_TRAY_S0") != 0 || hasPanelOnTheBus();
-}
+// Milliseconds.
+constexpr int restWhileWaiting = 100; // Between two looks,
+constexpr int restOnceThere = 1000;   // of which the later ones are for a place that goes.
+constexpr int patience = 3000;        // For a place that comes,
+constexpr int absence = 5000;         // and for one that comes back.
 
 } // namespace
 
-class StatusItemPlace::Wait final : public QObject {
+class StatusItemPlace::Watch final : public QObject {
 public:
-    explicit Wait(std::function<void(bool isThere)> found) : found_(std::move(found)) {
-        timer_.setInterval(rest);
+    explicit Watch(std::function<void(bool isThere)> tell) : tell_(std::move(tell)) {
+        sinceSeen_.start();
         connect(&timer_, &QTimer::timeout, this, [this] { look(); });
-        timer_.start();
+        timer_.start(0);
     }
 
 private:
     void look() {
-        const bool isFound = isThere();
-        if (isFound || ++looks_ == mostLooks) {
+        timer_.setInterval(isThere_ ? restOnceThere : restWhileWaiting);
+        if (ownerOfSelection("_NET_SYSTEM_TRAY_S0") != 0) {
+            wasSeen();
+        } else if (sinceSeen_.hasExpired(isThere_ ? absence : patience)) {
             timer_.stop();
-            std::exchange(found_, nullptr)(isFound);
+            tell_(false);
+        } else if (!isAsking_ && hasSessionBus()) {
+            askPanelOnTheBus();
         }
     }
 
-    std::function<void(bool isThere)> found_;
+    /// The toolkit asks the same, but once, while everything waits for the answer.
+    void askPanelOnTheBus() {
+        QDBusMessage question = QDBusMessage::createMethodCall(
+            QStringLiteral("org.kde.StatusNotifierWatcher"), QStringLiteral("/StatusNotifierWatcher"),
+            QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+        question.setArguments({QStringLiteral("org.kde.StatusNotifierWatcher"),
+                               QStringLiteral("IsStatusNotifierHostRegistered")});
+        question.setAutoStartService(false);
+        isAsking_ = true;
+        auto *watcher =
+            new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question, patience), this);
+        connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+            const QDBusPendingReply<QDBusVariant> answer = *watcher;
+            watcher->deleteLater();
+            isAsking_ = false;
+            if (timer_.isActive() && !answer.isError() && answer.value().variant().toBool()) {
+                wasSeen();
+            }
+        });
+    }
+
+    void wasSeen() {
+        sinceSeen_.start();
+        if (!std::exchange(isThere_, true)) {
+            timer_.setInterval(restOnceThere);
+            tell_(true);
+        }
+    }
+
+    std::function<void(bool isThere)> tell_;
     QTimer timer_;
-    int looks_ = 0;
+    QElapsedTimer sinceSeen_; // Or since the beginning.
+    bool isThere_ = false;
+    bool isAsking_ = false;
 };
 
-StatusItemPlace::StatusItemPlace(std::function<void(bool isThere)> found) {
-    if (isThere()) {
-        found(true);
-    } else {
-        wait_ = std::make_unique<Wait>(std::move(found));
-    }
-}
+StatusItemPlace::StatusItemPlace(std::function<void(bool isThere)> tell)
+    : watch_(std::make_unique<Watch>(std::move(tell))) {}
 
 StatusItemPlace::~StatusItemPlace() = default;
 

@@ -58,8 +58,12 @@ void CustomWindowAppDelegateService::applicationDidFinishLaunching() {
 }
 
 void CustomWindowAppDelegateService::standInForStatusItem() {
-    Logger::error("The mode 'MenuBar' of 'Window.OnScreen' is not available: the desktop has no place for "
-                  "status items. The window is shown as in the mode 'Simple'");
+    Logger::error(
+        statusItem_ == nullptr
+            ? "The mode 'MenuBar' of 'Window.OnScreen' is not available: the desktop has no place for "
+              "status items. The window is shown as in the mode 'Simple'"
+            : "The desktop has no place for status items any more. The session goes on in a window as "
+              "in the mode 'Simple'");
     try {
         buildWindow();
     } catch (const std::exception &error) {
@@ -76,7 +80,7 @@ void CustomWindowAppDelegateService::configureMenuBar() {
         statusItem_->setImage(std::move(*image));
     }
     statusItem_->show();
-    surroundings_.didPresent();
+    std::exchange(surroundings_.didPresent, [] {})();
 }
 
 void CustomWindowAppDelegateService::showApplicationViewController() {
@@ -97,8 +101,12 @@ void CustomWindowAppDelegateService::showApplicationViewController() {
 void CustomWindowAppDelegateService::buildWindow() {
     const auto presentation = WindowPresentation::of(*_windowConfig.wrappedValue(), surroundings_.screens());
     window_ = std::make_unique<Window>(presentation.style, surroundings_.mainMenu);
-    controller_ = new VelmarViewController(surroundings_.view, window_.get());
-    window_->setContent(controller_);
+    // The session of a popover goes on.
+    window_->setContent(popover_ != nullptr ? popover_->window().takeContent()
+                                            : new VelmarViewController(surroundings_.view, window_.get()));
+    controller_ = static_cast<VelmarViewController *>(window_->content());
+    popover_.reset();
+    statusItem_.reset();
     setTitle();
     if (presentation.cover) {
         cover_ = std::make_unique<ScreenCover>(*window_, *presentation.cover, &logUnequalFight);
@@ -111,7 +119,7 @@ void CustomWindowAppDelegateService::buildWindow() {
     });
     QObject::connect(window_.get(), &Window::firstPainted, window_.get(), [this] {
         surroundings_.didPaint();
-        surroundings_.didPresent();
+        std::exchange(surroundings_.didPresent, [] {})();
     });
     screensObserver_ = std::make_unique<ScreensObserver>([this] { screensChanged(); });
     window_->show();

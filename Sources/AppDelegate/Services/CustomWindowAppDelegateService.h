@@ -41,7 +41,8 @@ public:
     ~CustomWindowAppDelegateService() override;
 
     /// Throws VelmarError::InternalError where there is no screen. The status item comes when there is a
-    /// place for it; without one the window of the mode "Simple" stands in for it.
+    /// place for it; without one the window of the mode "Simple" stands in for it, and the session moves into
+    /// that window when the place goes for good.
     void applicationDidFinishLaunching() override;
 
     /// The action of the status item: its popover comes, or goes.

@@ -14,8 +14,9 @@ class Process:
     """Started by the constructor as a user of the machine; standard output and error go to files, so that it never
     waits for a reader. Its use of time and memory is known when it has ended."""
 
-    def __init__(self, program, *arguments, user="root"):
+    def __init__(self, program, *arguments, user="root", environment=None):
         self.user = user
+        self._added = environment or {}
         self._output, self._errors = tempfile.TemporaryFile("w+"), tempfile.TemporaryFile("w+")
         number, group = machine.user_number(user), machine.group_number(machine.primary_group(user))
         groups = [machine.group_number(name) for own, _, _, names in machine.USERS if own == user for name in names]
@@ -38,7 +39,7 @@ class Process:
         # The session bus lets in only the user who started it.
         environment["DBUS_SESSION_BUS_ADDRESS"] = (
             os.environ["DBUS_SESSION_BUS_ADDRESS"] if self.user == "root" else "unix:path=/nonexistent")
-        return environment
+        return {**environment, **self._added}
 
     def ended(self):
         """Takes the status when there is one. A death by a signal is a negative number."""

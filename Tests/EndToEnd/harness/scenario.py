@@ -37,14 +37,14 @@ class Scenario(unittest.TestCase):
         os.chmod(path, mode)
         return path
 
-    def run_program(self, program, *arguments, user="root"):
-        process = Process(program, *map(str, arguments), user=user)
+    def run_program(self, program, *arguments, **options):
+        process = Process(program, *map(str, arguments), **options)
         self.addCleanup(process.close)
         return process
 
-    def velmar(self, *arguments, user="root"):
+    def velmar(self, *arguments, **options):
         """Starts the program. Gives the process and its screen."""
-        process = self.run_program("velmar", *arguments, user=user)
+        process = self.run_program("velmar", *arguments, **options)
         return process, Screen(process)
 
     def velmarctl(self, *arguments):

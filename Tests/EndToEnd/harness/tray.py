@@ -52,13 +52,17 @@ class _Service:
 
 
 class Tray(_Service):
-    """The panel: it takes items, and clicks on them when it is told to."""
+    """The panel: it takes items, and clicks on them when it is told to; or it hangs, and answers nothing."""
 
-    def __init__(self):
+    def __init__(self, hangs=False):
         self.items = []
+        self._hangs = hangs
         super().__init__(WATCHER)
 
     def export(self):
+        if self._hangs:
+            self.connection.add_filter(lambda _, message, incoming: None if incoming and message.get_message_type() ==
+                                       Gio.DBusMessageType.METHOD_CALL else message)
         interface = Gio.DBusNodeInfo.new_for_xml(WATCHER_XML).interfaces[0]
         self.connection.register_object("/StatusNotifierWatcher", interface, self._called, self._property, None)
 

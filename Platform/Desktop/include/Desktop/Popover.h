@@ -41,7 +41,7 @@ protected:
 
 private:
     void show(const ScreenFrame &place, QSize size);
-    void applicationStateChanged(Qt::ApplicationState state);
+    void hideIfTurnedAway();
 
     Window window_;
     Behavior behavior_ = Behavior::transient;
