@@ -291,6 +291,32 @@ class Windows(Scenario):
                 screen.key("ctrl+q")
                 self.assertEqual(0, process.wait(), process.story())
 
+    def test_a_popover_that_the_user_turned_away_from_goes_with_its_alert(self):
+        tray = Tray()
+        self.addCleanup(tray.close)
+        alert = {"Type": "DisplayAlert", "Title": "An alert", "Message": "Text of it", "Style": "Informational"}
+        ask = {"Type": "Button", "Style": "Simple", "Text": "Ask",
+               "OnClick": {"Type": "Chained", "Actions": [alert]}}
+        self.install({"Window": {"OnScreen": "MenuBar"},
+                      "MenuBarSlide": {"Containers": [{"Components": [{"Type": "Text", "Text": "Below"}, ask]}]}})
+        _, screen = self.velmar()
+        for turns_away in [False, True]:
+            with self.subTest(turns_away=turns_away):
+                until("the popover", lambda: "Below" in screen.texts() or tray.click())
+                screen.wait_for_focus()
+                screen.button("Ask").click()
+                screen.wait_for_text("An alert")
+                with another_application() if turns_away else contextlib.nullcontext() as other:
+                    if turns_away:
+                        xdotool("windowactivate", "--sync", other)
+                    screen.button("OK").press()
+                    screen.wait_until_gone("An alert")
+                    if turns_away:
+                        screen.wait_until_gone("Below")
+                end = time.monotonic() + 0.5  # It would go within half of that.
+                while not turns_away and time.monotonic() < end:
+                    self.assertIn("Below", screen.texts())
+
     def test_the_session_moves_into_a_window_when_the_panel_goes(self):
         tray = Tray()
         process, screen = self.start("MenuBar")
