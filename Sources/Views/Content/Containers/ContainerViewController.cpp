@@ -8,7 +8,6 @@
 #include <Views/Content/Containers/ContainerViewModel.h>
 #include <Views/CustomViews/Colors.h>
 #include <Views/CustomViews/ColumnScrollArea.h>
-#include <Views/CustomViews/KeyboardFocus.h>
 #include <Views/CustomViews/Theme.h>
 
 #include <fmt/core.h>
@@ -19,7 +18,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <map>
 #include <utility>
 
 namespace velmar {
@@ -92,7 +90,8 @@ ContainerViewController::ContainerViewController(const ContainerItem &item, Kind
       borderColorItem_(item._borderColor() ? item._borderColor() : slideBorderColor),
       column_(new QWidget),
       layout_(new QVBoxLayout(column_)),
-      scrollArea_(new ColumnScrollArea(column_, this)) {
+      scrollArea_(new ColumnScrollArea(column_, this)),
+      keyboardFocus_(*this, *scrollArea_, *column_) {
     const std::vector<ComponentItem> &items = item._components();
     const VariableNames conditions = componentsConditions(items, *surroundings_.conditions);
     if (!conditions.empty()) {
@@ -152,29 +151,13 @@ void ContainerViewController::putInPlace(std::size_t position) {
 }
 
 void ContainerViewController::takeKeyboardFocusAway() {
-    if (QWidget *focused = window()->focusWidget();
-        isOnShow_ && focused != nullptr && column_->isAncestorOf(focused)) {
-        unfocused_ = focused;
-        focused->clearFocus();
+    if (isOnShow_) {
+        keyboardFocus_.takeAway();
     }
 }
 
 void ContainerViewController::giveKeyboardFocusBack() {
-    const auto unfocused = std::exchange(unfocused_, std::nullopt);
-    // Losing it may have led the focus elsewhere.
-    if (!unfocused || window()->focusWidget() != nullptr) {
-        return;
-    }
-    QWidget *former = *unfocused;
-    const bool stays = former != nullptr && former->isEnabled() &&
-                       std::ranges::any_of(componentViews_, [former](const ComponentView *view) {
-                           return view != nullptr && view->isAncestorOf(former);
-                       });
-    if (stays) {
-        former->setFocus();
-    } else {
-        giveFocusToSurroundings(*this);
-    }
+    keyboardFocus_.giveBack(componentViews_);
 }
 
 void ContainerViewController::prepare(const ComponentsChange &change) {
@@ -212,33 +195,8 @@ void ContainerViewController::rebuildLayout() {
             putInPlace(position);
         }
     }
-    orderTabStops();
+    keyboardFocus_.orderTabStops(componentViews_);
     updateTitle();
-}
-
-void ContainerViewController::orderTabStops() {
-    std::map<const QWidget *, std::vector<QWidget *>> stops; // By the views that they stand in.
-    for (QWidget *stop = scrollArea_->nextInFocusChain(); stop != scrollArea_;
-         stop = stop->nextInFocusChain()) {
-        if (stop->focusPolicy() != Qt::NoFocus && column_->isAncestorOf(stop)) {
-            const QWidget *view = stop;
-            while (view->parentWidget() != column_) {
-                view = view->parentWidget();
-            }
-            stops[view].push_back(stop);
-        }
-    }
-    // Nothing is put behind a widget that takes no focus.
-    const Qt::FocusPolicy policy = scrollArea_->focusPolicy();
-    scrollArea_->setFocusPolicy(Qt::TabFocus);
-    QWidget *last = scrollArea_;
-    for (const ComponentView *view : componentViews_) {
-        for (QWidget *stop : stops[view]) {
-            setTabOrder(last, stop);
-            last = stop;
-        }
-    }
-    scrollArea_->setFocusPolicy(policy);
 }
 
 void ContainerViewController::animateInsertion(std::function<void()> completion) {

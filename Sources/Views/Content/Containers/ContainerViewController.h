@@ -3,10 +3,10 @@
 #include <Configuration/ContainerItem.h>
 #include <Dispatch/MainQueue.h>
 #include <Views/Content/Containers/ComponentsViewModel.h>
+#include <Views/Content/Containers/ContainerKeyboardFocus.h>
 #include <Views/Content/VariablesRefresh.h>
 
 #include <QColor>
-#include <QPointer>
 #include <QWidget>
 
 #include <memory>
@@ -89,8 +89,6 @@ private:
     /// A new view, in the column but not yet in its place.
     ComponentView *makeView(std::size_t position);
     void putInPlace(std::size_t position);
-    /// Has the Tab key go through the components in their order, from the scroll area on.
-    void orderTabStops();
     void updateTitle();
     void updateBorderColor();
 
@@ -103,11 +101,11 @@ private:
     QWidget *column_;
     QVBoxLayout *layout_;
     ColumnScrollArea *scrollArea_;
+    ContainerKeyboardFocus keyboardFocus_;
     std::vector<ComponentView *> componentViews_;
     std::vector<QSpacerItem *> places_; // Empty; the view of a position stands right behind its place.
     ContainerViewManagementAnimator *viewManagementAnimator_ = nullptr; // Of the last change; the column's.
-    std::optional<QPointer<QWidget>> unfocused_; // What has lost the focus; null if it has gone meanwhile.
-    bool isOnShow_ = false;                      // By its slide; the widget itself is visible a while longer.
+    bool isOnShow_ = false; // By its slide; the widget itself is visible a while longer.
     std::optional<VariablesRefresh> variablesRefresh_; // None without conditions.
 };
 
