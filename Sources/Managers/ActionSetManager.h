@@ -78,7 +78,7 @@ private:
     Surroundings surroundings_;
     SetsForTrigger setsForTrigger_; // Never changes, so that any thread reads it.
     Content _contentVariables;
-    std::vector<NotificationCenter::Token> observers_;
+    std::vector<NotificationObserver> observers_;
     std::unique_ptr<RunningApplications::Observation> observation_;
 };
 

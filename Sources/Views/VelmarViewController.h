@@ -82,7 +82,7 @@ private:
     std::shared_ptr<SideContainerMandatorySupervisor> sideContainerSupervisor_; // Null without the container.
     ContentViewController *contentViewController_ = nullptr;
     NavigationViewController *navigationViewController_ = nullptr;
-    std::vector<NotificationCenter::Token> observers_;
+    std::vector<NotificationObserver> observers_;
     const QWidget *shownIn_ = nullptr; // The window; null before the first show.
 };
 

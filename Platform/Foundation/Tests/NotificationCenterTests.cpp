@@ -34,9 +34,9 @@ TEST(NotificationCenter, CallsTheNamesObserversInTheOrderOfRegistration) {
 TEST(NotificationCenter, LetsObserversPostAddAndRemove) {
     NotificationCenter centre;
     std::vector<int> called;
-    std::vector<NotificationCenter::Token> added;
-    std::optional<NotificationCenter::Token> itself;
-    std::optional<NotificationCenter::Token> later;
+    std::vector<NotificationObserver> added;
+    std::optional<NotificationObserver> itself;
+    std::optional<NotificationObserver> later;
     itself = centre.addObserver("a", [&] {
         called.push_back(1);
         itself.reset();
@@ -68,13 +68,13 @@ TEST(NotificationCenter, CallsTheOthersWhenOneThrows) {
     EXPECT_THAT(called, ElementsAre(2, 4));
 }
 
-TEST(NotificationCenter, LetsTokensMoveAndOutliveIt) {
+TEST(NotificationCenter, LetsObserversMoveAndOutliveIt) {
     int called = 0;
-    NotificationCenter::Token token;
+    NotificationObserver token;
     {
         NotificationCenter centre;
         token = centre.addObserver("a", [&] { ++called; });
-        NotificationCenter::Token moved = std::move(token);
+        NotificationObserver moved = std::move(token);
         centre.post("a");
         token = std::move(moved);
         token = centre.addObserver("a", [&] { called += 10; }); // ends the former

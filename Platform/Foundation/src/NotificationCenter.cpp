@@ -11,20 +11,21 @@
 
 namespace velmar {
 
-struct NotificationCenter::Token::Registration {
-    std::weak_ptr<State> centre;
+struct NotificationObserver::Registration {
+    std::weak_ptr<NotificationCenter::State> center;
     std::string name;
-    Handler handler;
+    NotificationCenter::Handler handler;
     std::atomic<bool> isActive{true};
 
-    Registration(std::weak_ptr<State> state, std::string ofName, Handler function)
-        : centre(std::move(state)), name(std::move(ofName)), handler(std::move(function)) {}
+    Registration(std::weak_ptr<NotificationCenter::State> state, std::string ofName,
+                 NotificationCenter::Handler function)
+        : center(std::move(state)), name(std::move(ofName)), handler(std::move(function)) {}
     void end();
 };
 
 struct NotificationCenter::State {
     // A list never changes once it is there: a post walks the one of its beginning without a lock.
-    using Observers = std::vector<std::shared_ptr<Token::Registration>>;
+    using Observers = std::vector<std::shared_ptr<NotificationObserver::Registration>>;
 
     std::mutex mutex;
     std::map<std::string, std::shared_ptr<const Observers>, std::less<>> observersByName;
@@ -37,29 +38,29 @@ struct NotificationCenter::State {
     }
 };
 
-void NotificationCenter::Token::Registration::end() {
+void NotificationObserver::Registration::end() {
     isActive = false;
-    const auto state = centre.lock();
+    const auto state = center.lock();
     if (!state)
         return;
     // Holds the last reference of a list until the lock is gone: a handler's captures may call back when they
     // die.
-    std::shared_ptr<const State::Observers> former;
+    std::shared_ptr<const NotificationCenter::State::Observers> former;
     const std::lock_guard lock(state->mutex);
     const auto found = state->observersByName.find(name);
     if (found == state->observersByName.end())
         return;
     former = found->second;
-    State::Observers others;
+    NotificationCenter::State::Observers others;
     std::copy_if(former->begin(), former->end(), std::back_inserter(others),
                  [this](const auto &each) { return each.get() != this; });
     state->replace(name, std::move(others));
 }
 
-NotificationCenter::Token::Token(std::shared_ptr<Registration> registration)
+NotificationObserver::NotificationObserver(std::shared_ptr<Registration> registration)
     : registration_(std::move(registration)) {}
 
-NotificationCenter::Token &NotificationCenter::Token::operator=(Token &&other) noexcept {
+NotificationObserver &NotificationObserver::operator=(NotificationObserver &&other) noexcept {
     if (this == &other)
         return *this;
     if (const auto former = std::exchange(registration_, std::move(other.registration_)))
@@ -67,7 +68,7 @@ NotificationCenter::Token &NotificationCenter::Token::operator=(Token &&other) n
     return *this;
 }
 
-NotificationCenter::Token::~Token() {
+NotificationObserver::~NotificationObserver() {
     if (registration_)
         registration_->end();
 }
@@ -76,8 +77,9 @@ NotificationCenter::NotificationCenter() : state_(std::make_shared<State>()) {}
 
 NotificationCenter::~NotificationCenter() = default;
 
-NotificationCenter::Token NotificationCenter::addObserver(std::string name, Handler handler) {
-    auto registration = std::make_shared<Token::Registration>(state_, std::move(name), std::move(handler));
+NotificationObserver NotificationCenter::addObserver(std::string name, Handler handler) {
+    auto registration =
+        std::make_shared<NotificationObserver::Registration>(state_, std::move(name), std::move(handler));
     std::shared_ptr<const State::Observers> former;
     const std::lock_guard lock(state_->mutex);
     State::Observers observers;
@@ -88,7 +90,7 @@ NotificationCenter::Token NotificationCenter::addObserver(std::string name, Hand
     }
     observers.push_back(registration);
     state_->replace(registration->name, std::move(observers));
-    return Token(std::move(registration));
+    return NotificationObserver(std::move(registration));
 }
 
 void NotificationCenter::post(std::string_view name) {
@@ -116,7 +118,7 @@ void NotificationCenter::post(std::string_view name) {
 }
 
 NotificationCenter &NotificationCenter::defaultCenter() {
-    // Never destroyed: tokens of static objects may end at any time.
+    // Never destroyed: observers of static objects may end at any time.
     static auto &centre = *new NotificationCenter;
     return centre;
 }

@@ -34,7 +34,7 @@ public:
     void clearHideFlags() noexcept;
 
 private:
-    std::vector<NotificationCenter::Token> observers_;
+    std::vector<NotificationObserver> observers_;
     bool isCurrentSlideValid_ = true;
     bool currentSlideHidePreviousButton_ = false;
     bool currentSlideHideNextButton_ = false;

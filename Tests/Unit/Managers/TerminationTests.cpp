@@ -86,9 +86,8 @@ TEST(AppTerminationManager, LetsTheUserQuitWhenBothConditionsHold) {
         const auto observe = [&](std::string_view name) {
             return center.addObserver(std::string(name), [&seen, name] { seen += name; });
         };
-        const NotificationCenter::Token tokens[] = {
-            observe(userTriesToQuitWhenNotAllMonitorsAreInstalled),
-            observe(userTriesToQuitWhenNotAllMonitoredFilesArePresent)};
+        const NotificationObserver tokens[] = {observe(userTriesToQuitWhenNotAllMonitorsAreInstalled),
+                                               observe(userTriesToQuitWhenNotAllMonitoredFilesArePresent)};
         const auto termination = std::make_shared<Termination>();
         const auto store = std::make_shared<ContentManager>();
         AppTerminationManager manager(
@@ -113,10 +112,11 @@ TEST(TerminationScript, IsThatOfTheInstallationsStateAndIsWaitedForOnAnotherThre
     section._waitForExecutionScriptExecution.set(true);
     section._completeInstallationScriptPath.set(directory.write("complete", ""));
     section._incompleteInstallationScriptPath.set(directory.write("incomplete", ""));
-    const TerminationScript script([] { return false; }, Config<AppTerminationSection>::always(section),
-                                   [](const std::string &path, const auto & /*launched*/, auto completion) {
-                                       std::thread([=] { completion(path.substr(path.rfind('/'))); }).detach();
-                                   });
+    const TerminationScript script(
+        [] { return false; }, Config<AppTerminationSection>::always(section),
+        [](const std::string &path, const auto & /*launched*/, auto completion) {
+            std::thread([=] { completion(path.substr(path.rfind('/'))); }).detach();
+        });
     for (const bool isComplete : {true, false}) {
         const RecordedLog log;
         script.runBeforeTermination(isComplete);

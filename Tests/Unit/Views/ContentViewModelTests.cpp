@@ -107,7 +107,7 @@ protected:
     Controller controller;
     std::shared_ptr<SupervisedElement> element = std::make_shared<SupervisedElement>();
     std::shared_ptr<ContentViewModel> model;
-    std::vector<NotificationCenter::Token> tokens;
+    std::vector<NotificationObserver> tokens;
     Names posted;
 };
 

@@ -37,7 +37,7 @@ protected:
     std::shared_ptr<ContainerViewModel> container = std::make_shared<ContainerViewModel>();
     std::shared_ptr<SupervisedElement> left = std::make_shared<SupervisedElement>();
     std::shared_ptr<SupervisedElement> right = std::make_shared<SupervisedElement>();
-    std::vector<NotificationCenter::Token> tokens;
+    std::vector<NotificationObserver> tokens;
     std::vector<std::string> posted;
 };
 

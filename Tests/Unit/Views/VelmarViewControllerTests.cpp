@@ -40,11 +40,10 @@ protected:
         write("Simple", slideOf(lines) + slideOf(textComponent("Second")) + slideOf(textComponent("Third")));
         shared_ = std::make_unique<Shared<AppManager>::Scope>(makeAppManager());
         view = std::make_unique<VelmarViewController>(
-            VelmarViewController::Surroundings{queue, quits, appearance(), alerts,
-                                               [](bool byResetingVariables) {
-                                                   AppManager::shared()->reloadInterface(byResetingVariables);
-                                               },
-                                               center},
+            VelmarViewController::Surroundings{
+                queue, quits, appearance(), alerts,
+                [](bool byResetingVariables) { AppManager::shared()->reloadInterface(byResetingVariables); },
+                center},
             &window);
         (new QVBoxLayout(&window))->addWidget(view.get());
         content = view->findChild<ContentViewController *>();
@@ -56,13 +55,12 @@ protected:
     }
 
     void write(std::string_view mode, const std::string &slides) {
-        writeConfiguration(
-            fmt::format("<key>Window</key><dict><key>OnScreen</key><string>{}</string></dict>"
-                        "<key>MenuBarSlide</key>{}"
-                        "<key>Navigation</key><dict><key>InstallationIncompleteQuitText</key>"
-                        "<string>Not before all is installed</string></dict>",
-                        mode, slideOf(textComponent("Below the menu bar"))),
-            0644, slides);
+        writeConfiguration(fmt::format("<key>Window</key><dict><key>OnScreen</key><string>{}</string></dict>"
+                                       "<key>MenuBarSlide</key>{}"
+                                       "<key>Navigation</key><dict><key>InstallationIncompleteQuitText</key>"
+                                       "<string>Not before all is installed</string></dict>",
+                                       mode, slideOf(textComponent("Below the menu bar"))),
+                           0644, slides);
     }
 
     void press(int key, bool repeats = false) {
@@ -251,7 +249,7 @@ TEST_F(VelmarView, IsCalledLikeItsSlideByReadersOfTheScreen) {
 
 TEST_F(VelmarView, TellsWhenTheAnimationOfAnEndIsOver) {
     std::vector<std::string> reached;
-    std::vector<NotificationCenter::Token> tokens;
+    std::vector<NotificationObserver> tokens;
     for (const auto name :
          {NavigationNotifications::didReachFirstSlide, NavigationNotifications::didReachLastSlide}) {
         tokens.push_back(center.addObserver(std::string(name), [&, name] { reached.emplace_back(name); }));

@@ -7,6 +7,23 @@
 
 namespace velmar {
 
+class NotificationCenter;
+
+/// Owns one registration with a centre: destroying it ends the registration. It may outlive the centre.
+class NotificationObserver {
+public:
+    NotificationObserver() = default;
+    NotificationObserver(NotificationObserver &&) noexcept = default;
+    NotificationObserver &operator=(NotificationObserver &&) noexcept;
+    ~NotificationObserver();
+
+private:
+    friend class NotificationCenter;
+    struct Registration;
+    explicit NotificationObserver(std::shared_ptr<Registration> registration);
+    std::shared_ptr<Registration> registration_;
+};
+
 /// Named notifications within the process. Posting is synchronous: every observer of the name has run, on the
 /// poster's thread and in the order of registration, when `post` returns. An observer may post, add and
 /// remove in its turn; one that is removed during a post is not called any more. Any thread.
@@ -18,27 +35,12 @@ class NotificationCenter {
 public:
     using Handler = std::function<void()>;
 
-    /// Keeps one registration; destroying it ends the registration. It may outlive the centre.
-    class Token {
-    public:
-        Token() = default;
-        Token(Token &&) noexcept = default;
-        Token &operator=(Token &&) noexcept;
-        ~Token();
-
-    private:
-        friend class NotificationCenter;
-        struct Registration;
-        explicit Token(std::shared_ptr<Registration> registration);
-        std::shared_ptr<Registration> registration_;
-    };
-
     NotificationCenter();
     ~NotificationCenter();
     NotificationCenter(const NotificationCenter &) = delete;
     NotificationCenter &operator=(const NotificationCenter &) = delete;
 
-    [[nodiscard]] Token addObserver(std::string name, Handler handler);
+    [[nodiscard]] NotificationObserver addObserver(std::string name, Handler handler);
 
     /// Calls the name's observers, all of them also if some throw; the first exception is thrown at the end.
     void post(std::string_view name);
@@ -47,6 +49,7 @@ public:
     static NotificationCenter &defaultCenter();
 
 private:
+    friend class NotificationObserver;
     struct State;
     std::shared_ptr<State> state_;
 };

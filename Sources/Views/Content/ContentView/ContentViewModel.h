@@ -130,7 +130,7 @@ private:
     Settings settings_;
     ContentViewControllerProtocol *controller_ = nullptr;
     ContentViewModelTerminationDelegate *terminationDelegate_ = nullptr;
-    std::vector<NotificationCenter::Token> observers_;
+    std::vector<NotificationObserver> observers_;
     ContentUpdater<bool> _isCurrentSlideValid{true, GeneralSection::Placeholders::currentSlideValid};
     ContentUpdater<int> _selectedSlideIndex{0, GeneralSection::Placeholders::currentSlideIndex};
     struct Transition {
