@@ -36,6 +36,9 @@ void DesktopAppearance::followSettingsService() {
     if (!hasSessionBus()) {
         return;
     }
+    // The slot is found by the names of its types, which only the bridge to readers of the screen would
+    // register.
+    qRegisterMetaType<QDBusVariant>();
     QDBusConnection::sessionBus().connect(service, path, interface, QStringLiteral("SettingChanged"), this,
                                           SLOT(settingChanged(QString, QString, QDBusVariant)));
     readSetting(appearanceGroup, colorSchemeKey);
