@@ -2,7 +2,7 @@
 #include "Median.h"
 
 #include <Configuration/Configuration.h>
-#include <Foundation/PropertyList.h>
+#include <Foundation/PropertyListDocument.h>
 #include <Support/GeneratedConfiguration.h>
 
 #include <fmt/format.h>
@@ -63,8 +63,8 @@ std::string makeFile() {
 }
 
 std::size_t decode(const std::string &file) {
-    const auto document = velmar::PropertyList::read(file);
-    return velmar::Configuration::decode(document.value)->_slides().size();
+    const auto document = velmar::PropertyListDocument::read(file);
+    return velmar::Configuration::decode(document.root())->_slides().size();
 }
 
 template <class Function>
@@ -134,7 +134,8 @@ int main() {
                 std::abort();
             }
         }));
-        readingAlone += secondsOf([&] { static_cast<void>(velmar::PropertyList::read(file)); }) / runs;
+        readingAlone +=
+            secondsOf([&] { static_cast<void>(velmar::PropertyListDocument::read(file)); }) / runs;
     }
     fmt::print(stderr, "decode: {} bytes, reading the property list alone takes {:.1f} ms\n", file.size(),
                readingAlone * 1000);

@@ -2,7 +2,7 @@
 #include <Configuration/Configuration.h>
 #include <Configuration/Plugin.h>
 #include <Foundation/LocalizedError.h>
-#include <Foundation/PropertyList.h>
+#include <Foundation/PropertyListDocument.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -45,8 +45,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     DecodingNotes notes;
     std::shared_ptr<const Configuration> configuration;
     try {
-        const auto document = PropertyList::read(std::as_bytes(std::span(data, size)));
-        configuration = Configuration::decode(document.value, &notes);
+        const auto document = PropertyListDocument::read(std::as_bytes(std::span(data, size)));
+        configuration = Configuration::decode(document.root(), &notes);
     } catch (const LocalizedError &) {
         return 0; // Refused.
     }

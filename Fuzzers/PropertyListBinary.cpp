@@ -28,18 +28,19 @@ static bool hasWholeDates(const PropertyList &value) {
 /// What reads as binary is written as binary and reads back equal, and as XML if XML can hold it.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t size) {
     const auto document = readIfValid({bytes, size});
-    if (!document || document->form != PropertyList::Document::Form::Binary) {
+    if (!document || document->form() != PropertyListDocument::Form::Binary) {
         return 0;
     }
-    const auto binary = document->value.binary();
-    require(PropertyList::read(binary).value.binary() == binary);
-    require(PropertyList::read(binary).value == document->value);
+    const PropertyList value(document->root());
+    const auto binary = value.binary();
+    require(PropertyList::read(binary).binary() == binary);
+    require(PropertyList::read(binary) == value);
     std::string xml;
     try {
-        xml = document->value.xml();
+        xml = value.xml();
     } catch (const PropertyListError &) {
         return 0;
     }
-    require(!hasWholeDates(document->value) || PropertyList::read(xml).value == document->value);
+    require(!hasWholeDates(value) || PropertyList::read(xml) == value);
     return 0;
 }

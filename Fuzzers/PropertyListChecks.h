@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Foundation/PropertyList.h>
+#include <Foundation/PropertyListDocument.h>
 
 #include <cstdint>
 #include <cstdlib>
@@ -16,9 +16,9 @@ inline void require(bool holds) {
     }
 }
 
-inline std::optional<PropertyList::Document> readIfValid(std::span<const std::uint8_t> input) {
+inline std::optional<PropertyListDocument> readIfValid(std::span<const std::uint8_t> input) {
     try {
-        return PropertyList::read(std::as_bytes(input));
+        return PropertyListDocument::read(std::as_bytes(input));
     } catch (const PropertyListError &error) {
         require(error.offset() <= input.size() && !error.errorDescription().empty());
         return std::nullopt;

@@ -1,7 +1,7 @@
 #include <Managers/ConfigurationFile.h>
 
 #include <Configuration/Configuration.h>
-#include <Foundation/PropertyList.h>
+#include <Foundation/PropertyListDocument.h>
 #include <Managers/ConfigurationOwnership.h>
 #include <Models/VelmarError.h>
 #include <logger/Logger.h>
@@ -69,15 +69,11 @@ std::string ConfigurationFile::content() const {
 }
 
 std::shared_ptr<const Configuration> ConfigurationFile::retrieveConfiguration() const {
-    // The bytes are gone before the values of the document become items.
-    const PropertyList::Document document = [this] {
-        Logger::debug("Retrieving configuration file content...");
-        const std::string bytes = content();
-        Logger::info("Successfully retrieved configuration file content");
-        Logger::debug("Decoding configuration file...");
-        return PropertyList::read(bytes);
-    }();
-    return Configuration::decode(document.value);
+    Logger::debug("Retrieving configuration file content...");
+    const std::string bytes = content();
+    Logger::info("Successfully retrieved configuration file content");
+    Logger::debug("Decoding configuration file...");
+    return Configuration::decode(PropertyListDocument::read(bytes).root());
 }
 
 } // namespace velmar

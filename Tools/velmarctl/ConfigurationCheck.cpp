@@ -10,7 +10,7 @@
 #include <Configuration/DecodingNotes.h>
 #include <Foundation/FileManager.h>
 #include <Foundation/LocalizedError.h>
-#include <Foundation/PropertyList.h>
+#include <Foundation/PropertyListDocument.h>
 #include <Foundation/URL.h>
 #include <Managers/ConfigurationFile.h>
 #include <Models/VelmarError.h>
@@ -79,9 +79,10 @@ Diagnostic makeDiagnostic(Severity severity, std::string message) {
 // Null if the file is refused.
 std::shared_ptr<const Configuration> decode(const ConfigurationFile &file, const IdentityAuthority &authority,
                                             std::vector<Diagnostic> &diagnostics) {
-    PropertyList::Document document;
+    const std::string bytes = file.content();
+    std::optional<PropertyListDocument> document;
     try {
-        document = PropertyList::read(file.content());
+        document = PropertyListDocument::read(bytes);
     } catch (const PropertyListError &error) {
         diagnostics.push_back(makeDiagnostic(Severity::error, error.errorDescription()));
         if (error.line() != 0) {
@@ -89,14 +90,15 @@ std::shared_ptr<const Configuration> decode(const ConfigurationFile &file, const
         }
         return nullptr;
     }
+    const LineIndex lines = document->lines();
     std::multimap<std::uint32_t, Diagnostic> byOffset;
     const auto add = [&](Severity severity, std::string keyPath, std::uint32_t offset, std::string message) {
-        const std::size_t line = document.lineOf(offset);
+        const std::size_t line = lines.lineOf(offset);
         Diagnostic &added = byOffset.emplace(offset, makeDiagnostic(severity, std::move(message)))->second;
         added.keyPath = std::move(keyPath);
         added.line = line == 0 ? std::nullopt : std::optional(line);
     };
-    for (const auto &duplicate : document.duplicates) {
+    for (const auto &duplicate : document->duplicates()) {
         const std::string &key = duplicate.key;
         add(Severity::warning, duplicate.path.empty() ? key : fmt::format("{}.{}", duplicate.path, key),
             duplicate.offset, fmt::format("The key '{}' is given more than once; the last one counts", key));
@@ -105,16 +107,16 @@ std::shared_ptr<const Configuration> decode(const ConfigurationFile &file, const
     std::shared_ptr<const Configuration> configuration;
     std::optional<std::string> refusal;
     try {
-        configuration = Configuration::decode(document.value, &notes);
+        configuration = Configuration::decode(document->root(), &notes);
     } catch (const LocalizedError &error) {
         refusal = error.errorDescription();
     }
     if (configuration) {
         for (auto &found :
-             {unusedNames(document.value, *configuration, notes), doubtfulConditions(*configuration),
-              doubtfulPaths(document.value, *configuration, authority),
-              ineffectiveParts(document.value, *configuration),
-              unreachableSlides(document.value, *configuration)}) {
+             {unusedNames(document->root(), *configuration, notes), doubtfulConditions(*configuration, notes),
+              doubtfulPaths(document->root(), *configuration, authority),
+              ineffectiveParts(document->root(), *configuration),
+              unreachableSlides(document->root(), *configuration)}) {
             for (const UsageWarning &warning : found) {
                 add(Severity::warning, warning.keyPath, warning.offset, warning.message);
             }

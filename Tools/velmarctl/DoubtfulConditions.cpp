@@ -5,6 +5,7 @@
 #include <PrintableText.h>
 
 #include <Configuration/Configuration.h>
+#include <Configuration/DecodingNotes.h>
 #include <expressions/Expression.h>
 
 #include <fmt/format.h>
@@ -59,11 +60,11 @@ std::optional<expressions::ExpressionError> failureOf(const std::string &conditi
 
 class Doubts {
 public:
-    explicit Doubts(const Configuration &configuration)
+    Doubts(const Configuration &configuration, const DecodingNotes &notes)
         : configuration_(configuration),
           variables_(configuration._general.rawValue()._variables.rawValue().models()),
           conditions_(configuration._conditions.rawValue().models()) {
-        for (const VariablesRecords::Record &record : configuration.variablesRecords.records) {
+        for (const VariablesRecords::Record &record : notes.variables.records) {
             if (record.condition) {
                 record_ = &record;
                 isNamed_ = record.codingPath.starts_with("Conditions.");
@@ -155,8 +156,8 @@ private:
 
 } // namespace
 
-std::vector<UsageWarning> doubtfulConditions(const Configuration &configuration) {
-    return Doubts(configuration).warnings();
+std::vector<UsageWarning> doubtfulConditions(const Configuration &configuration, const DecodingNotes &notes) {
+    return Doubts(configuration, notes).warnings();
 }
 
 } // namespace velmar

@@ -83,7 +83,7 @@ private:
 
 } // namespace
 
-std::vector<UsageWarning> doubtfulPaths(const PropertyList &file, const Configuration &configuration,
+std::vector<UsageWarning> doubtfulPaths(const PropertyListValue &file, const Configuration &configuration,
                                         const IdentityAuthority &authority) {
     PathsVisitor visitor(authority);
     visitItems(configuration, file, visitor);

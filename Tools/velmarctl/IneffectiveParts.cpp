@@ -105,7 +105,8 @@ private:
 
 } // namespace
 
-std::vector<UsageWarning> ineffectiveParts(const PropertyList &file, const Configuration &configuration) {
+std::vector<UsageWarning> ineffectiveParts(const PropertyListValue &file,
+                                           const Configuration &configuration) {
     PartsVisitor visitor(configuration);
     visitItems(configuration, file, visitor);
     return std::move(visitor).warnings();

@@ -22,7 +22,7 @@ const T &whole(const std::optional<T> &value) {
 template <class Key, class Next>
 void follow(const Key &key, const ItemPlace &item, Next next) {
     const std::string_view name = key.name().stringValue;
-    if (const PropertyList *const value = item.value.dictionary()->find(name)) {
+    if (const PropertyListValue *const value = item.value.find(name)) {
         const CodingPath path(item.path, name);
         next(whole(key.rawValue()), ItemPlace{*value, path});
     }
@@ -34,7 +34,7 @@ void followEach(const Key &key, const ItemPlace &item, Next next) {
     follow(key, item, [&](const auto &elements, const ItemPlace &list) {
         for (std::size_t index = 0; index < elements.size(); ++index) {
             const CodingPath path(list.path, index);
-            next(elements[index], ItemPlace{(*list.value.array())[index], path});
+            next(elements[index], ItemPlace{list.value.elements()[index], path});
         }
     });
 }
@@ -114,10 +114,10 @@ UsageWarning ItemPlace::warning(std::string message) const {
 }
 
 UsageWarning ItemPlace::warning(std::string_view key, std::string message) const {
-    return {CodingPath(path, key).text(), value.dictionary()->find(key)->offset(), std::move(message)};
+    return {CodingPath(path, key).text(), value.find(key)->offset(), std::move(message)};
 }
 
-void visitItems(const Configuration &configuration, const PropertyList &file, ItemVisitor &visitor) {
+void visitItems(const Configuration &configuration, const PropertyListValue &file, ItemVisitor &visitor) {
     const CodingPath root;
     Walk(visitor).configuration(configuration, {file, root});
 }

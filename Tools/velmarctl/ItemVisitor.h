@@ -4,7 +4,7 @@
 
 #include <Configuration/CodingPath.h>
 #include <Configuration/Configuration.h>
-#include <Foundation/PropertyList.h>
+#include <Foundation/PropertyListValue.h>
 
 #include <string>
 #include <string_view>
@@ -13,7 +13,7 @@ namespace velmar {
 
 /// Where an item stands in its file. Valid during the visit.
 struct ItemPlace {
-    const PropertyList &value;
+    const PropertyListValue &value;
     const CodingPath &path;
 
     /// Of the item as a whole.
@@ -47,6 +47,6 @@ protected:
 /// Shows the visitor every item that the file gives, wherever it stands: in the order of the root's keys,
 /// each before those within it. `file` is what the configuration was decoded from. As deep as the file, whose
 /// depth the property list limits.
-void visitItems(const Configuration &configuration, const PropertyList &file, ItemVisitor &visitor);
+void visitItems(const Configuration &configuration, const PropertyListValue &file, ItemVisitor &visitor);
 
 } // namespace velmar

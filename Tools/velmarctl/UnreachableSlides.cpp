@@ -84,7 +84,8 @@ private:
 
 } // namespace
 
-std::vector<UsageWarning> unreachableSlides(const PropertyList &file, const Configuration &configuration) {
+std::vector<UsageWarning> unreachableSlides(const PropertyListValue &file,
+                                            const Configuration &configuration) {
     const std::size_t count = configuration._slides.rawValue().size();
     JumpsVisitor jumps;
     visitItems(configuration, file, jumps);
@@ -94,7 +95,7 @@ std::vector<UsageWarning> unreachableSlides(const PropertyList &file, const Conf
     }
     const CodingPath root;
     const CodingPath slides(root, configuration._slides.name().stringValue);
-    const PropertyList::Array &places = *file.dictionary()->find(slides.lastKey())->array();
+    const auto places = file.find(slides.lastKey())->elements();
     const Ways ways(configuration, jumps.targets);
     std::vector<UsageWarning> warnings;
     const auto warn = [&](std::size_t slide, std::string message) {

@@ -3,7 +3,7 @@
 #include <Configuration/Configuration.h>
 #include <Configuration/DecodingNotes.h>
 #include <Configuration/Populatable.h>
-#include <Foundation/PropertyList.h>
+#include <Foundation/PropertyListValue.h>
 
 #include <boost/unordered/unordered_flat_set.hpp>
 #include <fmt/format.h>
@@ -21,7 +21,7 @@ class NamesInUse {
 public:
     NamesInUse(const Configuration &configuration, const DecodingNotes &notes) {
         names_.insert(configuration.declaredVariables.begin(), configuration.declaredVariables.end());
-        for (const auto &record : configuration.variablesRecords.records) {
+        for (const auto &record : notes.variables.records) {
             names_.insert(record.variables.begin(), record.variables.end());
         }
         for (const TriggeredActionSetItem &set : configuration._actionSets.rawValue()) {
@@ -38,23 +38,21 @@ public:
         }
     }
 
-    void collect(const PropertyList &value, bool isKnown) {
-        if (const std::string *text = value.string()) {
+    void collect(const PropertyListValue &value, bool isKnown) {
+        if (const auto text = value.string()) {
             addReferences(*text);
             if (!isKnown) {
                 addBareNames(*text);
             }
-        } else if (const PropertyList::Array *array = value.array()) {
-            for (const PropertyList &element : *array) {
-                collect(element, isKnown);
+        }
+        for (const PropertyListValue &element : value.elements()) {
+            collect(element, isKnown);
+        }
+        for (const auto &entry : value.entries()) {
+            if (!isKnown) {
+                addBareNames(entry.key.text());
             }
-        } else if (const PropertyList::Dictionary *dictionary = value.dictionary()) {
-            for (const auto &entry : *dictionary) {
-                if (!isKnown) {
-                    addBareNames(entry.key);
-                }
-                collect(entry.value, isKnown && !unknownKeys_.contains(entry.keyOffset));
-            }
+            collect(entry.value, isKnown && !unknownKeys_.contains(entry.keyOffset));
         }
     }
 
@@ -87,27 +85,26 @@ private:
 
 } // namespace
 
-std::vector<UsageWarning> unusedNames(const PropertyList &file, const Configuration &configuration,
+std::vector<UsageWarning> unusedNames(const PropertyListValue &file, const Configuration &configuration,
                                       const DecodingNotes &notes) {
     NamesInUse names(configuration, notes);
     names.collect(file, true);
     std::vector<UsageWarning> warnings;
-    const auto warn = [&](const PropertyList *book, std::string_view path, std::string_view kind) {
+    const auto warn = [&](const PropertyListValue *book, std::string_view path, std::string_view kind) {
         if (book == nullptr) {
             return;
         }
-        for (const auto &entry : *book->dictionary()) {
-            if (!names.contains(entry.key)) {
-                warnings.push_back({fmt::format("{}.{}", path, entry.key), entry.keyOffset,
-                                    fmt::format("Nothing uses the {} '{}'", kind, entry.key)});
+        for (const auto &entry : book->entries()) {
+            if (const std::string_view name = entry.key.text(); !names.contains(name)) {
+                warnings.push_back({fmt::format("{}.{}", path, name), entry.keyOffset,
+                                    fmt::format("Nothing uses the {} '{}'", kind, name)});
             }
         }
     };
-    const PropertyList::Dictionary &root = *file.dictionary();
-    if (const PropertyList *general = root.find("General")) {
-        warn(general->dictionary()->find("Variables"), "General.Variables", "variable");
+    if (const PropertyListValue *general = file.find("General")) {
+        warn(general->find("Variables"), "General.Variables", "variable");
     }
-    warn(root.find("Conditions"), "Conditions", "condition");
+    warn(file.find("Conditions"), "Conditions", "condition");
     return warnings;
 }
 

@@ -61,7 +61,7 @@ TEST(Examples, AreConfigurations) {
     for (const auto &entry : std::filesystem::directory_iterator(VELMAR_SOURCE_DIR "/Examples")) {
         std::ifstream file(entry.path());
         const std::string content{std::istreambuf_iterator<char>(file), {}};
-        EXPECT_EQ(outcomeOf(PropertyList::read(content).value), "decoded") << entry.path();
+        EXPECT_EQ(outcomeOf(PropertyList::read(content)), "decoded") << entry.path();
         ++count;
     }
     EXPECT_GT(count, 0U);

@@ -39,7 +39,8 @@ Item decodeAt(const PropertyList &value) {
     DecodingContext context;
     const CodingPath root;
     const CodingPath path(root, "Item");
-    return Decodable<Item>::decode({value, path, context});
+    const auto document = PropertyListDocument::of(value);
+    return Decodable<Item>::decode({document.root(), path, context});
 }
 
 template <class Item>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <Configuration/Configuration.h>
+#include <Foundation/PropertyListDocument.h>
 
 #include <fmt/format.h>
 
@@ -13,8 +14,7 @@ namespace velmar::test {
 inline PropertyList fileWith(std::string_view content) {
     return PropertyList::read(fmt::format(R"(<?xml version="1.0" encoding="UTF-8"?>
 <plist version="1.0"><dict>{}</dict></plist>)",
-                                          content))
-        .value;
+                                          content));
 }
 
 /// A file with one slide, so that the root is valid, and `content`.

@@ -131,12 +131,13 @@ TEST(Conditions, AreReadAndUseWhatIsDefined) {
     }
     const auto file =
         validFileWith(conditions("isLab", "DEVICE_NAME   == \"lab\" %") + shownIf("<string>isLab</string>"));
-    const auto configuration = Configuration::decode(file);
+    DecodingNotes notes;
+    const auto configuration = Configuration::decode(file, &notes);
     EXPECT_EQ(configuration->encode(), file) << "a condition is written as it was given";
     const auto &component = configuration->_sideContainer()->_container()._components()[0];
     EXPECT_EQ(std::get<ComponentItem::Text>(component.value).common._condition()->description(), "isLab");
     EXPECT_EQ(usedVariables(component), VariableNames{}) << "a condition is no text";
-    EXPECT_EQ(configuration->variablesRecords.records.front().condition->source(), "isLab");
+    EXPECT_EQ(notes.variables.records.front().condition->source(), "isLab");
 }
 
 struct DeclaringItem {
@@ -158,7 +159,9 @@ struct DeclaringItem {
 TEST(VariableKeyWrapper, DeclaresTheNamesOfItsValue) {
     const auto declared = [](std::string_view content) {
         DecodingContext context;
-        static_cast<void>(Decodable<DeclaringItem>::decode({fileWith(content), CodingPath(), context}));
+        const auto file = fileWith(content);
+        const auto document = PropertyListDocument::of(file);
+        static_cast<void>(Decodable<DeclaringItem>::decode({document.root(), CodingPath(), context}));
         return context.declaredVariables();
     };
     EXPECT_EQ(declared(""), VariableNames{});
@@ -170,11 +173,13 @@ TEST(VariableKeyWrapper, DeclaresTheNamesOfItsValue) {
 }
 
 TEST(VariablesRecords, NameTheElementsOfCollections) {
-    DecodingContext context;
+    DecodingNotes notes;
+    DecodingContext context(&notes);
     const auto file = fileWith("<key>List</key><array><string>a</string><string>${A}</string></array>"
                                "<key>Values</key><dict><key>k</key><string>${B}</string></dict>");
-    const auto item = Decodable<DeclaringItem>::decode({file, CodingPath(), context});
-    const auto &records = context.variablesRecords().records;
+    const auto document = PropertyListDocument::of(file);
+    const auto item = Decodable<DeclaringItem>::decode({document.root(), CodingPath(), context});
+    const auto &records = notes.variables.records;
     ASSERT_EQ(records.size(), 2U);
     EXPECT_EQ(records[0].codingPath, "Values.k");
     EXPECT_EQ(records[1].codingPath, "List.1");

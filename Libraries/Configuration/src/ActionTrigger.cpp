@@ -30,14 +30,13 @@ std::size_t endOfLine(std::string_view text, std::size_t position) {
 
 /// What stands between the first opening bracket behind a word and the last closing one of the same line;
 /// none where nothing does. The meaning of `(?<=WORD\().+(?=\))`, which takes quadratic time on long texts.
-std::optional<std::string> payload(std::string_view text, std::string_view word) {
-    const std::string opening = fmt::format("{}(", word);
+std::optional<std::string_view> payload(std::string_view text, std::string_view opening) {
     for (std::size_t found = text.find(opening); found != std::string_view::npos;) {
         const std::size_t begin = found + opening.size();
         const std::size_t end = endOfLine(text, begin);
         const std::size_t closing = text.substr(0, end).rfind(')');
         if (closing != std::string_view::npos && closing > begin) {
-            return std::string(text.substr(begin, closing - begin));
+            return text.substr(begin, closing - begin);
         }
         // The same bracket closes what is opened later in the line, so there is less between them there.
         found = text.find(opening, end);
@@ -65,8 +64,8 @@ std::string ActionTrigger::text() const {
 }
 
 ActionTrigger Decodable<ActionTrigger>::decode(const Decoding &decoding) {
-    const std::string *const text = decoding.value.string();
-    if (text == nullptr) {
+    const auto text = decoding.value.string();
+    if (!text) {
         throwWrongType(decoding, plistType());
     }
     if (*text == "Launch") {
@@ -81,14 +80,14 @@ ActionTrigger Decodable<ActionTrigger>::decode(const Decoding &decoding) {
     if (*text == "NextButtonClick") {
         return {ActionTrigger::NextButtonClick()};
     }
-    if (auto variable = payload(*text, "Update")) {
-        return {ActionTrigger::VariableUpdate{*std::move(variable)}};
+    if (const auto variable = payload(*text, "Update(")) {
+        return {ActionTrigger::VariableUpdate{std::string(*variable)}};
     }
-    if (const auto pattern = payload(*text, "AppLaunch")) {
+    if (const auto pattern = payload(*text, "AppLaunch(")) {
         return {ActionTrigger::AppLaunch{compiled(*pattern, decoding)}};
     }
-    if (auto name = payload(*text, "Custom")) {
-        return {ActionTrigger::Custom{*std::move(name)}};
+    if (const auto name = payload(*text, "Custom(")) {
+        return {ActionTrigger::Custom{std::string(*name)}};
     }
     throwWrongType(decoding, plistType());
 }

@@ -27,24 +27,24 @@ void BodyItem::append(BodyItem item) {
 }
 
 BodyItem Decodable<BodyItem>::decode(const Decoding &decoding) {
-    const PropertyList &value = decoding.value;
-    if (value.string() != nullptr) {
+    const PropertyListValue &value = decoding.value;
+    if (value.string()) {
         return {Decodable<std::string>::decode(decoding)};
     }
-    if (const bool *const boolean = value.boolean()) {
+    if (const auto boolean = value.boolean()) {
         return {*boolean};
     }
-    if (const std::int64_t *const integer = value.integer()) {
+    if (const auto integer = value.integer()) {
         return {*integer};
     }
-    const double *const real = value.real();
-    if (value.unsignedInteger() != nullptr || (real != nullptr && std::isfinite(*real))) {
+    const auto real = value.real();
+    if (value.unsignedInteger() || (real && std::isfinite(*real))) {
         return {Decodable<double>::decode(decoding)};
     }
-    if (value.array() != nullptr) {
+    if (value.isArray()) {
         return {Decodable<BodyItem::Array>::decode(decoding)};
     }
-    if (value.dictionary() != nullptr) {
+    if (value.isDictionary()) {
         return {Decodable<BodyItem::Dictionary>::decode(decoding)};
     }
     throw ConfigurationError(ConfigurationErrors::RequestBodyCoding{decoding.path.text()});

@@ -3,48 +3,53 @@
 #include <Configuration/Decodable.h>
 #include <Configuration/ItemCoding.h>
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace velmar {
 
 namespace {
 
-void noteUnknownKeys(const PropertyList::Dictionary &dictionary, const KeyList &keys,
-                     const Decoding &decoding) {
-    std::vector<std::string_view> known;
-    for (const CodableKey &key : keys) {
-        known.push_back(key.name().stringValue);
-    }
-    for (const KeyReadBefore *read = decoding.keysReadBefore; read != nullptr; read = read->before) {
-        known.push_back(read->key);
-    }
-    for (const auto &entry : dictionary) {
-        if (std::ranges::find(known, entry.key) == known.end()) {
-            decoding.context.noteUnknownKey(decoding.path, entry.key, entry.keyOffset, known);
+bool isKnown(const PropertyListKey &given, const KeyList &keys, const KeyReadBefore *before) {
+    for (; before != nullptr; before = before->before) {
+        if (before->key == given) {
+            return true;
         }
     }
+    return std::ranges::find(keys, given, &CodableKey::name) != keys.end();
 }
 
-// What remains of the other two has been seen to while decoding.
-bool needsSiblings(const Requirement &requirement) {
-    return requirement.type != RequirementType::optional && requirement.type != RequirementType::required;
-}
-
-void validateKeys(const KeyList &keys, const Decoding &decoding) {
-    boost::container::small_vector<SiblingKey, 32> siblings;
-    for (const CodableKey &key : keys) {
-        if (!needsSiblings(key.requirement())) {
+void noteUnknownKeys(const KeyList &keys, const Decoding &decoding) {
+    std::vector<std::string_view> known;
+    for (const auto &entry : decoding.value.entries()) {
+        if (isKnown(entry.key, keys, decoding.keysReadBefore)) {
             continue;
         }
-        if (siblings.empty()) {
-            std::ranges::transform(keys, std::back_inserter(siblings), &CodableKey::asSibling);
+        if (known.empty()) {
+            for (const CodableKey &key : keys) {
+                known.push_back(key.name().text());
+            }
+            for (const KeyReadBefore *read = decoding.keysReadBefore; read != nullptr; read = read->before) {
+                known.push_back(read->key.text());
+            }
         }
+        decoding.context.noteUnknownKey(decoding.path, entry.key.text(), entry.keyOffset, known);
+    }
+}
+
+void validateKeys(const void *item, const KeyList &keys, const Decoding &decoding) {
+    for (const KeyList::Rule &rule : keys.rules()) {
+        const std::string_view name = rule.key->name().text();
+        const auto given = static_cast<std::size_t>(std::ranges::count_if(
+            rule.listed, [item](const CodableKey *listed) { return listed->wasGiven(item); }));
         try {
-            validate(key.asSibling(), key.requirement(), {siblings.data(), siblings.size()});
+            validate(name, rule.key->wasGiven(item), given, rule.key->requirement());
         } catch (const ConfigurationError &) {
-            const std::string path = CodingPath(decoding.path, key.name().stringValue).text();
+            const std::string path = CodingPath(decoding.path, name).text();
             decoding.context.noteFailure(path, detail::offsetWithin(decoding, path));
             throw;
         }
@@ -54,35 +59,62 @@ void validateKeys(const KeyList &keys, const Decoding &decoding) {
 } // namespace
 
 std::uint32_t detail::offsetWithin(const Decoding &item, std::string_view path) {
-    for (const auto &entry : *item.value.dictionary()) {
-        if (path.ends_with(entry.key) && CodingPath(item.path, entry.key).text() == path) {
+    for (const auto &entry : item.value.entries()) {
+        if (path.ends_with(entry.key.text()) && CodingPath(item.path, entry.key.text()).text() == path) {
             return entry.value.offset();
         }
     }
     return item.value.offset();
 }
 
-void decodeKeys(KeyList &keys, const std::string &plistType, const Decoding &decoding) {
-    const PropertyList::Dictionary *const dictionary = decoding.value.dictionary();
-    if (dictionary == nullptr) {
-        throwNoItem(decoding, plistType);
+KeyList::KeyList(std::vector<CodableKey> keys) : keys_(std::move(keys)) {
+    for (const CodableKey &key : keys_) {
+        // The other two are seen to while decoding.
+        const Requirement &requirement = key.requirement();
+        if (requirement.type == RequirementType::optional || requirement.type == RequirementType::required) {
+            continue;
+        }
+        Rule &rule = rules_.emplace_back(Rule{&key, {}});
+        for (const ConfigCodingKey &name : requirement.keys) {
+            const auto listed =
+                std::ranges::find(keys_, PropertyListKey(name.stringValue), &CodableKey::name);
+            if (listed == keys_.end()) {
+                throw ConfigurationError(ConfigurationErrors::MissingValue{std::string(name.stringValue)});
+            }
+            rule.listed.push_back(&*listed);
+        }
+    }
+}
+
+void decodeKeys(void *item, const KeyList &keys, std::string_view typeName, const Decoding &decoding) {
+    if (!decoding.value.isDictionary()) {
+        throwNoItem(decoding, itemTypeText(typeName));
     }
     // First, because the key that is missed may be there with a slip.
     if (decoding.context.notes() != nullptr) {
-        noteUnknownKeys(*dictionary, keys, decoding);
+        noteUnknownKeys(keys, decoding);
     }
-    for (CodableKey &key : keys) {
-        key.decode(*dictionary, decoding.path, decoding.context);
+    for (const CodableKey &key : keys) {
+        if (const PropertyListValue *const value = decoding.value.find(key.name())) {
+            key.decode(item, *value, decoding.path, decoding.context);
+        } else if (key.requirement().type == RequirementType::required) {
+            throw ConfigurationError(ConfigurationErrors::MissingValueWithPath{std::string(key.name().text()),
+                                                                               decoding.path.text()});
+        }
     }
-    validateKeys(keys, decoding);
+    validateKeys(item, keys, decoding);
 }
 
-PropertyList encodeKeys(const KeyList &keys) {
+PropertyList encodeKeys(const void *item, const KeyList &keys) {
     PropertyList::Dictionary dictionary;
     for (const CodableKey &key : keys) {
-        key.encode(dictionary);
+        key.encode(item, dictionary);
     }
     return PropertyList(std::move(dictionary));
+}
+
+std::string itemTypeText(std::string_view typeName) {
+    return fmt::format("dictionary ({})", typeName);
 }
 
 } // namespace velmar

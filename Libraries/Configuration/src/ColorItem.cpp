@@ -51,15 +51,15 @@ PropertyList Decodable<ColorItem::Specification>::asWritten(const ColorItem::Spe
 }
 
 ColorItem::Specification Decodable<ColorItem::Specification>::decode(const Decoding &decoding) {
-    const std::string *text = decoding.value.string();
+    const auto text = decoding.value.string();
     const auto fail = [&]() -> ConfigurationError {
-        return ConfigurationErrors::ColorSpecification{text != nullptr ? std::optional(*text) : std::nullopt,
-                                                       decoding.path.text()};
+        return ConfigurationErrors::ColorSpecification{
+            text ? std::optional(std::string(*text)) : std::nullopt, decoding.path.text()};
     };
-    if (text == nullptr || !text->starts_with('#')) {
+    if (!text || !text->starts_with('#')) {
         throw fail();
     }
-    const std::string_view digits = std::string_view(*text).substr(1);
+    const std::string_view digits = text->substr(1);
     const std::size_t count = characterCount(digits);
     if (count != 6 && count != 8) {
         throw fail();

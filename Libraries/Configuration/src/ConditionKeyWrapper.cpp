@@ -2,23 +2,24 @@
 
 #include <Foundation/LocalizedError.h>
 
+#include <algorithm>
+
 namespace velmar {
 
 Expression Decodable<Expression>::decode(const Decoding &decoding) {
-    const std::string *line = decoding.value.string();
-    if (line == nullptr) {
+    const auto line = decoding.value.string();
+    if (!line) {
         throwWrongType(decoding, plistType());
     }
-    const Expression expression = [&] {
+    const Expression &expression = [&]() -> const Expression & {
         try {
-            return Expression(*line);
+            return decoding.context.expression(*line);
         } catch (const LocalizedError &error) {
             throwWrongType(decoding, error.errorDescription(), plistType());
         }
     }();
-    if (VariableNames variables = expression.variableNames(); !variables.empty()) {
-        decoding.context.addVariablesRecord(decoding.path, decoding.value.offset(), std::move(variables),
-                                            expression);
+    if (std::ranges::any_of(expression, &expressions::variableOf)) {
+        decoding.context.addVariablesRecord(decoding.path, decoding.value, &expression);
     }
     return expression;
 }

@@ -4,6 +4,7 @@
 
 #include <Configuration/ItemGroups.h>
 #include <Configuration/Library.h>
+#include <Foundation/PropertyListDocument.h>
 
 #include <fmt/format.h>
 
@@ -26,7 +27,7 @@ std::string modelOf(const BookError &error) {
 
 /// Applies the parents of the models in a book that stands in a dictionary of the file.
 template <class Model>
-void resolve(KeyWrapper<Book<Model>> &holder, const PropertyList &dictionary, const CodingPath &path,
+void resolve(KeyWrapper<Book<Model>> &holder, const PropertyListValue &dictionary, const CodingPath &path,
              DecodingContext &context) {
     if (!holder.wasGivenValueWhileDecoding()) {
         return;
@@ -40,14 +41,14 @@ void resolve(KeyWrapper<Book<Model>> &holder, const PropertyList &dictionary, co
         const CodingPath bookPath(path, key);
         const CodingPath modelPath(bookPath, model);
         const std::string parentPath = CodingPath(modelPath, parent).text();
-        const PropertyList *const value = dictionary.dictionary()->find(key)->dictionary()->find(model);
-        const PropertyList *const name = value != nullptr ? value->dictionary()->find(parent) : nullptr;
+        const PropertyListValue *const value = dictionary.find(key)->find(std::string_view(model));
+        const PropertyListValue *const name = value != nullptr ? value->find(parent) : nullptr;
         context.noteFailure(parentPath, name != nullptr ? name->offset() : dictionary.offset());
         throw ConfigurationError(ConfigurationErrors::Custom{parentPath, error.errorDescription()});
     }
 }
 
-void resolveBooks(Configuration &configuration, const PropertyList &file, DecodingContext &context) {
+void resolveBooks(Configuration &configuration, const PropertyListValue &file, DecodingContext &context) {
     const CodingPath root;
     resolve(configuration._colorStyles, file, root, context);
     resolve(configuration._fontStyles, file, root, context);
@@ -55,15 +56,16 @@ void resolveBooks(Configuration &configuration, const PropertyList &file, Decodi
     if (requests.wasGivenValueWhileDecoding()) {
         const std::string_view key = requests.name().stringValue;
         requests.modify([&](APIRequestsSection &section) {
-            resolve(section._models, *file.dictionary()->find(key), CodingPath(root, key), context);
+            resolve(section._models, *file.find(key), CodingPath(root, key), context);
         });
     }
 }
 
 } // namespace
 
-std::shared_ptr<const Configuration> Configuration::decode(const PropertyList &file, DecodingNotes *notes) {
-    if (file.dictionary() == nullptr) {
+std::shared_ptr<const Configuration> Configuration::decode(const PropertyListValue &file,
+                                                           DecodingNotes *notes) {
+    if (!file.isDictionary()) {
         throw ConfigurationError(ConfigurationErrors::UnexpectedError{
             fmt::format("The root of the configuration is {}, not a dictionary.", foundText(file))});
     }
@@ -78,14 +80,17 @@ std::shared_ptr<const Configuration> Configuration::decode(const PropertyList &f
                                   .slides = &configuration->_slides.rawValue()},
                                  file);
         checkVariables(*configuration, file, context);
-        configuration->variablesRecords = context.takeVariablesRecords();
-        configuration->declaredVariables = context.declaredVariables();
+        configuration->declaredVariables = context.takeDeclaredVariables();
         return configuration;
     } catch (const LocalizedError &) {
         throw;
     } catch (const std::exception &error) {
         throw ConfigurationError(ConfigurationErrors::UnexpectedError{error.what()});
     }
+}
+
+std::shared_ptr<const Configuration> Configuration::decode(const PropertyList &file, DecodingNotes *notes) {
+    return decode(PropertyListDocument::of(file).root(), notes);
 }
 
 PropertyList Configuration::encode() const {

@@ -1,14 +1,15 @@
 #include <Configuration/Decodable.h>
-#include <Configuration/Populatable.h>
+
+#include "VariableReferences.h"
 
 #include <cmath>
 #include <limits>
 
 namespace velmar {
 
-void recordVariables(std::string_view text, const Decoding &decoding) {
-    if (VariableNames variables = usedVariables(text); !variables.empty()) {
-        decoding.context.addVariablesRecord(decoding.path, decoding.value.offset(), std::move(variables));
+void recordVariables(const Decoding &decoding) {
+    if (VariableReferences(*decoding.value.string()).next()) {
+        decoding.context.addVariablesRecord(decoding.path, decoding.value);
     }
 }
 
@@ -30,23 +31,23 @@ void throwNoItem(const Decoding &decoding, const std::string &expectedType) {
 }
 
 bool Decodable<bool>::decode(const Decoding &decoding) {
-    if (const bool *value = decoding.value.boolean()) {
+    if (const auto value = decoding.value.boolean()) {
         return *value;
     }
     throwWrongType(decoding, plistType());
 }
 
 std::int64_t Decodable<std::int64_t>::decode(const Decoding &decoding) {
-    if (const std::int64_t *value = decoding.value.integer()) {
+    if (const auto value = decoding.value.integer()) {
         return *value;
     }
-    if (const double *value = decoding.value.real()) {
+    if (const auto value = decoding.value.real()) {
         constexpr double limit = 9223372036854775808.0; // 2^63, the first whole number beyond
         if (*value >= -limit && *value < limit && std::trunc(*value) == *value) {
             return static_cast<std::int64_t>(*value);
         }
     }
-    if (decoding.value.unsignedInteger() != nullptr) {
+    if (decoding.value.unsignedInteger()) {
         throwWrongType(decoding, fmt::format("The value {} is too large.", decoding.value.text()),
                        plistType());
     }
@@ -54,13 +55,13 @@ std::int64_t Decodable<std::int64_t>::decode(const Decoding &decoding) {
 }
 
 double Decodable<double>::decode(const Decoding &decoding) {
-    if (const std::int64_t *value = decoding.value.integer()) {
+    if (const auto value = decoding.value.integer()) {
         return static_cast<double>(*value);
     }
-    if (const std::uint64_t *value = decoding.value.unsignedInteger()) {
+    if (const auto value = decoding.value.unsignedInteger()) {
         return static_cast<double>(*value);
     }
-    if (const double *value = decoding.value.real()) {
+    if (const auto value = decoding.value.real()) {
         // No key of the file has a use for an infinite size, and "nan" passes every range.
         if (!std::isfinite(*value)) {
             throw ConfigurationError(
@@ -72,28 +73,30 @@ double Decodable<double>::decode(const Decoding &decoding) {
 }
 
 std::string Decodable<std::string>::decode(const Decoding &decoding) {
-    if (const std::string *value = decoding.value.string()) {
-        recordVariables(*value, decoding);
-        return *value;
+    if (const auto value = decoding.value.string()) {
+        recordVariables(decoding);
+        return std::string(*value);
     }
     throwWrongType(decoding, plistType());
 }
 
 std::vector<std::string> decodeTexts(const Decoding &decoding) {
-    const auto isWhole = [](const PropertyList &value) { return value.integer() || value.unsignedInteger(); };
-    const auto isNumber = [&](const PropertyList &value) {
-        return isWhole(value) || (value.real() != nullptr && std::isfinite(*value.real()));
+    const auto isWhole = [](const PropertyListValue &value) {
+        return value.integer() || value.unsignedInteger();
     };
-    if (const PropertyList::Array *array = decoding.value.array()) {
-        const bool areTexts =
-            std::ranges::all_of(*array, [](const PropertyList &value) { return value.string(); });
-        const bool areWhole = std::ranges::all_of(*array, isWhole);
-        if (areTexts || areWhole || std::ranges::all_of(*array, isNumber)) {
+    const auto isNumber = [&](const PropertyListValue &value) {
+        return isWhole(value) || (value.real() && std::isfinite(*value.real()));
+    };
+    if (decoding.value.isArray()) {
+        const std::span<const PropertyListValue> elements = decoding.value.elements();
+        const bool areTexts = std::ranges::all_of(
+            elements, [](const PropertyListValue &value) { return value.string().has_value(); });
+        const bool areWhole = std::ranges::all_of(elements, isWhole);
+        if (areTexts || areWhole || std::ranges::all_of(elements, isNumber)) {
             std::vector<std::string> texts;
-            texts.reserve(array->size());
-            for (std::size_t index = 0; index < array->size(); ++index) {
-                const PropertyList &value = (*array)[index];
-                const CodingPath path(decoding.path, index);
+            texts.reserve(elements.size());
+            for (const PropertyListValue &value : elements) {
+                const CodingPath path(decoding.path, texts.size());
                 const Decoding element{value, path, decoding.context};
                 texts.push_back(areTexts   ? Decodable<std::string>::decode(element)
                                 : areWhole ? value.text()

@@ -75,25 +75,20 @@ std::optional<std::string_view> nearest(std::string_view given, std::span<const 
     return best;
 }
 
-/// The path of the very value `wanted` within `value`. A path is only asked for once, when a decoding fails;
-/// to keep it with each of thousands of references would cost more than the search.
-std::optional<std::string> pathOf(const PropertyList &wanted, const PropertyList &value,
-                                  const CodingPath &path) {
+std::optional<std::string> pathWithin(const PropertyListValue &wanted, const PropertyListValue &value,
+                                      const CodingPath &path) {
     if (&wanted == &value) {
         return path.text();
     }
-    if (const PropertyList::Array *array = value.array()) {
-        for (std::size_t index = 0; index < array->size(); ++index) {
-            if (auto found = pathOf(wanted, (*array)[index], CodingPath(path, index))) {
-                return found;
-            }
+    const std::span<const PropertyListValue> elements = value.elements();
+    for (std::size_t index = 0; index < elements.size(); ++index) {
+        if (auto found = pathWithin(wanted, elements[index], CodingPath(path, index))) {
+            return found;
         }
     }
-    if (const PropertyList::Dictionary *dictionary = value.dictionary()) {
-        for (const auto &entry : *dictionary) {
-            if (auto found = pathOf(wanted, entry.value, CodingPath(path, entry.key))) {
-                return found;
-            }
+    for (const auto &entry : value.entries()) {
+        if (auto found = pathWithin(wanted, entry.value, CodingPath(path, entry.key.text()))) {
+            return found;
         }
     }
     return std::nullopt;
@@ -105,16 +100,21 @@ bool equalButForCase(std::string_view left, std::string_view right) {
     return std::ranges::equal(left, right, {}, lowered, lowered);
 }
 
-void DecodingContext::addReference(const PropertyList &value, std::function<void(const Library &)> settle) {
+std::string pathOf(const PropertyListValue &value, const PropertyListValue &file) {
+    return pathWithin(value, file, CodingPath()).value_or("");
+}
+
+void DecodingContext::addReference(const PropertyListValue &value,
+                                   std::function<void(const Library &)> settle) {
     references_.push_back({&value, std::move(settle)});
 }
 
-void DecodingContext::settleReferences(const Library &library, const PropertyList &file) {
+void DecodingContext::settleReferences(const Library &library, const PropertyListValue &file) {
     for (const Reference &reference : references_) {
         try {
             reference.settle(library);
         } catch (const LocalizedError &error) {
-            const std::string path = pathOf(*reference.value, file, CodingPath()).value_or("");
+            const std::string path = pathOf(*reference.value, file);
             noteFailure(path, reference.value->offset());
             throw ConfigurationError(ConfigurationErrors::Custom{path, error.errorDescription()});
         }
@@ -122,8 +122,20 @@ void DecodingContext::settleReferences(const Library &library, const PropertyLis
     references_.clear();
 }
 
-std::shared_ptr<void> &DecodingContext::valueOfName(std::string_view typeName, const std::string &name) {
+std::shared_ptr<void> &DecodingContext::valueOfName(std::string_view typeName, std::string_view name) {
     return valuesOfNames_[{typeName, name}];
+}
+
+const expressions::Expression &DecodingContext::expression(std::string_view line) {
+    const auto known = expressions_.find(line);
+    return known != expressions_.end() ? known->second : expressions_.try_emplace(line, line).first->second;
+}
+
+const RegularExpression &DecodingContext::regularExpression(std::string_view pattern) {
+    const auto known = regularExpressions_.find(pattern);
+    return known != regularExpressions_.end()
+               ? known->second
+               : regularExpressions_.try_emplace(pattern, pattern).first->second;
 }
 
 void DecodingContext::declareByPopulatedTexts(const std::map<std::string, std::string> &initialValues) {
@@ -149,12 +161,15 @@ void DecodingContext::declareByPopulatedTexts(const std::map<std::string, std::s
     }
 }
 
-void DecodingContext::addVariablesRecord(const CodingPath &path, std::uint32_t offset,
-                                         VariableNames variables,
-                                         std::optional<expressions::Expression> condition) {
-    std::string text = path.text();
-    spend(text.size());
-    records_.records.push_back({std::move(variables), std::move(text), offset, std::move(condition)});
+void DecodingContext::addVariablesRecord(const CodingPath &path, const PropertyListValue &text,
+                                         const expressions::Expression *condition) {
+    spend(path.length());
+    uses_.push_back({&text, condition});
+    if (notes_ != nullptr) {
+        notes_->variables.records.push_back(
+            {condition != nullptr ? condition->variableNames() : usedVariables(*text.string()), path.text(),
+             text.offset(), condition != nullptr ? std::optional(*condition) : std::nullopt});
+    }
 }
 
 void DecodingContext::declareVariable(std::string name) {
@@ -177,7 +192,7 @@ void DecodingContext::noteFailure(const std::string &keyPath, std::uint32_t offs
     }
 }
 
-void DecodingContext::noteUnknownKey(const CodingPath &item, const std::string &key, std::uint32_t offset,
+void DecodingContext::noteUnknownKey(const CodingPath &item, std::string_view key, std::uint32_t offset,
                                      std::span<const std::string_view> knownKeys) {
     if (notes_->notes.size() >= mostNotesWithText) {
         notes_->notes.push_back({DecodingNotes::Kind::unknownKey, {}, offset, {}});
@@ -194,7 +209,7 @@ void DecodingContext::noteUnknownKey(const CodingPath &item, const std::string &
     notes_->notes.push_back({DecodingNotes::Kind::unknownKey, std::move(path), offset, std::move(message)});
 }
 
-void DecodingContext::noteEnumerationCase(const CodingPath &path, const std::string &value,
+void DecodingContext::noteEnumerationCase(const CodingPath &path, std::string_view value,
                                           std::uint32_t offset,
                                           std::span<const std::string_view> rawStrings) {
     for (const std::string_view rawString : rawStrings) {

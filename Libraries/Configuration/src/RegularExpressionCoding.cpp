@@ -2,17 +2,18 @@
 
 namespace velmar {
 
-RegularExpression compiled(const std::string &pattern, const Decoding &decoding) {
+RegularExpression compiled(std::string_view pattern, const Decoding &decoding) {
     try {
-        return RegularExpression(pattern);
+        return decoding.context.regularExpression(pattern);
     } catch (const RegularExpressionError &) {
-        throw ConfigurationError(ConfigurationErrors::InvalidRegex{pattern, decoding.path.text()});
+        throw ConfigurationError(
+            ConfigurationErrors::InvalidRegex{std::string(pattern), decoding.path.text()});
     }
 }
 
 RegularExpression Decodable<RegularExpression>::decode(const Decoding &decoding) {
-    const std::string *const pattern = decoding.value.string();
-    if (pattern == nullptr) {
+    const auto pattern = decoding.value.string();
+    if (!pattern) {
         throwWrongType(decoding, plistType());
     }
     return compiled(*pattern, decoding);

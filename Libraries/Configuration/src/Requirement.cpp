@@ -34,41 +34,31 @@ std::string brokenRule(std::string_view key, const Requirement &requirement) {
 
 } // namespace
 
-void validate(const SiblingKey &key, const Requirement &requirement, std::span<const SiblingKey> siblings) {
-    const auto isGiven = [&](const ConfigCodingKey &name) {
-        const auto sibling = std::ranges::find(siblings, name, &SiblingKey::name);
-        if (sibling == siblings.end()) {
-            throw ConfigurationError(ConfigurationErrors::MissingValue{std::string(name.stringValue)});
-        }
-        return sibling->wasGivenValueWhileDecoding;
-    };
-    // Every listed name is looked up, so that a mistake in a declaration shows whatever the file holds.
-    const auto given = static_cast<std::size_t>(std::ranges::count_if(requirement.keys, isGiven));
-    const bool own = key.wasGivenValueWhileDecoding;
-
+void validate(std::string_view key, bool wasGiven, std::size_t givenOfListed,
+              const Requirement &requirement) {
     bool fails = false;
     switch (requirement.type) {
     case RequirementType::requiredIfSpecified:
-        fails = !own && given == requirement.keys.size();
+        fails = !wasGiven && givenOfListed == requirement.keys.size();
         break;
     case RequirementType::requiredIfNotSpecified:
-        fails = !own && given < requirement.keys.size();
+        fails = !wasGiven && givenOfListed < requirement.keys.size();
         break;
     case RequirementType::exclude:
-        fails = own && given > 0;
+        fails = wasGiven && givenOfListed > 0;
         break;
     case RequirementType::requiredExcluding:
-        fails = own == (given > 0);
+        fails = wasGiven == (givenOfListed > 0);
         break;
     case RequirementType::required:
-        fails = !own;
+        fails = !wasGiven;
         break;
     case RequirementType::optional:
         break;
     }
     if (fails) {
-        throw ConfigurationError(ConfigurationErrors::ValidationError{
-            KeyValidationError(brokenRule(key.name.stringValue, requirement))});
+        throw ConfigurationError(
+            ConfigurationErrors::ValidationError{KeyValidationError(brokenRule(key, requirement))});
     }
 }
 

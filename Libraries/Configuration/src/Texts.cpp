@@ -4,25 +4,25 @@
 
 namespace velmar {
 
-std::string foundText(const PropertyList &value) {
+std::string foundText(const PropertyListValue &value) {
     constexpr std::size_t longestShown = 80;
     switch (value.kind()) {
-    case PropertyList::Kind::Boolean:
+    case PropertyListValue::Kind::Boolean:
         return "a boolean";
-    case PropertyList::Kind::Integer:
-    case PropertyList::Kind::UnsignedInteger:
+    case PropertyListValue::Kind::Integer:
+    case PropertyListValue::Kind::UnsignedInteger:
         return fmt::format("the integer {}", value.text());
-    case PropertyList::Kind::Real:
+    case PropertyListValue::Kind::Real:
         return fmt::format("the real {}", textOf(*value.real()));
-    case PropertyList::Kind::String:
+    case PropertyListValue::Kind::String:
         return value.string()->size() > longestShown ? "a long string" : fmt::format("'{}'", *value.string());
-    case PropertyList::Kind::Data:
+    case PropertyListValue::Kind::Data:
         return "data";
-    case PropertyList::Kind::Date:
+    case PropertyListValue::Kind::Date:
         return "a date";
-    case PropertyList::Kind::Array:
+    case PropertyListValue::Kind::Array:
         return "an array";
-    case PropertyList::Kind::Dictionary:
+    case PropertyListValue::Kind::Dictionary:
         break;
     }
     return "a dictionary";

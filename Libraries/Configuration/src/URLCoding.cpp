@@ -3,12 +3,12 @@
 namespace velmar {
 
 URL Decodable<URL>::decode(const Decoding &decoding) {
-    const std::string *const text = decoding.value.string();
-    const auto url = text != nullptr ? URL::fromString(*text) : std::nullopt;
+    const auto text = decoding.value.string();
+    const auto url = text ? URL::fromString(*text) : std::nullopt;
     if (!url) {
         throwWrongType(decoding, plistType());
     }
-    recordVariables(*text, decoding);
+    recordVariables(decoding);
     return *url;
 }
 

@@ -114,7 +114,7 @@ private:
     std::vector<Step> way_;
 };
 
-void checkBook(const Configuration &configuration, const Names &others, const PropertyList &file,
+void checkBook(const Configuration &configuration, const Names &others, const PropertyListValue &file,
                DecodingContext &context) {
     const KeyWrapper<GeneralSection> &general = configuration._general;
     const auto &variables = general()._variables;
@@ -126,37 +126,43 @@ void checkBook(const Configuration &configuration, const Names &others, const Pr
     const CodingPath section(root, general.name().stringValue);
     const CodingPath book(section, variables.name().stringValue);
     const std::string path = CodingPath(book, fault->name).text();
-    const PropertyList *value = &file;
+    const PropertyListValue *value = &file;
     for (const std::string_view key : {section.lastKey(), book.lastKey(), std::string_view(fault->name)}) {
-        value = value->dictionary()->find(key);
+        value = value->find(key);
     }
     context.noteFailure(path, value->offset());
     throw ConfigurationError(ConfigurationErrors::Custom{path, fault->error.errorDescription()});
 }
 
-/// The names of a record that nobody defines.
-VariableNames undefinedNames(const VariablesRecords::Record &record, const Names &defined,
-                             const ExpressionsBook<Expression>::Models &conditions) {
-    VariableNames undefined;
-    for (const std::string &name : record.variables) {
-        if (!defined.contains(name) && !(record.condition && conditions.contains(name))) {
-            undefined.insert(name);
+/// The names that a place of the file uses.
+template <class Visit>
+void visitNames(const DecodingContext::VariablesUse &use, Visit visit) {
+    if (use.condition != nullptr) {
+        for (const expressions::ExpressionElement &element : *use.condition) {
+            if (const std::string *const name = expressions::variableOf(element)) {
+                visit(*name);
+            }
+        }
+    } else {
+        VariableReferences references(*use.text->string());
+        while (const auto reference = references.next()) {
+            visit(reference->name);
         }
     }
-    return undefined;
 }
 
-ExpressionError faultOf(const VariablesRecords::Record &record, VariableNames undefined) {
-    if (!record.condition) {
-        return ExpressionErrors::Undefined{std::move(undefined), record.codingPath};
+ExpressionError faultOf(const DecodingContext::VariablesUse &use, VariableNames undefined, std::string path) {
+    if (use.condition == nullptr) {
+        return ExpressionErrors::Undefined{std::move(undefined), std::move(path)};
     }
-    const ExpressionErrors::UndefinedVariable fault{*undefined.begin(), record.condition->description()};
-    return ExpressionErrors::UndefinedVariableAtPath{record.codingPath, fault.errorDescription()};
+    const ExpressionErrors::UndefinedVariable fault{*undefined.begin(), use.condition->description()};
+    return ExpressionErrors::UndefinedVariableAtPath{std::move(path), fault.errorDescription()};
 }
 
 } // namespace
 
-void checkVariables(const Configuration &configuration, const PropertyList &file, DecodingContext &context) {
+void checkVariables(const Configuration &configuration, const PropertyListValue &file,
+                    DecodingContext &context) {
     context.declareByPopulatedTexts(configuration._general()._variables.rawValue().models());
     Names defined;
     for (const auto &placeholder : enumCases<GeneralSection::Placeholders>) {
@@ -168,11 +174,19 @@ void checkVariables(const Configuration &configuration, const PropertyList &file
     for (const auto &variable : configuration._general()._variables().models()) {
         defined.insert(bareVariableName(variable.first));
     }
-    for (const VariablesRecords::Record &record : context.variablesRecords().records) {
-        VariableNames undefined = undefinedNames(record, defined, configuration._conditions().models());
+    const auto &conditions = configuration._conditions().models();
+    for (const DecodingContext::VariablesUse &use : context.variablesUses()) {
+        VariableNames undefined;
+        visitNames(use, [&](std::string_view name) {
+            if (!defined.contains(name) &&
+                (use.condition == nullptr || !conditions.contains(std::string(name)))) {
+                undefined.emplace(name);
+            }
+        });
         if (!undefined.empty()) {
-            context.noteFailure(record.codingPath, record.offset);
-            throw faultOf(record, std::move(undefined));
+            std::string path = pathOf(*use.text, file);
+            context.noteFailure(path, use.text->offset());
+            throw faultOf(use, std::move(undefined), std::move(path));
         }
     }
 }

@@ -25,8 +25,7 @@ bool Expression::evaluate(const VariableLookup &variables, std::vector<Step> *st
 VariableNames Expression::variableNames() const {
     VariableNames names;
     for (const ExpressionElement &element : elements()) {
-        const auto *operand = std::get_if<Operand>(&element);
-        if (const std::string *name = operand != nullptr ? operand->variable() : nullptr)
+        if (const std::string *name = variableOf(element))
             names.insert(*name);
     }
     return names;

@@ -20,6 +20,11 @@ const std::string *Operand::variable() const noexcept {
     return found != nullptr ? &found->name : nullptr;
 }
 
+const std::string *variableOf(const ExpressionElement &element) noexcept {
+    const auto *operand = std::get_if<Operand>(&element);
+    return operand != nullptr ? operand->variable() : nullptr;
+}
+
 std::string description(const Operand &operand) {
     return std::visit(Overloaded{
                           [](const Operand::Variable &variable) { return variable.name; },

@@ -46,9 +46,9 @@ TEST_F(UserDefaultsTest, KeepsWhatItDoesNotKnow) {
     UserDefaults defaults("Velmar");
     EXPECT_EQ(defaults.string("count"), std::nullopt) << "no text";
     defaults.set("configuration", "a.plist");
-    const auto document = PropertyList::read(files.contents(defaults.path(), 10000));
-    ASSERT_NE(document.value.dictionary(), nullptr);
-    EXPECT_EQ(*document.value.dictionary()->find("count"), PropertyList(7));
+    const auto file = PropertyList::read(files.contents(defaults.path(), 10000));
+    ASSERT_NE(file.dictionary(), nullptr);
+    EXPECT_EQ(*file.dictionary()->find("count"), PropertyList(7));
 }
 
 TEST_F(UserDefaultsTest, PutsADamagedFileAside) {

@@ -32,8 +32,8 @@ struct Settings {
 // Throws FileError where the file is there but cannot be read.
 Settings settingsAt(const std::string &path) {
     try {
-        auto document = PropertyList::read(FileManager::defaultManager().contents(path, sizeLimit));
-        if (auto *dictionary = document.value.dictionary())
+        auto file = PropertyList::read(FileManager::defaultManager().contents(path, sizeLimit));
+        if (auto *dictionary = file.dictionary())
             return {std::move(*dictionary)};
         return {{}, true};
     } catch (const PropertyListError &) {

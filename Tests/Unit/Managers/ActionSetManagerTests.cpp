@@ -54,7 +54,7 @@ std::shared_ptr<const ActionSetItems> sets(const std::vector<std::vector<const c
         "<dict><key>Containers</key><array><dict><key>Components</key><array><dict><key>Type</key>"
         "<string>Spacer</string></dict></array></dict></array></dict></array><key>ActionSets</key><array>" +
         text + "</array></dict></plist>");
-    const auto configuration = Configuration::decode(file.value);
+    const auto configuration = Configuration::decode(file);
     return {configuration, &configuration->_actionSets()};
 }
 

@@ -44,7 +44,7 @@ std::shared_ptr<const ActionItem> action(std::string_view keys) {
              <key>Triggers</key><array><string>Launch</string></array>
              <key>Actions</key><array><dict>{0}</dict></array></dict></array></dict></plist>)",
         keys, slide));
-    const auto configuration = Configuration::decode(file.value);
+    const auto configuration = Configuration::decode(file);
     return {configuration, &configuration->_actionSets().front().set._actions().front()};
 }
 

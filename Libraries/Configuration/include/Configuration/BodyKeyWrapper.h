@@ -19,11 +19,9 @@ public:
     /// As CodingPath::text(); empty for a body that the file doesn't give.
     [[nodiscard]] const std::string &codingPath() const { return codingPath_; }
 
-    void decode(const PropertyList::Dictionary &item, const CodingPath &itemPath, DecodingContext &context) {
-        Base::decode(item, itemPath, context);
-        if (wasGivenValueWhileDecoding()) {
-            codingPath_ = CodingPath(itemPath, name().stringValue).text();
-        }
+    void decode(const PropertyListValue &value, const CodingPath &itemPath, DecodingContext &context) {
+        Base::decode(value, itemPath, context);
+        codingPath_ = CodingPath(itemPath, name().stringValue).text();
     }
 
     void inherit(const BodyKeyWrapper &parent) {

@@ -4,11 +4,13 @@
 #include <Configuration/Description.h>
 #include <Configuration/Requirement.h>
 #include <Foundation/PropertyList.h>
+#include <Foundation/PropertyListValue.h>
 #include <expressions/Variables.h>
 
-#include <boost/container/small_vector.hpp>
-
-#include <string>
+#include <cstddef>
+#include <span>
+#include <string_view>
+#include <vector>
 
 namespace velmar {
 
@@ -16,70 +18,109 @@ namespace velmar {
 template <class T>
 VariableNames usedVariables(const T &value);
 
-/// A holder of an item, whatever its value is: what the shared routines need of it. It refers to the holder,
-/// which must outlive it.
+/// One key of the items of a type, whatever its value is: where in an item its holder stands, and what the
+/// shared routines need of it. It stands once for all items of the type. An item is passed by its address.
 class CodableKey {
 public:
+    /// `holder` is that of the type's default instance `item`, which lives as long as the process.
     template <class Key>
-    explicit CodableKey(Key &key) : key_(&key), operations_(&operationsOf<Key>) {}
+    CodableKey(const void *item, const Key &holder)
+        : name_(holder.name().stringValue),
+          requirement_(&holder.requirement()),
+          offset_(static_cast<std::size_t>(reinterpret_cast<const std::byte *>(&holder) -
+                                           static_cast<const std::byte *>(item))),
+          operations_(&operationsOf<Key>) {}
 
-    [[nodiscard]] const ConfigCodingKey &name() const { return operations_->name(key_); }
-    [[nodiscard]] const Requirement &requirement() const { return operations_->requirement(key_); }
-    [[nodiscard]] SiblingKey asSibling() const { return operations_->asSibling(key_); }
-    void encode(PropertyList::Dictionary &item) const { operations_->encode(key_, item); }
-    [[nodiscard]] KeyDescription describe(Descriptions &items) const {
-        return operations_->describe(key_, items);
-    }
-    [[nodiscard]] VariableNames usedVariables() const { return operations_->usedVariables(key_); }
-    [[nodiscard]] bool isHolder(const void *holder) const { return key_ == holder; }
+    [[nodiscard]] const PropertyListKey &name() const { return name_; }
+    [[nodiscard]] const Requirement &requirement() const { return *requirement_; }
+    [[nodiscard]] bool isHeldBy(const void *item, const void *holder) const { return in(item) == holder; }
 
-    void decode(const PropertyList::Dictionary &item, const CodingPath &path, DecodingContext &context) {
-        operations_->decode(key_, item, path, context);
+    [[nodiscard]] bool wasGiven(const void *item) const { return operations_->wasGiven(in(item)); }
+    void encode(const void *item, PropertyList::Dictionary &into) const {
+        operations_->encode(in(item), into);
     }
-    /// `parent` is the same key of another item of the type.
-    void inherit(const CodableKey &parent) { operations_->inherit(key_, parent.key_); }
+    [[nodiscard]] KeyDescription describe(const void *item, Descriptions &items) const {
+        return operations_->describe(in(item), items);
+    }
+    [[nodiscard]] VariableNames usedVariables(const void *item) const {
+        return operations_->usedVariables(in(item));
+    }
+    void decode(void *item, const PropertyListValue &value, const CodingPath &itemPath,
+                DecodingContext &context) const {
+        operations_->decode(in(item), value, itemPath, context);
+    }
+    /// `parent` is another item of the type.
+    void inherit(void *item, const void *parent) const { operations_->inherit(in(item), in(parent)); }
 
 private:
     struct Operations {
-        const ConfigCodingKey &(*name)(const void *key);
-        const Requirement &(*requirement)(const void *key);
-        SiblingKey (*asSibling)(const void *key);
-        void (*encode)(const void *key, PropertyList::Dictionary &item);
-        KeyDescription (*describe)(const void *key, Descriptions &items);
-        VariableNames (*usedVariables)(const void *key);
-        void (*decode)(void *key, const PropertyList::Dictionary &item, const CodingPath &path,
+        bool (*wasGiven)(const void *holder);
+        void (*encode)(const void *holder, PropertyList::Dictionary &item);
+        KeyDescription (*describe)(const void *holder, Descriptions &items);
+        VariableNames (*usedVariables)(const void *holder);
+        void (*decode)(void *holder, const PropertyListValue &value, const CodingPath &itemPath,
                        DecodingContext &context);
-        void (*inherit)(void *key, const void *parent);
+        void (*inherit)(void *holder, const void *parent);
     };
 
     template <class Key>
-    static const Key &as(const void *key) {
-        return *static_cast<const Key *>(key);
+    static const Key &as(const void *holder) {
+        return *static_cast<const Key *>(holder);
     }
 
     template <class Key>
     static constexpr Operations operationsOf{
-        [](const void *key) -> decltype(auto) { return as<Key>(key).name(); },
-        [](const void *key) -> decltype(auto) { return as<Key>(key).requirement(); },
-        [](const void *key) { return as<Key>(key).asSibling(); },
-        [](const void *key, PropertyList::Dictionary &item) { as<Key>(key).encode(item); },
-        [](const void *key, Descriptions &items) { return as<Key>(key).describe(items); },
-        [](const void *key) { return velmar::usedVariables(as<Key>(key).rawValue()); },
-        [](void *key, const PropertyList::Dictionary &item, const CodingPath &path,
-           DecodingContext &context) { static_cast<Key *>(key)->decode(item, path, context); },
-        [](void *key, const void *parent) { static_cast<Key *>(key)->inherit(as<Key>(parent)); }};
+        [](const void *holder) { return as<Key>(holder).wasGivenValueWhileDecoding(); },
+        [](const void *holder, PropertyList::Dictionary &item) { as<Key>(holder).encode(item); },
+        [](const void *holder, Descriptions &items) { return as<Key>(holder).describe(items); },
+        [](const void *holder) { return velmar::usedVariables(as<Key>(holder).rawValue()); },
+        [](void *holder, const PropertyListValue &value, const CodingPath &itemPath,
+           DecodingContext &context) { static_cast<Key *>(holder)->decode(value, itemPath, context); },
+        [](void *holder, const void *parent) { static_cast<Key *>(holder)->inherit(as<Key>(parent)); }};
 
-    void *key_;
+    [[nodiscard]] void *in(void *item) const { return static_cast<std::byte *>(item) + offset_; }
+    [[nodiscard]] const void *in(const void *item) const {
+        return static_cast<const std::byte *>(item) + offset_;
+    }
+
+    PropertyListKey name_;
+    const Requirement *requirement_;
+    std::size_t offset_;
     const Operations *operations_;
 };
 
-/// The holders of an item, in the order of their declaration.
-using KeyList = boost::container::small_vector<CodableKey, 16>;
+/// The keys of the items of a type, in the order of their declaration, and what they ask of each other.
+class KeyList {
+public:
+    /// Throws ConfigurationError (MissingValue) where a requirement lists a key that the item lacks: a
+    /// mistake in the declaration.
+    explicit KeyList(std::vector<CodableKey> keys);
+    KeyList(const KeyList &) = delete; // Its rules point into it.
+    KeyList &operator=(const KeyList &) = delete;
+    ~KeyList() = default;
 
-/// Decodes the keys of an item and checks their requirements. `plistType` is the item's type for a message.
-/// Throws ConfigurationError.
-void decodeKeys(KeyList &keys, const std::string &plistType, const Decoding &decoding);
+    [[nodiscard]] auto begin() const noexcept { return keys_.begin(); }
+    [[nodiscard]] auto end() const noexcept { return keys_.end(); }
 
-[[nodiscard]] PropertyList encodeKeys(const KeyList &keys);
+    /// A key whose requirement is about its siblings.
+    struct Rule {
+        const CodableKey *key;
+        std::vector<const CodableKey *> listed;
+    };
+    [[nodiscard]] std::span<const Rule> rules() const noexcept { return rules_; }
+
+private:
+    std::vector<CodableKey> keys_;
+    std::vector<Rule> rules_;
+};
+
+/// Decodes the keys of an item and checks their requirements. Throws ConfigurationError, in which `typeName`
+/// is the item's.
+void decodeKeys(void *item, const KeyList &keys, std::string_view typeName, const Decoding &decoding);
+
+[[nodiscard]] PropertyList encodeKeys(const void *item, const KeyList &keys);
+
+/// The type of an item for messages.
+[[nodiscard]] std::string itemTypeText(std::string_view typeName);
 
 } // namespace velmar

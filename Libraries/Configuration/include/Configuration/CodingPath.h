@@ -19,6 +19,9 @@ public:
     /// The parts joined by ".", indexes as numbers from 0; empty for the root.
     [[nodiscard]] std::string text() const;
 
+    /// The length of the text.
+    [[nodiscard]] std::size_t length() const;
+
     /// The innermost key, also from within its array; empty for the root.
     [[nodiscard]] std::string_view lastKey() const;
 

@@ -15,7 +15,6 @@
 #include <Configuration/NavigationSection.h>
 #include <Configuration/SideContainerSection.h>
 #include <Configuration/SlideItem.h>
-#include <Configuration/VariablesRecords.h>
 #include <Configuration/WindowSection.h>
 
 #include <memory>
@@ -45,7 +44,6 @@ struct Configuration {
     KeyWrapper<APIRequestsSection> _apiRequests{"APIRequests", optional};
     KeyWrapper<std::vector<TriggeredActionSetItem>> _actionSets{"ActionSets", optional};
 
-    VariablesRecords variablesRecords; ///< What the file uses; set by `decode`.
     VariableNames declaredVariables; ///< What keys of the file brought into being, beside General.Variables.
 
     [[nodiscard]] bool slidesWereSpecified() const { return _slides.wasGivenValueWhileDecoding(); }
@@ -56,6 +54,8 @@ struct Configuration {
     /// Decodes a file, settles its references and checks its variables; the result never changes. Throws
     /// ConfigurationError, or ExpressionError where a text or condition uses what nobody defines. `notes`,
     /// where given, takes what the decoding passes over in silence and the place of its failure.
+    [[nodiscard]] static std::shared_ptr<const Configuration> decode(const PropertyListValue &file,
+                                                                     DecodingNotes *notes = nullptr);
     [[nodiscard]] static std::shared_ptr<const Configuration> decode(const PropertyList &file,
                                                                      DecodingNotes *notes = nullptr);
 

@@ -73,6 +73,18 @@ consteval auto codingOf() {
 template <class T>
 struct Decodable : decltype(detail::codingOf<T>())::type {};
 
+/// Makes a value right where it is to stand: what constructs its content from this, such as an optional or an
+/// element of a vector, moves nothing. Items are large.
+template <class Make>
+struct InPlace {
+    Make make;
+    operator std::invoke_result_t<const Make &>() const {
+        return make();
+    } // NOLINT(google-explicit-constructor)
+};
+template <class Make>
+InPlace(Make) -> InPlace<Make>;
+
 /// Throws the ConfigurationError of a value that is not of the expected type.
 [[noreturn]] void throwWrongType(const Decoding &decoding, const std::string &expectedType);
 [[noreturn]] void throwWrongType(const Decoding &decoding, const std::string &description,
@@ -81,8 +93,8 @@ struct Decodable : decltype(detail::codingOf<T>())::type {};
 /// Throws the ConfigurationError of a value that is no dictionary where an item must be.
 [[noreturn]] void throwNoItem(const Decoding &decoding, const std::string &expectedType);
 
-/// Keeps the variables that a text uses, to be checked when all of the file is decoded.
-void recordVariables(std::string_view text, const Decoding &decoding);
+/// Keeps a text that has references to variables, to be checked when all of the file is decoded.
+void recordVariables(const Decoding &decoding);
 
 template <>
 struct Decodable<bool> {
@@ -126,8 +138,8 @@ struct Decodable<std::string> {
 template <class E>
 struct EnumCoding {
     static E decode(const Decoding &decoding) {
-        const std::string *text = decoding.value.string();
-        if (text == nullptr) {
+        const auto text = decoding.value.string();
+        if (!text) {
             throwWrongType(decoding, plistType());
         }
         if (const auto value = enumValue<E>(*text)) {
@@ -151,7 +163,9 @@ struct EnumCoding {
 /// An optional is absent where its key is; a value that is there must be right.
 template <class T>
 struct Decodable<std::optional<T>> {
-    static std::optional<T> decode(const Decoding &decoding) { return Decodable<T>::decode(decoding); }
+    static std::optional<T> decode(const Decoding &decoding) {
+        return std::optional<T>(std::in_place, InPlace{[&] { return Decodable<T>::decode(decoding); }});
+    }
     static std::optional<PropertyList> encode(const std::optional<T> &value) {
         return value ? Decodable<T>::encode(*value) : std::nullopt;
     }
@@ -162,18 +176,19 @@ struct Decodable<std::optional<T>> {
 template <class T>
 struct Decodable<std::vector<T>> {
     static std::vector<T> decode(const Decoding &decoding) {
-        const PropertyList::Array *array = decoding.value.array();
-        if (array == nullptr) {
+        if (!decoding.value.isArray()) {
             throwWrongType(decoding, plistType());
         }
         std::vector<T> elements;
-        elements.reserve(array->size());
-        for (std::size_t index = 0; index < array->size(); ++index) {
-            const CodingPath path(decoding.path, index);
+        elements.reserve(decoding.value.elements().size());
+        for (const PropertyListValue &value : decoding.value.elements()) {
+            const CodingPath path(decoding.path, elements.size());
             try {
-                elements.push_back(Decodable<T>::decode({(*array)[index], path, decoding.context}));
+                elements.emplace_back(InPlace{[&] {
+                    return Decodable<T>::decode({value, path, decoding.context});
+                }});
             } catch (...) {
-                decoding.context.noteFailure(path.text(), (*array)[index].offset());
+                decoding.context.noteFailure(path.text(), value.offset());
                 throw;
             }
         }
@@ -198,15 +213,16 @@ struct Decodable<std::vector<T>> {
 template <class T>
 struct Decodable<std::map<std::string, T>> {
     static std::map<std::string, T> decode(const Decoding &decoding) {
-        const PropertyList::Dictionary *dictionary = decoding.value.dictionary();
-        if (dictionary == nullptr) {
+        if (!decoding.value.isDictionary()) {
             throwWrongType(decoding, plistType());
         }
         std::map<std::string, T> values;
-        for (const auto &entry : *dictionary) {
-            const CodingPath path(decoding.path, entry.key);
+        for (const auto &entry : decoding.value.entries()) {
+            const CodingPath path(decoding.path, entry.key.text());
             try {
-                values.emplace(entry.key, Decodable<T>::decode({entry.value, path, decoding.context}));
+                values.try_emplace(std::string(entry.key.text()), InPlace{[&] {
+                                       return Decodable<T>::decode({entry.value, path, decoding.context});
+                                   }});
             } catch (...) {
                 decoding.context.noteFailure(path.text(), entry.value.offset());
                 throw;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <Configuration/VariablesRecords.h>
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -7,8 +9,9 @@
 
 namespace velmar {
 
-/// What a decoding passed over in silence, and the place where it failed: for a tool that explains a file to
-/// its author. A decoding fills it where it is given one; the offsets are those of PropertyList::offset().
+/// What a decoding passed over in silence, the place where it failed, and which places use which variables:
+/// for a tool that explains a file to its author. A decoding fills it where it is given one; the offsets are
+/// those of PropertyListValue::offset().
 struct DecodingNotes {
     enum class Kind {
         unknownKey,      ///< A key of the file that no item names.
@@ -29,6 +32,7 @@ struct DecodingNotes {
 
     std::vector<Note> notes;
     std::optional<Failure> failure; ///< The innermost key of the first failure.
+    VariablesRecords variables;
 };
 
 } // namespace velmar

@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace velmar {
 
@@ -24,10 +25,10 @@ public:
     InheritableKeyWrapper(ConfigCodingKey name, Requirement requirement, BookOfLibrary book)
         : Base(name, std::move(requirement)), book_(book) {}
 
-    void decode(const PropertyList::Dictionary &item, const CodingPath &itemPath, DecodingContext &context) {
-        Base::decodeWith(item, itemPath, context, [this](const Decoding &decoding) {
-            const std::string *modelName = decoding.value.string();
-            return modelName != nullptr ? valueOfName(*modelName, decoding) : decodeItem(decoding);
+    void decode(const PropertyListValue &value, const CodingPath &itemPath, DecodingContext &context) {
+        Base::decodeWith(value, itemPath, context, [this](const Decoding &decoding) {
+            const auto modelName = decoding.value.string();
+            return modelName ? valueOfName(*modelName, decoding) : decodeItem(decoding);
         });
     }
 
@@ -58,7 +59,7 @@ private:
 
     /// The item that all keys with this name share, for it never changes once its parent is applied; a fresh
     /// one where items have an identity.
-    Held valueOfName(const std::string &modelName, const Decoding &decoding) const {
+    Held valueOfName(std::string_view modelName, const Decoding &decoding) const {
         if constexpr (requires(Model model) { model.id; }) {
             return makeNamed(modelName, decoding);
         } else {
@@ -70,23 +71,23 @@ private:
         }
     }
 
-    Held makeNamed(const std::string &modelName, const Decoding &decoding) const {
+    Held makeNamed(std::string_view modelName, const Decoding &decoding) const {
         Model model = makeDefault<Model>();
         if constexpr (requires { model.id; }) {
             model.id = {};
         }
-        model._parentModelName.set(modelName);
+        model._parentModelName.set(std::string(modelName));
         Held held(new Node(std::move(model)));
         addReference(held, decoding);
         return held;
     }
 
     Held decodeItem(const Decoding &decoding) const {
-        if (decoding.value.dictionary() == nullptr) {
+        if (!decoding.value.isDictionary()) {
             throwNoItem(decoding,
                         fmt::format("string (name of a model) | {}", Decodable<Model>::plistType()));
         }
-        const Held held(new Node(Base::decodeValue(decoding)));
+        const Held held(new Node(InPlace{[&] { return Base::decodeValue(decoding); }}));
         if (held->value->_parentModelName.rawValue()) {
             addReference(held, decoding);
         }

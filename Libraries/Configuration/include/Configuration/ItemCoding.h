@@ -47,37 +47,56 @@ concept KeyGroup = std::is_aggregate_v<T> && requires {
     typename T::IsKeyGroup;
 };
 
-/// Adds the holders of an item. The one place that reflects on it: what the routines do with the holders is
-/// compiled once for all items.
+/// Adds the keys of an item, or of a group of them within it. The one place that reflects on items: what the
+/// routines do with the keys is compiled once for all of them.
 template <class T>
-void appendKeys(T &item, KeyList &keys) {
-    boost::pfr::for_each_field(item, [&](auto &member) {
+void appendKeys(const void *item, const T &group, std::vector<CodableKey> &keys) {
+    boost::pfr::for_each_field(group, [&](const auto &member) {
         using Member = std::remove_cvref_t<decltype(member)>;
         if constexpr (KeyGroup<Member>) {
-            appendKeys(member, keys);
-        } else if constexpr (requires { member.asSibling(); }) {
-            keys.push_back(CodableKey(member));
+            appendKeys(item, member, keys);
+        } else if constexpr (requires { member.makePermanent(); }) {
+            member.makePermanent();
+            keys.push_back(CodableKey(item, member));
         }
     });
 }
 
+/// What stands once for all items of a type: the default instance and its keys. It is never destroyed, so
+/// that copies of the instance lean on its declarations without counting.
 template <class T>
-[[nodiscard]] KeyList keysOf(T &item) {
-    KeyList keys;
-    appendKeys(item, keys);
-    return keys;
-}
-/// Of an item that stays as it is.
+class ItemPrototype {
+public:
+    static const ItemPrototype &shared() {
+        static const ItemPrototype &prototype = *new ItemPrototype;
+        return prototype;
+    }
+
+    [[nodiscard]] const T &defaults() const { return defaults_; }
+    [[nodiscard]] const KeyList &keys() const { return keys_; }
+
+private:
+    ItemPrototype() : keys_(keysOfDefaults()) {}
+
+    [[nodiscard]] std::vector<CodableKey> keysOfDefaults() const {
+        std::vector<CodableKey> keys;
+        appendKeys(&defaults_, defaults_, keys);
+        return keys;
+    }
+
+    T defaults_{};
+    KeyList keys_;
+};
+
 template <class T>
-[[nodiscard]] const KeyList keysOf(const T &item) { // NOLINT(readability-const-return-type): as the item
-    return keysOf(const_cast<T &>(item));           // NOLINT(cppcoreguidelines-pro-type-const-cast)
+[[nodiscard]] const KeyList &keysOf() {
+    return ItemPrototype<T>::shared().keys();
 }
 
-/// A new item at its defaults. Copies share the declarations of its keys with the one default instance.
+/// A new item at its defaults.
 template <class T>
 T makeDefault() {
-    static const T defaultInstance{};
-    return defaultInstance;
+    return ItemPrototype<T>::shared().defaults();
 }
 
 namespace detail {
@@ -104,8 +123,7 @@ template <class T>
 struct ItemCoding {
     static T decode(const Decoding &decoding) {
         T item = makeDefault<T>();
-        KeyList keys = keysOf(item);
-        decodeKeys(keys, plistType(), decoding);
+        decodeKeys(&item, keysOf<T>(), T::typeName, decoding);
         if constexpr (requires { item.id; }) {
             item.id = {};
         }
@@ -123,15 +141,15 @@ struct ItemCoding {
         return item;
     }
 
-    static std::optional<PropertyList> encode(const T &item) { return encodeKeys(keysOf(item)); }
+    static std::optional<PropertyList> encode(const T &item) { return encodeKeys(&item, keysOf<T>()); }
 
-    static std::string plistType() { return fmt::format("dictionary ({})", T::typeName); }
+    static std::string plistType() { return itemTypeText(T::typeName); }
 
     static ValueDescription describe(Descriptions &items) {
         if (ItemDescription *const item = items.add(T::typeName)) {
-            const T defaults = makeDefault<T>();
-            for (const CodableKey &key : keysOf(defaults)) {
-                item->keys.push_back(key.describe(items));
+            const T &defaults = ItemPrototype<T>::shared().defaults();
+            for (const CodableKey &key : keysOf<T>()) {
+                item->keys.push_back(key.describe(&defaults, items));
             }
         }
         return ValueDescription::item(T::typeName);
@@ -139,8 +157,8 @@ struct ItemCoding {
 
     static VariableNames usedVariables(const T &item) {
         VariableNames names;
-        for (const CodableKey &key : keysOf(item)) {
-            names.merge(key.usedVariables());
+        for (const CodableKey &key : keysOf<T>()) {
+            names.merge(key.usedVariables(&item));
         }
         return names;
     }
@@ -152,14 +170,12 @@ struct TaggedItemCoding {
     using Value = decltype(T::value);
 
     static T decode(const Decoding &decoding) {
-        const PropertyList::Dictionary *dictionary = decoding.value.dictionary();
-        if (dictionary == nullptr) {
+        if (!decoding.value.isDictionary()) {
             throwNoItem(decoding, plistType());
         }
-        const typename T::TypeIdentifier identifier = identifierOf(*dictionary, decoding);
-        const KeyReadBefore keysRead{T::typeKey, decoding.keysReadBefore};
-        return decodeAlternative(identifier, {decoding.value, decoding.path, decoding.context, &keysRead},
-                                 std::make_index_sequence<std::variant_size_v<Value>>());
+        const typename T::TypeIdentifier identifier = identifierOf(decoding);
+        const KeyReadBefore keysRead{typeKey, decoding.keysReadBefore};
+        return decodeAlternative(identifier, {decoding.value, decoding.path, decoding.context, &keysRead});
     }
 
     static std::optional<PropertyList> encode(const T &item) {
@@ -174,7 +190,7 @@ struct TaggedItemCoding {
             item.value);
     }
 
-    static std::string plistType() { return fmt::format("dictionary ({})", T::typeName); }
+    static std::string plistType() { return itemTypeText(T::typeName); }
 
     static ValueDescription describe(Descriptions &items) {
         if (ItemDescription *const item = items.add(T::typeName)) {
@@ -193,6 +209,8 @@ struct TaggedItemCoding {
     }
 
 private:
+    static constexpr PropertyListKey typeKey{T::typeKey};
+
     template <std::size_t... Index>
     static void describeAlternatives(ItemDescription &item, Descriptions &items,
                                      std::index_sequence<Index...>) {
@@ -203,11 +221,10 @@ private:
         (add(std::type_identity<std::variant_alternative_t<Index, Value>>()), ...);
     }
 
-    static typename T::TypeIdentifier identifierOf(const PropertyList::Dictionary &dictionary,
-                                                   const Decoding &decoding) {
-        const PropertyList *const type = dictionary.find(T::typeKey);
+    static typename T::TypeIdentifier identifierOf(const Decoding &decoding) {
+        const PropertyListValue *const type = decoding.value.find(typeKey);
         if (type == nullptr) {
-            noteNearMissOfType(dictionary, decoding);
+            noteNearMissOfType(decoding);
             if constexpr (tellsTypeFaultsAlike) {
                 throwNoType(decoding);
             }
@@ -236,26 +253,25 @@ private:
     }
 
     /// Which keys are known depends on the type; without it only a slip in the type's own key can be told.
-    static void noteNearMissOfType(const PropertyList::Dictionary &dictionary, const Decoding &decoding) {
+    static void noteNearMissOfType(const Decoding &decoding) {
         constexpr std::array<std::string_view, 1> known{T::typeKey};
-        for (const auto &entry : dictionary) {
-            if (decoding.context.notes() != nullptr && equalButForCase(entry.key, T::typeKey)) {
-                decoding.context.noteUnknownKey(decoding.path, entry.key, entry.keyOffset, known);
+        for (const auto &entry : decoding.value.entries()) {
+            if (decoding.context.notes() != nullptr && equalButForCase(entry.key.text(), T::typeKey)) {
+                decoding.context.noteUnknownKey(decoding.path, entry.key.text(), entry.keyOffset, known);
             }
         }
     }
 
-    template <std::size_t... Index>
-    static T decodeAlternative(typename T::TypeIdentifier identifier, const Decoding &decoding,
-                               std::index_sequence<Index...>) {
-        std::optional<T> item;
-        const auto attempt = [&]<class Alternative>(std::type_identity<Alternative>) {
-            if (Alternative::typeIdentifier == identifier) {
-                item.emplace(T{Decodable<Alternative>::decode(decoding)});
+    template <std::size_t Index = 0>
+    static T decodeAlternative(typename T::TypeIdentifier identifier, const Decoding &decoding) {
+        using Alternative = std::variant_alternative_t<Index, Value>;
+        if constexpr (Index + 1 < std::variant_size_v<Value>) {
+            if (Alternative::typeIdentifier != identifier) {
+                return decodeAlternative<Index + 1>(identifier, decoding);
             }
-        };
-        (attempt(std::type_identity<std::variant_alternative_t<Index, Value>>()), ...);
-        return *std::move(item);
+        }
+        return T{Value(std::in_place_index<Index>,
+                       InPlace{[&] { return Decodable<Alternative>::decode(decoding); }})};
     }
 };
 
@@ -287,12 +303,9 @@ VariableNames usedVariables(const T &value) {
 /// A model takes what it does not give itself from its parent, whose own values are settled.
 template <class T>
 void inheritKeys(T &model, const T &parent) {
-    KeyList keys = keysOf(model);
-    const KeyList parentKeys = keysOf(parent);
-    for (std::size_t index = 0; index < keys.size(); ++index) {
-        CodableKey &key = keys[index];
-        if (!key.asSibling().wasGivenValueWhileDecoding && !key.isHolder(&model._parentModelName)) {
-            key.inherit(parentKeys[index]);
+    for (const CodableKey &key : keysOf<T>()) {
+        if (!key.wasGiven(&model) && !key.isHeldBy(&model, &model._parentModelName)) {
+            key.inherit(&model, &parent);
         }
     }
     model.isParentStyleApplied = true;

@@ -12,8 +12,10 @@
 #include <boost/smart_ptr/intrusive_ptr.hpp>
 #include <boost/smart_ptr/intrusive_ref_counter.hpp>
 
+#include <atomic>
+#include <cstdint>
 #include <optional>
-#include <string>
+#include <type_traits>
 #include <utility>
 
 namespace velmar {
@@ -22,6 +24,13 @@ namespace velmar {
 enum class ArrayCodingStrategy {
     customStringConvertible, ///< All as texts, all as integers or all as reals; read as text.
 };
+
+/// Whether a holder keeps a value in itself. All others stand in a place of their own, so that they may be
+/// large, or incomplete where the item is declared.
+template <class T>
+struct IsHeldInPlace : std::bool_constant<std::is_arithmetic_v<T> || std::is_enum_v<T>> {};
+template <class T>
+struct IsHeldInPlace<std::optional<T>> : IsHeldInPlace<T> {};
 
 /// Holds one key of an item: what the file may give for it, and what it gave.
 ///
@@ -32,9 +41,9 @@ enum class ArrayCodingStrategy {
 ///     };
 ///
 /// The declaration (default, name, requirement, range) stands once for all instances that are copies of one
-/// default instance; an instance has its value, shared between copies until one is set, and two flags. The
-/// value's type may still be incomplete where the item is declared. A holder is called to read it:
-/// `size._height()`.
+/// default instance; an instance has its value, and two flags. A number or an enumeration stands in the
+/// holder; all else beside it, shared between copies until one is set, and its type may still be incomplete
+/// where the item is declared. A holder is called to read it: `size._height()`.
 ///
 /// A decoded holder is read from any thread; setting belongs to the one owner of an item that nobody reads
 /// yet.
@@ -47,15 +56,14 @@ public:
     using Read = std::conditional_t<Populatable<T>, T, const T &>;
 
     KeyWrapper(T defaultValue, ConfigCodingKey name, Requirement requirement)
-        : declaration_(new Declaration{std::move(defaultValue), name, std::move(requirement)}) {}
+        : KeyWrapper(new Declaration{std::move(defaultValue), name, std::move(requirement)}) {}
     KeyWrapper(T defaultValue, ConfigCodingKey name, Requirement requirement, ClosedRange range)
-        : declaration_(new Declaration{std::move(defaultValue), name, std::move(requirement), range}) {}
+        : KeyWrapper(new Declaration{std::move(defaultValue), name, std::move(requirement), range}) {}
     KeyWrapper(T defaultValue, ConfigCodingKey name, Requirement requirement, ArrayCodingStrategy strategy)
-        : declaration_(new Declaration{std::move(defaultValue), name, std::move(requirement), {}, strategy}) {
-    }
+        : KeyWrapper(new Declaration{std::move(defaultValue), name, std::move(requirement), {}, strategy}) {}
     /// With the default T{}: absent, empty, or the default item.
     KeyWrapper(ConfigCodingKey name, Requirement requirement)
-        : declaration_(new Declaration{T{}, name, std::move(requirement)}) {}
+        : KeyWrapper(new Declaration{T{}, name, std::move(requirement)}) {}
 
     KeyWrapper(const KeyWrapper &) = default;
     KeyWrapper(KeyWrapper &&) noexcept = default;
@@ -77,7 +85,13 @@ public:
     [[nodiscard]] T pluggedValue() const { return plugged(rawValue()); }
 
     /// The value as the file has it.
-    [[nodiscard]] const T &rawValue() const { return value_ ? value_->value : declaration_->defaultValue; }
+    [[nodiscard]] const T &rawValue() const {
+        if constexpr (isHeldInPlace) {
+            return value_;
+        } else {
+            return value_ ? value_->value : declaration_->defaultValue;
+        }
+    }
 
     /// The variables that the texts of the value use; none for a value without texts.
     [[nodiscard]] VariableNames usedVariables() const {
@@ -90,17 +104,25 @@ public:
 
     /// Assigns by code.
     void set(T value) {
-        value_ = new Node(std::move(value));
+        if constexpr (isHeldInPlace) {
+            value_ = value;
+        } else {
+            value_ = new Node(std::move(value));
+        }
         valueWasSet_ = true;
     }
 
     /// Changes the value in place; other copies of the holder keep theirs.
     template <class Change>
     void modify(Change change) {
-        if (!value_ || value_->use_count() > 1) {
-            value_ = new Node(rawValue());
+        if constexpr (isHeldInPlace) {
+            change(value_);
+        } else {
+            if (!value_ || value_->use_count() > 1) {
+                value_ = new Node(rawValue());
+            }
+            change(value_->value);
         }
-        change(value_->value);
         valueWasSet_ = true;
     }
 
@@ -110,7 +132,7 @@ public:
 
     /// Back to the default. Whether the file gave the key stays known.
     void reset() {
-        value_ = nullptr;
+        value_ = undecided(*declaration_);
         valueWasSet_ = false;
     }
 
@@ -124,10 +146,15 @@ public:
         return declaration_->strategy;
     }
 
-    /// Reads the key from the dictionary of its item, if it is there. Throws ConfigurationError.
-    void decode(const PropertyList::Dictionary &item, const CodingPath &itemPath, DecodingContext &context) {
-        decodeWith(item, itemPath, context,
-                   [this](const Decoding &decoding) { return Held(new Node(decodeValue(decoding))); });
+    /// Reads the value that the file gives. Throws ConfigurationError.
+    void decode(const PropertyListValue &value, const CodingPath &itemPath, DecodingContext &context) {
+        decodeWith(value, itemPath, context, [this](const Decoding &decoding) {
+            if constexpr (isHeldInPlace) {
+                return decodeValue(decoding);
+            } else {
+                return Held(new Node(InPlace{[&] { return decodeValue(decoding); }}));
+            }
+        });
     }
 
     /// Writes the key where it is required or has been set.
@@ -139,7 +166,8 @@ public:
         }
     }
 
-    [[nodiscard]] SiblingKey asSibling() const { return {name(), wasGivenValueWhileDecoding_}; }
+    /// Of the one default instance, which is never destroyed: copies of it no longer count how many they are.
+    void makePermanent() const { declaration_->isPermanent = true; }
 
     /// What the file may hold for the key. The items that its value consists of are added to `items`.
     [[nodiscard]] KeyDescription describe(Descriptions &items) const {
@@ -154,7 +182,9 @@ public:
     }
 
 protected:
-    struct Declaration : boost::intrusive_ref_counter<Declaration> {
+    static constexpr bool isHeldInPlace = IsHeldInPlace<T>::value;
+
+    struct Declaration {
         Declaration(T value, ConfigCodingKey key, Requirement need, std::optional<ClosedRange> bounds = {},
                     std::optional<ArrayCodingStrategy> arrays = {})
             : defaultValue(std::move(value)),
@@ -167,33 +197,39 @@ protected:
         Requirement requirement;
         std::optional<ClosedRange> range;
         std::optional<ArrayCodingStrategy> strategy;
+        mutable std::atomic<std::uint32_t> owners = 0;
+        mutable bool isPermanent = false; ///< Set before anybody else sees the declaration.
+
+        friend void intrusive_ptr_add_ref(const Declaration *declaration) noexcept {
+            if (!declaration->isPermanent) {
+                declaration->owners.fetch_add(1, std::memory_order_relaxed);
+            }
+        }
+        friend void intrusive_ptr_release(const Declaration *declaration) noexcept {
+            if (!declaration->isPermanent &&
+                declaration->owners.fetch_sub(1, std::memory_order_acq_rel) == 1) {
+                delete declaration;
+            }
+        }
     };
 
     struct Node : boost::intrusive_ref_counter<Node> {
-        explicit Node(T held) : value(std::move(held)) {}
+        template <class Initial>
+        explicit Node(Initial &&initial) : value(std::forward<Initial>(initial)) {}
         T value;
     };
 
-    using Held = boost::intrusive_ptr<Node>;
+    using Held = std::conditional_t<isHeldInPlace, T, boost::intrusive_ptr<Node>>;
 
-    /// The common course of decoding a key; `read` makes the node of the value.
+    /// The common course of decoding a key; `read` gives what is to be held.
     template <class ReadValue>
-    void decodeWith(const PropertyList::Dictionary &item, const CodingPath &itemPath,
-                    DecodingContext &context, ReadValue read) {
-        const std::string_view key = name().stringValue;
-        const PropertyList *value = item.find(key);
-        if (value == nullptr) {
-            if (requirement().type == RequirementType::required) {
-                throw ConfigurationError(
-                    ConfigurationErrors::MissingValueWithPath{std::string(key), itemPath.text()});
-            }
-            return;
-        }
-        const CodingPath path(itemPath, key);
+    void decodeWith(const PropertyListValue &value, const CodingPath &itemPath, DecodingContext &context,
+                    ReadValue read) {
+        const CodingPath path(itemPath, name().stringValue);
         try {
-            value_ = read(Decoding{*value, path, context});
+            value_ = read(Decoding{value, path, context});
         } catch (...) {
-            context.noteFailure(path.text(), value->offset());
+            context.noteFailure(path.text(), value.offset());
             throw;
         }
         valueWasSet_ = true;
@@ -223,8 +259,19 @@ protected:
     [[nodiscard]] std::optional<PropertyList> encodeValue() const { return Decodable<T>::encode(rawValue()); }
 
 private:
+    explicit KeyWrapper(const Declaration *declaration)
+        : declaration_(declaration), value_(undecided(*declaration)) {}
+
+    static Held undecided(const Declaration &declaration) {
+        if constexpr (isHeldInPlace) {
+            return declaration.defaultValue;
+        } else {
+            return nullptr;
+        }
+    }
+
     boost::intrusive_ptr<const Declaration> declaration_;
-    Held value_; // Null while the default stands.
+    Held value_; // In a place of its own: null while the default stands.
     bool wasGivenValueWhileDecoding_ = false;
     bool valueWasSet_ = false;
 };

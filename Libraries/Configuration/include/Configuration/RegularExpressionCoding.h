@@ -6,7 +6,7 @@
 namespace velmar {
 
 /// The pattern of a value that is being decoded, compiled. Throws ConfigurationError (InvalidRegex).
-[[nodiscard]] RegularExpression compiled(const std::string &pattern, const Decoding &decoding);
+[[nodiscard]] RegularExpression compiled(std::string_view pattern, const Decoding &decoding);
 
 /// A pattern. One that doesn't compile is the error InvalidRegex.
 template <>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
-#include <span>
 #include <string_view>
 #include <vector>
 
@@ -49,15 +49,8 @@ inline Requirement requiredExcluding(std::vector<ConfigCodingKey> keys) {
     return {RequirementType::requiredExcluding, std::move(keys)};
 }
 
-/// A key of an item as its siblings see it.
-struct SiblingKey {
-    ConfigCodingKey name;
-    bool wasGivenValueWhileDecoding = false;
-};
-
-/// Checks the requirement of `key` against the keys of its item, itself included. Throws ConfigurationError:
-/// a KeyValidationError with the broken rule, or MissingValue where the requirement lists a key that the item
-/// lacks.
-void validate(const SiblingKey &key, const Requirement &requirement, std::span<const SiblingKey> siblings);
+/// Checks what a key asks of its siblings: whether it was given itself, and how many of those that the
+/// requirement lists were. Throws ConfigurationError: a KeyValidationError with the broken rule.
+void validate(std::string_view key, bool wasGiven, std::size_t givenOfListed, const Requirement &requirement);
 
 } // namespace velmar

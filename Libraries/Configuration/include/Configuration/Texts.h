@@ -1,7 +1,7 @@
 #pragma once
 
 #include <Foundation/NumberText.h>
-#include <Foundation/PropertyList.h>
+#include <Foundation/PropertyListValue.h>
 
 #include <span>
 #include <string>
@@ -13,7 +13,7 @@ namespace velmar {
 // Pieces of messages.
 
 /// What the file has in place of what was expected: "'abc'", "the integer 5", "an array".
-[[nodiscard]] std::string foundText(const PropertyList &value);
+[[nodiscard]] std::string foundText(const PropertyListValue &value);
 
 /// "string | Possible values: 'Top', 'Bottom'"
 [[nodiscard]] std::string possibleValuesText(std::span<const std::string_view> rawStrings);

@@ -51,14 +51,14 @@ public:
                        DeclaredNames declaredNames = nullptr)
         : Base(std::move(defaultValue), name, std::move(requirement)), declaredNames_(declaredNames) {}
 
-    void decode(const PropertyList::Dictionary &item, const CodingPath &itemPath, DecodingContext &context) {
-        Base::decode(item, itemPath, context);
-        if (declaredNames_ == nullptr || !Base::wasGivenValueWhileDecoding()) {
+    void decode(const PropertyListValue &value, const CodingPath &itemPath, DecodingContext &context) {
+        Base::decode(value, itemPath, context);
+        if (declaredNames_ == nullptr) {
             return;
         }
         if constexpr (std::is_same_v<T, std::string>) {
             if (form_ == DeclaringForm::populated) {
-                context.declareByPopulatedText(Base::rawValue(), declaredNames_);
+                context.declareByPopulatedText(*value.string(), declaredNames_);
                 return;
             }
         }

@@ -31,6 +31,9 @@ struct Operand {
 
 using ExpressionElement = std::variant<Operator, LogicOperator, Bracket, Operand>;
 
+/// The name of the variable that an element is, null for any other.
+[[nodiscard]] const std::string *variableOf(const ExpressionElement &element) noexcept;
+
 /// "&&", "(", a variable's name, 'text', 2.0, true
 [[nodiscard]] std::string description(const Operand &operand);
 [[nodiscard]] std::string description(const ExpressionElement &element);

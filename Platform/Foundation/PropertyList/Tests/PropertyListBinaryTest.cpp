@@ -56,8 +56,8 @@ TEST(PropertyListBinary, ReadsEveryFormOfAValue) {
     };
     for (const auto &[object, value] : cases) {
         const std::string file = fileOf({object});
-        ASSERT_NO_THROW(EXPECT_EQ(PropertyList::read(file).value, value) << value.text()) << value.text();
-        EXPECT_EQ(PropertyList::read(file).value.offset(), 8U);
+        ASSERT_NO_THROW(EXPECT_EQ(PropertyList::read(file), value) << value.text()) << value.text();
+        EXPECT_EQ(PropertyListDocument::read(file).root().offset(), 8U);
     }
 }
 
@@ -128,8 +128,8 @@ TEST(PropertyListBinary, RefusesEveryStrictPrefixAndBearsEveryChangedByte) {
             std::string damaged = whole;
             damaged[place] = static_cast<char>(value);
             try {
-                const PropertyList read = PropertyList::read(damaged).value;
-                EXPECT_EQ(PropertyList::read(read.binary()).value, read);
+                const PropertyList read = PropertyList::read(damaged);
+                EXPECT_EQ(PropertyList::read(read.binary()), read);
             } catch (const PropertyListError &error) {
                 EXPECT_LE(error.offset(), whole.size());
             }
@@ -204,8 +204,7 @@ TEST(PropertyListBinary, CountsObjectsThatLieOverEachOtherAsShared) {
 
 TEST(PropertyListBinary, ReadsEachObjectOnceForNothing) {
     const std::string text(40 << 20, 'x'); // More than may be shared.
-    EXPECT_EQ(*PropertyList::read(fileOf({"\x5F\x12"s + number(text.size(), 4) + text})).value.string(),
-              text);
+    EXPECT_EQ(*PropertyList::read(fileOf({"\x5F\x12"s + number(text.size(), 4) + text})).string(), text);
 }
 
 TEST(PropertyListBinary, RefusesDepth) {
@@ -224,11 +223,12 @@ TEST(PropertyListBinary, RefusesDepth) {
 }
 
 TEST(PropertyListBinary, NotesKeysGivenTwice) {
-    const PropertyList::Document document = PropertyList::read(
-        fileOf({"\xD1\x01\x02"s, "\x51r"s, "\xD2\x03\x04\x05\x06"s, "\x51k"s, "\x51k"s, "\x09"s, "\x08"s}));
-    ASSERT_EQ(document.duplicates.size(), 1U);
-    EXPECT_EQ(document.duplicates[0].path, "r");
-    EXPECT_EQ(document.form, PropertyList::Document::Form::Binary);
-    EXPECT_EQ(document.lineOf(document.value.offset()), 0U);
-    EXPECT_EQ(*document.value.dictionary()->find("r")->dictionary()->find("k"), PropertyList(false));
+    const std::string file =
+        fileOf({"\xD1\x01\x02"s, "\x51r"s, "\xD2\x03\x04\x05\x06"s, "\x51k"s, "\x51k"s, "\x09"s, "\x08"s});
+    const auto document = PropertyListDocument::read(file);
+    ASSERT_EQ(document.duplicates().size(), 1U);
+    EXPECT_EQ(document.duplicates()[0].path, "r");
+    EXPECT_EQ(document.form(), PropertyListDocument::Form::Binary);
+    EXPECT_EQ(document.lines().lineOf(document.root().offset()), 0U);
+    EXPECT_EQ(document.root().find("r")->find("k")->boolean(), false);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Foundation/PropertyList.h>
+#include <Foundation/PropertyListDocument.h>
 
 #include <gtest/gtest.h>
 

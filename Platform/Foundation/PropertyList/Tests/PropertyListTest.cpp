@@ -9,10 +9,10 @@ TEST(PropertyList, EqualsItsCopyAndWhatBothFormsReadBack) {
         const PropertyList copy = tree;
         ASSERT_EQ(copy, tree);
         const std::string xml = tree.xml();
-        ASSERT_EQ(PropertyList::read(xml).value, tree) << xml;
-        ASSERT_EQ(PropertyList::read(xml).value.xml(), xml);
+        ASSERT_EQ(PropertyList::read(xml), tree) << xml;
+        ASSERT_EQ(PropertyList::read(xml).xml(), xml);
         const std::vector<std::byte> binary = tree.binary();
-        ASSERT_EQ(PropertyList::read(binary).value, tree) << xml;
+        ASSERT_EQ(PropertyList::read(binary), tree) << xml;
         ASSERT_EQ(tree.binary(), binary);
     }
 }
@@ -94,11 +94,11 @@ TEST(PropertyList, WritesNothingThatCannotBeRead) {
             EXPECT_NE(error.errorDescription().find(fragment), std::string::npos) << error.errorDescription();
         }
         if (binaryHoldsIt) {
-            EXPECT_EQ(PropertyList::read(value.binary()).value, value) << fragment;
+            EXPECT_EQ(PropertyList::read(value.binary()), value) << fragment;
         } else {
             EXPECT_THROW(static_cast<void>(value.binary()), PropertyListError) << fragment;
         }
     }
-    EXPECT_EQ(PropertyList::read(nestedArrays(256).xml()).value, nestedArrays(256));
-    EXPECT_EQ(PropertyList::read(nestedArrays(256).binary()).value, nestedArrays(256));
+    EXPECT_EQ(PropertyList::read(nestedArrays(256).xml()), nestedArrays(256));
+    EXPECT_EQ(PropertyList::read(nestedArrays(256).binary()), nestedArrays(256));
 }

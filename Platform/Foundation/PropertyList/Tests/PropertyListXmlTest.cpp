@@ -38,7 +38,7 @@ TEST(PropertyListXml, ReadsEveryFormOfAValue) {
          PropertyList::Array{"x", PropertyList::Array{}}},
     };
     for (const auto &[text, value] : cases) {
-        ASSERT_NO_THROW(EXPECT_EQ(PropertyList::read(inPlist(text)).value, value) << text) << text;
+        ASSERT_NO_THROW(EXPECT_EQ(PropertyList::read(inPlist(text)), value) << text) << text;
     }
 }
 
@@ -50,7 +50,7 @@ TEST(PropertyListXml, ReadsWhatMayStandAroundTheRoot) {
              "<?xml version=\"1.1\" encoding=\"US-ASCII\"?><?pi [?><!-- < -->"
              "<!DOCTYPE plist PUBLIC \"a>[\" 'b>['><!-- --><plist><true/></plist>",
          }) {
-        ASSERT_NO_THROW(EXPECT_EQ(PropertyList::read(text).value, PropertyList(true))) << text;
+        ASSERT_NO_THROW(EXPECT_EQ(PropertyList::read(text), PropertyList(true))) << text;
     }
 }
 
@@ -151,7 +151,7 @@ TEST(PropertyListXml, BoundsTheNumberOfValues) {
         }
         return text + "</array></plist>";
     };
-    EXPECT_EQ(PropertyList::read(values(PropertyList::maximumValues)).value.array()->size(),
+    EXPECT_EQ(PropertyList::read(values(PropertyList::maximumValues)).array()->size(),
               PropertyList::maximumValues - 1);
     EXPECT_EQ(errorOfReading(values(PropertyList::maximumValues + 1)).errorDescription(),
               "The property list is not valid at line 2: there are more than 1000000 values.");
@@ -172,15 +172,17 @@ TEST(PropertyListXml, KeepsPlacesAndLinesOfKeysAndValues) {
         text += "<key>" + std::to_string(line) + "</key>\n<string>" +
                 std::string(static_cast<std::size_t>(line % 97), 'x') + "</string>\n";
     }
-    const PropertyList::Document document = PropertyList::read(text + "</dict>\n</plist>\n");
-    EXPECT_EQ(document.form, PropertyList::Document::Form::Xml);
-    EXPECT_EQ(document.lineOf(document.value.offset()), 2U);
-    for (const auto &[key, value, keyOffset] : *document.value.dictionary()) {
-        EXPECT_EQ(text.substr(keyOffset, 5 + key.size()), "<key>" + key);
-        EXPECT_EQ(std::to_string(document.lineOf(keyOffset)), key);
-        EXPECT_EQ(document.lineOf(value.offset()), document.lineOf(keyOffset) + 1);
+    text += "</dict>\n</plist>\n";
+    const auto document = PropertyListDocument::read(text);
+    const LineIndex lines = document.lines();
+    EXPECT_EQ(document.form(), PropertyListDocument::Form::Xml);
+    EXPECT_EQ(lines.lineOf(document.root().offset()), 2U);
+    for (const auto &entry : document.root().entries()) {
+        const std::string key(entry.key.text());
+        EXPECT_EQ(text.substr(entry.keyOffset, 5 + key.size()), "<key>" + key);
+        EXPECT_EQ(std::to_string(lines.lineOf(entry.keyOffset)), key);
+        EXPECT_EQ(lines.lineOf(entry.value.offset()), lines.lineOf(entry.keyOffset) + 1);
     }
-    EXPECT_EQ(document.lineOf(PropertyList::noOffset), 0U);
 }
 
 TEST(PropertyListXml, NotesKeysGivenTwiceAndTakesTheLast) {
@@ -192,23 +194,24 @@ TEST(PropertyListXml, NotesKeysGivenTwiceAndTakesTheLast) {
         many += item(std::to_string(key), 0);
     }
     many += item("7", 1) + item("7", 2) + "</dict>";
-    const PropertyList::Document document = PropertyList::read(
-        "<plist><dict>\n" + item("a", 1) + "<key>Items</key><array><true/>" + many + "<dict>" + item("b", 1) +
-        item("b", 2) + "</dict></array>" + item("c", 1) + item("a", 2) + "</dict></plist>");
-    ASSERT_EQ(document.duplicates.size(), 4U);
+    const std::string text = "<plist><dict>\n" + item("a", 1) + "<key>Items</key><array><true/>" + many +
+                             "<dict>" + item("b", 1) + item("b", 2) + "</dict></array>" + item("c", 1) +
+                             item("a", 2) + "</dict></plist>";
+    const auto document = PropertyListDocument::read(text);
+    ASSERT_EQ(document.duplicates().size(), 4U);
     const std::pair<std::string, std::string> expected[] = {
         {"7", "Items.1"}, {"7", "Items.1"}, {"b", "Items.2"}, {"a", ""}};
     for (std::size_t index = 0; index < 4; ++index) {
-        EXPECT_EQ(document.duplicates[index].key, expected[index].first);
-        EXPECT_EQ(document.duplicates[index].path, expected[index].second);
+        EXPECT_EQ(document.duplicates()[index].key, expected[index].first);
+        EXPECT_EQ(document.duplicates()[index].path, expected[index].second);
     }
-    EXPECT_EQ(document.lineOf(document.duplicates[0].offset), 205U);
-    const PropertyList::Dictionary &root = *document.value.dictionary();
-    ASSERT_EQ(root.size(), 3U);
-    EXPECT_EQ(*root.find("a"), PropertyList(2));
-    const PropertyList::Dictionary &large = *(*root.find("Items")->array())[1].dictionary();
-    EXPECT_EQ(large.size(), 100U);
-    EXPECT_EQ(*large.find("7"), PropertyList(2));
+    EXPECT_EQ(document.lines().lineOf(document.duplicates()[0].offset), 205U);
+    const PropertyListValue &root = document.root();
+    ASSERT_EQ(root.entries().size(), 3U);
+    EXPECT_EQ(root.find("a")->integer(), 2);
+    const PropertyListValue &large = root.find("Items")->elements()[1];
+    EXPECT_EQ(large.entries().size(), 100U);
+    EXPECT_EQ(large.find("7")->integer(), 2);
 }
 
 TEST(PropertyListXml, BoundsWhatItNotesOfKeysGivenTwice) {
@@ -216,8 +219,8 @@ TEST(PropertyListXml, BoundsWhatItNotesOfKeysGivenTwice) {
     for (int count = 0; count < 20000; ++count) {
         text += "<key>a</key><true/>";
     }
-    const PropertyList::Document document = PropertyList::read(text + "</dict></dict></plist>");
-    EXPECT_EQ(document.duplicates.size(), 10U);
+    text += "</dict></dict></plist>";
+    EXPECT_EQ(PropertyListDocument::read(text).duplicates().size(), 10U);
 }
 
 TEST(PropertyListXml, WritesTheUsualHeadAndIndentsByTabs) {

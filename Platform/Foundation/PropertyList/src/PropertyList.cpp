@@ -1,13 +1,12 @@
-#include <Foundation/PropertyList.h>
+#include <Foundation/PropertyListValue.h>
 
 #include <cmath>
+#include <limits>
 #include <memory>
 #include <new>
 #include <utility>
 
 namespace velmar {
-
-static_assert(sizeof(PropertyList) == 40, "ten thousand slides are a million values");
 
 PropertyList::PropertyList() noexcept : dictionary_(), kind_(Kind::Dictionary) {}
 PropertyList::PropertyList(bool value) noexcept : boolean_(value), kind_(Kind::Boolean) {}
@@ -27,6 +26,53 @@ PropertyList::PropertyList(std::uint64_t value) noexcept
     if (value <= static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max())) {
         integer_ = static_cast<std::int64_t>(value);
         kind_ = Kind::Integer;
+    }
+}
+
+PropertyListValue::PropertyListValue(std::uint64_t value) noexcept
+    : unsignedInteger_(value), kind_(Kind::UnsignedInteger) {
+    if (value <= static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max())) {
+        integer_ = static_cast<std::int64_t>(value);
+        kind_ = Kind::Integer;
+    }
+}
+
+// No deeper than a file may be.
+PropertyList::PropertyList(const PropertyListValue &value) : PropertyList() {
+    switch (value.kind()) {
+    case Kind::Boolean:
+        *this = *value.boolean();
+        break;
+    case Kind::Integer:
+        *this = *value.integer();
+        break;
+    case Kind::UnsignedInteger:
+        *this = *value.unsignedInteger();
+        break;
+    case Kind::Real:
+        *this = *value.real();
+        break;
+    case Kind::String:
+        *this = *value.string();
+        break;
+    case Kind::Data:
+        *this = Data{{value.data()->begin(), value.data()->end()}};
+        break;
+    case Kind::Date:
+        *this = *value.date();
+        break;
+    case Kind::Array:
+        *this = Array(value.elements().begin(), value.elements().end());
+        break;
+    case Kind::Dictionary: {
+        std::vector<Dictionary::Entry> entries;
+        entries.reserve(value.entries().size());
+        for (const PropertyListValue::Entry &entry : value.entries()) {
+            entries.push_back({std::string(entry.key.text()), PropertyList(entry.value)});
+        }
+        *this = Dictionary(std::move(entries));
+        break;
+    }
     }
 }
 
@@ -58,7 +104,6 @@ PropertyList::~PropertyList() {
 
 template <class Other>
 void PropertyList::construct(Other &&other) {
-    offset_ = other.offset_;
     kind_ = other.kind_;
     switch (kind_) {
     case Kind::Boolean:

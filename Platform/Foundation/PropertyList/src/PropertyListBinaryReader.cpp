@@ -33,15 +33,14 @@ void PropertyListBinaryReader::fail(std::string_view reason, std::size_t offset)
     throw PropertyListError(reason, offset, 0);
 }
 
-PropertyList::Document PropertyListBinaryReader::read() {
+PropertyListDocument PropertyListBinaryReader::read() {
     readTrailer();
     unreadBytes_ = bytes_.size();
-    budget_ = PropertyList::maximumSharedBytes;
+    budget_ = PropertyListDocument::maximumSharedBytes;
     wasRead_.resize(objectCount_);
     isOpen_.resize(objectCount_);
     readTree();
-    return {builder_.takeRoot(), PropertyList::Document::Form::Binary, builder_.takeDuplicates(),
-            LineIndex()};
+    return builder_.takeDocument(PropertyListDocument::Form::Binary);
 }
 
 void PropertyListBinaryReader::readTrailer() {
@@ -194,7 +193,7 @@ void PropertyListBinaryReader::charge(std::uint64_t index, const Object &object)
     budget_ -= needed + allocationOverhead;
 }
 
-std::string PropertyListBinaryReader::key(std::uint64_t index) {
+std::string_view PropertyListBinaryReader::key(std::uint64_t index) {
     const Object object = objectAt(index);
     charge(index, object);
     if (object.type == asciiType) {
@@ -206,44 +205,42 @@ std::string PropertyListBinaryReader::key(std::uint64_t index) {
     fail("a key is not a string", object.offset);
 }
 
-PropertyList PropertyListBinaryReader::scalar(const Object &object) const {
+PropertyListValue PropertyListBinaryReader::scalar(const Object &object) {
     switch (object.type) {
     case simpleType:
         return simple(object);
     case integerType:
         return integer(object);
     case realType:
-        return real(object);
+        return PropertyListValue(real(object));
     case dateType: {
         const double seconds = object.count == 3 ? real(object) : std::numeric_limits<double>::quiet_NaN();
         if (!std::isfinite(seconds)) {
             fail("a date is not valid", object.offset);
         }
-        return PropertyList::Date{seconds};
+        return PropertyListValue(PropertyListValue::Date{seconds});
     }
-    case dataType: {
-        const std::span<const std::byte> bytes = contents(object, 1);
-        return PropertyList::Data{{bytes.begin(), bytes.end()}};
-    }
+    case dataType:
+        return PropertyListValue(contents(object, 1));
     case asciiType:
-        return asciiString(object);
+        return PropertyListValue(asciiString(object));
     case utf16Type:
-        return utf16String(object);
+        return PropertyListValue(utf16String(object));
     default:
         fail(fmt::format("objects of the type 0x{:X} are not supported", object.type), object.offset);
     }
 }
 
-PropertyList PropertyListBinaryReader::simple(const Object &object) const {
+PropertyListValue PropertyListBinaryReader::simple(const Object &object) const {
     constexpr std::size_t falseValue = 0x8;
     constexpr std::size_t trueValue = 0x9;
     if (object.count != falseValue && object.count != trueValue) {
         fail("null and fill are no values of a property list", object.offset);
     }
-    return object.count == trueValue;
+    return PropertyListValue(object.count == trueValue);
 }
 
-PropertyList PropertyListBinaryReader::integer(const Object &object) const {
+PropertyListValue PropertyListBinaryReader::integer(const Object &object) const {
     constexpr std::size_t widest = 4; // 16 bytes.
     const std::size_t width = std::size_t{1} << object.count;
     if (object.count > widest || tableOffset_ - object.contents < width) {
@@ -251,10 +248,10 @@ PropertyList PropertyListBinaryReader::integer(const Object &object) const {
     }
     // Only those of eight bytes and more have a sign.
     if (width < 8) {
-        return number(object.contents, width);
+        return PropertyListValue(number(object.contents, width));
     }
     if (width == 8) {
-        return static_cast<std::int64_t>(number(object.contents, width));
+        return PropertyListValue(static_cast<std::int64_t>(number(object.contents, width)));
     }
     const std::uint64_t upper = number(object.contents, 8);
     const std::uint64_t lower = number(object.contents + 8, 8);
@@ -262,7 +259,7 @@ PropertyList PropertyListBinaryReader::integer(const Object &object) const {
     if (upper != 0 && !isNegative) {
         fail("an integer is not between -2^63 and 2^64 - 1", object.offset);
     }
-    return isNegative ? PropertyList(static_cast<std::int64_t>(lower)) : PropertyList(lower);
+    return isNegative ? PropertyListValue(static_cast<std::int64_t>(lower)) : PropertyListValue(lower);
 }
 
 double PropertyListBinaryReader::real(const Object &object) const {
@@ -274,16 +271,16 @@ double PropertyListBinaryReader::real(const Object &object) const {
     return width == 4 ? std::bit_cast<float>(static_cast<std::uint32_t>(bits)) : std::bit_cast<double>(bits);
 }
 
-std::string PropertyListBinaryReader::asciiString(const Object &object) const {
+std::string_view PropertyListBinaryReader::asciiString(const Object &object) const {
     const std::span<const std::byte> bytes = contents(object, 1);
-    std::string text(reinterpret_cast<const char *>(bytes.data()), bytes.size());
+    const std::string_view text(reinterpret_cast<const char *>(bytes.data()), bytes.size());
     if (!isAscii(text)) {
         fail("an ASCII string has other characters", object.offset);
     }
     return text;
 }
 
-std::string PropertyListBinaryReader::utf16String(const Object &object) const {
+std::string_view PropertyListBinaryReader::utf16String(const Object &object) {
     const std::size_t units = contents(object, 2).size() / 2;
     const auto unit = [&](std::size_t place) {
         return static_cast<char16_t>(number(object.contents + 2 * place, 2));
@@ -301,8 +298,7 @@ std::string PropertyListBinaryReader::utf16String(const Object &object) const {
         }
         appendUtf8(text, character);
     }
-    text.shrink_to_fit();
-    return text;
+    return builder_.keep(text);
 }
 
 } // namespace velmar

@@ -2,7 +2,7 @@
 
 #include "PropertyListBuilder.h"
 
-#include <Foundation/PropertyList.h>
+#include <Foundation/PropertyListDocument.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -18,10 +18,11 @@ namespace velmar {
 /// members by the index in the table. Everything throws PropertyListError.
 class PropertyListBinaryReader {
 public:
-    /// The bytes must outlive the reader and be less than 4 GiB.
-    explicit PropertyListBinaryReader(std::span<const std::byte> bytes) noexcept : bytes_(bytes) {}
+    /// The bytes must outlive the document and be less than 4 GiB.
+    explicit PropertyListBinaryReader(std::span<const std::byte> bytes)
+        : bytes_(bytes), builder_(bytes.size()) {}
 
-    [[nodiscard]] PropertyList::Document read();
+    [[nodiscard]] PropertyListDocument read();
 
 private:
     /// An object's place and first byte taken apart.
@@ -46,13 +47,13 @@ private:
     void openContainer(std::uint64_t index, const Object &object);
     [[nodiscard]] Object objectAt(std::uint64_t index) const;
     [[nodiscard]] std::uint64_t member(const Frame &frame, std::size_t number) const;
-    [[nodiscard]] PropertyList scalar(const Object &object) const;
-    [[nodiscard]] PropertyList simple(const Object &object) const;
-    [[nodiscard]] PropertyList integer(const Object &object) const;
+    [[nodiscard]] PropertyListValue scalar(const Object &object);
+    [[nodiscard]] PropertyListValue simple(const Object &object) const;
+    [[nodiscard]] PropertyListValue integer(const Object &object) const;
     [[nodiscard]] double real(const Object &object) const;
-    [[nodiscard]] std::string asciiString(const Object &object) const;
-    [[nodiscard]] std::string utf16String(const Object &object) const;
-    [[nodiscard]] std::string key(std::uint64_t index);
+    [[nodiscard]] std::string_view asciiString(const Object &object) const;
+    [[nodiscard]] std::string_view utf16String(const Object &object);
+    [[nodiscard]] std::string_view key(std::uint64_t index);
     [[nodiscard]] std::span<const std::byte> contents(const Object &object, std::size_t width) const;
     [[nodiscard]] std::uint64_t number(std::size_t offset, std::size_t width) const noexcept;
     void charge(std::uint64_t index, const Object &object);

@@ -1,9 +1,9 @@
 #include "PropertyListBuilder.h"
 
 #include <algorithm>
-#include <iterator>
 #include <numeric>
 #include <span>
+#include <utility>
 
 namespace velmar {
 
@@ -12,62 +12,66 @@ static constexpr std::size_t fewEntries = 24;
 // Paths repeat long keys: what is noted must not outgrow the file.
 static constexpr std::size_t maximumBytesOfDuplicates = std::size_t{1} << 20;
 
-PropertyListBuilder::Expected PropertyListBuilder::expected() const noexcept {
-    if (frames_.empty()) {
-        return hasRoot_ ? Expected::Nothing : Expected::Root;
-    }
-    if (!frames_.back().isDictionary) {
-        return Expected::Element;
-    }
-    return keyWaits_ ? Expected::Value : Expected::Key;
+// Files take about as much memory as bytes; the first block is a part of that, the further ones grow.
+PropertyListBuilder::PropertyListBuilder(std::size_t size) {
+    constexpr std::size_t smallest = 256;
+    document_.memory_ = std::make_unique<std::pmr::monotonic_buffer_resource>(size / 2 + smallest);
 }
 
 void PropertyListBuilder::open(std::uint32_t offset, bool isDictionary) {
     frames_.push_back(Frame{values_.size(), entries_.size(), offset, isDictionary});
-    keyWaits_ = false;
+    expected_ = isDictionary ? Expected::Key : Expected::Element;
 }
 
-void PropertyListBuilder::addKey(std::string key, std::uint32_t offset) {
-    entries_.push_back(Entry{std::move(key), PropertyList(), offset});
-    keyWaits_ = true;
-}
-
-void PropertyListBuilder::addValue(PropertyList value, std::uint32_t offset) {
+void PropertyListBuilder::addValue(PropertyListValue value, std::uint32_t offset) {
     value.setOffset(offset);
     ++valueCount_;
     if (frames_.empty()) {
-        root_ = std::move(value);
-        hasRoot_ = true;
+        document_.root_ = value;
+        expected_ = Expected::Nothing;
     } else if (frames_.back().isDictionary) {
-        entries_.back().value = std::move(value);
-        keyWaits_ = false;
+        entries_.back().value = value;
+        expected_ = Expected::Key;
     } else {
-        values_.push_back(std::move(value));
+        values_.push_back(value);
+        expected_ = Expected::Element;
     }
 }
 
 void PropertyListBuilder::close() {
     const Frame frame = frames_.back();
-    PropertyList value = frame.isDictionary ? closedDictionary(frame) : closedArray(frame);
-    frames_.pop_back();
-    addValue(std::move(value), frame.offset);
-}
-
-PropertyList PropertyListBuilder::closedArray(const Frame &frame) {
-    const auto first = values_.begin() + static_cast<std::ptrdiff_t>(frame.firstValue);
-    PropertyList::Array array(std::make_move_iterator(first), std::make_move_iterator(values_.end()));
-    values_.erase(first, values_.end());
-    return PropertyList(std::move(array));
-}
-
-PropertyList PropertyListBuilder::closedDictionary(const Frame &frame) {
-    if (hasDuplicates(frame.firstEntry)) {
-        removeDuplicates(frame.firstEntry);
+    PropertyListValue value;
+    if (frame.isDictionary) {
+        if (hasDuplicates(frame.firstEntry)) {
+            removeDuplicates(frame.firstEntry);
+        }
+        value = PropertyListValue(keepFrom(entries_, frame.firstEntry));
+    } else {
+        value = PropertyListValue(keepFrom(values_, frame.firstValue));
     }
-    const auto first = entries_.begin() + static_cast<std::ptrdiff_t>(frame.firstEntry);
-    std::vector<Entry> entries(std::make_move_iterator(first), std::make_move_iterator(entries_.end()));
-    entries_.erase(first, entries_.end());
-    return PropertyList(PropertyList::Dictionary(std::move(entries)));
+    frames_.pop_back();
+    addValue(value, frame.offset);
+}
+
+template <class T>
+std::span<const T> PropertyListBuilder::keepFrom(std::vector<T> &stack, std::size_t first) {
+    const std::span<const T> children = std::span(stack).subspan(first);
+    auto *const kept = static_cast<T *>(document_.memory_->allocate(children.size_bytes(), alignof(T)));
+    std::uninitialized_copy(children.begin(), children.end(), kept);
+    stack.resize(first);
+    return {kept, children.size()};
+}
+
+std::string_view PropertyListBuilder::keep(std::string_view text) {
+    auto *const kept = static_cast<char *>(document_.memory_->allocate(text.size(), 1));
+    std::ranges::copy(text, kept);
+    return {kept, text.size()};
+}
+
+PropertyListValue::Data PropertyListBuilder::keep(PropertyListValue::Data data) {
+    auto *const kept = static_cast<std::byte *>(document_.memory_->allocate(data.size(), 1));
+    std::ranges::copy(data, kept);
+    return {kept, data.size()};
 }
 
 bool PropertyListBuilder::hasDuplicates(std::size_t firstEntry) const {
@@ -85,7 +89,7 @@ bool PropertyListBuilder::hasDuplicates(std::size_t firstEntry) const {
     std::vector<std::string_view> keys;
     keys.reserve(entries.size());
     for (const Entry &entry : entries) {
-        keys.push_back(entry.key);
+        keys.push_back(entry.key.text());
     }
     // Sorted and not hashed: nobody can choose keys that make it slow.
     std::ranges::sort(keys);
@@ -96,8 +100,8 @@ void PropertyListBuilder::removeDuplicates(std::size_t firstEntry) {
     const std::span<const Entry> entries = std::span(entries_).subspan(firstEntry);
     std::vector<std::size_t> order(entries.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
-    std::ranges::stable_sort(order, {},
-                             [&](std::size_t index) -> std::string_view { return entries[index].key; });
+    std::ranges::stable_sort(
+        order, {}, [&](std::size_t index) -> std::string_view { return entries[index].key.text(); });
 
     std::vector<bool> isReplaced(entries.size());
     for (std::size_t next = 1; next < order.size(); ++next) {
@@ -112,11 +116,11 @@ void PropertyListBuilder::removeDuplicates(std::size_t firstEntry) {
             continue;
         }
         if (kept != firstEntry + index) {
-            entries_[kept] = std::move(entries_[firstEntry + index]);
+            entries_[kept] = entries_[firstEntry + index];
         }
         ++kept;
     }
-    entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(kept), entries_.end());
+    entries_.resize(kept);
 }
 
 void PropertyListBuilder::noteDuplicate(const Entry &later) {
@@ -124,9 +128,10 @@ void PropertyListBuilder::noteDuplicate(const Entry &later) {
         return;
     }
     std::string path = pathOfLastFrame();
-    bytesOfDuplicates_ += sizeof(PropertyList::DuplicateKey) + later.key.size() + path.size();
+    const std::string_view key = later.key.text();
+    bytesOfDuplicates_ += sizeof(DuplicateKey) + key.size() + path.size();
     if (bytesOfDuplicates_ <= maximumBytesOfDuplicates) {
-        duplicates_.push_back({later.key, later.keyOffset, std::move(path)});
+        document_.duplicates_.push_back({std::string(key), later.keyOffset, std::move(path)});
     }
 }
 
@@ -138,7 +143,7 @@ std::string PropertyListBuilder::pathOfLastFrame() const {
             path += '.';
         }
         if (frames_[index].isDictionary) {
-            path += entries_[inner.firstEntry - 1].key;
+            path += entries_[inner.firstEntry - 1].key.text();
         } else {
             path += std::to_string(inner.firstValue - frames_[index].firstValue);
         }
@@ -146,9 +151,12 @@ std::string PropertyListBuilder::pathOfLastFrame() const {
     return path;
 }
 
-std::vector<PropertyList::DuplicateKey> PropertyListBuilder::takeDuplicates() {
-    std::ranges::sort(duplicates_, {}, &PropertyList::DuplicateKey::offset);
-    return std::move(duplicates_);
+PropertyListDocument PropertyListBuilder::takeDocument(PropertyListDocument::Form form,
+                                                       std::string_view text) {
+    document_.form_ = form;
+    document_.text_ = text;
+    std::ranges::sort(document_.duplicates_, {}, &DuplicateKey::offset);
+    return std::move(document_);
 }
 
 } // namespace velmar

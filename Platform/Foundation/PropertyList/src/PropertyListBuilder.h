@@ -1,17 +1,23 @@
 #pragma once
 
-#include <Foundation/PropertyList.h>
+#include <Foundation/PropertyListDocument.h>
 
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <memory_resource>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace velmar {
 
-/// Puts a tree together from what a reader meets, in its order, without recursion, and notes keys given
-/// twice. The reader keeps to the grammar: it asks expected() first.
+/// Puts a document together from what a reader meets, in its order, without recursion, and notes keys given
+/// twice. The reader keeps to the grammar: it asks expected() first. Texts are not copied: they are parts of
+/// the bytes, or kept.
 class PropertyListBuilder {
 public:
-    enum class Expected {
+    enum class Expected : std::uint8_t {
         Root,    ///< The one value.
         Element, ///< A value or the end of an array.
         Key,     ///< A key or the end of a dictionary.
@@ -19,7 +25,10 @@ public:
         Nothing, ///< The root is complete.
     };
 
-    [[nodiscard]] Expected expected() const noexcept;
+    /// `size` is that of the bytes to be read.
+    explicit PropertyListBuilder(std::size_t size);
+
+    [[nodiscard]] Expected expected() const noexcept { return expected_; }
     [[nodiscard]] bool isOpenDictionary() const noexcept { return frames_.back().isDictionary; }
     [[nodiscard]] bool isOpen() const noexcept { return !frames_.empty(); }
     [[nodiscard]] bool isAtMaximumDepth() const noexcept {
@@ -32,19 +41,27 @@ public:
 
     void openArray(std::uint32_t offset) { open(offset, false); }
     void openDictionary(std::uint32_t offset) { open(offset, true); }
-    void addKey(std::string key, std::uint32_t offset);
-    void addValue(PropertyList value, std::uint32_t offset);
+    void addKey(std::string_view key, std::uint32_t offset) {
+        entries_.push_back(Entry{key, offset, PropertyListValue()});
+        expected_ = Expected::Value;
+    }
+    void addValue(PropertyListValue value, std::uint32_t offset);
     void close();
 
-    /// The key that waits for its value.
-    [[nodiscard]] const std::string &lastKey() const noexcept { return entries_.back().key; }
+    /// Copies a text or data into the memory of the document.
+    [[nodiscard]] std::string_view keep(std::string_view text);
+    [[nodiscard]] PropertyListValue::Data keep(PropertyListValue::Data data);
 
-    /// Once nothing is expected any more.
-    [[nodiscard]] PropertyList takeRoot() noexcept { return std::move(root_); }
-    [[nodiscard]] std::vector<PropertyList::DuplicateKey> takeDuplicates();
+    /// The key that waits for its value.
+    [[nodiscard]] std::string_view lastKey() const noexcept { return entries_.back().key.text(); }
+
+    /// Once nothing is expected any more. `text` is that of the XML form.
+    [[nodiscard]] PropertyListDocument takeDocument(PropertyListDocument::Form form,
+                                                    std::string_view text = {});
 
 private:
-    using Entry = PropertyList::Dictionary::Entry;
+    using Entry = PropertyListValue::Entry;
+    using DuplicateKey = PropertyListDocument::DuplicateKey;
 
     struct Frame {
         std::size_t firstValue;
@@ -54,24 +71,22 @@ private:
     };
 
     void open(std::uint32_t offset, bool isDictionary);
-    PropertyList closedArray(const Frame &frame);
-    PropertyList closedDictionary(const Frame &frame);
+    template <class T>
+    std::span<const T> keepFrom(std::vector<T> &stack, std::size_t first);
     void removeDuplicates(std::size_t firstEntry);
     void noteDuplicate(const Entry &later);
     [[nodiscard]] bool hasDuplicates(std::size_t firstEntry) const;
     [[nodiscard]] std::string pathOfLastFrame() const;
 
-    // The children of all open containers, the innermost last, so that a finished one is made in its exact
+    // The children of all open containers, the innermost last, so that a finished one is kept in its exact
     // size.
-    std::vector<PropertyList> values_;
+    std::vector<PropertyListValue> values_;
     std::vector<Entry> entries_;
     std::vector<Frame> frames_;
-    PropertyList root_;
-    std::vector<PropertyList::DuplicateKey> duplicates_;
+    PropertyListDocument document_;
     std::size_t bytesOfDuplicates_ = 0;
     std::size_t valueCount_ = 0; // Without the open containers.
-    bool hasRoot_ = false;
-    bool keyWaits_ = false;
+    Expected expected_ = Expected::Root;
 };
 
 } // namespace velmar

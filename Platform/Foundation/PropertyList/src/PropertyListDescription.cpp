@@ -1,7 +1,7 @@
 #include "PropertyListScalars.h"
 #include "PropertyListText.h"
 
-#include <Foundation/PropertyList.h>
+#include <Foundation/PropertyListDocument.h>
 
 #include <fmt/format.h>
 
@@ -11,7 +11,7 @@ namespace velmar {
 static constexpr std::size_t maximumLength = 400;
 static constexpr std::size_t maximumNesting = 8;
 
-static void append(std::string &text, const PropertyList &value, std::size_t depth);
+static void append(std::string &text, const PropertyListValue &value, std::size_t depth);
 
 static bool isFull(std::string &text) {
     if (text.size() < maximumLength) {
@@ -21,10 +21,10 @@ static bool isFull(std::string &text) {
     return true;
 }
 
-static void appendArray(std::string &text, const PropertyList::Array &array, std::size_t depth) {
+static void appendArray(std::string &text, std::span<const PropertyListValue> array, std::size_t depth) {
     text += '[';
     const char *separator = "";
-    for (const PropertyList &element : array) {
+    for (const PropertyListValue &element : array) {
         text += separator;
         if (isFull(text)) {
             break;
@@ -35,16 +35,16 @@ static void appendArray(std::string &text, const PropertyList::Array &array, std
     text += ']';
 }
 
-static void appendDictionary(std::string &text, const PropertyList::Dictionary &dictionary,
+static void appendDictionary(std::string &text, std::span<const PropertyListValue::Entry> entries,
                              std::size_t depth) {
     text += '{';
     const char *separator = "";
-    for (const auto &[key, value, keyOffset] : dictionary) {
+    for (const auto &[key, keyOffset, value] : entries) {
         text += separator;
         if (isFull(text)) {
             break;
         }
-        text += key;
+        text += key.text();
         text += " = ";
         append(text, value, depth + 1);
         separator = "; ";
@@ -52,7 +52,7 @@ static void appendDictionary(std::string &text, const PropertyList::Dictionary &
     text += '}';
 }
 
-static void append(std::string &text, const PropertyList &value, std::size_t depth) {
+static void append(std::string &text, const PropertyListValue &value, std::size_t depth) {
     if (depth > maximumNesting) {
         text += "...";
         return;
@@ -74,25 +74,29 @@ static void append(std::string &text, const PropertyList &value, std::size_t dep
         text += *value.string();
         break;
     case PropertyList::Kind::Data:
-        text += fmt::format("<{} bytes>", value.data()->bytes.size());
+        text += fmt::format("<{} bytes>", value.data()->size());
         break;
     case PropertyList::Kind::Date:
         text += textOfDate(*value.date())
                     .value_or(fmt::format("<{} s>", value.date()->secondsSinceReferenceDate));
         break;
     case PropertyList::Kind::Array:
-        appendArray(text, *value.array(), depth);
+        appendArray(text, value.elements(), depth);
         break;
     case PropertyList::Kind::Dictionary:
-        appendDictionary(text, *value.dictionary(), depth);
+        appendDictionary(text, value.entries(), depth);
         break;
     }
 }
 
-std::string PropertyList::text() const {
+std::string PropertyListValue::text() const {
     std::string text;
     append(text, *this, 0);
     return text;
+}
+
+std::string PropertyList::text() const {
+    return PropertyListDocument::of(*this).root().text();
 }
 
 } // namespace velmar

@@ -28,7 +28,7 @@ void Dictionary::set(std::string_view key, PropertyList value) {
     if (PropertyList *present = find(key)) {
         *present = std::move(value);
     } else {
-        entries_.push_back(Entry{std::string(key), std::move(value), PropertyList::noOffset});
+        entries_.push_back(Entry{std::string(key), std::move(value)});
     }
 }
 

@@ -31,7 +31,7 @@ static bool isDigit(char character) noexcept {
     return character >= '0' && character <= '9';
 }
 
-std::optional<PropertyList> integerFrom(std::string_view text) noexcept {
+std::optional<PropertyListValue> integerFrom(std::string_view text) noexcept {
     text = trimmed(text);
     const bool isNegative = text.starts_with('-');
     if (isNegative || text.starts_with('+')) {
@@ -49,12 +49,12 @@ std::optional<PropertyList> integerFrom(std::string_view text) noexcept {
         return std::nullopt;
     }
     if (!isNegative) {
-        return PropertyList(magnitude);
+        return PropertyListValue(magnitude);
     }
     if (magnitude > std::uint64_t{1} << 63) {
         return std::nullopt;
     }
-    return PropertyList(static_cast<std::int64_t>(~magnitude + 1));
+    return PropertyListValue(static_cast<std::int64_t>(~magnitude + 1));
 }
 
 static locale_t cLocale() {
@@ -63,7 +63,16 @@ static locale_t cLocale() {
 }
 
 std::optional<double> realFrom(std::string_view text) {
-    const std::string whole(trimmed(text));
+    text = trimmed(text);
+    // The usual form; what else strtod takes, and what it makes of numbers that no double is near, is left to
+    // it.
+    double usual = 0;
+    const char *const last = text.data() + text.size();
+    if (const auto [stop, error] = std::from_chars(text.data(), last, usual);
+        error == std::errc() && stop == last && std::isfinite(usual)) {
+        return usual;
+    }
+    const std::string whole(text);
     const char *number = whole.c_str() + (whole.starts_with('-') || whole.starts_with('+') ? 1 : 0);
     const bool isWord = strcasecmp(number, "nan") == 0 || strcasecmp(number, "inf") == 0 ||
                         strcasecmp(number, "infinity") == 0;

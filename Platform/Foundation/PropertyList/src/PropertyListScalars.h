@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Foundation/PropertyList.h>
+#include <Foundation/PropertyListValue.h>
 
 #include <optional>
 #include <string>
@@ -12,7 +12,7 @@ namespace velmar {
 /// text (within it for data); nothing for a text that is none.
 
 /// Decimal or 0x and hexadecimal, with an optional sign, from -2^63 to 2^64 - 1.
-[[nodiscard]] std::optional<PropertyList> integerFrom(std::string_view text) noexcept;
+[[nodiscard]] std::optional<PropertyListValue> integerFrom(std::string_view text) noexcept;
 
 /// What strtod takes in the C locale and a double can hold, or nan, inf or infinity in any case.
 [[nodiscard]] std::optional<double> realFrom(std::string_view text);

@@ -11,11 +11,34 @@ using Expected = PropertyListBuilder::Expected;
 
 static constexpr std::size_t sizeOfLargeText = std::size_t{8} << 20;
 
+PropertyListXmlReader::Element PropertyListXmlReader::elementOf(std::string_view name) noexcept {
+    // By the length first, so that each comparison is one of a few bytes.
+    switch (name.size()) {
+    case 3:
+        return name == "key" ? Element::Key : Element::Unknown;
+    case 4:
+        return name == "dict"   ? Element::Dictionary
+               : name == "true" ? Element::True
+               : name == "real" ? Element::Real
+               : name == "date" ? Element::Date
+               : name == "data" ? Element::Data
+                                : Element::Unknown;
+    case 5:
+        return name == "array" ? Element::Array : name == "false" ? Element::False : Element::Unknown;
+    case 6:
+        return name == "string" ? Element::String : Element::Unknown;
+    case 7:
+        return name == "integer" ? Element::Integer : Element::Unknown;
+    default:
+        return Element::Unknown;
+    }
+}
+
 static std::uint32_t placeOf(const XmlScanner::Tag &tag) noexcept {
     return static_cast<std::uint32_t>(tag.offset);
 }
 
-PropertyList::Document PropertyListXmlReader::read() {
+PropertyListDocument PropertyListXmlReader::read() {
     if (const std::size_t bad = firstBadByte(text_, Characters::OfXml); bad != text_.npos) {
         scanner_.fail(reasonOfBadByte(text_, bad), bad);
     }
@@ -31,8 +54,7 @@ PropertyList::Document PropertyListXmlReader::read() {
         scanner_.fail("the element <plist> has no value", root.offset);
     }
     scanner_.finish();
-    return {builder_.takeRoot(), PropertyList::Document::Form::Xml, builder_.takeDuplicates(),
-            LineIndex(text_)};
+    return builder_.takeDocument(PropertyListDocument::Form::Xml, text_);
 }
 
 void PropertyListXmlReader::readTree(const Tag &root) {
@@ -51,16 +73,17 @@ void PropertyListXmlReader::readTree(const Tag &root) {
 }
 
 void PropertyListXmlReader::readStart(const Tag &tag) {
-    if (tag.name == "key") {
-        readKey(tag);
-    } else if (tag.name == "dict") {
-        readContainer(tag, true);
-    } else if (tag.name == "array") {
-        readContainer(tag, false);
-    } else {
-        PropertyList value = scalar(tag);
+    switch (const Element element = elementOf(tag.name)) {
+    case Element::Key:
+        return readKey(tag);
+    case Element::Dictionary:
+        return readContainer(tag, true);
+    case Element::Array:
+        return readContainer(tag, false);
+    default:
+        const PropertyListValue value = scalar(tag, element);
         requirePlaceForValue(tag);
-        builder_.addValue(std::move(value), placeOf(tag));
+        builder_.addValue(value, placeOf(tag));
     }
 }
 
@@ -87,7 +110,7 @@ void PropertyListXmlReader::readKey(const Tag &tag) {
     if (builder_.expected() != Expected::Key) {
         scanner_.fail("a key is outside of a dictionary", tag.offset);
     }
-    builder_.addKey(std::string(scanner_.text(tag)), placeOf(tag));
+    builder_.addKey(keptText(tag), placeOf(tag));
 }
 
 void PropertyListXmlReader::readEnd(const Tag &tag) {
@@ -114,38 +137,42 @@ void PropertyListXmlReader::requirePlaceForValue(const Tag &tag) const {
     }
 }
 
-PropertyList PropertyListXmlReader::scalar(const Tag &tag) {
-    // No text is looked at before the element is known.
-    if (tag.name == "string") {
-        return PropertyList(scanner_.text(tag));
-    }
-    if (tag.name == "true" || tag.name == "false") {
-        if (!scanner_.text(tag).empty()) {
-            scanner_.fail(fmt::format("the element <{}> is not empty", tag.name), tag.offset);
-        }
-        return PropertyList(tag.name == "true");
-    }
+// A text without references is a part of the file.
+std::string_view PropertyListXmlReader::keptText(const Tag &tag) {
+    const std::string_view text = scanner_.text(tag);
+    return scanner_.isReplaced(text) ? builder_.keep(text) : text;
+}
+
+// No text is looked at before the element is known.
+PropertyListValue PropertyListXmlReader::scalar(const Tag &tag, Element element) {
     const auto valueOf = [&](auto parse, std::string_view what) {
         const std::string_view text = scanner_.text(tag);
         auto value = parse(text);
         if (!value) {
             scanner_.fail(fmt::format("'{}' is not {}", shortened(text), what), tag.offset);
         }
-        return PropertyList(std::move(*value));
+        return *std::move(value);
     };
-    if (tag.name == "integer") {
+    switch (element) {
+    case Element::String:
+        return PropertyListValue(keptText(tag));
+    case Element::True:
+    case Element::False:
+        if (!scanner_.text(tag).empty()) {
+            scanner_.fail(fmt::format("the element <{}> is not empty", tag.name), tag.offset);
+        }
+        return PropertyListValue(element == Element::True);
+    case Element::Integer:
         return valueOf(integerFrom, "an integer between -2^63 and 2^64 - 1");
+    case Element::Real:
+        return PropertyListValue(valueOf(realFrom, "a real number"));
+    case Element::Date:
+        return PropertyListValue(valueOf(dateFrom, "a date in the form 2024-12-31T23:59:59Z"));
+    case Element::Data:
+        return PropertyListValue(builder_.keep(valueOf(dataFrom, "data in base64").bytes));
+    default:
+        scanner_.fail(fmt::format("the element <{}> is not known", shortened(tag.name)), tag.offset);
     }
-    if (tag.name == "real") {
-        return valueOf(realFrom, "a real number");
-    }
-    if (tag.name == "date") {
-        return valueOf(dateFrom, "a date in the form 2024-12-31T23:59:59Z");
-    }
-    if (tag.name == "data") {
-        return valueOf(dataFrom, "data in base64");
-    }
-    scanner_.fail(fmt::format("the element <{}> is not known", shortened(tag.name)), tag.offset);
 }
 
 } // namespace velmar

@@ -3,7 +3,7 @@
 #include "PropertyListBuilder.h"
 #include "XmlScanner.h"
 
-#include <Foundation/PropertyList.h>
+#include <Foundation/PropertyListDocument.h>
 
 #include <string_view>
 
@@ -12,13 +12,17 @@ namespace velmar {
 /// Reads one XML property list. Everything throws PropertyListError.
 class PropertyListXmlReader {
 public:
-    /// The text must outlive the reader and be shorter than 4 GiB.
-    explicit PropertyListXmlReader(std::string_view text) : text_(text), scanner_(text) {}
+    /// The text must outlive the document and be shorter than 4 GiB.
+    explicit PropertyListXmlReader(std::string_view text)
+        : text_(text), scanner_(text), builder_(text.size()) {}
 
-    [[nodiscard]] PropertyList::Document read();
+    [[nodiscard]] PropertyListDocument read();
 
 private:
     using Tag = XmlScanner::Tag;
+    enum class Element { Key, Dictionary, Array, String, True, False, Integer, Real, Date, Data, Unknown };
+
+    [[nodiscard]] static Element elementOf(std::string_view name) noexcept;
 
     void readTree(const Tag &root);
     void readStart(const Tag &tag);
@@ -26,7 +30,8 @@ private:
     void readKey(const Tag &tag);
     void readEnd(const Tag &tag);
     void requirePlaceForValue(const Tag &tag) const;
-    [[nodiscard]] PropertyList scalar(const Tag &tag);
+    [[nodiscard]] PropertyListValue scalar(const Tag &tag, Element element);
+    [[nodiscard]] std::string_view keptText(const Tag &tag);
 
     std::string_view text_;
     XmlScanner scanner_;

@@ -81,7 +81,7 @@ private:
             return;
         }
         text_ += "<dict>\n";
-        for (const auto &[key, value, keyOffset] : dictionary) {
+        for (const auto &[key, value] : dictionary) {
             indent();
             writeElement("key", key);
             writeValue(value);

@@ -1,5 +1,6 @@
 #include "XmlScanner.h"
 
+#include "ByteMarks.h"
 #include "PropertyListText.h"
 
 #include <Foundation/PropertyListError.h>
@@ -20,7 +21,6 @@ static constexpr bool isWhiteSpace(char character) noexcept {
     return character == ' ' || character == '\t' || character == '\n' || character == '\r';
 }
 
-// Tables, since every byte of a file is asked about one of these.
 static constexpr std::array<bool, 256> tableOf(std::string_view characters) noexcept {
     std::array<bool, 256> table{};
     for (const char character : characters) {
@@ -30,7 +30,6 @@ static constexpr std::array<bool, 256> tableOf(std::string_view characters) noex
 }
 
 static constexpr auto endsName = tableOf(" \t\r\n></=\"'&");
-static constexpr auto isUnusualInText = tableOf("<&\r");
 
 static bool contains(const std::array<bool, 256> &table, char character) noexcept {
     return table[static_cast<unsigned char>(character)];
@@ -142,9 +141,8 @@ void XmlScanner::skipPast(std::string_view terminator, std::string_view what) {
 
 void XmlScanner::skipWhiteSpace() noexcept {
     // XML has no other characters as low as these.
-    while (position_ < text_.size() && static_cast<unsigned char>(text_[position_]) <= ' ') {
-        ++position_;
-    }
+    position_ =
+        ByteMarks::find(text_, position_, [](ByteMarks::Word bytes) { return ByteMarks::above(bytes, ' '); });
 }
 
 char XmlScanner::peek(std::size_t distance) const noexcept {
@@ -157,10 +155,12 @@ bool XmlScanner::startsWith(std::string_view prefix) const noexcept {
 
 std::string_view XmlScanner::name() noexcept {
     const std::size_t start = position_;
-    while (position_ < text_.size() && !contains(endsName, text_[position_])) {
-        ++position_;
+    std::size_t end = start;
+    while (end < text_.size() && !contains(endsName, text_[end])) {
+        ++end;
     }
-    return text_.substr(start, position_ - start);
+    position_ = end;
+    return text_.substr(start, end - start);
 }
 
 std::optional<XmlScanner::Attribute> XmlScanner::attribute() {
@@ -189,7 +189,9 @@ std::optional<XmlScanner::Attribute> XmlScanner::attribute() {
 
 XmlScanner::Tag XmlScanner::next() {
     skipWhiteSpace();
-    while (skipMiscellaneous()) {
+    if (peek(1) == '!' || peek(1) == '?') {
+        while (skipMiscellaneous()) {
+        }
     }
     const std::size_t start = position_;
     if (start == text_.size()) {
@@ -235,9 +237,9 @@ std::string_view XmlScanner::text(const Tag &start) {
         return {};
     }
     const std::size_t begin = position_;
-    while (position_ < text_.size() && !contains(isUnusualInText, text_[position_])) {
-        ++position_;
-    }
+    position_ = ByteMarks::find(text_, begin, [](ByteMarks::Word bytes) {
+        return ByteMarks::equal(bytes, '<') | ByteMarks::equal(bytes, '&') | ByteMarks::equal(bytes, '\r');
+    });
     if (peek() != '<' || peek(1) != '/') {
         return unusualText(start, begin);
     }
@@ -321,10 +323,25 @@ char32_t XmlScanner::characterOfNumber(std::string_view number) const noexcept {
     return error == std::errc() && stop == end ? char32_t{character} : U'\0';
 }
 
+// Whether the name of a start tag and '>' come next. All names but unknown ones are shorter than a word, and
+// most start tags have the '>' as well.
+bool XmlScanner::isNameOf(const Tag &start) const noexcept {
+    using Word = ByteMarks::Word;
+    const std::size_t size = start.name.size() + 1;
+    if (size <= sizeof(Word) && text_.size() - position_ >= sizeof(Word)) {
+        const Word difference =
+            ByteMarks::load(text_.data() + position_) ^ ByteMarks::load(start.name.data());
+        if (difference << (8 * (sizeof(Word) - size)) == 0 && text_[position_ + size - 1] == '>') {
+            return true;
+        }
+    }
+    return startsWith(start.name) && peek(start.name.size()) == '>';
+}
+
 void XmlScanner::endTag(const Tag &start) {
     const std::size_t offset = position_;
     position_ += 2;
-    if (startsWith(start.name) && peek(start.name.size()) == '>') {
+    if (isNameOf(start)) {
         position_ += start.name.size() + 1;
         return;
     }

@@ -32,8 +32,12 @@ public:
     [[nodiscard]] Tag next();
 
     /// The text of an element whose start tag was the last one, and passes over its end tag. References are
-    /// replaced, lines end in line feeds. Valid until the next call.
+    /// replaced, lines end in line feeds. A part of the whole text, or replaced: then valid until the next
+    /// call.
     [[nodiscard]] std::string_view text(const Tag &start);
+    [[nodiscard]] bool isReplaced(std::string_view text) const noexcept {
+        return text.data() == decoded_.data();
+    }
 
     /// Checks that nothing follows the root's end tag.
     void finish();
@@ -60,6 +64,7 @@ private:
     void appendPlain(std::string_view plain);
     void appendReference();
     [[nodiscard]] char32_t characterOfNumber(std::string_view number) const noexcept;
+    [[nodiscard]] bool isNameOf(const Tag &start) const noexcept;
     void endTag(const Tag &start);
 
     std::string_view text_;

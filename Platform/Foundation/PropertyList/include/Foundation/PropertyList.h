@@ -1,11 +1,9 @@
 #pragma once
 
-#include <Foundation/LineIndex.h>
 #include <Foundation/PropertyListError.h>
 
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 #include <span>
 #include <string>
 #include <string_view>
@@ -13,16 +11,14 @@
 
 namespace velmar {
 
-/// One value of a property list: what its files hold, whatever their form. A plain value of 40 bytes;
-/// equality looks at kind and contents and not at places in a file. Readers never share parts between values,
-/// so a tree is no larger than what was read allows.
+class PropertyListValue;
+
+/// One value of a property list, to be made, changed and written: a plain value that owns all its parts.
+/// Whoever only reads a file takes PropertyListDocument, which owns nothing value by value.
 class PropertyList {
 public:
-    static constexpr std::uint32_t noOffset = std::numeric_limits<std::uint32_t>::max();
     static constexpr std::size_t maximumDepth = 256;        ///< Of arrays and dictionaries within each other.
-    static constexpr std::size_t maximumValues = 1'000'000; ///< In a tree that is read, the root included.
-    /// What texts and data of the binary form may take beyond one reading of each.
-    static constexpr std::size_t maximumSharedBytes = std::size_t{32} << 20;
+    static constexpr std::size_t maximumValues = 1'000'000; ///< In what is read, the root included.
 
     /// Bytes of a <data> element.
     struct Data {
@@ -97,6 +93,7 @@ public:
     PropertyList(Date value) noexcept;
     PropertyList(Array value) noexcept;
     PropertyList(Dictionary value) noexcept;
+    explicit PropertyList(const PropertyListValue &value); ///< A copy of what was read.
     PropertyList(const PropertyList &other);
     PropertyList(PropertyList &&other) noexcept;
     PropertyList &operator=(const PropertyList &other);
@@ -119,35 +116,15 @@ public:
     [[nodiscard]] Array *array() noexcept;
     [[nodiscard]] Dictionary *dictionary() noexcept;
 
-    /// Where the value stands in the bytes that it was read from, in bytes; noOffset for a value that was
-    /// made.
-    [[nodiscard]] std::uint32_t offset() const noexcept { return offset_; }
-    void setOffset(std::uint32_t offset) noexcept { offset_ = offset; }
-
     /// A real that is not a number equals another one, so that a value always equals its copy.
     bool operator==(const PropertyList &other) const;
 
     /// A short text for messages, in the manner of `{Size = 12; Items = [a, b]}`.
     [[nodiscard]] std::string text() const;
 
-    /// A key that a dictionary of the file gives more than once; the last one counts.
-    struct DuplicateKey {
-        std::string key;
-        std::uint32_t offset = noOffset; ///< Of the later key.
-        std::string path; ///< Dotted path of the dictionary, array indexes as numbers; empty for the root.
-    };
-
-    struct Document;
-
-    /// Reads the XML or the binary form, whichever the bytes are. Throws PropertyListError. Any thread.
-    ///
-    /// Limits: less than 4 GiB; maximumDepth; maximumValues, each of 40 bytes, or 80 with its key, and the
-    /// bytes of longer texts and of data. XML must be UTF-8; no entities beyond the five of XML and
-    /// characters by number, nothing is fetched. References of the binary form may be shared, up to
-    /// maximumValues and maximumSharedBytes when every one is followed. So a refusal takes at most the size
-    /// of the bytes (half as much again for UTF-16), and some 120 MB for the values and what they share.
-    [[nodiscard]] static Document read(std::span<const std::byte> bytes);
-    [[nodiscard]] static Document read(std::string_view bytes);
+    /// A copy of the document that the bytes are; see PropertyListDocument::read.
+    [[nodiscard]] static PropertyList read(std::span<const std::byte> bytes);
+    [[nodiscard]] static PropertyList read(std::string_view bytes);
 
     /// Writes the XML form, indented by tabs, with the usual document type line, or the binary form
     /// ("bplist00"). What is written reads back equal within the limits above, but for dates in XML, which
@@ -174,28 +151,12 @@ private:
         Array array_;
         Dictionary dictionary_;
     };
-    std::uint32_t offset_ = noOffset;
     Kind kind_;
 };
 
 struct PropertyList::Dictionary::Entry {
     std::string key;
     PropertyList value;
-    std::uint32_t keyOffset = noOffset; ///< Where the key stands, as PropertyList::offset().
-};
-
-/// What a reader found.
-struct PropertyList::Document {
-    enum class Form : std::uint8_t { Xml, Binary };
-
-    PropertyList value;
-    Form form = Form::Xml;
-    /// By offset; as many as fit into 1 MiB.
-    std::vector<DuplicateKey> duplicates;
-    LineIndex lines;
-
-    /// The line of a value's or key's offset, counted from 1; 0 for the binary form and for noOffset.
-    [[nodiscard]] std::size_t lineOf(std::uint32_t offset) const noexcept;
 };
 
 inline std::size_t PropertyList::Dictionary::size() const noexcept {
