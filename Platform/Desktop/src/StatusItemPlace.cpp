@@ -5,11 +5,11 @@
 #include <Desktop/SessionBus.h>
 
 #include <QDBusConnection>
+#include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
-#include <QElapsedTimer>
 #include <QTimer>
 
 #include <utility>
@@ -29,21 +29,19 @@ constexpr int absence = 5000;         // and for one that comes back.
 class StatusItemPlace::Watch final : public QObject {
 public:
     explicit Watch(std::function<void(bool isThere)> tell) : tell_(std::move(tell)) {
-        sinceSeen_.start();
+        timer_.setSingleShot(true);
         connect(&timer_, &QTimer::timeout, this, [this] { look(); });
         timer_.start(0);
     }
 
 private:
     void look() {
-        timer_.setInterval(isThere_ ? restOnceThere : restWhileWaiting);
         if (ownerOfSelection("_NET_SYSTEM_TRAY_S0") != 0) {
             wasSeen();
-        } else if (sinceSeen_.hasExpired(isThere_ ? absence : patience)) {
-            timer_.stop();
-            tell_(false);
-        } else if (!isAsking_ && hasSessionBus()) {
+        } else if (hasSessionBus()) {
             askPanelOnTheBus();
+        } else {
+            wasMissed(0);
         }
     }
 
@@ -55,32 +53,43 @@ private:
         question.setArguments({QStringLiteral("org.kde.StatusNotifierWatcher"),
                                QStringLiteral("IsStatusNotifierHostRegistered")});
         question.setAutoStartService(false);
-        isAsking_ = true;
         auto *watcher =
             new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question, patience), this);
         connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
             const QDBusPendingReply<QDBusVariant> answer = *watcher;
             watcher->deleteLater();
-            isAsking_ = false;
-            if (timer_.isActive() && !answer.isError() && answer.value().variant().toBool()) {
+            if (!answer.isError() && answer.value().variant().toBool()) {
                 wasSeen();
+            } else {
+                wasMissed(answer.error().type() == QDBusError::NoReply ? patience : 0);
             }
         });
     }
 
     void wasSeen() {
-        sinceSeen_.start();
+        missedFor_ = 0;
+        timer_.start(restOnceThere);
         if (!std::exchange(isThere_, true)) {
-            timer_.setInterval(restOnceThere);
             tell_(true);
         }
     }
 
+    /// Counts what was waited for by intent: when the program itself stands still for a while, the panel is
+    /// not to blame.
+    void wasMissed(int waited) {
+        const int rest = isThere_ ? restOnceThere : restWhileWaiting;
+        missedFor_ += waited + rest;
+        if (missedFor_ > (isThere_ ? absence : patience)) {
+            tell_(false);
+        } else {
+            timer_.start(rest);
+        }
+    }
+
     std::function<void(bool isThere)> tell_;
-    QTimer timer_;
-    QElapsedTimer sinceSeen_; // Or since the beginning.
+    QTimer timer_; // To the next look.
+    int missedFor_ = 0;
     bool isThere_ = false;
-    bool isAsking_ = false;
 };
 
 StatusItemPlace::StatusItemPlace(std::function<void(bool isThere)> tell)
