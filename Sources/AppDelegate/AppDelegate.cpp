@@ -82,10 +82,8 @@ AppDelegate::AppDelegate(Surroundings surroundings)
                      }}});
     application.mainMenu().setItems(ApplicationMenu::items(
         {.quit = [&application] { application.terminate(); },
-         .reloadInterfaceSavingVariables =
-             [window = customWindow_] { window->controller()->reloadInterfaceSavingVariables(); },
-         .reloadInterfaceResetingVariables =
-             [window = customWindow_] { window->controller()->reloadInterfaceResetingVariables(); }}));
+         .reloadInterfaceSavingVariables = [window = customWindow_] { window->reloadInterface(false); },
+         .reloadInterfaceResetingVariables = [window = customWindow_] { window->reloadInterface(true); }}));
 }
 
 AppDelegate::~AppDelegate() {

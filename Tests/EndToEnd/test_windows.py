@@ -226,6 +226,19 @@ class Windows(Scenario):
                 screen.key(shortcut)
                 self.assertEqual(0, process.wait(), process.story())
 
+    def test_a_window_that_is_opened_before_the_popover_may_reload(self):
+        tray = Tray()
+        self.addCleanup(tray.close)
+        window = {"Type": "OpenWindow", "Size": {"Width": 360, "Height": 200}, "Slide": slide("Beside")}
+        process, screen = self.start("MenuBar", Admin={"IsAdminModeEnabled": True},
+                                     ActionSets=[{"Type": "Chained", "Triggers": ["Launch"], "Actions": [window]}])
+        screen.wait_for_title("Beside")
+        tray.wait_for_item()
+        xdotool("windowactivate", "--sync", stacking()[-1])
+        screen.key("ctrl+r")
+        screen.key("ctrl+q")
+        self.assertEqual(0, process.wait(), process.story())
+
     def test_a_program_that_takes_the_keyboard_again_and_again_is_not_fought_for_ever(self):
         _, screen = self.start("FullScreen")
         screen.wait_for_text("Text")

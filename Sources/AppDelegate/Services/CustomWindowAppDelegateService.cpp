@@ -13,7 +13,8 @@
 
 #include <fmt/format.h>
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QTimer>
 
 #include <algorithm>
 #include <cstdlib>
@@ -25,6 +26,8 @@ namespace velmar {
 namespace {
 
 using OnScreen = WindowSection::OnScreen;
+
+constexpr int untilTriedAgain = 500; // Milliseconds.
 
 bool isOnSomeScreen(QPoint point, const Screens &screens) {
     return std::any_of(screens.frames.begin(), screens.frames.end(), [&](const ScreenFrame &screen) {
@@ -58,6 +61,12 @@ void CustomWindowAppDelegateService::applicationDidFinishLaunching() {
 }
 
 void CustomWindowAppDelegateService::standInForStatusItem() {
+    // An alert or a menu that stands on the popover would go with it.
+    if (popover_ != nullptr &&
+        (QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr)) {
+        QTimer::singleShot(untilTriedAgain, popover_.get(), [this] { standInForStatusItem(); });
+        return;
+    }
     Logger::error(
         statusItem_ == nullptr
             ? "The mode 'MenuBar' of 'Window.OnScreen' is not available: the desktop has no place for "
@@ -105,7 +114,11 @@ void CustomWindowAppDelegateService::buildWindow() {
     window_->setContent(popover_ != nullptr ? popover_->window().takeContent()
                                             : new VelmarViewController(surroundings_.view, window_.get()));
     controller_ = static_cast<VelmarViewController *>(window_->content());
-    popover_.reset();
+    if (popover_ != nullptr) {
+        // Something of its window may be under way still.
+        popover_->window().hide();
+        popover_.release()->deleteLater();
+    }
     statusItem_.reset();
     setTitle();
     if (presentation.cover) {
@@ -125,6 +138,16 @@ void CustomWindowAppDelegateService::buildWindow() {
     window_->show();
     window_->raise();
     window_->activateWindow();
+}
+
+void CustomWindowAppDelegateService::reloadInterface(bool byResetingVariables) {
+    if (controller_ == nullptr) {
+        surroundings_.view.reloadInterface(byResetingVariables);
+    } else if (byResetingVariables) {
+        controller_->reloadInterfaceResetingVariables();
+    } else {
+        controller_->reloadInterfaceSavingVariables();
+    }
 }
 
 void CustomWindowAppDelegateService::uncoverScreens() {

@@ -48,11 +48,12 @@ public:
     /// The action of the status item: its popover comes, or goes.
     void showApplicationViewController();
 
+    /// Reads the configuration again and shows what it has, if something of it is shown already.
+    void reloadInterface(bool byResetingVariables);
+
     /// Lets go of the screens and of the keyboard, for good: the application is about to end.
     void uncoverScreens();
 
-    /// Null before the window is made, or the status item was clicked.
-    [[nodiscard]] VelmarViewController *controller() const noexcept { return controller_; }
     /// Null without a window of its own: before it is made, and where there is a status item.
     [[nodiscard]] Window *window() const noexcept { return window_.get(); }
 
