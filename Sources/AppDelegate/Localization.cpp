@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QTranslator>
@@ -18,6 +19,10 @@ const auto prefix = QStringLiteral("velmar_");
 const auto suffix = QStringLiteral(".qm");
 const auto english = QStringLiteral("en");
 
+QString pathOf(const QString &language) {
+    return folder + QLatin1Char('/') + prefix + language + suffix;
+}
+
 void install(std::unique_ptr<QTranslator> translator, bool isLoaded) {
     if (isLoaded && QCoreApplication::installTranslator(translator.get())) {
         translator.release()->setParent(QCoreApplication::instance());
@@ -26,7 +31,7 @@ void install(std::unique_ptr<QTranslator> translator, bool isLoaded) {
 
 void installTexts(const QString &language) {
     auto translator = std::make_unique<QTranslator>();
-    const bool isLoaded = translator->load(prefix + language + suffix, folder);
+    const bool isLoaded = translator->load(pathOf(language));
     install(std::move(translator), isLoaded);
 }
 
@@ -48,12 +53,11 @@ QStringList languages() {
 }
 
 QString closestLanguage(const QLocale &locale) {
-    const QStringList known = languages();
     // The languages of messages, which may differ from that of numbers and dates.
     for (QString code : locale.uiLanguages()) {
         code.replace(QLatin1Char('-'), QLatin1Char('_'));
         for (; !code.isEmpty(); code.truncate(std::max(code.lastIndexOf(QLatin1Char('_')), qsizetype{0}))) {
-            if (known.contains(code)) {
+            if (QFile::exists(pathOf(code))) {
                 return code;
             }
         }

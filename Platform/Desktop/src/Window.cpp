@@ -66,7 +66,10 @@ Window::~Window() {
 void Window::setContent(QWidget *content) {
     delete content_;
     content_ = content;
+    // In its final size, which the layout would otherwise give it after it has been laid out in another one.
+    content_->setGeometry(contentsRect());
     layout_->addWidget(content_);
+    content_->show();
 }
 
 QWidget *Window::takeContent() {

@@ -110,12 +110,9 @@ void CustomWindowAppDelegateService::showApplicationViewController() {
 void CustomWindowAppDelegateService::buildWindow() {
     const auto presentation = WindowPresentation::of(*_windowConfig.wrappedValue(), surroundings_.screens());
     window_ = std::make_unique<Window>(presentation.style, surroundings_.mainMenu);
-    // The session of a popover goes on.
-    window_->setContent(popover_ != nullptr ? popover_->window().takeContent()
-                                            : new VelmarViewController(surroundings_.view, window_.get()));
-    controller_ = static_cast<VelmarViewController *>(window_->content());
     if (popover_ != nullptr) {
-        // Something of its window may be under way still.
+        // Its session goes on, and something of its window may be under way still.
+        window_->setContent(popover_->window().takeContent());
         popover_->window().hide();
         popover_.release()->deleteLater();
     }
@@ -138,6 +135,11 @@ void CustomWindowAppDelegateService::buildWindow() {
     window_->show();
     window_->raise();
     window_->activateWindow();
+    if (controller_ == nullptr) {
+        // While the desktop puts up the window, which it asks to be painted only after this event.
+        controller_ = new VelmarViewController(surroundings_.view, window_.get());
+        window_->setContent(controller_);
+    }
 }
 
 void CustomWindowAppDelegateService::reloadInterface(bool byResetingVariables) {
