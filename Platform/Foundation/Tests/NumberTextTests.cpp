@@ -15,8 +15,7 @@ TEST(NumberText, IsWrittenWithAFraction) {
     const std::vector<std::pair<double, const char *>> rows = {
         {0.0, "0.0"},       {-0.0, "-0.0"},     {1, "1.0"},           {0.1 + 0.2, "0.30000000000000004"},
         {0.0001, "0.0001"}, {0.00001, "1e-05"}, {100000, "100000.0"}, {1e16, "10000000000000000.0"},
-        {1e17, "1e+17"},
-    };
+        {1e17, "1e+17"}};
     for (const auto &[number, text] : rows) {
         EXPECT_EQ(textOf(number), text);
     }
@@ -39,8 +38,7 @@ TEST(NumberText, ReadsAsANumberOnlyAsAWhole) {
         {"1\0"s, {}},
         {"1,5", {}},
         {"one", {}},
-        {"\u00A01", {}},
-    };
+        {"\u00A01", {}}};
     for (const auto &[text, number] : rows) {
         EXPECT_EQ(numberOf(text), number) << text;
     }

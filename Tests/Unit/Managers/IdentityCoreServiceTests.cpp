@@ -5,16 +5,6 @@
 namespace velmar::IdentityCoreService {
 namespace {
 
-TEST(PosixPermissions, ReadTheDigitsOfANumberAsOctalOnes) {
-    EXPECT_EQ(PosixPermissions::fromDecimal(644),
-              (PosixPermissions{Permission::readWrite, Permission::read, Permission::read}));
-    EXPECT_EQ(PosixPermissions::fromDecimal(7).description(), "------rwx");
-    EXPECT_EQ(PosixPermissions::fromDecimal(124).description(), "--x-w-r--");
-    EXPECT_EQ(PosixPermissions::fromDecimal(653).description(), "rw-r-x-wx");
-    EXPECT_EQ(PosixPermissions::fromMode(0100750).description(), "rwxr-x---")
-        << "the kind of the file is no permission";
-}
-
 TEST(PosixPermissions, RefuseTheFirstPartThatIsNoOctalDigit) {
     const struct {
         int number;

@@ -7,8 +7,6 @@
 #include <fstream>
 #include <utility>
 
-#include <sys/stat.h>
-
 namespace velmar {
 namespace {
 
@@ -94,32 +92,18 @@ TEST_F(CommandLineTest, SaysOnceWhyAFileIsNotRead) {
     EXPECT_EQ(run({"check", directory_.path("a b")}, ExitStatus::refused),
               "a b: error: Configuration file is missing. [file://a%20b]\n");
 
-    std::filesystem::create_directory(directory_.path("directory"));
-    ASSERT_EQ(::mkfifo(directory_.path("pipe").c_str(), 0644), 0);
     std::filesystem::resize_file(directory_.write("large", ""), std::uintmax_t{65} << 20U);
-    for (const auto &[name, reason] : {std::pair{"directory", "directory"},
-                                       {"pipe", "regular"},
-                                       {"large", "larger than the 67108864 bytes allowed"}}) {
-        const std::vector<std::string> arguments{"check", "--no-admission", directory_.path(name)};
-        EXPECT_THAT(
-            run(arguments, ExitStatus::refused),
-            MatchesRegex(fmt::format("{0}: error: Configuration file is missing. \\[file://{0}\\]\n"
-                                     "{0}: note: An error occurred while retrieving the configuration "
-                                     "file \\[.*{1}.*\\]\n",
-                                     name, reason)));
-    }
+    EXPECT_THAT(run({"check", "--no-admission", directory_.path("large")}, ExitStatus::refused),
+                MatchesRegex("large: error: Configuration file is missing. \\[file://large\\]\n"
+                             "large: note: An error occurred while retrieving the configuration file "
+                             "\\[.*larger than the 67108864 bytes allowed.*\\]\n"));
 }
 
-TEST_F(CommandLineTest, ChecksEveryFileAndItsAdmission) {
+TEST_F(CommandLineTest, ChecksEveryFile) {
     const std::string good = directory_.write("good.plist", document(""));
     const std::string bad = directory_.write("bad.plist", "<plist>\n<dict/></plist>");
     const std::string text = run({"check", "--no-admission", bad, good, bad}, ExitStatus::refused);
     EXPECT_EQ(std::ranges::count(text, '\n'), 2);
-
-    ASSERT_EQ(::chmod(good.c_str(), 0646), 0);
-    EXPECT_THAT(run({"check", good}, ExitStatus::refused),
-                HasSubstr("\ngood.plist: note: Config file at 'good.plist' has the following invalid "));
-    EXPECT_EQ(run({"check", "--no-admission", good}, ExitStatus::succeeded), "");
 }
 
 TEST_F(CommandLineTest, LeavesNothingInAFileToSteerTheTerminal) {
@@ -170,17 +154,15 @@ TEST_F(CommandLineTest, ExplainsItsUse) {
     EXPECT_THAT(run({"check", "--help"}, ExitStatus::succeeded), HasSubstr("--no-admission"));
     EXPECT_THAT(run({"--version"}, ExitStatus::succeeded),
                 MatchesRegex("velmarctl [0-9.]+ \\(configuration Velmar-[0-9.]+\\)\n"));
-    const std::vector<std::string> wrongUses[] = {
-        {},
-        {"check"},
-        {"chek", "x"},
-        {"eval"},
-        {"eval", "AB", "CD"},
-        {"eval", "AB", "--var", "AB"},
-        {"eval", "AB", "--no-admission"},
-        {"eval", "AB", "--batch"},
-        {"eval", "--batch", "--explain"},
-    };
+    const std::vector<std::string> wrongUses[] = {{},
+                                                  {"check"},
+                                                  {"chek", "x"},
+                                                  {"eval"},
+                                                  {"eval", "AB", "CD"},
+                                                  {"eval", "AB", "--var", "AB"},
+                                                  {"eval", "AB", "--no-admission"},
+                                                  {"eval", "AB", "--batch"},
+                                                  {"eval", "--batch", "--explain"}};
     for (const auto &wrong : wrongUses) {
         EXPECT_THAT(run(wrong, ExitStatus::failed), IsEmpty());
         EXPECT_FALSE(complaints_.empty());
