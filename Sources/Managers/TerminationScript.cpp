@@ -21,6 +21,7 @@ namespace {
 // The least and the most for a script that is not waited for to begin.
 constexpr std::chrono::microseconds launchDelay(200'000);
 constexpr std::chrono::seconds launchPatience(5);
+constexpr std::chrono::hours withoutLimit(24 * 365);
 
 constexpr std::chrono::milliseconds restBetweenLooks(100);
 
@@ -79,10 +80,11 @@ void TerminationScript::run(const std::string &path) const {
                 [end = std::move(end)] { end->set_value(); });
         });
     if (_appTermination.wrappedValue()->_waitForExecutionScriptExecution()) {
-        waitForEnd(ended);
+        LoggerExtensions::info(LogSubject::termination, "Waiting for script to complete...");
+        static_cast<void>(wait(ended, withoutLimit));
     } else {
         std::this_thread::sleep_for(launchDelay);
-        if (launched.wait_for(launchPatience) != std::future_status::ready) {
+        if (!wait(launched, launchPatience)) {
             LoggerExtensions::warning(LogSubject::termination, [&] {
                 return fmt::format("The script at '{}' has not begun after {} seconds", path,
                                    launchPatience.count());
@@ -91,16 +93,20 @@ void TerminationScript::run(const std::string &path) const {
     }
 }
 
-void TerminationScript::waitForEnd(const std::future<void> &ended) const {
-    LoggerExtensions::info(LogSubject::termination, "Waiting for script to complete...");
-    while (ended.wait_for(restBetweenLooks) != std::future_status::ready) {
+bool TerminationScript::wait(const std::future<void> &event, std::chrono::seconds patience) const {
+    const auto end = std::chrono::steady_clock::now() + patience;
+    while (event.wait_for(restBetweenLooks) != std::future_status::ready) {
         if (isEndDemanded_()) {
             LoggerExtensions::warning(
                 LogSubject::termination,
                 "A signal demands the end: the script goes on and is no longer waited for");
-            return;
+            return true;
+        }
+        if (std::chrono::steady_clock::now() >= end) {
+            return false;
         }
     }
+    return true;
 }
 
 void TerminationScript::launchTerminationScript(const std::string &path, std::function<void()> launched,

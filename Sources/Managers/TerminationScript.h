@@ -4,6 +4,7 @@
 #include <Foundation/Result.h>
 #include <Managers/Config.h>
 
+#include <chrono>
 #include <functional>
 #include <future>
 #include <string>
@@ -38,7 +39,8 @@ private:
     /// `ended` is called when the script has ended or could not be run.
     void launchTerminationScript(const std::string &path, std::function<void()> launched,
                                  std::function<void()> ended) const;
-    void waitForEnd(const std::future<void> &ended) const;
+    /// For that long at most. False if it was not ready by then and nobody demanded the end.
+    [[nodiscard]] bool wait(const std::future<void> &event, std::chrono::seconds patience) const;
 
     std::function<bool()> isEndDemanded_;
     Config<AppTerminationSection> _appTermination;

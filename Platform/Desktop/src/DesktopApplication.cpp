@@ -21,7 +21,7 @@ namespace velmar {
 class DesktopApplication::Loop final : public QApplication {
 public:
     Loop(int &argumentCount, char **arguments)
-        : QApplication(argumentCount, arguments), signals_([this] { terminate(); }) {
+        : QApplication(argumentCount, arguments), signals_([this] { signalCame(); }) {
         setQuitOnLastWindowClosed(false);
         installAccessibleScrollAreas();
         connect(this, &QGuiApplication::lastWindowClosed, this, [this] { lastWindowWasClosed(); });
@@ -40,6 +40,7 @@ public:
         hasBegun_ = false;
         isLaunched_ = false;
         isTerminating_ = false;
+        isTerminationDemanded_ = false;
         QMetaObject::invokeMethod(
             this, [this] { launch(); }, Qt::QueuedConnection);
         const int status = exec();
@@ -62,6 +63,7 @@ public:
                                  [&] { isRefused = !delegate_->applicationShouldTerminate(); });
             if (isRefused) {
                 isTerminating_ = false;
+                isTerminationDemanded_ = false;
                 return;
             }
             runReportingUncaught("applicationWillTerminate", [&] { delegate_->applicationWillTerminate(); });
@@ -69,7 +71,9 @@ public:
         exit(0);
     }
 
-    [[nodiscard]] bool isTerminationDemanded() const { return signals_.isOnePending(); }
+    [[nodiscard]] bool isTerminationDemanded() const {
+        return isTerminationDemanded_ || signals_.isOnePending();
+    }
 
 protected:
     bool event(QEvent *event) override {
@@ -82,6 +86,15 @@ protected:
     }
 
 private:
+    void signalCame() {
+        // A loop within the termination may be what takes one that came after the decision.
+        if (isTerminating_) {
+            isTerminationDemanded_ = true;
+        } else {
+            terminate();
+        }
+    }
+
     void launch() {
         if (isTerminating_) {
             return;
@@ -139,6 +152,7 @@ private:
     bool isLaunched_ = false;
     bool isActive_ = false;
     bool isTerminating_ = false;
+    bool isTerminationDemanded_ = false; // By a signal, while it is under way.
 };
 
 DesktopApplication::DesktopApplication(int &argumentCount, char **arguments)

@@ -153,8 +153,10 @@ void CustomWindowAppDelegateService::reloadInterface(bool byResetingVariables) {
 }
 
 void CustomWindowAppDelegateService::uncoverScreens() {
-    cover_.reset();
-    QGuiApplication::sync();
+    if (cover_ != nullptr) {
+        cover_.reset();
+        QGuiApplication::sync();
+    }
 }
 
 void CustomWindowAppDelegateService::setTitle() {
