@@ -246,7 +246,7 @@ class Windows(Scenario):
             def grabs():
                 if int((xdotool("getactivewindow") or [0])[0]) != other:
                     xdotool("windowactivate", other)
-            until("the end of the fight", lambda: grabs() or any("again and again" in line for line in self.messages()))
+            until("the end of the fight", lambda: grabs() or any("The program 'xev' comes above" in line for line in self.messages()))
 
     def test_a_dialog_for_a_password_is_let_through(self):
         with another_application() as other:

@@ -22,7 +22,7 @@ namespace velmar {
 
 class ScreenCover::Backdrops final : public QObject {
 public:
-    Backdrops(Window &window, Backing onMainScreen, std::function<void(const std::string &)> giveUp)
+    Backdrops(Window &window, Backing onMainScreen, GiveUp giveUp)
         : window_(window),
           onMainScreen_(onMainScreen),
           grab_(window),
@@ -149,8 +149,7 @@ private:
     StackingGuard guard_;
 };
 
-ScreenCover::ScreenCover(Window &window, Backing onMainScreen,
-                         std::function<void(const std::string &application)> giveUp)
+ScreenCover::ScreenCover(Window &window, Backing onMainScreen, GiveUp giveUp)
     : backdrops_(std::make_unique<Backdrops>(window, onMainScreen, std::move(giveUp))) {}
 
 ScreenCover::~ScreenCover() = default;

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <string_view>
 #include <utility>
 
@@ -22,11 +23,10 @@ constexpr int restBetweenLooks = 50; // Milliseconds, in which changes come toge
 // A window that the window manager keeps above ours whatever is asked, or that comes back each time, is not
 // fought without end.
 constexpr int mostAttempts = 20;
-constexpr int peace = 1000; // Milliseconds after which the attempts are counted anew.
+constexpr std::chrono::seconds peace(1); // After which the attempts are counted anew.
 
-bool asksForPassword(std::uint32_t window) {
+bool asksForPassword(const std::string &application) {
     constexpr std::array<std::string_view, 4> programs{"polkit", "lxpolkit", "pinentry", "gcr-prompter"};
-    const std::string application = WindowList::applicationOf(window);
     return std::any_of(programs.begin(), programs.end(), [&](std::string_view program) {
         return application.find(program) != std::string::npos;
     });
@@ -49,8 +49,7 @@ bool takesOurKeys(std::uint32_t number) {
 
 } // namespace
 
-StackingGuard::StackingGuard(QWindow &front, std::function<void()> bringToFront,
-                             std::function<void(const std::string &application)> giveUp)
+StackingGuard::StackingGuard(QWindow &front, std::function<void()> bringToFront, GiveUp giveUp)
     : front_(front),
       bringToFront_(std::move(bringToFront)),
       giveUp_(std::move(giveUp)),
@@ -85,12 +84,13 @@ bool StackingGuard::nativeEventFilter(const QByteArray &eventType, void *message
 }
 
 void StackingGuard::look() {
+    ++looks_;
+    std::erase_if(fights_, [](const auto &fight) { return fight.second.isOver.hasExpired(); });
     const std::vector<std::uint32_t> stack = WindowList::fromTheLowest();
     learn(stack);
     const bool isCovered = findMisplaced(stack);
     const std::uint32_t active = WindowList::active();
-    if (const auto asking = asksForPassword_.find(active);
-        asking != asksForPassword_.end() && asking->second) {
+    if (const auto known = others_.find(active); known != others_.end() && known->second.asksForPassword) {
         return;
     }
     const bool lostTheKeyboard = active != 0 && !takesOurKeys(active) && mayFight(active);
@@ -105,14 +105,16 @@ void StackingGuard::look() {
 }
 
 void StackingGuard::learn(const std::vector<std::uint32_t> &stack) {
-    std::map<std::uint32_t, bool> known;
+    std::map<std::uint32_t, Other> known;
     for (const std::uint32_t window : stack) {
-        const auto before = asksForPassword_.find(window);
-        known[window] =
-            before == asksForPassword_.end() ? !isOurs(window) && asksForPassword(window) : before->second;
+        if (const auto before = others_.find(window); before != others_.end()) {
+            known[window] = std::move(before->second);
+        } else if (!isOurs(window)) {
+            const std::string application = WindowList::applicationOf(window);
+            known[window] = {application, asksForPassword(application)};
+        }
     }
-    asksForPassword_ = std::move(known);
-    std::erase_if(fights_, [this](const auto &fight) { return !asksForPassword_.contains(fight.first); });
+    others_ = std::move(known);
 }
 
 bool StackingGuard::findMisplaced(const std::vector<std::uint32_t> &stack) {
@@ -120,9 +122,13 @@ bool StackingGuard::findMisplaced(const std::vector<std::uint32_t> &stack) {
     const auto highest = std::find_if(stack.rbegin(), stack.rend(), &isOurs).base();
     bool isCovered = false;
     for (auto window = stack.begin(); window != stack.end(); ++window) {
-        const bool asks = asksForPassword_[*window];
+        const auto other = others_.find(*window);
+        if (other == others_.end() || isOurs(*window)) {
+            continue;
+        }
+        const bool asks = other->second.asksForPassword;
         const bool isMisplaced = asks ? window < highest : window > lowest;
-        if (!isMisplaced || isOurs(*window) || !mayFight(*window)) {
+        if (!isMisplaced || !mayFight(*window)) {
             continue;
         }
         if (asks) {
@@ -136,16 +142,15 @@ bool StackingGuard::findMisplaced(const std::vector<std::uint32_t> &stack) {
 }
 
 bool StackingGuard::mayFight(std::uint32_t window) {
-    Fight &fight = fights_[window];
-    const bool isSameLook = fight.sinceLast.isValid() && fight.sinceLast.elapsed() < restBetweenLooks / 2;
-    if (!isSameLook) {
-        if (fight.sinceLast.isValid() && fight.sinceLast.hasExpired(peace)) {
-            fight.attempts = 0;
-        }
-        fight.sinceLast.start();
-        if (++fight.attempts == mostAttempts + 1) {
-            giveUp_(WindowList::applicationOf(window));
-        }
+    // A window of the keyboard may not be in the list yet.
+    const auto known = others_.find(window);
+    const Other other =
+        known != others_.end() ? known->second : Other{WindowList::applicationOf(window), false};
+    Fight &fight = fights_[other.application];
+    fight.isOver.setRemainingTime(peace);
+    if (std::exchange(fight.look, looks_) != looks_ && ++fight.attempts == mostAttempts + 1) {
+        // The name of the program, which its class follows.
+        giveUp_(other.application.substr(0, other.application.find('\0')), other.asksForPassword);
     }
     return fight.attempts <= mostAttempts;
 }

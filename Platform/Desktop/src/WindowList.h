@@ -16,7 +16,7 @@ namespace WindowList {
 /// The one that the keyboard goes to; 0 for none.
 [[nodiscard]] std::uint32_t active();
 
-/// What kind of program a window is of, in its own words.
+/// What kind of program a window is of, in its own words: a name and a class, each with a NUL at its end.
 [[nodiscard]] std::string applicationOf(std::uint32_t window);
 
 /// Gives the keyboard to a window, whoever has it.

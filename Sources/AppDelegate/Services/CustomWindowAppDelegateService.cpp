@@ -35,12 +35,13 @@ bool isOnSomeScreen(QPoint point, const Screens &screens) {
     });
 }
 
-void logUnequalFight(const std::string &application) {
+void logUnequalFight(const std::string &application, bool asksForPassword) {
     Logger::warning([&] {
         return fmt::format(
-            "The program '{}' comes above the window or takes the keyboard again and again and "
-            "is left alone until it rests",
-            application);
+            "{} {} and is left alone until it rests",
+            application.empty() ? "A program without a name" : fmt::format("The program '{}'", application),
+            asksForPassword ? "has a dialog for a password that can't be brought above the window"
+                            : "comes above the window or takes the keyboard again and again");
     });
 }
 

@@ -16,10 +16,12 @@ public:
     /// What covers the main screen; the others show a blurred picture of what was there.
     enum class Backing { blurred, plain };
 
-    /// The window, one of the rank `front`, must outlive the cover. `giveUp` is told the application whose
-    /// window comes above or takes the keyboard so often that it is left alone, for as long as it goes on.
-    ScreenCover(Window &window, Backing onMainScreen,
-                std::function<void(const std::string &application)> giveUp);
+    /// Told the name, maybe an empty one, of an application that is left alone for as long as it goes on: its
+    /// window comes above or takes the keyboard too often, or is a dialog for a password that stays below.
+    using GiveUp = std::function<void(const std::string &application, bool asksForPassword)>;
+
+    /// The window, one of the rank `front`, must outlive the cover.
+    ScreenCover(Window &window, Backing onMainScreen, GiveUp giveUp);
     ~ScreenCover();
     ScreenCover(const ScreenCover &) = delete;
     ScreenCover &operator=(const ScreenCover &) = delete;
