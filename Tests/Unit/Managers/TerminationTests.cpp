@@ -51,6 +51,13 @@ TEST(AppTerminationService, EndsTheApplicationWhenEverySetOfTheTerminationHasRun
     EXPECT_EQ(mainQueue.runUntilEmpty(), 0U);
     dispatcher->handlers[0]();
     EXPECT_TRUE(mainQueue.runUntil([&] { return terminations == 1; }));
+
+    AppTerminationService impatient(
+        mainQueue, [] {}, dispatcher, Config<std::vector<TriggeredActionSetItem>>::always(sets),
+        std::chrono::seconds(0));
+    impatient.terminate();
+    impatient.terminate();
+    EXPECT_EQ(dispatcher->handlers.size(), 6U) << "a set that hangs doesn't take the way out away";
 }
 
 class Termination final : public AppTermination {
