@@ -31,6 +31,8 @@ const auto tapOnBody = QStringLiteral("default");
 constexpr qsizetype longestText = 10'000;
 // For a bus to answer to a connection, which the main thread waits for.
 constexpr std::chrono::milliseconds patience(500);
+// Between two looks at a silent one.
+constexpr std::chrono::seconds rest(30);
 
 QDBusMessage methodCall(const QString &method, const QVariantList &arguments = {}) {
     QDBusMessage message = QDBusMessage::createMethodCall(serviceName, path, interface, method);
@@ -121,7 +123,10 @@ QString NotificationService::connectionProblem() {
     if (!hasSessionBus()) {
         return QStringLiteral("there is no session bus");
     }
-    if (isSessionBusSilent(patience)) {
+    if (busIsSilent_.hasExpired() && isSessionBusSilent(patience)) {
+        busIsSilent_.setRemainingTime(rest);
+    }
+    if (!busIsSilent_.hasExpired()) {
         return QStringLiteral("the session bus does not answer");
     }
     // Not by the bus's address: the toolkit would then abort the process where the bus refuses it.

@@ -4,6 +4,7 @@
 
 #include <QDBusMessage>
 #include <QDBusServiceWatcher>
+#include <QDeadlineTimer>
 #include <QHash>
 #include <QObject>
 
@@ -47,6 +48,7 @@ private:
     void call(const QDBusMessage &message, const UserNotifications::Completion &completion, Next next);
 
     std::chrono::milliseconds timeout_;
+    QDeadlineTimer busIsSilent_{0}; // Taken for silent until then.
     std::weak_ptr<UserNotificationsDelegate> delegate_;
     std::unique_ptr<QDBusServiceWatcher> watcher_;
     QHash<uint, std::vector<std::string>> shown_; // The identifiers of the actions, by the service's number.

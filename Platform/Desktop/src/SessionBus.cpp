@@ -1,5 +1,7 @@
 #include <Desktop/SessionBus.h>
 
+#include <Foundation/LaunchEnvironment.h>
+
 #include <QByteArray>
 #include <QFileInfo>
 
@@ -21,7 +23,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr const char *addressVariable = "DBUS_SESSION_BUS_ADDRESS";
-// As every library of D-Bus understands it: there is none, and none is to be looked for.
+// An address of no known kind: libraries of D-Bus give up on it at once, and look for no other.
 constexpr const char *noBus = "disabled:";
 // A bus may be started by the first connection, while the login keeps the machine busy.
 constexpr std::chrono::seconds patienceAtLaunch(3);
@@ -32,13 +34,12 @@ QByteArray busAddress() {
 }
 
 /// The name of the socket, with a leading zero in place of the path for an abstract one; empty where the
-/// first of the addresses is of another kind.
+/// address is of another kind.
 QByteArray socketName(const QByteArray &address) {
-    const QByteArray first = address.split(';').constFirst();
-    if (!first.startsWith("unix:")) {
+    if (!address.startsWith("unix:")) {
         return {};
     }
-    for (const QByteArray &part : first.mid(5).split(',')) {
+    for (const QByteArray &part : address.mid(5).split(',')) {
         if (part.startsWith("path=")) {
             return QByteArray::fromPercentEncoding(part.mid(5));
         }
@@ -54,20 +55,19 @@ int timeLeft(Clock::time_point end) {
     return static_cast<int>(std::max<std::chrono::milliseconds::rep>(left.count(), 0));
 }
 
-/// Tries until the end while the queue of the socket is full. True also where nobody is to be reached.
-bool isConnected(int descriptor, const QByteArray &name, Clock::time_point end) {
+/// Tries until the end while the queue of the socket is full. Zero, or an errno.
+int connectTo(const QByteArray &name, int descriptor, Clock::time_point end) {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     std::memcpy(address.sun_path, name.constData(), static_cast<std::size_t>(name.size()));
     const auto length = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path)) + socklen_t(name.size());
-    while (::connect(descriptor, reinterpret_cast<const sockaddr *>(&address), length) != 0 &&
-           errno == EAGAIN) {
-        if (timeLeft(end) == 0) {
-            return false;
+    while (::connect(descriptor, reinterpret_cast<const sockaddr *>(&address), length) != 0) {
+        if (errno != EAGAIN || timeLeft(end) == 0) {
+            return errno;
         }
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
-    return true;
+    return 0;
 }
 
 /// Any answer is one, and so is a refusal.
@@ -86,6 +86,20 @@ bool answers(int descriptor, Clock::time_point end) {
     return count != 0;
 }
 
+enum class Bus { unreachable, talking, silent };
+
+Bus busAt(const QByteArray &name, std::chrono::milliseconds patience) {
+    const int descriptor = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    if (descriptor < 0) {
+        return Bus::unreachable;
+    }
+    const auto end = Clock::now() + patience;
+    const int error = connectTo(name, descriptor, end);
+    const bool isSilent = error == EAGAIN || (error == 0 && !answers(descriptor, end));
+    ::close(descriptor);
+    return isSilent ? Bus::silent : error == 0 ? Bus::talking : Bus::unreachable;
+}
+
 } // namespace
 
 bool hasSessionBus() {
@@ -96,18 +110,20 @@ bool hasSessionBus() {
 }
 
 bool isSessionBusSilent(std::chrono::milliseconds patience) {
-    const QByteArray name = hasSessionBus() ? socketName(busAddress()) : QByteArray();
-    if (name.isEmpty() || static_cast<std::size_t>(name.size()) >= sizeof sockaddr_un::sun_path) {
+    if (!hasSessionBus()) {
         return false;
     }
-    const int descriptor = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-    if (descriptor < 0) {
-        return false;
+    // Who connects takes the first address at which there is a socket.
+    for (const QByteArray &address : busAddress().split(';')) {
+        const QByteArray name = socketName(address);
+        if (name.isEmpty() || static_cast<std::size_t>(name.size()) >= sizeof sockaddr_un::sun_path) {
+            return false;
+        }
+        if (const Bus bus = busAt(name, patience); bus != Bus::unreachable) {
+            return bus == Bus::silent;
+        }
     }
-    const auto end = Clock::now() + patience;
-    const bool isSilent = !isConnected(descriptor, name, end) || !answers(descriptor, end);
-    ::close(descriptor);
-    return isSilent;
+    return false;
 }
 
 std::optional<std::string> leaveSilentSessionBus() {
@@ -115,11 +131,11 @@ std::optional<std::string> leaveSilentSessionBus() {
         return std::nullopt;
     }
     const std::string address = busAddress().toStdString();
+    LaunchEnvironment::keep();
     qputenv(addressVariable, noBus);
     return "The session bus at '" + address +
-           "' does not answer. Notifications, a status item, the desktop's light or dark appearance and "
-           "readers "
-           "of the screen are not available";
+           "' does not answer: notifications, a status item, the desktop's light or dark appearance and "
+           "screen readers are not available";
 }
 
 } // namespace velmar

@@ -3,6 +3,7 @@
 #include "DescriptorWatching.h"
 
 #include <Dispatch/DispatchQueue.h>
+#include <Foundation/LaunchEnvironment.h>
 
 #include <cerrno>
 #include <csignal>
@@ -86,7 +87,7 @@ int spawn(pid_t &id, const Process &process, int input, int output) {
         arguments.push_back(const_cast<char *>(argument.c_str()));
     arguments.push_back(nullptr);
     return posix_spawn(&id, process.executablePath.c_str(), actions.get(), attributes.get(), arguments.data(),
-                       environ);
+                       LaunchEnvironment::get());
 }
 
 std::optional<DescriptorWatch> watchedEnd(pid_t id, const std::string &path) {

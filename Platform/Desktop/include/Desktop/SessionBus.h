@@ -14,8 +14,8 @@ namespace velmar {
 /// toolkit does more than once, waits without end. Waits no longer than that. Any thread.
 [[nodiscard]] bool isSessionBusSilent(std::chrono::milliseconds patience);
 
-/// Has this process do without a session bus that is silent, by its environment; tells so in a sentence.
-/// Before the first thread.
+/// Has this process do without a session bus that is silent, by its environment, though not the programs that
+/// it launches; tells so in a sentence. Before the first thread.
 [[nodiscard]] std::optional<std::string> leaveSilentSessionBus();
 
 } // namespace velmar
