@@ -4,6 +4,7 @@
 #include <Views/Content/Slides/SlideViewController.h>
 #include <Views/CustomViews/Pixels.h>
 
+#include <Desktop/ShortText.h>
 #include <Desktop/Window.h>
 
 #include <QCoreApplication>
@@ -17,7 +18,7 @@ namespace {
 constexpr int longestTitle = 120; // Characters; a text may be a page.
 
 QString titleOf(const SlideViewController &slide) {
-    const QString title = slide.title().left(longestTitle).simplified();
+    const QString title = shortened(slide.title().simplified(), longestTitle);
     return title.isEmpty() ? QCoreApplication::applicationName() : title;
 }
 

@@ -1,6 +1,7 @@
 #include "NotificationService.h"
 
 #include <Desktop/SessionBus.h>
+#include <Desktop/ShortText.h>
 
 #include <Dispatch/UncaughtHandler.h>
 
@@ -43,11 +44,7 @@ QDBusMessage methodCall(const QString &method, const QVariantList &arguments = {
 QString shownText(const std::string &text) {
     QString shown = QString::fromStdString(text);
     shown.remove(QChar::Null); // Which would end it.
-    if (shown.size() > longestText) {
-        shown.truncate(shown.at(longestText - 1).isHighSurrogate() ? longestText - 1 : longestText);
-        shown.append(QChar(0x2026));
-    }
-    return shown;
+    return shortened(shown, longestText);
 }
 
 UserNotificationOutcome notShown(QString reason) {

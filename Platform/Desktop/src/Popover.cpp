@@ -18,6 +18,9 @@ constexpr int margin = 8; // and between it and the edges of the screen.
 // makes the desktop's panel the active application first.
 constexpr int sameClick = 250;
 
+// Milliseconds within which the keyboard comes back from an alert, also on a busy machine.
+constexpr int keyboardsReturn = 1000;
+
 constexpr Window::Style style{.hasTitleBar = false,
                               .isClosable = false,
                               .isResizable = false,
@@ -78,7 +81,7 @@ bool Popover::eventFilter(QObject *watched, QEvent *event) {
         hadTheKeyboard_ = true;
     } else if (event->type() == QEvent::WindowUnblocked) {
         // An alert is over: until the keyboard has come back to what it stood on, the user looks turned away.
-        QTimer::singleShot(sameClick, this, &Popover::hideIfTurnedAway);
+        QTimer::singleShot(keyboardsReturn, this, &Popover::hideIfTurnedAway);
     }
     const bool isEscape =
         event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape;

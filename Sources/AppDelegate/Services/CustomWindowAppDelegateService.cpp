@@ -14,7 +14,6 @@
 #include <fmt/format.h>
 
 #include <QApplication>
-#include <QTimer>
 
 #include <algorithm>
 #include <cstdlib>
@@ -48,7 +47,10 @@ void logUnequalFight(const std::string &application, bool asksForPassword) {
 } // namespace
 
 CustomWindowAppDelegateService::CustomWindowAppDelegateService(Surroundings surroundings)
-    : surroundings_(std::move(surroundings)) {}
+    : surroundings_(std::move(surroundings)) {
+    standInLater_.setSingleShot(true);
+    QObject::connect(&standInLater_, &QTimer::timeout, [this] { standInForStatusItem(); });
+}
 
 CustomWindowAppDelegateService::~CustomWindowAppDelegateService() = default;
 
@@ -62,10 +64,12 @@ void CustomWindowAppDelegateService::applicationDidFinishLaunching() {
 }
 
 void CustomWindowAppDelegateService::standInForStatusItem() {
-    // An alert or a menu that stands on the popover would go with it.
-    if (popover_ != nullptr &&
-        (QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr)) {
-        QTimer::singleShot(untilTriedAgain, popover_.get(), [this] { standInForStatusItem(); });
+    // An alert or a menu that stands on the popover would go with it, and without a screen there is nowhere
+    // to go yet.
+    if (statusItem_ != nullptr &&
+        (QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr ||
+         surroundings_.screens().frames.empty())) {
+        standInLater_.start(untilTriedAgain);
         return;
     }
     Logger::error(
@@ -195,6 +199,7 @@ void CustomWindowAppDelegateService::screensChanged() {
         arrange(WindowPresentation::of(*_windowConfig.wrappedValue(), screens));
         cover_->bringToFront();
     } else if (!isOnSomeScreen(window_->geometry().center(), screens)) {
+        window_->shrinkToScreen();
         place();
     }
 }

@@ -9,6 +9,7 @@
 #include <Desktop/Screens.h>
 
 #include <QPointer>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -79,6 +80,7 @@ private:
     std::unique_ptr<Popover> popover_;
     std::unique_ptr<StatusItemPlace> statusItemPlace_;
     std::unique_ptr<StatusItem> statusItem_;
+    QTimer standInLater_;
     QPointer<VelmarViewController> controller_; // Owned by its window.
 };
 
