@@ -81,9 +81,8 @@ std::shared_ptr<const Configuration> AppManager::retrieveConfigurationForReload(
     auto configuration = ConfigurationFile(configurationFileURL_).retrieveConfiguration();
     configuration->requireSlidesFor(launchConfiguration_->_window()._onScreen());
     if (!configuration->hasSameWindow(*launchConfiguration_)) {
-        Logger::warning(
-            "The section 'Window' is not that of the launch: apart from 'MenuBarSize', what has changed "
-            "in it takes effect at the next launch");
+        Logger::warning("The section 'Window' is not that of the launch: what has changed in it, apart from "
+                        "'MenuBarSize', takes effect at the next launch");
     }
     return configuration;
 }

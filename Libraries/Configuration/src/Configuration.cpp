@@ -108,8 +108,11 @@ void Configuration::validate(const CodingPath & /*path*/) const {
 }
 
 bool Configuration::hasSameWindow(const Configuration &other) const {
-    using Coding = Decodable<WindowSection>;
-    return Coding::encode(_window.rawValue()) == Coding::encode(other._window.rawValue());
+    const auto withoutPopover = [](WindowSection section) {
+        section._menuBarSize.set({});
+        return Decodable<WindowSection>::encode(section);
+    };
+    return withoutPopover(_window.rawValue()) == withoutPopover(other._window.rawValue());
 }
 
 void Configuration::requireSlidesFor(WindowSection::OnScreen mode) const {

@@ -71,7 +71,7 @@ struct Configuration {
     /// There is something to show in that mode. Throws ConfigurationError.
     void requireSlidesFor(WindowSection::OnScreen mode) const;
 
-    /// Whether the section of the window says the same.
+    /// Whether the section of the window says the same, but for the size of the popover.
     [[nodiscard]] bool hasSameWindow(const Configuration &other) const;
 };
 
