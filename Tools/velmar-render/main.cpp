@@ -134,7 +134,8 @@ int run(int argumentCount, char **arguments) {
 } // namespace velmar
 
 int main(int argumentCount, char **arguments) {
-    // The tool's process group is not ours: an interrupt of the user reaches the tool alone.
+    // The tool's process group is not ours: an interrupt of the user reaches the tool alone. It is the end of
+    // the thread that has launched us that counts, one of the tool's workers, which live as long as the tool.
     ::prctl(PR_SET_PDEATHSIG, SIGTERM);
     return velmar::run(argumentCount, arguments);
 }

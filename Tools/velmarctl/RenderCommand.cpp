@@ -23,8 +23,9 @@ std::string folderProblem(const std::string &path) {
     std::error_code ignored;
     const auto kind = std::filesystem::status(path, ignored).type();
     using enum std::filesystem::file_type;
-    const bool isFolder = kind == directory || kind == not_found || kind == none;
-    return isFolder ? std::string() : fmt::format("'{}' is there already and no folder.", path);
+    // What cannot be looked at the renderer cannot write to, and says so.
+    const bool maybeFolder = kind == directory || kind == not_found || kind == none;
+    return maybeFolder ? std::string() : fmt::format("'{}' already exists and is not a folder.", path);
 }
 
 std::string rendererPath() {

@@ -145,7 +145,7 @@ class Render(unittest.TestCase):
             names, complaint = self.render(configuration, *options, status=2, out=out)
             self.assertEqual([], names)
             self.assertRegex(complaint, f"^velmarctl: [^\n]*{fragment}[^\n]*\\.\n$")
-        self.assertIn(f"'{taken}' is there already and no folder.", self.render(configuration, status=2, out=taken)[1])
+        self.assertIn(f"'{taken}' already exists and is not a folder.", self.render(configuration, status=2, out=taken)[1])
 
     def test_nothing_goes_on_when_the_program_is_interrupted(self):
         path = self.folder / "x.plist"
