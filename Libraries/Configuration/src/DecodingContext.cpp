@@ -192,6 +192,13 @@ void DecodingContext::noteFailure(const std::string &keyPath, std::uint32_t offs
     }
 }
 
+void DecodingContext::noteFailure(const CodingPath &keyPath, std::uint32_t offset) {
+    // Every level on the way out notes it; the text of a path can be as long as the file.
+    if (notes_ != nullptr && !notes_->failure) {
+        noteFailure(keyPath.text(), offset);
+    }
+}
+
 void DecodingContext::noteUnknownKey(const CodingPath &item, std::string_view key, std::uint32_t offset,
                                      std::span<const std::string_view> knownKeys) {
     if (notes_->notes.size() >= mostNotesWithText) {

@@ -78,9 +78,9 @@ struct Decodable : decltype(detail::codingOf<T>())::type {};
 template <class Make>
 struct InPlace {
     Make make;
-    operator std::invoke_result_t<const Make &>() const {
+    operator std::invoke_result_t<const Make &>() const { // NOLINT(google-explicit-constructor)
         return make();
-    } // NOLINT(google-explicit-constructor)
+    }
 };
 template <class Make>
 InPlace(Make) -> InPlace<Make>;
@@ -188,7 +188,7 @@ struct Decodable<std::vector<T>> {
                     return Decodable<T>::decode({value, path, decoding.context});
                 }});
             } catch (...) {
-                decoding.context.noteFailure(path.text(), value.offset());
+                decoding.context.noteFailure(path, value.offset());
                 throw;
             }
         }
@@ -224,7 +224,7 @@ struct Decodable<std::map<std::string, T>> {
                                        return Decodable<T>::decode({entry.value, path, decoding.context});
                                    }});
             } catch (...) {
-                decoding.context.noteFailure(path.text(), entry.value.offset());
+                decoding.context.noteFailure(path, entry.value.offset());
                 throw;
             }
         }

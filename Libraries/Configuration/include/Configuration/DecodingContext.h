@@ -76,7 +76,9 @@ public:
     [[nodiscard]] const VariableNames &declaredVariables() const { return declaredVariables_; }
     [[nodiscard]] VariableNames takeDeclaredVariables() { return std::move(declaredVariables_); }
 
+    /// The first one counts, which is the innermost.
     void noteFailure(const std::string &keyPath, std::uint32_t offset);
+    void noteFailure(const CodingPath &keyPath, std::uint32_t offset);
     void noteUnknownKey(const CodingPath &item, std::string_view key, std::uint32_t offset,
                         std::span<const std::string_view> knownKeys);
     void noteEnumerationCase(const CodingPath &path, std::string_view value, std::uint32_t offset,

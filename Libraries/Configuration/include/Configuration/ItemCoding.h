@@ -235,7 +235,7 @@ private:
         try {
             return Decodable<typename T::TypeIdentifier>::decode({*type, typePath, decoding.context});
         } catch (const ConfigurationError &) {
-            decoding.context.noteFailure(typePath.text(), type->offset());
+            decoding.context.noteFailure(typePath, type->offset());
             if constexpr (tellsTypeFaultsAlike) {
                 throwNoType(decoding);
             }
@@ -264,6 +264,7 @@ private:
 
     template <std::size_t Index = 0>
     static T decodeAlternative(typename T::TypeIdentifier identifier, const Decoding &decoding) {
+        static_assert(enumCases<typename T::TypeIdentifier>.size() == std::variant_size_v<Value>);
         using Alternative = std::variant_alternative_t<Index, Value>;
         if constexpr (Index + 1 < std::variant_size_v<Value>) {
             if (Alternative::typeIdentifier != identifier) {

@@ -229,7 +229,7 @@ protected:
         try {
             value_ = read(Decoding{value, path, context});
         } catch (...) {
-            context.noteFailure(path.text(), value.offset());
+            context.noteFailure(path, value.offset());
             throw;
         }
         valueWasSet_ = true;

@@ -15,8 +15,8 @@ static constexpr std::size_t headerSize = 8;
 static constexpr std::size_t trailerSize = 32;
 // What an allocation takes besides its bytes.
 static constexpr std::size_t allocationOverhead = 16;
-// A text of no more bytes needs none.
-static constexpr std::size_t bytesInPlace = 15;
+// A text of no more bytes, which is a part of the file, isn't worth counting.
+static constexpr std::size_t uncountedBytes = 15;
 
 // Upper halves of markers.
 static constexpr std::uint8_t simpleType = 0x0;
@@ -179,7 +179,7 @@ void PropertyListBinaryReader::charge(std::uint64_t index, const Object &object)
     }
     const std::size_t stored = contents(object, isUtf16 ? 2 : 1).size();
     const std::size_t needed = isUtf16 ? object.count * longestUnit : stored;
-    if (needed <= (object.type == dataType ? 0 : bytesInPlace)) {
+    if (needed <= (object.type == asciiType ? uncountedBytes : 0)) {
         return;
     }
     if (!wasRead_[index] && stored <= unreadBytes_) {

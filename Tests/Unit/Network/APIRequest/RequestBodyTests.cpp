@@ -14,14 +14,14 @@ namespace {
 
 // The body of a request as it is sent, or the fault.
 std::string encoded(const std::string &body, Format format) {
-    const auto document = PropertyList::read(fmt::format(
+    const PropertyList file = PropertyList::read(fmt::format(
         "<plist version=\"1.0\"><dict><key>Slides</key><array><dict><key>Containers</key><array/></dict>"
         "</array><key>APIRequests</key><dict><key>Models</key><dict>"
         "<key>Base</key><dict><key>Body</key>{}</dict>"
         "<key>Child</key><dict><key>ParentRequest</key><string>Base</string></dict>"
         "</dict></dict></dict></plist>",
         body));
-    const auto configuration = Configuration::decode(document.value);
+    const auto configuration = Configuration::decode(file);
     const auto &request = configuration->_apiRequests()._models().models().at("Child");
     try {
         return encodedBody(*request._body.rawValue(), format, request._body.codingPath());

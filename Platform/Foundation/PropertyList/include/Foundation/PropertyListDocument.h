@@ -11,13 +11,14 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 namespace velmar {
 
 /// What a property list's file holds, to be read: one tree in a few blocks of memory, whose texts are parts
 /// of the bytes wherever they stand there as they are. Its values are valid as long as the document and the
-/// bytes are, also when it is moved.
+/// bytes are; all but the root, which goes where the document goes, also when it is moved.
 class PropertyListDocument {
 public:
     enum class Form : std::uint8_t { Xml, Binary };
@@ -43,11 +44,15 @@ public:
     /// some 120 MB for the values and what they share.
     [[nodiscard]] static PropertyListDocument read(std::span<const std::byte> bytes);
     [[nodiscard]] static PropertyListDocument read(std::string_view bytes);
-    template <std::same_as<std::string> Text>
-    static PropertyListDocument read(Text &&bytes) = delete; // They would be gone.
+    template <class Bytes>
+    requires(!std::is_lvalue_reference_v<Bytes> &&
+             (std::same_as<std::remove_cv_t<Bytes>, std::string> ||
+              std::same_as<std::remove_cv_t<Bytes>, std::vector<std::byte>>)) static PropertyListDocument
+        read(Bytes &&bytes) = delete; // They would be gone.
 
     /// A made value as a document, for a reader of documents. The value must outlive it.
     [[nodiscard]] static PropertyListDocument of(const PropertyList &value);
+    static PropertyListDocument of(const PropertyList &&value) = delete;
 
     [[nodiscard]] const PropertyListValue &root() const noexcept { return root_; }
     [[nodiscard]] Form form() const noexcept { return form_; }

@@ -140,6 +140,9 @@ struct PropertyListValue::Entry {
     PropertyListValue value;
 };
 
+// What is promised of the memory that a file takes rests on these.
+static_assert(sizeof(PropertyListValue) == 24 && sizeof(PropertyListValue::Entry) == 48);
+
 inline PropertyListValue::PropertyListValue(std::span<const Entry> entries) noexcept
     : entries_(entries.data()), size_(static_cast<std::uint32_t>(entries.size())), kind_(Kind::Dictionary) {}
 
