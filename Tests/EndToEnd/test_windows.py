@@ -219,8 +219,8 @@ class Windows(Scenario):
                 # It fills the screen with what the window manager puts around it, a title bar above all.
                 def fills_the_screen():
                     x, y, width, height = screen.window("Beside")
-                    return 0 <= x < 9 < y < 50 and SCREEN[0] - 9 < x + width <= SCREEN[0] and \
-                        SCREEN[1] - 9 < y + height <= SCREEN[1]
+                    return 0 <= x < 17 < y < 60 and SCREEN[0] - 17 < x + width <= SCREEN[0] and \
+                        SCREEN[1] - 49 < y + height <= SCREEN[1]
                 until(lambda: f"a window that fits, not {screen.window('Beside')}", fills_the_screen)
                 xdotool("windowactivate", "--sync", stacking()[-1])
                 screen.key(shortcut)

@@ -6,6 +6,7 @@
 #include "WindowManagerHints.h"
 
 #include <QCloseEvent>
+#include <QMargins>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScreen>
@@ -18,6 +19,9 @@
 namespace velmar {
 
 namespace {
+
+// Points that suffice for what window managers put around a window.
+constexpr QMargins usualFrame(8, 40, 8, 8);
 
 Qt::WindowFlags flagsOf(const Window::Style &style) {
     using Rank = Window::Style::Rank;
@@ -87,7 +91,12 @@ void Window::setSizes(QSize content, QSize minimum, QSize maximum) {
 }
 
 void Window::shrinkToScreen() {
-    const QSize room = screen()->availableGeometry().size().shrunkBy(windowHandle()->frameMargins());
+    QMargins frame = windowHandle()->frameMargins();
+    if (frame.isNull() && style_.hasTitleBar) {
+        // To be resized and moved at once while it is being framed may leave the title bar off the screen.
+        frame = usualFrame;
+    }
+    const QSize room = screen()->availableGeometry().size().shrunkBy(frame);
     if (size() != size().boundedTo(room)) {
         setSizes(size().boundedTo(room), minimumSize().boundedTo(room), maximumSize());
     }

@@ -176,6 +176,10 @@ void CustomWindowAppDelegateService::arrange(const WindowPresentation &presentat
     if (presentation.origin) {
         window_->moveFrame(*presentation.origin);
     } else {
+        // On another screen than the main one it waits for the frame.
+        if (!_windowConfig.wrappedValue()->_screenIndex()) {
+            window_->shrinkToScreen();
+        }
         place();
     }
     if (presentation.isWholeScreen) {
