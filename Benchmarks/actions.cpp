@@ -2,11 +2,11 @@
 
 #include "Median.h"
 
+#include <Actions/Action.h>
+#include <Actions/ActionDispatcher.h>
 #include <Configuration/ActionSetItem.h>
 #include <Dispatch/DispatchGroup.h>
 #include <Dispatch/DispatchQueue.h>
-#include <Managers/ActionDispatcher.h>
-#include <Models/Actions/Action.h>
 
 #include <fmt/format.h>
 

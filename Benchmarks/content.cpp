@@ -2,7 +2,7 @@
 
 #include "Median.h"
 
-#include <Managers/ContentManager.h>
+#include <Variables/ContentManager.h>
 
 #include <algorithm>
 #include <chrono>

@@ -6,9 +6,9 @@
 #include <Configuration/Configuration.h>
 #include <Desktop/DesktopAppearance.h>
 #include <Desktop/QtMainQueue.h>
-#include <Managers/AppTerminationManager.h>
-#include <Managers/ConditionEvaluator.h>
-#include <Managers/ContentManager.h>
+#include <Termination/AppTerminationManager.h>
+#include <Variables/ConditionEvaluator.h>
+#include <Variables/ContentManager.h>
 #include <Views/Content/ContentView/ContentViewController.h>
 #include <Views/Content/ContentView/ContentViewModel.h>
 #include <Views/CustomViews/Theme.h>

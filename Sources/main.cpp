@@ -1,4 +1,7 @@
+#include <Admission/LaunchOptions.h>
 #include <AppDelegate/AppDelegate.h>
+#include <Base/ProcessEnd.h>
+#include <Base/VelmarLogDestinations.h>
 #include <Desktop/DesktopAlertPresenter.h>
 #include <Desktop/DesktopApplication.h>
 #include <Desktop/DesktopPasteboard.h>
@@ -7,9 +10,6 @@
 #include <Desktop/Display.h>
 #include <Desktop/SessionBus.h>
 #include <Dispatch/UncaughtHandler.h>
-#include <Extensions/VelmarLogDestinations.h>
-#include <Managers/LaunchOptions.h>
-#include <Managers/ProcessEnd.h>
 #include <System/SystemIdentityAuthority.h>
 #include <System/SystemRunningApplications.h>
 #include <logger/Logger.h>

@@ -10,7 +10,7 @@
 # A library <name> is the target velmar_<name> with the alias velmar::<name>. Its public headers lie below HEADER_ROOT
 # (by default the folder "include" beside its CMakeLists.txt), which is the only include directory that it hands on. One
 # without SOURCES consists of its headers.
-# LAYER is the floor of the house; a dependency on a higher floor stops the configuration.
+# LAYER is the floor of the house. A dependency on a higher floor, or a circle of dependencies, stops the configuration.
 
 include(GNUInstallDirs)
 
@@ -40,7 +40,7 @@ function(_velmar_check_layers target)
     endforeach()
 endfunction()
 
-# Called once, after the last target: no dependency climbs.
+# Called once, after the last target: no dependency climbs, and none closes a circle.
 function(velmar_verify_layers)
     get_property(edges GLOBAL PROPERTY VELMAR_EDGES)
     foreach(edge IN LISTS edges)
@@ -55,7 +55,24 @@ function(velmar_verify_layers)
         if(high GREATER low)
             message(FATAL_ERROR "${from} (floor ${low}) depends on ${to} (floor ${high}): dependencies never climb")
         endif()
+        list(APPEND targets ${from} ${to})
     endforeach()
+    # Removes the edges at both ends of the graph until none are left. The rest is what lies on or between circles.
+    while(edges)
+        set(left ${edges})
+        foreach(target IN LISTS targets)
+            if(NOT edges MATCHES "(^|;)${target}>")
+                list(FILTER left EXCLUDE REGEX ">${target}$")
+            endif()
+            if(NOT edges MATCHES ">${target}(;|$)")
+                list(FILTER left EXCLUDE REGEX "^${target}>")
+            endif()
+        endforeach()
+        if(left STREQUAL edges)
+            message(FATAL_ERROR "These dependencies contain a circle: ${edges}")
+        endif()
+        set(edges ${left})
+    endwhile()
 endfunction()
 
 function(velmar_add_library name)

@@ -1,5 +1,9 @@
 #include <AppDelegate/AppDelegate.h>
 
+#include <Actions/ActionSetManager.h>
+#include <Actions/ActionSurroundings.h>
+#include <Actions/DispatchableItem.h>
+#include <Admission/ConfigurationRefusal.h>
 #include <AppDelegate/ApplicationMenu.h>
 #include <AppDelegate/Localization.h>
 #include <AppDelegate/Services/ActionSetsAppDelegateService.h>
@@ -7,15 +11,11 @@
 #include <AppDelegate/Services/ApplicationTerminationAppDelegateService.h>
 #include <AppDelegate/Services/CustomWindowAppDelegateService.h>
 #include <AppDelegate/Services/LoginRelaunchAppDelegateService.h>
-#include <Constants/Domain.h>
-#include <Managers/ActionSetManager.h>
-#include <Managers/AppTerminationService.h>
-#include <Managers/ConfigurationRefusal.h>
-#include <Managers/ContentManager.h>
-#include <Managers/PopulatePlugin.h>
-#include <Managers/TriggerNotificationActionsManager.h>
-#include <Models/Actions/ActionSurroundings.h>
-#include <Models/Actions/DispatchableItem.h>
+#include <Base/Domain.h>
+#include <Core/TriggerNotificationActionsManager.h>
+#include <Termination/AppTerminationService.h>
+#include <Variables/ContentManager.h>
+#include <Variables/PopulatePlugin.h>
 #include <Views/CustomViews/Theme.h>
 
 #include <Desktop/DesktopAppearance.h>

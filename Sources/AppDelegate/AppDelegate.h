@@ -1,17 +1,17 @@
 #pragma once
 
+#include <Actions/ActionDispatcher.h>
+#include <Admission/LaunchOptions.h>
 #include <AppDelegate/OpenedWindow.h>
 #include <AppDelegate/ServiceableAppDelegate.h>
+#include <Base/Shared.h>
 #include <Configuration/Configuration.h>
 #include <Configuration/Plugin.h>
-#include <Managers/ActionDispatcher.h>
-#include <Managers/AppManager.h>
-#include <Managers/AppTerminationManager.h>
-#include <Managers/Config.h>
-#include <Managers/LaunchOptions.h>
-#include <Managers/LaunchWindow.h>
-#include <Managers/Shared.h>
-#include <Managers/TerminationScript.h>
+#include <Core/AppManager.h>
+#include <Core/LaunchWindow.h>
+#include <Settings/Config.h>
+#include <Termination/AppTerminationManager.h>
+#include <Termination/TerminationScript.h>
 #include <Views/Content/ContentView/ContentViewModel.h>
 
 #include <Desktop/DesktopApplication.h>
@@ -80,7 +80,7 @@ private:
     std::optional<Shared<AppTerminationManager>::Scope> appTerminationManager_;
     TerminationScript terminationScript_;
     std::shared_ptr<CustomWindowAppDelegateService> customWindow_;
-    std::optional<Shared<AppManager>::Scope> appManager_;
+    std::optional<AppManager::Scope> appManager_;
     std::optional<Plugins::Registration> populatePlugin_;
 };
 

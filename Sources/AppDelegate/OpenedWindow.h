@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Models/Actions/SlideWindowPresenter.h>
+#include <Actions/SlideWindowPresenter.h>
 
 #include <Desktop/Screens.h>
 #include <Dispatch/MainQueue.h>

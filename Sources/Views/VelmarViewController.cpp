@@ -9,8 +9,8 @@
 #include <Views/Navigation/NavigationButton.h>
 #include <Views/Navigation/NavigationViewController.h>
 
-#include <Constants/TerminationNotifications.h>
 #include <Interaction/AlertPresenter.h>
+#include <Termination/TerminationNotifications.h>
 
 #include <QAccessibleWidget>
 #include <QKeyEvent>

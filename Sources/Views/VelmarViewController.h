@@ -3,7 +3,7 @@
 #include <Configuration/Configuration.h>
 #include <Dispatch/MainQueue.h>
 #include <Foundation/NotificationCenter.h>
-#include <Managers/Config.h>
+#include <Settings/Config.h>
 #include <Views/Content/ContentView/ContentViewModel.h>
 
 #include <QWidget>

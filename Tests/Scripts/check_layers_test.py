@@ -15,13 +15,14 @@ HEADERS = {
     "Platform/Testing/include/Testing/FakeTimer.h": "",
     "Libraries/logger/include/logger/Logger.h": "",
     "Libraries/Configuration/include/Configuration/Book.h": "",
-    "Sources/Managers/AppManager.h": "",
+    "Sources/Core/include/Core/AppManager.h": "",
+    "Sources/Variables/include/Variables/Content.h": "",
     "Sources/Views/Window.h": "",
 }
 ALLOWED = [
-    ("Sources/Managers/AppManager.cpp", "Configuration/Book.h"),
+    ("Sources/Core/src/AppManager.cpp", "Configuration/Book.h"),
     ("Sources/Views/Window.cpp", "QWidget"),
-    ("Sources/Views/Window.cpp", "Managers/AppManager.h"),
+    ("Sources/Views/Window.cpp", "Core/AppManager.h"),
     ("Platform/Desktop/src/Alert.cpp", "QtWidgets/QMessageBox"),
     ("Platform/Foundation/src/URL.cpp", "unicode/unistr.h"),
     ("Libraries/logger/Tests/LoggerTest.cpp", "Testing/FakeTimer.h"),
@@ -29,12 +30,12 @@ ALLOWED = [
 REFUSED = [
     ("Platform/Foundation/src/URL.cpp", "logger/Logger.h", "never climb"),
     ("Libraries/logger/src/Logger.cpp", "Configuration/Book.h", "never climb"),
-    ("Sources/Managers/AppManager.cpp", "Views/Window.h", "never climb"),
-    ("Sources/Managers/AppManager.cpp", "QString", "Qt is used in"),
+    ("Sources/Core/src/AppManager.cpp", "Views/Window.h", "never climb"),
+    ("Sources/Core/src/AppManager.cpp", "QString", "Qt is used in"),
     ("Libraries/logger/src/Logger.cpp", "asio.hpp", "asio is used in"),
     ("Sources/main.cpp", "unicode/regex.h", "ICU is used in"),
     ("Platform/Desktop/src/Alert.cpp", "logger/Logger.h", "may use dispatch, foundation, interaction only"),
-    ("Sources/Managers/AppManager.cpp", "Testing/FakeTimer.h", "fakes are for tests"),
+    ("Sources/Core/src/AppManager.cpp", "Testing/FakeTimer.h", "fakes are for tests"),
 ]
 
 
@@ -65,6 +66,17 @@ class CheckLayers(unittest.TestCase):
                               ("Platform/Dispatch/src/Timer.cpp", "Foundation/URL.h")])
         self.assertEqual(1, result.returncode)
         self.assertIn("in a circle: dispatch > foundation > dispatch", result.stdout)
+
+    def test_finds_a_circle_within_the_application(self):
+        result = self.run_on([("Sources/Core/src/AppManager.cpp", "Variables/Content.h"),
+                              ("Sources/Variables/src/Content.cpp", "Core/AppManager.h")])
+        self.assertEqual(1, result.returncode)
+        self.assertIn("in a circle: core > variables > core", result.stdout)
+
+    def test_names_a_file_of_the_application_outside_every_room(self):
+        result = self.run_on([("Sources/Managers/Content.cpp", "Variables/Content.h")])
+        self.assertEqual(1, result.returncode)
+        self.assertIn("Sources/Managers/Content.cpp:1: no room is declared", result.stdout)
 
 
 if __name__ == "__main__":

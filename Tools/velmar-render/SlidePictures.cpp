@@ -1,9 +1,9 @@
 #include "SlidePictures.h"
 
+#include <Actions/SlidesActionManager.h>
+#include <Base/NavigationNotifications.h>
 #include <Configuration/Configuration.h>
-#include <Constants/NavigationNotifications.h>
-#include <Managers/AppManager.h>
-#include <Managers/SlidesActionManager.h>
+#include <Core/AppManager.h>
 #include <Views/CustomViews/Pixels.h>
 
 #include <QCoreApplication>

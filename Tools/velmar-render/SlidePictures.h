@@ -3,7 +3,7 @@
 #include <Desktop/DesktopAlertPresenter.h>
 #include <Dispatch/MainThreadQueue.h>
 #include <Foundation/NotificationCenter.h>
-#include <Managers/AppTerminationManager.h>
+#include <Termination/AppTerminationManager.h>
 #include <Views/VelmarViewController.h>
 
 #include <QImage>

@@ -9,15 +9,15 @@
 #include "WarningLines.h"
 
 #include <AppDelegate/Localization.h>
+#include <Base/Shared.h>
 #include <Configuration/Plugin.h>
+#include <Core/AppManager.h>
 #include <Desktop/DesktopAppearance.h>
 #include <Dispatch/UncaughtHandler.h>
 #include <Foundation/FileManager.h>
-#include <Managers/AppManager.h>
-#include <Managers/ContentManager.h>
-#include <Managers/PopulatePlugin.h>
-#include <Managers/Shared.h>
 #include <PrintableText.h>
+#include <Variables/ContentManager.h>
+#include <Variables/PopulatePlugin.h>
 #include <Views/CustomViews/Theme.h>
 #include <logger/ScopedDestinations.h>
 
@@ -91,7 +91,7 @@ void write(const QImage &image, const std::string &directory, const std::string 
 }
 
 void render(const RenderOptions &options, const DesktopAppearance &appearance) {
-    const Shared<AppManager>::Scope appManager(std::make_shared<AppManager>(URL::file(options.file)));
+    const AppManager::Scope appManager(std::make_shared<AppManager>(URL::file(options.file)));
     ContentManager::shared()->registerVariables(*AppManager::shared()->configuration());
     for (const auto &[name, value] : options.variables) {
         ContentManager::shared()->updateVariable(name, value, false);

@@ -6,14 +6,14 @@
 #include <UnreachableSlides.h>
 #include <UnusedNames.h>
 
+#include <Admission/ConfigurationFile.h>
+#include <Base/VelmarError.h>
 #include <Configuration/Configuration.h>
 #include <Configuration/DecodingNotes.h>
 #include <Foundation/FileManager.h>
 #include <Foundation/LocalizedError.h>
 #include <Foundation/PropertyListDocument.h>
 #include <Foundation/URL.h>
-#include <Managers/ConfigurationFile.h>
-#include <Models/VelmarError.h>
 #include <logger/BaseDestination.h>
 #include <logger/ScopedDestinations.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <Actions/Dispatchable.h>
 #include <Dispatch/MainThreadQueue.h>
-#include <Models/Actions/Dispatchable.h>
 
 #include <atomic>
 #include <memory>

@@ -3,14 +3,14 @@
 #include <ReportedAction.h>
 #include <TerminalInterface.h>
 
+#include <Actions/Action.h>
+#include <Actions/ActionDispatcher.h>
+#include <Actions/ActionSurroundings.h>
+#include <Actions/DispatchableItem.h>
 #include <Configuration/Configuration.h>
 #include <Dispatch/DispatchQueue.h>
-#include <Managers/ActionDispatcher.h>
-#include <Managers/ConditionEvaluator.h>
-#include <Managers/PopulatePlugin.h>
-#include <Models/Actions/Action.h>
-#include <Models/Actions/ActionSurroundings.h>
-#include <Models/Actions/DispatchableItem.h>
+#include <Variables/ConditionEvaluator.h>
+#include <Variables/PopulatePlugin.h>
 #include <logger/BaseDestination.h>
 #include <logger/ScopedDestinations.h>
 

@@ -1,11 +1,11 @@
 #pragma once
 
+#include <Actions/SlideWindowPresenter.h>
+#include <Actions/SlidesActionManager.h>
 #include <Interaction/AlertPresenter.h>
 #include <Interaction/SimplePasteboard.h>
 #include <Interaction/SoundPlayer.h>
 #include <Interaction/UserNotifications.h>
-#include <Managers/SlidesActionManager.h>
-#include <Models/Actions/SlideWindowPresenter.h>
 
 #include <Dispatch/MainQueue.h>
 

@@ -1,6 +1,6 @@
 #include <AppDelegate/Services/ActionSetsAppDelegateService.h>
 
-#include <Models/Actions/ActionSet.h>
+#include <Actions/ActionSet.h>
 
 namespace velmar {
 

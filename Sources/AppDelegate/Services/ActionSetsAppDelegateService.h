@@ -1,7 +1,7 @@
 #pragma once
 
+#include <Actions/ActionSetManager.h>
 #include <AppDelegate/AppDelegateService.h>
-#include <Managers/ActionSetManager.h>
 
 #include <memory>
 #include <utility>

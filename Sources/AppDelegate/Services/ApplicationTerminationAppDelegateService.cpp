@@ -1,7 +1,7 @@
 #include <AppDelegate/Services/ApplicationTerminationAppDelegateService.h>
 
+#include <Base/LoggerExtensions.h>
 #include <Desktop/MainMenu.h>
-#include <Extensions/LoggerExtensions.h>
 
 #include <utility>
 #include <vector>

@@ -2,8 +2,8 @@
 
 #include <AppDelegate/AppDelegateService.h>
 #include <Configuration/Configuration.h>
-#include <Managers/AppTerminationManager.h>
-#include <Managers/Config.h>
+#include <Settings/Config.h>
+#include <Termination/AppTerminationManager.h>
 
 #include <memory>
 

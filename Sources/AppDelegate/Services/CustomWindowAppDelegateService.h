@@ -2,8 +2,8 @@
 
 #include <AppDelegate/AppDelegateService.h>
 #include <Configuration/Configuration.h>
-#include <Managers/Config.h>
-#include <Managers/LaunchWindow.h>
+#include <Core/LaunchWindow.h>
+#include <Settings/Config.h>
 #include <Views/VelmarViewController.h>
 
 #include <Desktop/Screens.h>

@@ -1,6 +1,6 @@
 #include <AppDelegate/Services/WindowPlacement.h>
 
-#include <Models/VelmarError.h>
+#include <Base/VelmarError.h>
 
 #include <Desktop/Window.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <Dispatch/MainQueue.h>
-#include <Managers/ObservableContent.h>
+#include <Variables/ObservableContent.h>
 
 #include <functional>
 #include <memory>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Models/Appearance/Color.h>
+#include <Views/Appearance/Color.h>
 
 #include <QColor>
 

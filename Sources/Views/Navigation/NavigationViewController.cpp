@@ -1,8 +1,8 @@
 #include <Views/Navigation/NavigationViewController.h>
 
-#include <Constants/NavigationNotifications.h>
+#include <Base/NavigationNotifications.h>
 #include <Desktop/DesktopAppearance.h>
-#include <Models/Appearance/Color.h>
+#include <Views/Appearance/Color.h>
 #include <Views/CustomViews/Colors.h>
 #include <Views/CustomViews/Theme.h>
 #include <Views/Navigation/NavigationButton.h>

@@ -1,6 +1,6 @@
 #include <Views/Navigation/NavigationViewModel.h>
 
-#include <Constants/NavigationNotifications.h>
+#include <Base/NavigationNotifications.h>
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <Managers/ActionDispatcher.h>
-#include <Managers/Trigger.h>
+#include <Actions/ActionDispatcher.h>
+#include <Core/Trigger.h>
 #include <Views/Content/Components/Base.h>
 
 #include <memory>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <Configuration/ComponentItem.h>
-#include <Managers/ConditionEvaluator.h>
+#include <Variables/ConditionEvaluator.h>
 
 #include <cstddef>
 #include <functional>

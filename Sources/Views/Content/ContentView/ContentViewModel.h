@@ -1,13 +1,13 @@
 #pragma once
 
+#include <Actions/SlidesActionManager.h>
 #include <Configuration/Configuration.h>
+#include <Core/LaunchWindow.h>
 #include <Dispatch/MainQueue.h>
 #include <Foundation/NotificationCenter.h>
-#include <Managers/AppTerminationManager.h>
-#include <Managers/Config.h>
-#include <Managers/ContentUpdater.h>
-#include <Managers/LaunchWindow.h>
-#include <Managers/SlidesActionManager.h>
+#include <Settings/Config.h>
+#include <Termination/AppTerminationManager.h>
+#include <Variables/ContentUpdater.h>
 
 #include <cstdint>
 #include <functional>

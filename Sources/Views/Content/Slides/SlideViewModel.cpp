@@ -1,6 +1,6 @@
 #include <Views/Content/Slides/SlideViewModel.h>
 
-#include <Constants/NavigationNotifications.h>
+#include <Base/NavigationNotifications.h>
 
 #include <logger/Logger.h>
 

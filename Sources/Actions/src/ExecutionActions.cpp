@@ -1,0 +1,22 @@
+#include <Actions/ExecutionActions.h>
+
+#include <Actions/ActionSurroundings.h>
+#include <Base/LoggerExtensions.h>
+
+#include <fmt/format.h>
+
+namespace velmar::Actions {
+
+void TerminateApp::perform() {
+    surroundings().terminateApp();
+    complete(true);
+}
+
+void Unavailable::perform() {
+    LoggerExtensions::error(LogSubject::actions, [this] {
+        return fmt::format("Actions of the type '{}' cannot be run yet", typeOf(item()));
+    });
+    complete(false);
+}
+
+} // namespace velmar::Actions
