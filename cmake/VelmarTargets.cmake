@@ -126,7 +126,6 @@ function(velmar_add_test name)
     set(target test_${name})
     add_executable(${target} ${ARG_SOURCES})
     set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
-    target_compile_definitions(${target} PRIVATE VELMAR_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
     target_link_libraries(${target} PRIVATE velmar_options ${ARG_DEPS} GTest::gmock GTest::gtest_main)
     add_test(NAME ${name} COMMAND ${target})
     # No test reaches a bus, a display or a home directory of the machine by accident.
