@@ -117,7 +117,7 @@ void AppDelegate::applicationWillFinishLaunching() {
     }
     ContentManager::shared()->registerVariables(*AppManager::shared()->configuration());
     makeActionSetManager();
-    populatePlugin_.emplace(Plugins::registerPlugin(std::make_shared<const AppManager::PopulatePlugin>()));
+    populatePlugin_.emplace(Plugins::registerPlugin(std::make_shared<const PopulatePlugin>()));
     ServiceableAppDelegate::applicationWillFinishLaunching();
 }
 

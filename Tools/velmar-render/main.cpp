@@ -96,7 +96,7 @@ void render(const RenderOptions &options, const DesktopAppearance &appearance) {
     for (const auto &[name, value] : options.variables) {
         ContentManager::shared()->updateVariable(name, value, false);
     }
-    const auto plugin = Plugins::registerPlugin(std::make_shared<const AppManager::PopulatePlugin>());
+    const auto plugin = Plugins::registerPlugin(std::make_shared<const PopulatePlugin>());
     const QSize size = sizeOf(options);
     FileManager::defaultManager().createDirectory(options.directory, 0755);
     SlidePictures pictures(size, appearance);

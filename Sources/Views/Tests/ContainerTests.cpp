@@ -79,7 +79,7 @@ protected:
     Shared<ContentManager>::Scope scope{manager};
     std::shared_ptr<ConditionEvaluator> conditions =
         std::make_shared<ConditionEvaluator>(ConditionEvaluator::NamedConditions(), manager);
-    Plugins::Registration plugin = Plugins::registerPlugin(std::make_shared<AppManager::PopulatePlugin>());
+    Plugins::Registration plugin = Plugins::registerPlugin(std::make_shared<PopulatePlugin>());
     std::unique_ptr<ContainerViewController> view;
 };
 
