@@ -31,7 +31,6 @@ void expectError(const std::function<void()> &function, const std::string &text)
 class Files : public testing::Test {
 protected:
     [[nodiscard]] std::string read(const std::string &path) const { return manager.contents(path, 1000); }
-    /// Reads a file through a handle.
     static std::function<void()> reading(const std::string &path) {
         return [path] { static_cast<void>(FileHandle::openItself(path).readAll(100)); };
     }
@@ -90,7 +89,7 @@ TEST_F(Files, ReadingStopsAtTheLimit) {
     EXPECT_EQ(manager.contents(file, 6), "123456");
     const std::string tooLarge = "The file '" + file + "' is larger than the 5 bytes allowed.";
     expectError<FileError::TooLarge>([&] { static_cast<void>(manager.contents(file, 5)); }, tooLarge);
-    // Its size says 0 and its content is longer: the size is not what is trusted.
+    // The size of this file is 0 although it has content, so the size must not be trusted.
     EXPECT_EQ(manager.attributesOfItem("/proc/self/status").size, 0U);
     EXPECT_GT(manager.contents("/proc/self/status", 100000).size(), 100U);
     expectError<FileError::TooLarge>([&] { static_cast<void>(manager.contents("/proc/self/status", 10)); },

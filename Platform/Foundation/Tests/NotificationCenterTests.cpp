@@ -77,7 +77,7 @@ TEST(NotificationCenter, LetsObserversMoveAndOutliveIt) {
         NotificationObserver moved = std::move(token);
         centre.post("a");
         token = std::move(moved);
-        token = centre.addObserver("a", [&] { called += 10; }); // ends the former
+        token = centre.addObserver("a", [&] { called += 10; }); // ends the previous registration
         auto &itself = token;
         token = std::move(itself);
         centre.post("a");

@@ -27,7 +27,7 @@ Process shell(const std::string &script) {
     return {"/bin/sh", {"-c", script}};
 }
 
-// What a chain prints; cut at the limit, the text ends in "...".
+// Returns the output of a chain, with "..." appended if it was cut at the limit.
 std::string outputOf(const std::vector<Process> &processes, std::size_t limit = 1 << 20) {
     const auto promise = std::make_shared<std::promise<ProcessOutput>>();
     auto future = promise->get_future();
@@ -58,7 +58,7 @@ TEST(ProcessChain, GivesAChildNothingButItsStandardStreams) {
     sigaddset(&some, SIGTERM);
     pthread_sigmask(SIG_BLOCK, &some, nullptr);
     const auto former = signal(SIGPIPE, SIG_IGN);
-    // The shell opens a descriptor for the directory it lists; its number is 3.
+    // Descriptor 3 is the directory that ls lists.
     EXPECT_EQ(outputOf({{"/bin/ls", {"/proc/self/fd"}}}), "0\n1\n2\n3\n");
     for (const std::string name : {"PIPE", "TERM"})
         EXPECT_EQ(outputOf({shell("kill -" + name + " $$; echo immune")}), "");
@@ -85,17 +85,17 @@ TEST(ProcessChain, OneThatIsGivenUpEndsWhatRuns) {
 }
 
 TEST(ProcessChain, RunningOutOfDescriptorsIsAnError) {
-    outputOf({shell("true")}); // the pool has its own
+    outputOf({shell("true")}); // opens the pool's own descriptors
     rlimit former{};
     getrlimit(RLIMIT_NOFILE, &former);
-    for (rlim_t room = 4; room < 40; ++room) { // wherever it fails
+    for (rlim_t room = 4; room < 40; ++room) { // covers every point of failure
         const rlimit few{room, former.rlim_max};
         setrlimit(RLIMIT_NOFILE, &few);
         std::string outcome;
         try {
             outcome = outputOf(std::vector<Process>(12, {"/bin/cat", {}}));
         } catch (const ProcessError &error) {
-            setrlimit(RLIMIT_NOFILE, &former); // the sanitizer's own checks need descriptors, too
+            setrlimit(RLIMIT_NOFILE, &former); // the sanitizer's checks need descriptors
             outcome = error.errorDescription();
         }
         setrlimit(RLIMIT_NOFILE, &former);
@@ -104,7 +104,7 @@ TEST(ProcessChain, RunningOutOfDescriptorsIsAnError) {
     EXPECT_TRUE(hasNoChildrenSoon());
 }
 
-// Each in a process of its own.
+// Every case runs in its own process.
 TEST(ProcessChainDeathTest, WorksInUnusualSurroundingsAndHoldsUpNoEnd) {
     testing::FLAGS_gtest_death_test_style = "threadsafe";
     const auto run = [] {

@@ -29,7 +29,7 @@ TEST(RegularExpression, FindsAllMatchesInOrder) {
 }
 
 TEST(RegularExpression, CountsRangesInBytesOfTheText) {
-    // One, two, three and four bytes; the last one is two units of the engine.
+    // Characters of one to four bytes; the last one is two UTF-16 units.
     const std::string text = "aé€😀b";
     const auto match = RegularExpression("(€)(.)(b)?(c)?").firstMatch(text);
     ASSERT_TRUE(match);
@@ -39,12 +39,12 @@ TEST(RegularExpression, CountsRangesInBytesOfTheText) {
     EXPECT_EQ(match->group(3), (TextRange{10, 1}));
     EXPECT_EQ(match->group(4), std::nullopt);
     EXPECT_EQ(match->group(5), std::nullopt);
-    // A group before the match itself.
+    // A lookbehind group lies before the match.
     EXPECT_EQ(RegularExpression("(?<=(é))€").firstMatch(text)->group(1), (TextRange{1, 2}));
-    // Ill-formed bytes are characters too, and places behind them stay right.
+    // Ill-formed bytes count as characters and don't shift later positions.
     EXPECT_EQ(RegularExpression("x").firstMatch("\xFF\xE2\x82x")->range(), (TextRange{3, 1}));
     EXPECT_EQ(RegularExpression(".").matches("\xFF\xE2\x82x").size(), 3U);
-    // A NUL is a character like others.
+    // NUL is an ordinary character.
     EXPECT_EQ(RegularExpression("b").firstMatch(std::string_view("a\0b", 3))->range(), (TextRange{2, 1}));
 }
 
@@ -90,7 +90,7 @@ TEST(RegularExpression, TellsARunawayMatchApartFromNoMatch) {
     const struct {
         const char *pattern;
         std::string text;
-        bool isStepLimit; // Or else the engine's stack.
+        bool isStepLimit; // otherwise a stack overflow
     } rows[] = {{"(a+)+b", std::string(60, 'a') + "c", true}, {"(a|b)*b", std::string(500'000, 'a'), false}};
     for (const auto &[pattern, text, isStepLimit] : rows) {
         const RegularExpression expression(pattern, {}, 200);

@@ -19,13 +19,13 @@ TEST(UnicodeText, EqualsByCanonicalEquivalence) {
         {"abc", "abC", false},
         {composed, decomposed, true},
         {composed, "cafe", false},
-        {"\u212B", "A\u030A", true},              // the sign of the Ångström
-        {"a\u0323\u0307", "a\u0307\u0323", true}, // marks in another order
-        {"\uFB01", "fi", false},                  // compatible only
+        {"\u212B", "A\u030A", true},              // Ångström sign
+        {"a\u0323\u0307", "a\u0307\u0323", true}, // different order of marks
+        {"\uFB01", "fi", false},                  // compatibility equivalence only
         {"\U0001100A", "\U0001100B", false},
         {"\xFF"
          "e\u0301",
-         "\xFF\u00E9", true}, // ill-formed bytes stay
+         "\xFF\u00E9", true}, // ill-formed bytes are kept
     };
     for (const auto &each : cases) {
         EXPECT_EQ(UnicodeText::isEqual(each.left, each.right), each.isEqual)
@@ -40,7 +40,7 @@ TEST(UnicodeText, OrdersByComposedCodePoints) {
                                           composed, "d", "\u00E9", "\uFFFD", "\U00010000"};
     for (std::size_t index = 1; index < std::size(ascending); ++index)
         EXPECT_TRUE(UnicodeText::compare(ascending[index - 1], ascending[index]) < 0) << ascending[index];
-    // "e" and its accent sort as "é", behind "z".
+    // A decomposed "é" sorts as the composed one, after "z".
     EXPECT_TRUE(UnicodeText::compare("e\u0301", "z") > 0);
 }
 
@@ -50,7 +50,7 @@ TEST(UnicodeText, IsTrimmedOfWhiteSpace) {
         {" \t\r\n\v\f", ""},
         {"a b", "a b"},
         {"\u00A0\u2028 \u00E9t\u00E9 \u3000\u0085", "\u00E9t\u00E9"},
-        {" \xA0 ", "\xA0"}, // ill-formed: a continuation byte alone
+        {" \xA0 ", "\xA0"}, // ill-formed: a lone continuation byte
         {"a \x80\x80\x80", "a \x80\x80\x80"},
     };
     for (const auto &[text, trimmed] : rows)
@@ -58,7 +58,6 @@ TEST(UnicodeText, IsTrimmedOfWhiteSpace) {
 }
 
 TEST(UnicodeText, FindsPartsBetweenCharacters) {
-    // Whether the text contains the part, begins and ends with it.
     const struct {
         std::string_view text, part;
         bool contains, begins, ends;

@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Afterwards none of the variables but HOME is set.
+// Leaves only HOME set after each test.
 class UserDirectoriesTest : public testing::Test {
 protected:
     void TearDown() override {
@@ -81,7 +81,7 @@ TEST_F(UserDirectoriesTest, OfRootAreNeverThoseOfSomebodyElse) {
     const std::string open = directory.path("open");
     fs::create_directory(open);
     ASSERT_EQ(chmod(open.c_str(), 01777), 0);
-    const std::string below = theirs + "/roots"; // which they can replace
+    const std::string below = theirs + "/roots"; // other users can replace it
     fs::create_directory(below);
     const std::string link = directory.path("link");
     fs::create_symlink(directory.path(), link);

@@ -6,8 +6,8 @@
 
 namespace velmar {
 
-/// Asks one of the system's reentrant look-ups, with a buffer that grows until the record fits, and gives
-/// what `make` makes of the record. Absent if there is none or the look-up fails.
+/// Calls a reentrant lookup function of the system with a buffer that grows until the record fits, and
+/// converts the record with `make`. Returns std::nullopt if there is no record or the lookup fails.
 template <class Account, class Record, class Key, class Lookup, class Make>
 std::optional<Account> accountFrom(Key key, Lookup lookup, const Make &make) {
     std::vector<char> buffer(1024);

@@ -15,7 +15,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-extern "C" { // which the header of this C library forgets
+extern "C" { // the libc header lacks it
 #include <sys/pidfd.h>
 }
 
@@ -23,7 +23,7 @@ namespace velmar {
 
 namespace {
 
-// The standard streams and nothing else.
+// File actions that pass only the standard streams on to the child.
 class FileActions {
 public:
     FileActions(int input, int output) {
@@ -50,7 +50,7 @@ private:
     int error_ = 0;
 };
 
-// A process group of its own, and signals as a program expects them, whatever the calling thread blocks.
+// Spawn attributes: a new process group and default signal handling, regardless of the calling thread.
 class Attributes {
 public:
     Attributes() {
@@ -75,13 +75,13 @@ private:
     posix_spawnattr_t attributes_{};
 };
 
-// Zero, or an errno.
+// Returns 0 or an errno.
 int spawn(pid_t &id, const Process &process, int input, int output) {
     const FileActions actions(input, output);
     if (actions.error() != 0)
         return actions.error();
     const Attributes attributes;
-    // The call takes the texts as they are in C; it changes none of them.
+    // posix_spawn takes non-const strings but doesn't modify them.
     std::vector<char *> arguments{const_cast<char *>(process.executablePath.c_str())};
     for (const std::string &argument : process.arguments)
         arguments.push_back(const_cast<char *>(argument.c_str()));
@@ -94,7 +94,7 @@ std::optional<DescriptorWatch> watchedEnd(pid_t id, const std::string &path) {
     Descriptor end(pidfd_open(id, 0));
     if (end)
         return watched(std::move(end), path);
-    // Where this process was started with SIGCHLD ignored, the system reaps.
+    // ESRCH: SIGCHLD is ignored, so the kernel has already reaped the child.
     if (errno == ESRCH)
         return std::nullopt;
     throw ProcessError(ProcessError::NotLaunched{path, errno});
@@ -103,7 +103,7 @@ std::optional<DescriptorWatch> watchedEnd(pid_t id, const std::string &path) {
 void reapWhenEnded(const DescriptorWatch &end, std::function<void()> function) {
     end.whenReadable([end, told = std::move(function)]() mutable {
         siginfo_t status{};
-        // No process: it is still running, and the call came too early.
+        // si_pid is 0 while the process still runs: the callback came early.
         if (waitid(P_PIDFD, static_cast<id_t>(end.number()), &status, WEXITED | WNOHANG) == 0 &&
             status.si_pid == 0)
             reapWhenEnded(end, std::move(told));
@@ -118,7 +118,7 @@ ChildProcess::ChildProcess(const Process &process, const Descriptor &input, cons
     const std::string &path = process.executablePath;
     process.checkLaunchable();
     if (const int code = spawn(id_, process, input.number(), output.number())) {
-        // The program itself is there: that was just looked at.
+        // ENOENT is about the interpreter: checkLaunchable() has just found the program.
         if (code == ENOENT)
             throw ProcessError(ProcessError::MissingInterpreter{path});
         throw ProcessError(ProcessError::NotLaunched{path, code});
@@ -126,7 +126,7 @@ ChildProcess::ChildProcess(const Process &process, const Descriptor &input, cons
     try {
         end_ = watchedEnd(id_, path);
     } catch (const ProcessError &) {
-        // One that can't be watched would never be reaped.
+        // A process that isn't watched would never be reaped.
         kill(-id_, SIGKILL);
         waitpid(id_, nullptr, 0);
         throw;

@@ -11,22 +11,22 @@
 
 namespace velmar {
 
-/// A child process, which stays in the system's table until `whenEnded` has reaped it.
+/// A child process. It remains a zombie after its end until whenEnded() reaps it.
 class ChildProcess {
 public:
-    /// Starts it. Its standard input is `input`, or the null device if that is none; both descriptors have
-    /// numbers above those of the standard streams. Throws ProcessError.
+    /// Starts the process. Standard input is `input`, or /dev/null if `input` is empty. Both descriptors must
+    /// have numbers above the standard streams. Throws ProcessError.
     ChildProcess(const Process &process, const Descriptor &input, const Descriptor &output);
 
-    /// Asks it and its group to end. Not after `whenEnded`.
+    /// Sends SIGTERM to the process group. Must not be called after whenEnded().
     void terminate() const;
 
-    /// Reaps it when it has ended, then runs the function on a thread of the pool. Once.
+    /// Reaps the process when it has ended, then calls the function on a pool thread. Must be called once.
     void whenEnded(std::function<void()> function) const;
 
 private:
     pid_t id_;
-    std::optional<DescriptorWatch> end_; // none if the system has reaped it already
+    std::optional<DescriptorWatch> end_; // Empty if the kernel has already reaped the process.
 };
 
 } // namespace velmar

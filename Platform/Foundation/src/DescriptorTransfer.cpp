@@ -26,7 +26,8 @@ std::string readRegularFile(const Descriptor &descriptor, const std::string &pat
     if (size > limit)
         throw FileError(FileError::TooLarge{path, limit});
 
-    // The size is a hint only: the file may grow or shrink meanwhile. One byte more shows its end.
+    // The file may grow or shrink during the read, so its size is only a hint. One extra byte detects the
+    // end.
     std::string contents(size + 1, '\0');
     std::size_t length = 0;
     for (;;) {

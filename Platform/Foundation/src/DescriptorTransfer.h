@@ -8,12 +8,12 @@
 
 namespace velmar {
 
-/// Each throws FileError, about `path`.
+/// All functions throw FileError with `path`.
 
-/// Its size now, in bytes; IsDirectory or NotRegularFile if it is something else.
+/// Returns the current size in bytes. Throws IsDirectory or NotRegularFile for other items.
 [[nodiscard]] std::size_t sizeOfRegularFile(const Descriptor &descriptor, const std::string &path);
 
-/// A regular file from the descriptor's position to the end; TooLarge above `limit` bytes.
+/// Reads a regular file from the descriptor's position to the end. Throws TooLarge above `limit` bytes.
 [[nodiscard]] std::string readRegularFile(const Descriptor &descriptor, const std::string &path,
                                           std::size_t limit);
 

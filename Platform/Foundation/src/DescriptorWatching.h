@@ -9,7 +9,7 @@
 
 namespace velmar {
 
-/// Hands a descriptor of the launch of a program to the pool. Throws ProcessError.
+/// Transfers a descriptor to the pool, which watches it. Throws ProcessError about the program at `path`.
 inline DescriptorWatch watched(Descriptor descriptor, const std::string &path) {
     try {
         return {descriptor.release(), path};

@@ -9,7 +9,6 @@ namespace velmar {
 
 namespace {
 
-// The name of what was looked up, if it was found.
 template <class Account>
 std::optional<std::string> nameOf(const std::optional<Account> &account) {
     return account ? std::optional(account->name) : std::nullopt;

@@ -23,7 +23,7 @@ std::string FileFailure::TooLarge::errorDescription() const {
 }
 
 std::string FileFailure::SystemError::errorDescription() const {
-    const char *reason = strerrordesc_np(code); // Whatever the locale.
+    const char *reason = strerrordesc_np(code); // Independent of the locale.
     return "The item at '" + path + "' couldn't be " + action + ": " +
            (reason != nullptr ? reason : "error " + std::to_string(code)) + ".";
 }

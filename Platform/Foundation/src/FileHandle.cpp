@@ -25,7 +25,8 @@ FileAttributes FileHandle::attributes() const {
     if (fstat(item_.number(), &status) != 0)
         throw FileError::fromErrno(path_, "read", errno);
     FileAttributes attributes = FileAttributes::of(status);
-    // A list that says no more than the mode isn't stored. The descriptor itself cannot be asked for it.
+    // The file system stores no list that adds nothing to the mode. An O_PATH descriptor doesn't support
+    // fgetxattr.
     attributes.hasAccessControlList =
         getxattr(pathOfItself().c_str(), "system.posix_acl_access", nullptr, 0) >= 0;
     if (!attributes.hasAccessControlList && errno != ENODATA && errno != ENOTSUP)
@@ -38,7 +39,7 @@ std::string FileHandle::pathOfItself() const {
 }
 
 std::string FileHandle::readAll(std::size_t limit) const {
-    // Asked before opening: the opening of a device may have effects, and that of a link goes elsewhere.
+    // Checked before opening: opening a device may have side effects, and opening a link would follow it.
     static_cast<void>(sizeOfRegularFile(item_, path_));
     const Descriptor reader(open(pathOfItself().c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (!reader)

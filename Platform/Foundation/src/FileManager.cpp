@@ -23,7 +23,7 @@ bool isDirectory(const std::string &path) {
     return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
-// Makes the names of a directory as durable as its files. Best effort: some file systems refuse it.
+// Makes renames in the directory durable. Best effort, because some file systems don't support it.
 void synchronizeDirectoryOf(const std::string &path) {
     const auto slash = path.rfind('/');
     const std::string directory = slash == std::string::npos ? "." : path.substr(0, slash + 1);
@@ -63,7 +63,7 @@ std::vector<std::string> FileManager::contentsOfDirectory(const std::string &pat
 }
 
 std::string FileManager::contents(const std::string &path, std::size_t limit) const {
-    // Without waiting, since the path may be that of a pipe.
+    // O_NONBLOCK: the path may name a pipe.
     const Descriptor file(open(systemPath(path, "read"), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     if (!file)
         throw FileError::fromErrno(path, "read", errno);
@@ -77,7 +77,7 @@ void FileManager::createDirectory(const std::string &path, std::uint32_t mode) c
         const std::string part = path.substr(0, end);
         if (mkdir(part.c_str(), mode) == 0)
             continue;
-        // Above what may be written, directories are there already, whatever else the system finds wrong.
+        // mkdir fails in several ways for an existing directory: EEXIST, EROFS, EACCES.
         const int failure = errno;
         if (!isDirectory(part))
             throw FileError(FileError::SystemError{part, "created", failure});
@@ -121,7 +121,7 @@ void FileManager::removeItem(const std::string &path) const {
 }
 
 const FileManager &FileManager::defaultManager() {
-    // Never destroyed, as functions of queues use it.
+    // Never destroyed: queues may still use it at exit.
     static const auto &manager = *new FileManager;
     return manager;
 }

@@ -7,7 +7,8 @@
 
 namespace velmar {
 
-/// The path for a system call; throws FileError for one that the call would cut at a NUL byte.
+/// Returns the path for a system call. Throws FileError if the path contains a NUL byte, which would truncate
+/// it.
 inline const char *systemPath(const std::string &path, const char *action) {
     if (path.find('\0') != std::string::npos)
         throw FileError::fromErrno(path, action, EINVAL);

@@ -14,7 +14,7 @@ struct Environment {
     std::vector<char *> pointers;
 };
 
-// Never destroyed, as functions of queues launch programs.
+// Never destroyed: queues may still launch programs at exit.
 const Environment *kept = nullptr;
 
 } // namespace

@@ -24,7 +24,7 @@ struct NotificationObserver::Registration {
 };
 
 struct NotificationCenter::State {
-    // A list never changes once it is there: a post walks the one of its beginning without a lock.
+    // Lists are immutable: post() iterates over a snapshot without the lock.
     using Observers = std::vector<std::shared_ptr<NotificationObserver::Registration>>;
 
     std::mutex mutex;
@@ -43,8 +43,7 @@ void NotificationObserver::Registration::end() {
     const auto state = center.lock();
     if (!state)
         return;
-    // Holds the last reference of a list until the lock is gone: a handler's captures may call back when they
-    // die.
+    // Outlives the lock: destroying a handler's captures may call back into the centre.
     std::shared_ptr<const NotificationCenter::State::Observers> former;
     const std::lock_guard lock(state->mutex);
     const auto found = state->observersByName.find(name);
@@ -118,7 +117,7 @@ void NotificationCenter::post(std::string_view name) {
 }
 
 NotificationCenter &NotificationCenter::defaultCenter() {
-    // Never destroyed: observers of static objects may end at any time.
+    // Never destroyed: static objects may hold observers.
     static auto &centre = *new NotificationCenter;
     return centre;
 }

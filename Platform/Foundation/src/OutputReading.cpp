@@ -15,8 +15,8 @@ namespace velmar {
 
 namespace {
 
-constexpr std::size_t blockSize = 64 * 1024; // what a pipe holds
-// After so many, others get their turn on the thread.
+constexpr std::size_t blockSize = 64 * 1024; // capacity of a pipe
+// Limit per callback, so that other work gets the thread.
 constexpr int blocksAtOnce = 16;
 
 } // namespace
@@ -54,7 +54,7 @@ void OutputReading::readSome() {
             finishOne();
             return;
         }
-        // What is beyond the limit is read all the same, so that the process isn't held up.
+        // Output beyond the limit is read and dropped, so that the process doesn't block.
         const std::size_t kept = std::min(static_cast<std::size_t>(length), limit_ - output_.bytes.size());
         try {
             output_.bytes.append(block.data(), kept);

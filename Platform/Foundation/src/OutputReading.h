@@ -12,18 +12,18 @@
 
 namespace velmar {
 
-/// Reads the output of a process to its end. It lives in the functions that wait for it.
+/// Reads the output of a process to its end. Kept alive by the callbacks that it registers.
 class OutputReading : public std::enable_shared_from_this<OutputReading> {
 public:
-    /// Throws ProcessError, about the program at `path`.
+    /// Throws ProcessError about the program at `path`.
     [[nodiscard]] static std::shared_ptr<OutputReading> make(Descriptor output, const std::string &path,
                                                              std::size_t limit,
                                                              std::function<void(ProcessOutput)> completion);
 
     void start();
 
-    /// To be called when the process has ended: the completion follows this and the end of the output,
-    /// whichever comes last.
+    /// Marks the end of the process; must be called once. The completion runs after both this call and the
+    /// end of the output.
     void finishOne();
 
 private:

@@ -19,8 +19,7 @@ namespace velmar {
 
 namespace {
 
-// A process that was started without standard streams gives their numbers to what it opens; a child has those
-// replaced one after the other.
+// Moves the descriptor out of the range of the standard streams, which are replaced one by one in the child.
 Descriptor aboveStandardStreams(Descriptor descriptor) {
     if (descriptor.number() > STDERR_FILENO)
         return descriptor;
@@ -42,7 +41,7 @@ Pipe makePipe(const std::string &path) {
     return pipe;
 }
 
-// What was written through the description of the file that the writers share, whose position is its end.
+// Reads the content up to the shared file position, where the writers stopped.
 ProcessOutput contentOf(const Descriptor &file) {
     const off_t end = lseek(file.number(), 0, SEEK_CUR);
     ProcessOutput output;

@@ -17,7 +17,7 @@ std::string ProcessFailure::MissingInterpreter::errorDescription() const {
 }
 
 std::string ProcessFailure::NotLaunched::errorDescription() const {
-    const char *reason = strerrordesc_np(code); // Whatever the locale.
+    const char *reason = strerrordesc_np(code); // Independent of the locale.
     return "The program '" + path +
            "' couldn't be launched: " + (reason != nullptr ? reason : "error " + std::to_string(code)) + ".";
 }

@@ -35,23 +35,22 @@ std::string RegularExpressionFailure::MatchFailed::errorDescription() const {
 
 namespace {
 
-// Above this number, matchers that come back from a burst of threads are given up.
+// Maximum of cached matchers. Further ones, returned after a burst of threads, are destroyed.
 constexpr std::size_t idleMatchers = 4;
 
 constexpr UChar32 replacement = 0xFFFD;
 
-// Of the thread, so that a busy machine doesn't make a match fail.
+// Processor time of the calling thread, so that a busy machine doesn't make a match fail.
 std::chrono::nanoseconds processorTime() {
     timespec time{};
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
     return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
 }
 
-// One step may be as long as the text, where a pattern refers back to a group; so steps alone don't bound the
-// time.
+// Steps alone don't bound the time: a step with a back reference may take as long as the text.
 constexpr std::chrono::seconds timeLimit(2);
 
-// When the first step of a search was done; most searches end before.
+// Time of the first step. Most searches end before their first step.
 struct SearchStart {
     mutable std::optional<std::chrono::nanoseconds> time;
 };
@@ -74,8 +73,8 @@ std::uint32_t flagsOf(const RegularExpressionOptions &options) {
            flag(options.anchorsMatchLines, UREGEX_MULTILINE);
 }
 
-// The text in the engine's encoding, and the way back for positions. The engine is several times faster on
-// UTF-16 in one piece than on UTF-8 through its text interface, more than the conversion costs.
+// A text in UTF-16, with a map from UTF-16 positions back to bytes. The engine is several times faster on
+// contiguous UTF-16 than on UTF-8 through its text interface, even with the conversion.
 class Haystack {
 public:
     explicit Haystack(std::string_view text) : text_(text), isAscii_(UnicodeText::isAscii(text)) {
@@ -127,7 +126,7 @@ private:
     std::string_view text_;
     bool isAscii_;
     icu::UnicodeString utf16_;
-    std::vector<std::uint32_t> byteOffsets_; // by UTF-16 position, made when a match needs it
+    std::vector<std::uint32_t> byteOffsets_; // by UTF-16 position, filled on demand
 };
 
 } // namespace
@@ -138,7 +137,7 @@ struct RegularExpression::Compiled {
     std::int32_t stepLimit = 0;
     std::unique_ptr<icu::RegexPattern> regex;
 
-    // Making a matcher costs more than most matches, and a matcher is of one thread at a time.
+    // Cache of matchers: creating one costs more than most matches, and each is used by one thread at a time.
     mutable std::mutex mutex;
     mutable std::vector<std::unique_ptr<icu::RegexMatcher>> idle;
 
@@ -170,7 +169,7 @@ struct RegularExpression::Compiled {
     }
 
     void giveBack(std::unique_ptr<icu::RegexMatcher> matcher) const {
-        // Never destroyed, as functions of queues match.
+        // Never destroyed: queues may still match at exit.
         static const auto &nothing = *new icu::UnicodeString;
         matcher->reset(nothing);
         const std::lock_guard lock(mutex);
@@ -178,8 +177,8 @@ struct RegularExpression::Compiled {
             idle.push_back(std::move(matcher));
     }
 
-    // Calls `found` with the matcher standing on each match, in order, until it gives false. A matcher that
-    // failed isn't used again: its stack has grown to the limit.
+    // Calls `found` with the matcher at each match, in order, until it returns false. A failed matcher is not
+    // reused, because its stack has grown to the limit.
     template <class Found>
     void search(std::string_view text, const Found &found) const {
         if (text.size() > static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max()))

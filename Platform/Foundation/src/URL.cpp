@@ -24,7 +24,7 @@ bool isHexDigit(char c) {
     return isDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
 }
 
-// What every part of a URL may hold as it is (pchar of RFC 3986).
+// Characters that every part of a URL may contain unencoded (pchar of RFC 3986).
 bool isPathCharacter(char c) {
     return isLetter(c) || isDigit(c) || unreserved.find(c) != std::string_view::npos ||
            subDelimiters.find(c) != std::string_view::npos || c == ':' || c == '@';
@@ -73,7 +73,7 @@ std::string decoded(std::string_view text) {
     return result;
 }
 
-// The parts of a URL, as views of its text (appendix B of RFC 3986).
+// Parts of a URL, as views of its text (appendix B of RFC 3986).
 struct Parts {
     std::optional<std::string_view> scheme;    // without ":"
     std::optional<std::string_view> authority; // without "//"
@@ -102,7 +102,7 @@ Parts partsOf(std::string_view text) {
     return parts;
 }
 
-// User information, host and port of an authority.
+// Host and port of an authority, without the user information.
 struct Authority {
     std::string_view host;
     std::string_view port;
@@ -155,7 +155,7 @@ std::optional<URL> URL::fromString(std::string_view text) {
 URL URL::file(std::string_view path, bool isDirectory) {
     std::string absolute(path);
     if (!absolute.starts_with('/')) {
-        std::error_code unknown; // leaves "/" where the current directory is gone
+        std::error_code unknown; // ignored: without a current directory the path becomes "/"
         absolute = std::filesystem::current_path(unknown).string() + "/" + absolute;
     }
     if (isDirectory && !absolute.ends_with('/'))
@@ -164,7 +164,7 @@ URL URL::file(std::string_view path, bool isDirectory) {
 }
 
 std::string URL::absoluteString() const {
-    // The reserved characters of the other parts; the first "#" begins the fragment, a later one is data.
+    // Reserved characters of the other parts stay. The first "#" starts the fragment; later ones are encoded.
     const auto fragment = std::min(text_.find('#'), text_.size());
     std::string result = encoded(std::string_view(text_).substr(0, fragment), "/?[]", true);
     if (fragment < text_.size())

@@ -9,7 +9,7 @@
 namespace velmar {
 
 UUID::UUID() {
-    // Sixteen bytes come whole or not at all; only a signal before the generator is ready interrupts.
+    // A request of 16 bytes is never truncated; a signal can interrupt it only before the generator is ready.
     while (getrandom(bits_.data(), sizeof bits_, 0) < 0) {
         if (errno != EINTR)
             throw std::system_error(errno, std::generic_category(), "getrandom");

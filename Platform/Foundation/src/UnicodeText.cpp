@@ -53,7 +53,7 @@ const icu::Normalizer2 &composer() {
     return instance;
 }
 
-// The composed form of a text; a view of the text itself where it is composed already.
+// The composed form of a text. Copies the text only if it is not composed already.
 class Composed {
 public:
     explicit Composed(std::string_view text) : view_(text) {
@@ -79,7 +79,7 @@ private:
     std::string_view view_;
 };
 
-// True where the composed text may be cut without taking a mark from its character.
+// Returns true if a cut at this position doesn't separate a character from its combining marks.
 bool isBoundary(std::string_view composed, std::size_t position) {
     if (position == 0 || position >= composed.size() || isAsciiByte(composed[position]))
         return true;
@@ -113,8 +113,8 @@ std::string mapped(std::string_view text, char first, char last, const Map &map)
 }
 
 std::size_t columnsOf(UChar32 character) {
-    static constexpr UChar32 softHyphen = 0xAD; // A format character, and visible.
-    const bool isWithinSyllable = character >= 0x1160 && character <= 0x11FF; // Hangul vowels and finals.
+    static constexpr UChar32 softHyphen = 0xAD;                               // a visible format character
+    const bool isWithinSyllable = character >= 0x1160 && character <= 0x11FF; // Hangul vowels and finals
     const std::uint32_t shapeless = U_GC_MN_MASK | U_GC_ME_MASK | U_GC_CF_MASK | U_GC_CC_MASK;
     if (character < 0 || character == softHyphen)
         return 1;
@@ -155,7 +155,7 @@ bool isEqual(std::string_view left, std::string_view right) {
 }
 
 std::weak_ordering compare(std::string_view left, std::string_view right) {
-    // Bytes of UTF-8 sort like its code points.
+    // UTF-8 bytes sort like code points.
     return Composed(left).view() <=> Composed(right).view();
 }
 

@@ -29,7 +29,7 @@ struct Settings {
     bool isDamaged = false;
 };
 
-// Throws FileError where the file is there but cannot be read.
+// Throws FileError if the file exists but cannot be read.
 Settings settingsAt(const std::string &path) {
     try {
         auto file = PropertyList::read(FileManager::defaultManager().contents(path, sizeLimit));
@@ -54,8 +54,8 @@ void putAside(const std::string &path) {
         throw FileError::fromErrno(path, "put aside", errno);
 }
 
-// Keeps other processes out until the descriptor is closed. One that was stopped while it held the lock must
-// not hold up a start.
+// Locks out other processes until the descriptor is closed. The timeout keeps a stopped process that holds
+// the lock from blocking a start.
 Descriptor lock(const std::string &directory, const std::string &path) {
     Descriptor descriptor(open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!descriptor)

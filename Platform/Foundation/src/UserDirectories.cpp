@@ -13,15 +13,15 @@ namespace velmar::UserDirectories {
 
 namespace {
 
-// Whether nobody but root can put another directory in the path's place. A link counts as what it is: whoever
-// owns it chooses its target.
+// Returns true if only root can replace the directory at this path. A symbolic link is never trusted: its
+// owner chooses its target.
 bool isOfRootAlone(std::string path) {
     for (bool exists = false;; path.resize(path.rfind('/') + 1)) {
         while (path.size() > 1 && path.back() == '/')
             path.pop_back();
         struct stat status {};
         if (lstat(path.c_str(), &status) == 0) {
-            // In a directory with the sticky bit others cannot replace what is root's.
+            // The sticky bit keeps other users from replacing an entry that belongs to root.
             const mode_t closed = exists && (status.st_mode & S_ISVTX) != 0 ? 0 : S_IWGRP | S_IWOTH;
             if (!S_ISDIR(status.st_mode) || status.st_uid != 0 || (status.st_mode & closed) != 0)
                 return false;
@@ -43,7 +43,7 @@ std::string variable(const char *name) {
     return value == nullptr ? "" : value;
 }
 
-// Below the home directory, unless the variable names another place.
+// Returns the variable's directory if it is trusted, otherwise one below the home directory.
 std::string directory(const char *name, const std::string &belowHome) {
     if (std::string path = variable(name); isTrusted(path))
         return path;

@@ -12,12 +12,13 @@ static std::string number(std::uint64_t value, int width) {
     return bytes;
 }
 
-/// A file of these objects, the first being the root, with references of one byte, and of as many bytes that
-/// nothing refers to.
+/// Returns a file of these objects with the first as root, references of one byte and `ballast` unreferenced
+/// bytes.
 static std::string fileOf(const std::vector<std::string> &objects, const std::string &offsetPatch = "",
                           std::size_t ballast = 0) {
     std::string bytes = "bplist00";
-    bytes.reserve(ballast + (ballast >> 4)); // Copies of it would count where memory is measured.
+    // Reserved, since copies of the ballast would count in memoryPeak().
+    bytes.reserve(ballast + (ballast >> 4));
     std::string table;
     for (const std::string &object : objects) {
         table += number(bytes.size(), 2);
@@ -143,7 +144,7 @@ static void expectRefusal(const std::vector<std::string> &objects, std::string_v
     EXPECT_NE(text.find(reason), std::string::npos) << text;
 }
 
-/// The most memory that the process ever had, in bytes; 0 where sanitizers take most of it.
+/// Returns the peak memory of the process in bytes; 0 under sanitizers, which need most of it themselves.
 static std::size_t memoryPeak() {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
     return 0;
@@ -155,7 +156,7 @@ static std::size_t memoryPeak() {
 }
 
 TEST(PropertyListBinary, RefusesSharedValuesThatExpandToGigabytes) {
-    std::vector<std::string> arrays; // Ten references each to the next: 10^9 texts.
+    std::vector<std::string> arrays; // Each level refers ten times to the next: 10^9 texts.
     std::vector<std::string> dictionaries;
     for (int level = 1; level <= 9; ++level) {
         arrays.push_back("\xAA"s + std::string(10, static_cast<char>(level)));
@@ -183,7 +184,7 @@ TEST(PropertyListBinary, AllowsALargeFileNoMoreSharingThanASmallOne) {
 }
 
 TEST(PropertyListBinary, CountsObjectsThatLieOverEachOtherAsShared) {
-    // 200 of data, each of which begins in the one before and goes on to the end of the last.
+    // Each of the 200 data objects begins within the one before and ends with the last.
     constexpr std::size_t count = 200;
     constexpr std::size_t length = 400'000;
     std::string bytes = "bplist00\xAF\x10"s + number(count, 1);
@@ -203,12 +204,12 @@ TEST(PropertyListBinary, CountsObjectsThatLieOverEachOtherAsShared) {
 }
 
 TEST(PropertyListBinary, ReadsEachObjectOnceForNothing) {
-    const std::string text(40 << 20, 'x'); // More than may be shared.
+    const std::string text(40 << 20, 'x'); // more than maximumSharedBytes
     EXPECT_EQ(*PropertyList::read(fileOf({"\x5F\x12"s + number(text.size(), 4) + text})).string(), text);
 }
 
 TEST(PropertyListBinary, RefusesDepth) {
-    // References of two bytes from the 257th object on.
+    // 1001 nested arrays with references of two bytes.
     std::string deep = "bplist00";
     std::string table;
     for (unsigned level = 1; level <= 1000; ++level) {

@@ -18,7 +18,7 @@ inline PropertyListError errorOfReading(std::string_view bytes) {
     return PropertyListError("", 0, 0);
 }
 
-/// A tree of every kind of value, the same for the same seed.
+/// Returns a pseudo-random tree with values of every kind.
 inline PropertyList randomTree(std::mt19937 &random, int depth) {
     const auto below = [&](unsigned limit) { return static_cast<int>(random() % limit); };
     static const std::vector<std::string> texts = {
@@ -58,7 +58,7 @@ inline PropertyList randomTree(std::mt19937 &random, int depth) {
     }
 }
 
-/// Arrays within each other.
+/// Returns `depth` nested arrays.
 inline PropertyList nestedArrays(std::size_t depth) {
     PropertyList value(PropertyList::Array{});
     for (std::size_t level = 1; level < depth; ++level) {

@@ -158,7 +158,7 @@ TEST(PropertyListXml, BoundsTheNumberOfValues) {
 }
 
 TEST(PropertyListXml, RefusesALargeFileThatWasCutOffBeforeItIsRead) {
-    // Were it read, the unknown element would be what is told.
+    // The unknown element would be reported if the file were built.
     const std::string text = "<plist>\n<array><foo/>" + std::string(9 << 20, ' ') + "\n<true/>";
     EXPECT_EQ(errorOfReading(text).errorDescription(),
               "The property list is not valid at line 3: the text ends before the property list does.");

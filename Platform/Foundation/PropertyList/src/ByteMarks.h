@@ -8,8 +8,8 @@
 
 namespace velmar {
 
-/// Looks for bytes eight at a time. A word of marks has the upper bit set of each byte that is looked for;
-/// beyond the first of them in the text a mark may be wrong.
+/// Searches text eight bytes at a time. A word of marks has the upper bit of each matching byte set. Only the
+/// first mark in text order is reliable; later ones may be wrong.
 struct ByteMarks {
     using Word = std::uint64_t;
 
@@ -20,12 +20,12 @@ struct ByteMarks {
         return (difference - all(1)) & ~difference & all(0x80);
     }
 
-    /// Those above an ASCII character.
+    /// Marks the bytes above an ASCII character.
     static constexpr Word above(Word bytes, char limit) noexcept {
         return ((bytes + all(static_cast<unsigned char>(0x7F - limit))) | bytes) & all(0x80);
     }
 
-    /// The bytes from a position on, the first in the lowest place.
+    /// Loads eight bytes, the first one into the lowest byte of the word.
     static Word load(const char *bytes) noexcept {
         Word word = 0;
         std::memcpy(&word, bytes, sizeof word);
@@ -35,8 +35,8 @@ struct ByteMarks {
         return word;
     }
 
-    /// The first position from `position` on that is marked by `marks(word)`; the text's size if there is
-    /// none.
+    /// Returns the first position, starting at `position`, that `marks(word)` marks, or the text's size if
+    /// there is none.
     template <class Marks>
     static std::size_t find(std::string_view text, std::size_t position, Marks marks) noexcept {
         for (; text.size() - position >= sizeof(Word); position += sizeof(Word)) {
@@ -45,7 +45,7 @@ struct ByteMarks {
             }
         }
         if (position < text.size()) {
-            // What stands behind the text is not read; zeros could be marked, and lie behind it as well.
+            // Bytes beyond the text must not be read. Padding zeros may be marked, but lie beyond the text.
             Word rest = 0;
             for (std::size_t index = text.size(); index > position; --index) {
                 rest = rest << 8U | static_cast<unsigned char>(text[index - 1]);

@@ -37,7 +37,7 @@ PropertyListValue::PropertyListValue(std::uint64_t value) noexcept
     }
 }
 
-// No deeper than a file may be.
+// Recursive: the depth of a document is limited.
 PropertyList::PropertyList(const PropertyListValue &value) : PropertyList() {
     switch (value.kind()) {
     case Kind::Boolean:
@@ -90,7 +90,7 @@ PropertyList &PropertyList::operator=(const PropertyList &other) {
 
 PropertyList &PropertyList::operator=(PropertyList &&other) noexcept {
     if (this != &other) {
-        // What is assigned may be a part of what is replaced.
+        // `other` may be a part of this value.
         PropertyList replaced(std::move(*this));
         destroy();
         construct(std::move(other));

@@ -13,12 +13,12 @@ namespace velmar {
 
 static constexpr std::size_t headerSize = 8;
 static constexpr std::size_t trailerSize = 32;
-// What an allocation takes besides its bytes.
+// Estimated bookkeeping of an allocation, in bytes.
 static constexpr std::size_t allocationOverhead = 16;
-// A text of no more bytes, which is a part of the file, isn't worth counting.
+// Short ASCII texts are views of the file and too small to be charged.
 static constexpr std::size_t uncountedBytes = 15;
 
-// Upper halves of markers.
+// Upper half of the marker byte.
 static constexpr std::uint8_t simpleType = 0x0;
 static constexpr std::uint8_t integerType = 0x1;
 static constexpr std::uint8_t realType = 0x2;
@@ -109,7 +109,7 @@ void PropertyListBinaryReader::openContainer(std::uint64_t index, const Object &
         fail(fmt::format("the values are nested more than {} deep", PropertyList::maximumDepth),
              object.offset);
     }
-    // All members are counted as they come; this only makes sure that their references are there.
+    // Only checks that all references lie within the file; the members are counted one by one.
     static_cast<void>(contents(object, isDictionary ? 2 * referenceWidth_ : referenceWidth_));
     isOpen_[index] = true;
     frames_.push_back(Frame{index, object, 0, isDictionary});
@@ -131,7 +131,7 @@ PropertyListBinaryReader::Object PropertyListBinaryReader::objectAt(std::uint64_
     if (object.type <= dateType || object.count != 0x0F) {
         return object;
     }
-    // A long count is an integer object of its own.
+    // Counts above 14 follow as an integer object.
     if (object.contents >= tableOffset_) {
         fail("an object is outside of the file", offset);
     }
@@ -169,10 +169,11 @@ std::uint64_t PropertyListBinaryReader::number(std::size_t offset, std::size_t w
     return value;
 }
 
-// Values are counted, so only their texts and data can grow. Each object is read once for nothing, as long as
-// all of them together are no more than the file: those of a good one do not overlap.
+// Charges texts and data, the only unbounded memory, since the number of values is limited. The first read of
+// each object is free as long as all of them together don't exceed the file: objects of a valid file don't
+// overlap.
 void PropertyListBinaryReader::charge(std::uint64_t index, const Object &object) {
-    constexpr std::size_t longestUnit = 3; // Of UTF-16, in bytes of UTF-8.
+    constexpr std::size_t longestUnit = 3; // bytes of UTF-8 per UTF-16 unit
     const bool isUtf16 = object.type == utf16Type;
     if (!isUtf16 && object.type != asciiType && object.type != dataType) {
         return;
@@ -241,12 +242,12 @@ PropertyListValue PropertyListBinaryReader::simple(const Object &object) const {
 }
 
 PropertyListValue PropertyListBinaryReader::integer(const Object &object) const {
-    constexpr std::size_t widest = 4; // 16 bytes.
+    constexpr std::size_t widest = 4; // log2 of 16 bytes
     const std::size_t width = std::size_t{1} << object.count;
     if (object.count > widest || tableOffset_ - object.contents < width) {
         fail("an integer is not valid", object.offset);
     }
-    // Only those of eight bytes and more have a sign.
+    // Integers of fewer than eight bytes are unsigned.
     if (width < 8) {
         return PropertyListValue(number(object.contents, width));
     }

@@ -13,27 +13,27 @@
 
 namespace velmar {
 
-/// Reads one binary property list: a header, the objects, a table with the offset of each, and a trailer of
-/// 32 bytes that says where the table is and how wide the numbers are. Arrays and dictionaries refer to their
-/// members by the index in the table. Everything throws PropertyListError.
+/// Reads a binary property list: a header, the objects, a table of their offsets, and a trailer of 32 bytes
+/// with the position of the table and the width of its numbers. Arrays and dictionaries refer to their
+/// members by index in the table. All functions throw PropertyListError.
 class PropertyListBinaryReader {
 public:
-    /// The bytes must outlive the document and be less than 4 GiB.
+    /// `bytes` must outlive the document and be smaller than 4 GiB.
     explicit PropertyListBinaryReader(std::span<const std::byte> bytes)
         : bytes_(bytes), builder_(bytes.size()) {}
 
     [[nodiscard]] PropertyListDocument read();
 
 private:
-    /// An object's place and first byte taken apart.
+    /// Position and decoded marker of an object.
     struct Object {
         std::size_t offset;
-        std::size_t contents; ///< Offset after the marker and the count.
-        std::size_t count;    ///< Of bytes, characters or members; for numbers the exponent of their width.
+        std::size_t contents; ///< Offset of the data after marker and count.
+        std::size_t count;    ///< Number of bytes, characters or members; for numbers log2 of their width.
         std::uint8_t type;    ///< Upper half of the marker.
     };
 
-    /// A container whose members are being read.
+    /// A container during the reading of its members.
     struct Frame {
         std::uint64_t index;
         Object object;
@@ -65,8 +65,8 @@ private:
     std::size_t tableOffset_ = 0;
     std::uint64_t objectCount_ = 0;
     std::uint64_t rootIndex_ = 0;
-    std::size_t unreadBytes_ = 0; ///< Of texts and data that may still be read for the first time.
-    std::size_t budget_ = 0;      ///< For reading them again.
+    std::size_t unreadBytes_ = 0; ///< Bytes of texts and data that may still be read for the first time.
+    std::size_t budget_ = 0;      ///< Bytes that repeated reads may still take.
     std::vector<bool> wasRead_;
     std::vector<bool> isOpen_;
     std::vector<Frame> frames_;

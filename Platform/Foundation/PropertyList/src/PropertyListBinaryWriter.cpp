@@ -14,7 +14,7 @@ namespace velmar {
 
 namespace {
 
-// The fewest bytes that hold the number, as a power of two and its exponent.
+// Returns log2 of the smallest power-of-two width in bytes that holds the number.
 std::size_t exponentOfWidth(std::uint64_t number) noexcept {
     return number <= 0xFF ? 0 : number <= 0xFFFF ? 1 : number <= 0xFFFFFFFF ? 2 : 3;
 }
@@ -79,7 +79,7 @@ std::vector<std::byte> BinaryWriter::write(const PropertyList &root) {
     appendNumber(bytes, offsetWidth, 1);
     appendNumber(bytes, referenceWidth, 1);
     appendNumber(bytes, objects_.size(), 8);
-    appendNumber(bytes, 0, 8); // The root is the first object.
+    appendNumber(bytes, 0, 8); // index of the root
     appendNumber(bytes, table, 8);
     const auto written = std::as_bytes(std::span(bytes));
     return {written.begin(), written.end()};
@@ -168,7 +168,7 @@ std::string BinaryWriter::scalar(const PropertyList &value) {
     return string(*value.string());
 }
 
-// Negative ones, whose upper bit is set, take eight bytes by that.
+// Negative numbers have the upper bit set and therefore take eight bytes.
 std::string BinaryWriter::integer(std::uint64_t value) {
     const std::size_t exponent = exponentOfWidth(value);
     std::string bytes(1, static_cast<char>(0x10 | exponent));

@@ -7,12 +7,12 @@
 
 namespace velmar {
 
-// Below, comparing every pair is quicker than sorting.
+// Largest number of entries for which comparing all pairs is faster than sorting.
 static constexpr std::size_t fewEntries = 24;
-// Paths repeat long keys: what is noted must not outgrow the file.
+// Limits the memory of recorded duplicates: their paths may repeat long keys.
 static constexpr std::size_t maximumBytesOfDuplicates = std::size_t{1} << 20;
 
-// Files take about as much memory as bytes; the first block is a part of that, the further ones grow.
+// A document takes about as much memory as its file. The first block is half of that; further blocks grow.
 PropertyListBuilder::PropertyListBuilder(std::size_t size) {
     constexpr std::size_t smallest = 256;
     document_.memory_ = std::make_unique<std::pmr::monotonic_buffer_resource>(size / 2 + smallest);
@@ -91,7 +91,7 @@ bool PropertyListBuilder::hasDuplicates(std::size_t firstEntry) const {
     for (const Entry &entry : entries) {
         keys.push_back(entry.key.text());
     }
-    // Sorted and not hashed: nobody can choose keys that make it slow.
+    // Sorting has no worst case that chosen keys could provoke, unlike hashing.
     std::ranges::sort(keys);
     return std::ranges::adjacent_find(keys) != keys.end();
 }

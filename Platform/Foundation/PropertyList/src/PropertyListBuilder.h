@@ -12,20 +12,20 @@
 
 namespace velmar {
 
-/// Puts a document together from what a reader meets, in its order, without recursion, and notes keys given
-/// twice. The reader keeps to the grammar: it asks expected() first. Texts are not copied: they are parts of
-/// the bytes, or kept.
+/// Builds a document from the events of a reader, without recursion, and records duplicate keys. The reader
+/// must follow the grammar by checking expected() first. Texts are not copied: they must be views of the
+/// source bytes or results of keep().
 class PropertyListBuilder {
 public:
     enum class Expected : std::uint8_t {
-        Root,    ///< The one value.
+        Root,    ///< The root value.
         Element, ///< A value or the end of an array.
         Key,     ///< A key or the end of a dictionary.
-        Value,   ///< The value of the key before.
+        Value,   ///< The value of the last key.
         Nothing, ///< The root is complete.
     };
 
-    /// `size` is that of the bytes to be read.
+    /// `size` is the size of the source bytes.
     explicit PropertyListBuilder(std::size_t size);
 
     [[nodiscard]] Expected expected() const noexcept { return expected_; }
@@ -34,7 +34,7 @@ public:
     [[nodiscard]] bool isAtMaximumDepth() const noexcept {
         return frames_.size() >= PropertyList::maximumDepth;
     }
-    /// Whether one more value would be more than PropertyList::maximumValues.
+    /// Returns true if no further value fits into PropertyList::maximumValues.
     [[nodiscard]] bool isFull() const noexcept {
         return valueCount_ + frames_.size() >= PropertyList::maximumValues;
     }
@@ -48,14 +48,14 @@ public:
     void addValue(PropertyListValue value, std::uint32_t offset);
     void close();
 
-    /// Copies a text or data into the memory of the document.
+    /// Copies text or data into the memory of the document.
     [[nodiscard]] std::string_view keep(std::string_view text);
     [[nodiscard]] PropertyListValue::Data keep(PropertyListValue::Data data);
 
-    /// The key that waits for its value.
+    /// Returns the key that is waiting for its value.
     [[nodiscard]] std::string_view lastKey() const noexcept { return entries_.back().key.text(); }
 
-    /// Once nothing is expected any more. `text` is that of the XML form.
+    /// Returns the document. Requires Expected::Nothing. `text` is the source of the XML form.
     [[nodiscard]] PropertyListDocument takeDocument(PropertyListDocument::Form form,
                                                     std::string_view text = {});
 
@@ -78,14 +78,13 @@ private:
     [[nodiscard]] bool hasDuplicates(std::size_t firstEntry) const;
     [[nodiscard]] std::string pathOfLastFrame() const;
 
-    // The children of all open containers, the innermost last, so that a finished one is kept in its exact
-    // size.
+    // Children of all open containers, the innermost last. A completed container is copied in its exact size.
     std::vector<PropertyListValue> values_;
     std::vector<Entry> entries_;
     std::vector<Frame> frames_;
     PropertyListDocument document_;
     std::size_t bytesOfDuplicates_ = 0;
-    std::size_t valueCount_ = 0; // Without the open containers.
+    std::size_t valueCount_ = 0; // Number of values, not counting open containers.
     Expected expected_ = Expected::Root;
 };
 

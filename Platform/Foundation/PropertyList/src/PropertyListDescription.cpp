@@ -7,7 +7,7 @@
 
 namespace velmar {
 
-// Beyond, a message is no longer read.
+// Limits of a readable message.
 static constexpr std::size_t maximumLength = 400;
 static constexpr std::size_t maximumNesting = 8;
 

@@ -33,7 +33,7 @@ PropertyListValue scalar(const PropertyList &value) {
     return {};
 }
 
-/// Puts a made value into a document, without recursion: nothing limits how deep it is.
+/// Adds a PropertyList to a builder. Not recursive, because the depth of a created value is unlimited.
 class MadeValue {
 public:
     explicit MadeValue(PropertyListBuilder &builder) : builder_(builder) {}
@@ -58,7 +58,8 @@ private:
         std::size_t next = 0;
     };
 
-    // The next child, whose key is added before it; closes the containers that are through. Null at the end.
+    // Returns the next child after adding its key, if any, and closes completed containers. Returns nullptr
+    // at the end.
     const PropertyList *next() {
         while (!open_.empty()) {
             auto &[container, index] = open_.back();
@@ -113,7 +114,7 @@ PropertyListDocument PropertyListDocument::read(std::string_view bytes) {
 PropertyListDocument PropertyListDocument::of(const PropertyList &value) {
     PropertyListBuilder builder(0);
     MadeValue(builder).add(value);
-    return builder.takeDocument(Form::Binary); // Without lines.
+    return builder.takeDocument(Form::Binary); // a form without lines
 }
 
 LineIndex PropertyListDocument::lines() const {

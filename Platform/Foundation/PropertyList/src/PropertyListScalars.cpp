@@ -41,7 +41,7 @@ std::optional<PropertyListValue> integerFrom(std::string_view text) noexcept {
     if (isHexadecimal) {
         text.remove_prefix(2);
     }
-    // from_chars takes no sign for an unsigned type, so no second one can follow.
+    // from_chars accepts no sign for an unsigned type, so a second sign is rejected.
     std::uint64_t magnitude = 0;
     const char *end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, magnitude, isHexadecimal ? 16 : 10);
@@ -64,8 +64,7 @@ static locale_t cLocale() {
 
 std::optional<double> realFrom(std::string_view text) {
     text = trimmed(text);
-    // The usual form; what else strtod takes, and what it makes of numbers that no double is near, is left to
-    // it.
+    // Fast path. strtod handles the remaining syntax and numbers outside of the range of double.
     double usual = 0;
     const char *const last = text.data() + text.size();
     if (const auto [stop, error] = std::from_chars(text.data(), last, usual);
@@ -156,7 +155,7 @@ std::optional<PropertyList::Data> dataFrom(std::string_view base64) {
     if (digits != 0 || padding > 2) {
         return std::nullopt;
     }
-    // The bits under the padding must not say anything.
+    // The bits under the padding must be zero.
     for (; padding > 0; --padding) {
         if (data.bytes.back() != std::byte{0}) {
             return std::nullopt;
@@ -181,7 +180,7 @@ std::string textOfReal(double value) {
 
 std::optional<std::string> textOfDate(PropertyList::Date date) {
     const double seconds = std::floor(date.secondsSinceReferenceDate);
-    constexpr double limit = 4e11; // Beyond those years, and within what std::chrono counts.
+    constexpr double limit = 4e11; // beyond the year 9999 and within the range of std::chrono
     if (!(std::abs(seconds) < limit)) {
         return std::nullopt;
     }

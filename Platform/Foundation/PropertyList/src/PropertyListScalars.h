@@ -8,24 +8,25 @@
 
 namespace velmar {
 
-/// The texts of numbers, dates and data in the XML form. Reading is strict and takes white space around the
-/// text (within it for data); nothing for a text that is none.
+/// Conversion of numbers, dates and data from and to the text of the XML form. Parsing is strict, except for
+/// white space around the text (for data also within it), and returns std::nullopt for invalid text.
 
-/// Decimal or 0x and hexadecimal, with an optional sign, from -2^63 to 2^64 - 1.
+/// Parses a decimal or hexadecimal (0x) number with an optional sign, from -2^63 to 2^64 - 1.
 [[nodiscard]] std::optional<PropertyListValue> integerFrom(std::string_view text) noexcept;
 
-/// What strtod takes in the C locale and a double can hold, or nan, inf or infinity in any case.
+/// Parses a number in the syntax of strtod in the C locale within the range of double, or nan, inf or
+/// infinity in any letter case.
 [[nodiscard]] std::optional<double> realFrom(std::string_view text);
 
-/// Of the calendar, as in 2024-02-29T23:59:59Z.
+/// Parses a valid calendar date such as 2024-02-29T23:59:59Z.
 [[nodiscard]] std::optional<PropertyList::Date> dateFrom(std::string_view text) noexcept;
 
 [[nodiscard]] std::optional<PropertyList::Data> dataFrom(std::string_view base64);
 
-/// The shortest text that reads back the same.
+/// Returns the shortest text that reads back as the same number.
 [[nodiscard]] std::string textOfReal(double value);
 
-/// Whole seconds, those before rounded down; nothing outside of the years 0 to 9999.
+/// Returns the date rounded down to whole seconds, or std::nullopt outside of the years 0 to 9999.
 [[nodiscard]] std::optional<std::string> textOfDate(PropertyList::Date date);
 
 [[nodiscard]] std::string base64Of(const PropertyList::Data &data);

@@ -10,7 +10,7 @@ namespace velmar {
 
 static constexpr std::size_t blockSize = 64;
 
-// Without branches, so that the compiler makes it one comparison for many bytes.
+// Branchless, so that the compiler vectorises it.
 static bool isPlainBlock(const char *block) noexcept {
     unsigned char bad = 0;
     for (std::size_t index = 0; index < blockSize; ++index) {

@@ -6,24 +6,24 @@
 
 namespace velmar {
 
-/// What a text may hold: every character, or those that XML 1.0 allows.
+/// Allowed characters: all, or those of XML 1.0.
 enum class Characters { All, OfXml };
 
-/// The offset of the first byte that is not UTF-8 or begins a character that is not allowed; npos for a good
-/// text.
+/// Returns the offset of the first byte that is not UTF-8 or starts a character that is not allowed; npos for
+/// valid text.
 [[nodiscard]] std::size_t firstBadByte(std::string_view text, Characters allowed) noexcept;
 
-/// What is wrong at that offset, as the reason of a PropertyListError.
+/// Returns the fault at that offset, as the reason of a PropertyListError.
 [[nodiscard]] std::string reasonOfBadByte(std::string_view text, std::size_t offset);
 
 [[nodiscard]] bool isAscii(std::string_view text) noexcept;
 
 [[nodiscard]] bool isCharacterOfXml(char32_t character) noexcept;
 
-/// Appends the character, which must be a valid code point, as UTF-8.
+/// Appends the character as UTF-8. It must be a valid code point.
 void appendUtf8(std::string &text, char32_t character);
 
-/// At most 40 bytes of a good text, for messages.
+/// Shortens valid UTF-8 to at most 40 bytes plus "...", for messages.
 [[nodiscard]] std::string shortened(std::string_view text);
 
 } // namespace velmar

@@ -12,7 +12,7 @@ using Expected = PropertyListBuilder::Expected;
 static constexpr std::size_t sizeOfLargeText = std::size_t{8} << 20;
 
 PropertyListXmlReader::Element PropertyListXmlReader::elementOf(std::string_view name) noexcept {
-    // By the length first, so that each comparison is one of a few bytes.
+    // Switching on the length keeps each comparison to a few bytes.
     switch (name.size()) {
     case 3:
         return name == "key" ? Element::Key : Element::Unknown;
@@ -43,7 +43,7 @@ PropertyListDocument PropertyListXmlReader::read() {
         scanner_.fail(reasonOfBadByte(text_, bad), bad);
     }
     const Tag root = scanner_.root();
-    // A large file that was cut off is not built first; a small one is, which tells more about the place.
+    // Rejects a large truncated file before it is built. Small ones are built to report the exact position.
     if (text_.size() > sizeOfLargeText && text_.rfind("</plist") == text_.npos) {
         scanner_.fail("the text ends before the property list does", text_.size());
     }
@@ -137,13 +137,13 @@ void PropertyListXmlReader::requirePlaceForValue(const Tag &tag) const {
     }
 }
 
-// A text without references is a part of the file.
+// Text without references is a view of the file and needs no copy.
 std::string_view PropertyListXmlReader::keptText(const Tag &tag) {
     const std::string_view text = scanner_.text(tag);
     return scanner_.isReplaced(text) ? builder_.keep(text) : text;
 }
 
-// No text is looked at before the element is known.
+// Reads the text only after the element is known.
 PropertyListValue PropertyListXmlReader::scalar(const Tag &tag, Element element) {
     const auto valueOf = [&](auto parse, std::string_view what) {
         const std::string_view text = scanner_.text(tag);

@@ -9,10 +9,10 @@
 
 namespace velmar {
 
-/// Reads one XML property list. Everything throws PropertyListError.
+/// Reads an XML property list. All functions throw PropertyListError.
 class PropertyListXmlReader {
 public:
-    /// The text must outlive the document and be shorter than 4 GiB.
+    /// `text` must outlive the document and be smaller than 4 GiB.
     explicit PropertyListXmlReader(std::string_view text)
         : text_(text), scanner_(text), builder_(text.size()) {}
 

@@ -89,7 +89,7 @@ private:
         leave("</dict>\n");
     }
 
-    // The outermost container stands at the margin, its members one tab to the right.
+    // The members of the outermost container are indented by one tab.
     void enter() {
         if (++depth_ > PropertyList::maximumDepth) {
             fail(fmt::format("the values are nested more than {} deep", PropertyList::maximumDepth));
@@ -127,7 +127,7 @@ private:
                 break;
             case '\r':
                 text_ += "&#13;";
-                break; // Otherwise a reader makes it a line feed.
+                break; // readers convert a literal CR to a line feed
             default:
                 text_ += character;
             }

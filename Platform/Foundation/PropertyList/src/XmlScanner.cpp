@@ -130,7 +130,7 @@ bool XmlScanner::skipMiscellaneous() {
 }
 
 void XmlScanner::skipPast(std::string_view terminator, std::string_view what) {
-    // The mark at the beginning, two bytes at least, is no part of the one at the end.
+    // Skips the opening mark, which must not overlap the terminator.
     const std::size_t begin = position_ + (terminator.size() == 3 ? 4 : 2);
     const std::size_t end = text_.find(terminator, begin);
     if (end == text_.npos) {
@@ -140,7 +140,7 @@ void XmlScanner::skipPast(std::string_view terminator, std::string_view what) {
 }
 
 void XmlScanner::skipWhiteSpace() noexcept {
-    // XML has no other characters as low as these.
+    // Valid XML text contains only white space up to U+0020.
     position_ =
         ByteMarks::find(text_, position_, [](ByteMarks::Word bytes) { return ByteMarks::above(bytes, ' '); });
 }
@@ -275,7 +275,7 @@ std::string_view XmlScanner::unusualText(const Tag &start, std::size_t begin) {
     return decoded_;
 }
 
-// The ends of lines become line feeds.
+// Normalises line ends to line feeds.
 void XmlScanner::appendPlain(std::string_view plain) {
     for (std::size_t index = 0; index < plain.size(); ++index) {
         if (plain[index] != '\r') {
@@ -287,7 +287,7 @@ void XmlScanner::appendPlain(std::string_view plain) {
 }
 
 void XmlScanner::appendReference() {
-    constexpr std::size_t longest = 12; // More than any number of a character, with zeros in front.
+    constexpr std::size_t longest = 12; // longer than any character reference with leading zeros
     const std::size_t start = position_;
     const std::string_view whole = text_.substr(start + 1, longest);
     const std::string_view reference = whole.substr(0, whole.find(';'));
@@ -323,8 +323,7 @@ char32_t XmlScanner::characterOfNumber(std::string_view number) const noexcept {
     return error == std::errc() && stop == end ? char32_t{character} : U'\0';
 }
 
-// Whether the name of a start tag and '>' come next. All names but unknown ones are shorter than a word, and
-// most start tags have the '>' as well.
+// Returns true if the name of the start tag and '>' follow. Most names with '>' fit into one word.
 bool XmlScanner::isNameOf(const Tag &start) const noexcept {
     using Word = ByteMarks::Word;
     const std::size_t size = start.name.size() + 1;
@@ -347,7 +346,7 @@ void XmlScanner::endTag(const Tag &start) {
     }
     const std::string_view found = name();
     if (found != start.name) {
-        // A cut file is no wrong tag.
+        // A truncated file is reported as such, not as a wrong tag.
         fail(position_ == text_.size()
                  ? fmt::format("the text ends inside of the element <{}>", start.name)
                  : fmt::format("the element <{}> is ended by </{}>", start.name, shortened(found)),

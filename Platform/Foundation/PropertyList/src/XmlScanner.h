@@ -7,39 +7,39 @@
 
 namespace velmar {
 
-/// Goes once through the text of an XML property list, without building a tree of it: the tags, the text of
-/// elements, and what stands around them. It takes no more of XML than property lists use: no entity
-/// declarations, attributes on the root alone. Everything throws PropertyListError.
+/// A pull scanner for XML property lists: returns tags and the text of elements without building a tree.
+/// Supports only the XML that property lists use: no entity declarations, and attributes on the root only.
+/// All functions throw PropertyListError.
 ///
-/// The text must be UTF-8 of XML's characters and outlive the scanner.
+/// The text must be UTF-8 of characters allowed in XML and must outlive the scanner.
 class XmlScanner {
 public:
     struct Tag {
         enum class Form { Start, End, Empty };
 
         std::string_view name;
-        std::size_t offset; ///< Of its '<'.
+        std::size_t offset; ///< Offset of its '<'.
         Form form;
     };
 
     explicit XmlScanner(std::string_view text) noexcept : text_(text) {}
 
-    /// Passes over the byte order mark, the declaration and the document type, up to the root's start tag and
-    /// its attributes.
+    /// Skips the byte order mark, the XML declaration and the document type. Returns the root's start tag and
+    /// skips its attributes.
     [[nodiscard]] Tag root();
 
-    /// The next tag; between it and the one before may be white space, comments and processing instructions.
+    /// Returns the next tag. Skips white space, comments and processing instructions before it.
     [[nodiscard]] Tag next();
 
-    /// The text of an element whose start tag was the last one, and passes over its end tag. References are
-    /// replaced, lines end in line feeds. A part of the whole text, or replaced: then valid until the next
-    /// call.
+    /// Returns the text of the element whose start tag was returned last, and skips its end tag. Replaces
+    /// references and normalises line ends to line feeds. The result is a view of the source, or, if
+    /// isReplaced(), valid until the next call.
     [[nodiscard]] std::string_view text(const Tag &start);
     [[nodiscard]] bool isReplaced(std::string_view text) const noexcept {
         return text.data() == decoded_.data();
     }
 
-    /// Checks that nothing follows the root's end tag.
+    /// Throws if anything but white space, comments and processing instructions follows the root's end tag.
     void finish();
 
     [[noreturn]] void fail(std::string_view reason, std::size_t offset) const;
@@ -55,7 +55,7 @@ private:
     bool skipMiscellaneous();
     void skipPast(std::string_view terminator, std::string_view what);
     void skipWhiteSpace() noexcept;
-    /// The byte so far on, or NUL, which no text holds, at the end.
+    /// Returns the byte at `distance` from the position; NUL, which no text contains, at the end.
     [[nodiscard]] char peek(std::size_t distance = 0) const noexcept;
     [[nodiscard]] bool startsWith(std::string_view prefix) const noexcept;
     [[nodiscard]] std::string_view name() noexcept;

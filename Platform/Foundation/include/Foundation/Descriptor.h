@@ -9,7 +9,7 @@ namespace velmar {
 /// Owns a file descriptor of the operating system.
 class Descriptor {
 public:
-    /// Takes over an open descriptor; a negative number is none.
+    /// Takes ownership of an open descriptor. A negative number means no descriptor.
     explicit Descriptor(int number = -1) noexcept : number_(number) {}
     Descriptor(Descriptor &&other) noexcept : number_(std::exchange(other.number_, -1)) {}
     Descriptor &operator=(Descriptor &&other) noexcept {
@@ -21,7 +21,7 @@ public:
 
     [[nodiscard]] int number() const noexcept { return number_; }
     [[nodiscard]] explicit operator bool() const noexcept { return number_ >= 0; }
-    /// Hands the descriptor over to the caller.
+    /// Releases ownership to the caller and returns the descriptor's number.
     [[nodiscard]] int release() noexcept { return std::exchange(number_, -1); }
 
 private:

@@ -8,7 +8,7 @@ struct stat;
 
 namespace velmar {
 
-/// What the file system tells of one item.
+/// Attributes of one file system item.
 struct FileAttributes {
     enum class Kind : std::uint8_t { RegularFile, Directory, SymbolicLink, Other };
 
@@ -17,12 +17,12 @@ struct FileAttributes {
     std::uint32_t permissions = 0; ///< The lower twelve bits of the mode: special bits, user, group, others.
     std::uint32_t userId = 0;
     std::uint32_t groupId = 0;
-    std::optional<std::string> ownerName; ///< Absent where no account has the number.
+    std::optional<std::string> ownerName; ///< Absent if no account has this id.
     std::optional<std::string> groupName;
-    /// An access control list gives named users or groups rights that the mode doesn't tell.
+    /// True if an access control list grants named users or groups rights that the mode doesn't show.
     bool hasAccessControlList = false;
 
-    /// What the status tells: all but the access control list.
+    /// Returns the attributes that `status` contains: all except hasAccessControlList, which stays false.
     [[nodiscard]] static FileAttributes of(const struct stat &status);
 };
 

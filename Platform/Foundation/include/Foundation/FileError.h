@@ -16,7 +16,7 @@ struct FileFailure {
         std::string path;
         [[nodiscard]] std::string errorDescription() const;
     };
-    /// Neither a regular file nor a directory: a link, a pipe, a socket or a device.
+    /// The item is neither a regular file nor a directory, but a link, a pipe, a socket or a device.
     struct NotRegularFile {
         std::string path;
         [[nodiscard]] std::string errorDescription() const;
@@ -26,16 +26,16 @@ struct FileFailure {
         std::size_t limit; ///< In bytes.
         [[nodiscard]] std::string errorDescription() const;
     };
-    /// What the operating system refused otherwise.
+    /// A system call failed for any other reason.
     struct SystemError {
         std::string path;
-        std::string action; ///< A past participle for the text: "read", "created".
+        std::string action; ///< A past participle for the message: "read", "created".
         int code;           ///< errno
         [[nodiscard]] std::string errorDescription() const;
     };
 };
 
-/// Why an item of the file system couldn't be used; one sentence each.
+/// An error about an item of the file system. Each message is one sentence.
 class FileError final
     : public ErrorOfCases<FileFailure::NotFound, FileFailure::IsDirectory, FileFailure::NotRegularFile,
                           FileFailure::TooLarge, FileFailure::SystemError>,
@@ -43,7 +43,7 @@ class FileError final
 public:
     using ErrorOfCases::ErrorOfCases;
 
-    /// The error of a failed system call: NotFound for ENOENT and ENOTDIR, otherwise SystemError.
+    /// Returns the error of a failed system call: NotFound for ENOENT and ENOTDIR, otherwise SystemError.
     [[nodiscard]] static FileError fromErrno(std::string path, std::string action, int code);
 };
 

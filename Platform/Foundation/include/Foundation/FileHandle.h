@@ -9,33 +9,33 @@
 
 namespace velmar {
 
-/// One open item of the file system, held by its descriptor: whatever happens to the path meanwhile,
-/// attributes and content are those of the item that was opened. Closed with the handle; not inherited by
-/// child processes.
+/// An open item of the file system. Attributes and content are always those of the opened item, even if its
+/// path is renamed or replaced. Destroying the handle closes the item. Child processes don't inherit it.
 class FileHandle {
 public:
-    /// Holds the item of that path itself: a symbolic link as the link, which then cannot be read. Opening
-    /// neither needs the right to read nor waits for a pipe's other end. Throws FileError.
+    /// Opens the item at `path` without following a symbolic link; a link's content cannot be read. Opening
+    /// needs no read permission and doesn't block on a pipe. Throws FileError.
     [[nodiscard]] static FileHandle openItself(const std::string &path);
 
     [[nodiscard]] const std::string &path() const noexcept { return path_; }
 
-    /// As they are now. Throws FileError.
+    /// Returns the current attributes. Throws FileError.
     [[nodiscard]] FileAttributes attributes() const;
 
-    /// The whole content of a regular file, from its beginning. Throws FileError: IsDirectory,
-    /// NotRegularFile, TooLarge for more than `limit` bytes (also if the file grows while it is read),
-    /// SystemError.
+    /// Returns the whole content of a regular file, starting at its beginning. Throws FileError: IsDirectory,
+    /// NotRegularFile, SystemError, or TooLarge if there are more than `limit` bytes, even if the file grows
+    /// during the read.
     [[nodiscard]] std::string readAll(std::size_t limit) const;
 
 private:
     FileHandle(std::string path, Descriptor item) : path_(std::move(path)), item_(std::move(item)) {}
 
-    // Leads to the item wherever it lies now.
+    // Returns a path under /proc/self/fd, which remains valid when the item is renamed.
     [[nodiscard]] std::string pathOfItself() const;
 
     std::string path_;
-    Descriptor item_; // names the item only; reading opens it anew
+    // O_PATH: identifies the item only; readAll() reopens it.
+    Descriptor item_;
 };
 
 } // namespace velmar

@@ -6,7 +6,7 @@
 
 namespace velmar {
 
-/// A record of the machine's group database, looked up like a UserAccount.
+/// A record of the machine's group database. Lookup works as in UserAccount.
 struct GroupAccount {
     std::string name;
     std::uint32_t groupId = 0;

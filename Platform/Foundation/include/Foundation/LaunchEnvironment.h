@@ -5,11 +5,12 @@ namespace velmar {
 /// The environment of the programs that this process launches.
 namespace LaunchEnvironment {
 
-/// Has programs get the environment as it is at this moment, whatever this process changes of its own later.
-/// Before the first thread.
+/// Takes a snapshot of the current environment for all programs launched later. Must be called before the
+/// first thread starts.
 void keep();
 
-/// As execve() takes it: what was kept, or the process's own. Any thread.
+/// Returns the snapshot of keep() in the form of execve(), or the process's own environment if there is none.
+/// Thread-safe.
 [[nodiscard]] char *const *get() noexcept;
 
 } // namespace LaunchEnvironment

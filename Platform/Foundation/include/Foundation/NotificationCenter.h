@@ -9,7 +9,8 @@ namespace velmar {
 
 class NotificationCenter;
 
-/// Owns one registration with a centre: destroying it ends the registration. It may outlive the centre.
+/// Owns one registration with a notification centre. The destructor ends the registration. May outlive the
+/// centre.
 class NotificationObserver {
 public:
     NotificationObserver() = default;
@@ -24,13 +25,13 @@ private:
     std::shared_ptr<Registration> registration_;
 };
 
-/// Named notifications within the process. Posting is synchronous: every observer of the name has run, on the
-/// poster's thread and in the order of registration, when `post` returns. An observer may post, add and
-/// remove in its turn; one that is removed during a post is not called any more. Any thread.
+/// Named notifications within the process. post() is synchronous: it calls all observers of the name on the
+/// calling thread, in the order of registration, before it returns. A handler may post, add and remove
+/// observers. An observer removed during a post is not called any more. Thread-safe.
 ///
-/// The end of a registration doesn't wait for a handler that runs on another thread at that moment. So a
-/// handler holds its owner weakly and does nothing once it is gone; it never captures `this` of an object
-/// that may go while others post.
+/// Ending a registration doesn't wait for a handler that is running on another thread. A handler must
+/// therefore hold its owner weakly and do nothing once the owner is destroyed. It must not capture `this` of
+/// an object that can be destroyed while other threads post.
 class NotificationCenter {
 public:
     using Handler = std::function<void()>;
@@ -42,10 +43,10 @@ public:
 
     [[nodiscard]] NotificationObserver addObserver(std::string name, Handler handler);
 
-    /// Calls the name's observers, all of them also if some throw; the first exception is thrown at the end.
+    /// Calls all observers of the name, even if some throw. Rethrows the first exception afterwards.
     void post(std::string_view name);
 
-    /// The centre of the process.
+    /// Returns the shared instance of the process.
     static NotificationCenter &defaultCenter();
 
 private:

@@ -5,16 +5,17 @@
 
 namespace velmar {
 
-/// A program with its arguments, to be launched by a ProcessChain. A value.
+/// A program with its arguments, to be launched by a ProcessChain.
 struct Process {
-    std::string executablePath; ///< Never searched for: without a slash, a file of the current directory.
+    /// PATH is not searched: a name without a slash is a file in the current directory.
+    std::string executablePath;
     std::vector<std::string> arguments;
 
-    /// The path and the arguments with blanks between them, for messages.
+    /// Returns the path and the arguments, joined by spaces, for messages.
     [[nodiscard]] std::string description() const;
 
-    /// Throws the ProcessError that a launch now would fail with, as far as that can be told without it:
-    /// nothing at the path, a directory, no right to execute, a NUL byte.
+    /// Throws the ProcessError that a launch would fail with if it can be detected beforehand: no file at the
+    /// path, a directory, no permission to execute, a NUL byte.
     void checkLaunchable() const;
 
     bool operator==(const Process &) const = default;

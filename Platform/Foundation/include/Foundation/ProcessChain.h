@@ -12,36 +12,37 @@ namespace velmar {
 
 class ChildProcess;
 
-/// What the last process of a chain wrote on its standard output.
+/// Standard output of the last process of a chain.
 struct ProcessOutput {
     std::string bytes;
-    bool isCut = false; ///< There was more, which was read and dropped.
+    bool isCut = false; ///< True if there was more output than the limit.
 };
 
-/// Child processes that run side by side, each reading what the one before writes; the first reads nothing.
-/// They share the standard error of this process and no other descriptor; each has a process group of its
-/// own, and no signal blocked or ignored. Each one is reaped when it ends, whatever becomes of the chain, and
-/// outlives this process if that ends first. Any thread, one at a time; nothing waits.
+/// A pipeline of child processes that run concurrently. Each process reads the output of its predecessor; the
+/// first one reads /dev/null. The processes share this process's standard error and no other descriptor. Each
+/// has its own process group and no blocked or ignored signals. Each is reaped when it ends, even after the
+/// chain is destroyed, and keeps running if this process ends first. No function waits for a process. Calls
+/// must not overlap; the thread may change.
 class ProcessChain {
 public:
     ProcessChain();
-    /// A chain whose output was not asked for is given up: those that run are sent SIGTERM, with their
-    /// groups, and find their pipes closed.
+    /// Gives up a chain whose output was not requested: closes the output and sends SIGTERM to the process
+    /// groups.
     ~ProcessChain();
     ProcessChain(const ProcessChain &) = delete;
     ProcessChain &operator=(const ProcessChain &) = delete;
 
-    /// Adds a process to the end and starts it. Throws ProcessError, after which nothing has been added.
+    /// Appends a process and starts it. Throws ProcessError; the chain is then unchanged.
     void launch(const Process &process);
 
-    /// Adds a last process that writes into a file without a name instead of a pipe, of at most `limit` bytes:
-    /// more can't be written. It may go on after this process has ended, and it is over when it has itself
-    /// ended, whatever it leaves running. Throws ProcessError.
+    /// Appends the last process, which writes to an anonymous file of at most `limit` bytes instead of a
+    /// pipe. Further writes fail. The process may outlive this process. The output is complete when the
+    /// process itself has ended, even if its children still run. Throws ProcessError.
     void launchIntoFile(const Process &process, std::size_t limit);
 
-    /// Calls the completion once, on a thread of the pool, when the last process has ended and, of a pipe,
-    /// everybody who can write to it has closed it; not if DispatchQueue::shutdown comes first. At most `limit`
-    /// bytes are kept. To be called once, after a launch; launches nothing any more. Throws ProcessError.
+    /// Calls the completion once, on a pool thread, when the last process has ended and, if it writes to a
+    /// pipe, all writers have closed the pipe. Keeps at most `limit` bytes. The completion is not called
+    /// after DispatchQueue::shutdown. Must be called once, after the last launch. Throws ProcessError.
     void readOutput(std::size_t limit, std::function<void(ProcessOutput)> completion);
 
 private:
@@ -49,7 +50,7 @@ private:
 
     std::vector<ChildProcess> children_;
     std::string lastPath_;
-    Descriptor output_; // of the last one
+    Descriptor output_; // Output of the last process.
     bool isOutputFile_ = false;
 };
 

@@ -7,22 +7,22 @@
 namespace velmar {
 
 struct ProcessFailure {
-    /// A bare name that no directory of the search path has a program for.
+    /// No directory of the search path contains a program of this name.
     struct NoSuchCommand {
         std::string name;
         [[nodiscard]] std::string errorDescription() const;
     };
-    /// The path or an argument holds a NUL byte, which would cut it short.
+    /// The path or an argument contains a NUL byte, which would truncate it.
     struct HoldsNul {
-        std::string path; ///< Of the program.
+        std::string path; ///< Path of the program.
         [[nodiscard]] std::string errorDescription() const;
     };
-    /// The program is there, but what it is to be run by is not.
+    /// The program exists, but its interpreter doesn't.
     struct MissingInterpreter {
         std::string path;
         [[nodiscard]] std::string errorDescription() const;
     };
-    /// What the operating system refused otherwise.
+    /// A system call failed for any other reason.
     struct NotLaunched {
         std::string path;
         int code; ///< errno
@@ -30,7 +30,7 @@ struct ProcessFailure {
     };
 };
 
-/// Why a program couldn't be launched; one sentence each.
+/// An error that prevents the launch of a program. Each message is one sentence.
 class ProcessError final
     : public ErrorOfCases<ProcessFailure::NoSuchCommand, ProcessFailure::HoldsNul,
                           ProcessFailure::MissingInterpreter, ProcessFailure::NotLaunched>,

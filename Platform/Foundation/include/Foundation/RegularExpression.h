@@ -13,13 +13,13 @@
 
 namespace velmar {
 
-/// A part of a UTF-8 text, in bytes. A range that a match gives always begins and ends between characters.
+/// A range of bytes in a UTF-8 text. The ranges of a match begin and end between characters.
 struct TextRange {
     std::size_t location = 0;
     std::size_t length = 0;
 
     [[nodiscard]] std::size_t end() const noexcept { return location + length; }
-    /// The part itself; `text` is the one that the range was found in.
+    /// Returns the part of `text`, which must be the text that was searched.
     [[nodiscard]] std::string_view of(std::string_view text) const { return text.substr(location, length); }
 
     bool operator==(const TextRange &) const = default;
@@ -27,31 +27,32 @@ struct TextRange {
 
 struct RegularExpressionOptions {
     bool caseInsensitive = false;
-    bool allowsCommentsAndWhitespace = false; ///< Blanks in the pattern are skipped, # begins a comment.
+    bool allowsCommentsAndWhitespace = false; ///< Skips blanks in the pattern; # starts a comment.
     bool dotMatchesLineSeparators = false;
-    bool anchorsMatchLines = false; ///< ^ and $ match at the lines' ends, not only at the text's.
+    /// ^ and $ match at line ends, not only at the ends of the text.
+    bool anchorsMatchLines = false;
 
     bool operator==(const RegularExpressionOptions &) const = default;
 };
 
-/// Why a pattern or a match with it failed. A match that fails is never told as "no match".
+/// Cases of an invalid pattern or a failed match. A failed match is always an error, never "no match".
 struct RegularExpressionFailure {
     struct InvalidPattern {
         std::string pattern;
-        std::string reason; ///< The engine's name of the fault, with line and column where it knows them.
+        std::string reason; ///< The engine's name of the error, with line and column if known.
         [[nodiscard]] std::string errorDescription() const;
     };
-    /// Matching took more steps or time than allowed: the pattern backtracks too much on this text.
+    /// Matching exceeded its steps or its time: the pattern backtracks too much on this text.
     struct StepLimitReached {
         std::string pattern;
         [[nodiscard]] std::string errorDescription() const;
     };
-    /// Matching went deeper than the engine's stack: too many open alternatives on this text.
+    /// Matching exceeded the engine's stack: too many alternatives are open on this text.
     struct StackOverflow {
         std::string pattern;
         [[nodiscard]] std::string errorDescription() const;
     };
-    /// Anything else of the engine: no memory, a text above 2^31 - 1 UTF-16 units.
+    /// Any other failure of the engine, such as out of memory or a text longer than 2^31 - 1 bytes.
     struct MatchFailed {
         std::string pattern;
         std::string reason;
@@ -68,27 +69,27 @@ public:
     using ErrorOfCases::ErrorOfCases;
 };
 
-/// A compiled regular expression in ICU's syntax. An immutable value: copies share the compiled form, and any
-/// number of threads may match with it at once. Equality and hash are those of pattern and options.
+/// A compiled regular expression in ICU's syntax. An immutable value: copies share the compiled form.
+/// Thread-safe. Equality and hash depend on the pattern and the options.
 ///
-/// Texts are UTF-8; each ill-formed sequence of bytes matches as one U+FFFD. Matching throws
+/// Texts are UTF-8. Each ill-formed byte sequence matches as one U+FFFD. Matching throws
 /// RegularExpressionError.
 class RegularExpression {
 public:
-    /// Steps are the engine's unit of work, ten thousand backtracking points each. The default is about half
-    /// a second of one processor; what matches at all takes a small part of it. Besides, a search that has
-    /// taken two seconds of its thread's processor time ends as if it had reached the limit.
+    /// Default limit of a search in steps, the engine's unit of 10,000 backtracking points. It takes about
+    /// half a second of processor time; ordinary matches need a small part of it. A search also fails with
+    /// StepLimitReached after two seconds of processor time of its thread.
     static constexpr std::int32_t defaultStepLimit = 2000;
 
-    /// Throws RegularExpressionError (InvalidPattern).
+    /// Compiles a pattern. Throws RegularExpressionError (InvalidPattern).
     explicit RegularExpression(std::string_view pattern, RegularExpressionOptions options = {},
                                std::int32_t stepLimit = defaultStepLimit);
 
     class Match {
     public:
         [[nodiscard]] TextRange range() const noexcept { return *groups_.front(); }
-        /// Capture groups are numbered from 1; 0 is the whole match. Absent where the group took no part in
-        /// the match or the pattern has no such group.
+        /// Returns the range of a capture group, numbered from 1; 0 is the whole match. Returns std::nullopt
+        /// if the group took no part in the match or doesn't exist.
         [[nodiscard]] std::optional<TextRange> group(std::size_t number) const noexcept {
             return number < groups_.size() ? groups_[number] : std::nullopt;
         }
@@ -99,10 +100,10 @@ public:
     };
 
     [[nodiscard]] std::optional<Match> firstMatch(std::string_view text) const;
-    /// All matches, one after the other without overlap, in the text's order.
+    /// Returns all non-overlapping matches in the order of the text.
     [[nodiscard]] std::vector<Match> matches(std::string_view text) const;
-    /// True if the first match is the whole text. With "a|ab" that is not so for "ab": its first match is
-    /// "a".
+    /// Returns true if the first match spans the whole text. False for "a|ab" and the text "ab", where the
+    /// first match is "a".
     [[nodiscard]] bool matchesWhole(std::string_view text) const;
 
     [[nodiscard]] const std::string &pattern() const noexcept;

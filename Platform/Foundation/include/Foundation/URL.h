@@ -8,39 +8,39 @@
 
 namespace velmar {
 
-/// A URL as it is written in a configuration or made from a path. An immutable value; equality is that of the
-/// text.
+/// A URL from a configuration or a path. An immutable value; equality compares the text.
 ///
-/// The text is kept as given. What RFC 3986 doesn't allow in it (blanks, other than ASCII characters, braces,
-/// a "%" without two digits) is percent-encoded when the URL is used, so "/Users/me/a picture.png" is a good
+/// The text is kept as given. Characters that RFC 3986 doesn't allow (blanks, non-ASCII characters, braces, a
+/// "%" without two digits) are percent-encoded when the URL is used, so "/Users/me/a picture.png" is a valid
 /// relative URL.
 class URL {
 public:
-    /// Absent for an empty text, for one that is not UTF-8 or holds control characters, and for an authority
-    /// that is none ("http://a b/", "http://host:port/"). A text with placeholders, "${NAME}", is taken as it
-    /// is and judged when it has been populated and read again.
+    /// Parses a text. Returns std::nullopt if it is empty, is not UTF-8, contains control characters or has
+    /// an invalid authority ("http://a b/", "http://host:port/"). The authority of a text with placeholders
+    /// ("${NAME}") is not checked.
     [[nodiscard]] static std::optional<URL> fromString(std::string_view text);
 
-    /// The file URL of a path; a relative one is taken below the current directory. The text of a directory's
-    /// URL ends in "/".
+    /// Returns the file URL of a path. A relative path is resolved against the current directory. The text of
+    /// a directory's URL ends in "/".
     [[nodiscard]] static URL file(std::string_view path, bool isDirectory = false);
 
-    /// As written, placeholders included.
+    /// Returns the text as written, including placeholders.
     [[nodiscard]] const std::string &text() const noexcept { return text_; }
-    /// Percent-encoded, ASCII only.
+    /// Returns the percent-encoded URL, ASCII only.
     [[nodiscard]] std::string absoluteString() const;
 
     [[nodiscard]] bool hasPlaceholders() const noexcept;
-    [[nodiscard]] std::optional<std::string> scheme() const; ///< Lower case; absent for a relative URL.
+    /// Returns the scheme in lower case, or std::nullopt for a relative URL.
+    [[nodiscard]] std::optional<std::string> scheme() const;
     [[nodiscard]] bool isFileURL() const;
 
-    /// Percent-decoded, without a trailing slash unless it is "/". For a file URL the path on disk. May hold
-    /// any byte.
+    /// Returns the percent-decoded path, without trailing slashes unless it is "/". The path of a file
+    /// URL is the path on disk. May contain any byte.
     [[nodiscard]] std::string path() const;
-    [[nodiscard]] std::string lastPathComponent() const; ///< "/" for the root, empty for an empty path.
+    [[nodiscard]] std::string lastPathComponent() const; ///< Returns "/" for the root, "" for an empty path.
 
-    /// This URL with the component, which is not encoded yet, put behind its path. It may hold a sub-path
-    /// ("a/b"); one that begins with "/" stays below all the same. Query and fragment remain.
+    /// Returns this URL with an unencoded component appended to the path. The component may be a sub-path
+    /// ("a/b"); leading slashes are dropped. Query and fragment are kept.
     [[nodiscard]] URL appendingPathComponent(std::string_view component, bool isDirectory = false) const;
 
     bool operator==(const URL &) const = default;

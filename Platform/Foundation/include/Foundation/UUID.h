@@ -8,12 +8,12 @@
 
 namespace velmar {
 
-/// An identity that no other object has: 122 random bits (version 4).
+/// A unique identifier: 122 random bits (version 4).
 class UUID {
 public:
-    UUID(); ///< A new one.
+    UUID(); ///< Generates a new identifier. Throws std::system_error.
 
-    /// In the usual form, upper case: "F81D4FAE-7DEC-41D0-A765-00A0C91E6BF6".
+    /// Returns the usual form in upper case: "F81D4FAE-7DEC-41D0-A765-00A0C91E6BF6".
     [[nodiscard]] std::string text() const;
 
     auto operator<=>(const UUID &) const = default;

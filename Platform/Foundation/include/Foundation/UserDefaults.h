@@ -8,22 +8,24 @@
 
 namespace velmar {
 
-/// The stored settings of one suite and one user: texts by key in a property list, "Velmar/{suite}.plist" in
-/// UserDirectories::configuration(). Read at each use, so what another process stored is seen. Any thread.
+/// Stored settings of one suite and one user: texts by key in the property list "Velmar/{suite}.plist" in
+/// UserDirectories::configuration(). Every access reads the file, so changes by other processes are visible.
+/// Thread-safe.
 ///
-/// A file that is no property list, or above one megabyte, counts as empty; the next write puts it aside
-/// beside the new one, under its name with ".damaged-" and six characters.
+/// A file that is not a property list or exceeds one megabyte counts as empty. The next write renames it,
+/// appending ".damaged-" and six characters.
 class UserDefaults {
 public:
-    /// `suite` is one file name.
+    /// `suite` must be a single file name.
     explicit UserDefaults(std::string_view suite);
 
-    /// Absent if there is no such key, no such file, or the value is no text.
+    /// Returns the text, or std::nullopt if the key or the file is missing, the file can't be read, or the
+    /// value is not a text.
     [[nodiscard]] std::optional<std::string> string(std::string_view key) const;
 
-    /// Other keys remain. Throws FileError where the file cannot be written, or not with this text (one that
-    /// is not UTF-8 or holds control characters), or is held by another process for more than two seconds;
-    /// the former content is then untouched.
+    /// Stores one value and keeps the other keys. Throws FileError if the file cannot be written, if another
+    /// process locks it for more than two seconds, or if the text is not UTF-8 or contains control
+    /// characters. The stored content is then unchanged.
     void set(std::string_view key, std::string_view value);
 
     [[nodiscard]] const std::string &path() const noexcept { return path_; }

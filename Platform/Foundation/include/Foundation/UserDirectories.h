@@ -3,21 +3,21 @@
 #include <string>
 #include <vector>
 
-/// Where the user that the process acts as keeps what programs store. Any thread, as long as none changes the
-/// environment.
+/// Standard directories of the effective user. Thread-safe as long as no thread changes the environment.
 namespace velmar::UserDirectories {
 
-/// The directory of settings: `$XDG_CONFIG_HOME` if that is an absolute path, else `.config` in `$HOME` if
-/// that is one, else `.config` in the home directory of the account. It may not be there yet.
+/// Returns the directory of settings: `$XDG_CONFIG_HOME` if it is an absolute path, else `.config` in `$HOME`
+/// if that is an absolute path, else `.config` in the home directory of the account. The directory may not
+/// exist.
 ///
-/// Root may have been given the environment of somebody else, who would choose where root writes: for root
-/// each of the two variables counts only if its directory and those above it belong to root and nobody else
-/// may write in them or replace one; a directory that is missing is judged by those above.
+/// Root may have inherited another user's environment, which must not choose where root writes. A variable
+/// therefore counts for root only if its directory and all parents belong to root and no other user can write
+/// to or replace them. A missing directory is judged by its existing parents.
 [[nodiscard]] std::string configuration();
 
-/// The directories of what programs bring along (desktop entries, sounds), in the order in which they are
-/// searched: `$XDG_DATA_HOME`, by default `.local/share` in the home directory, then those of
-/// `$XDG_DATA_DIRS`, by default `/usr/local/share` and `/usr/share`. For root the same holds as above.
+/// Returns the directories of installed data (desktop entries, sounds) in search order: `$XDG_DATA_HOME`, by
+/// default `.local/share` in the home directory, then `$XDG_DATA_DIRS`, by default `/usr/local/share` and
+/// `/usr/share`. The rule for root in configuration() applies.
 [[nodiscard]] std::vector<std::string> data();
 
 } // namespace velmar::UserDirectories

@@ -10,15 +10,15 @@
 
 namespace velmar {
 
-/// Why asynchronous work failed, never null. `std::dynamic_pointer_cast` to a family of errors gives its
-/// case.
+/// The reason why asynchronous work failed. Never null. `std::dynamic_pointer_cast` to an error family gives
+/// access to the case.
 using Error = std::shared_ptr<const LocalizedError>;
 
-/// What asynchronous work completes with.
+/// The outcome of asynchronous work: a value or an Error.
 template <class T>
 using Result = tl::expected<T, Error>;
 
-/// An error of a family, as a failed Result of any type.
+/// Returns an error of a family as a failed Result of any type.
 template <class Family>
 requires std::is_base_of_v<LocalizedError, Family>
 [[nodiscard]] tl::unexpected<Error> failure(Family error) {

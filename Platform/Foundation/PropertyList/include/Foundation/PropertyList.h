@@ -13,12 +13,13 @@ namespace velmar {
 
 class PropertyListValue;
 
-/// One value of a property list, to be made, changed and written: a plain value that owns all its parts.
-/// Whoever only reads a file takes PropertyListDocument, which owns nothing value by value.
+/// A value of a property list that can be created, changed and written. Owns all its parts. To read a file
+/// only, use PropertyListDocument, which needs less memory.
 class PropertyList {
 public:
-    static constexpr std::size_t maximumDepth = 256;        ///< Of arrays and dictionaries within each other.
-    static constexpr std::size_t maximumValues = 1'000'000; ///< In what is read, the root included.
+    static constexpr std::size_t maximumDepth = 256; ///< Maximum nesting of arrays and dictionaries.
+    /// Maximum number of values in a document, including the root.
+    static constexpr std::size_t maximumValues = 1'000'000;
 
     /// Bytes of a <data> element.
     struct Data {
@@ -34,14 +35,14 @@ public:
 
     using Array = std::vector<PropertyList>;
 
-    /// Values by key, in the order of the file or of their setting. Looking up is linear, which suits the few
-    /// keys of an item; iterate where there are thousands. Equality ignores the order.
+    /// Values by key, in the order of the file or of insertion. Lookup is linear, which suits the few keys of
+    /// an item; iterate over large dictionaries instead. Equality ignores the order.
     class Dictionary {
     public:
         struct Entry;
 
         Dictionary() noexcept;
-        /// Takes entries as they are: their keys must differ.
+        /// Takes the entries unchecked. Their keys must be unique.
         explicit Dictionary(std::vector<Entry> entries) noexcept;
         Dictionary(const Dictionary &);
         Dictionary(Dictionary &&) noexcept;
@@ -49,11 +50,11 @@ public:
         Dictionary &operator=(Dictionary &&) noexcept;
         ~Dictionary();
 
-        /// The value of the key, or null.
+        /// Returns the value of the key, or nullptr.
         [[nodiscard]] const PropertyList *find(std::string_view key) const noexcept;
         [[nodiscard]] PropertyList *find(std::string_view key) noexcept;
 
-        /// Replaces the value of the key at its place, or adds it at the end.
+        /// Replaces the value of the key in place, or appends the key.
         void set(std::string_view key, PropertyList value);
 
         [[nodiscard]] std::size_t size() const noexcept;
@@ -79,12 +80,11 @@ public:
         Dictionary
     };
 
-    PropertyList() noexcept; ///< An empty dictionary.
+    PropertyList() noexcept; ///< Creates an empty dictionary.
     PropertyList(bool value) noexcept;
     PropertyList(std::int64_t value) noexcept;
     PropertyList(int value) noexcept : PropertyList(static_cast<std::int64_t>(value)) {}
-    PropertyList(
-        std::uint64_t value) noexcept; ///< Kind Integer where it fits, UnsignedInteger above 2^63 - 1.
+    PropertyList(std::uint64_t value) noexcept; ///< Kind Integer up to 2^63 - 1, otherwise UnsignedInteger.
     PropertyList(double value) noexcept;
     PropertyList(std::string value) noexcept;
     PropertyList(std::string_view value);
@@ -93,7 +93,7 @@ public:
     PropertyList(Date value) noexcept;
     PropertyList(Array value) noexcept;
     PropertyList(Dictionary value) noexcept;
-    explicit PropertyList(const PropertyListValue &value); ///< A copy of what was read.
+    explicit PropertyList(const PropertyListValue &value); ///< A deep copy.
     PropertyList(const PropertyList &other);
     PropertyList(PropertyList &&other) noexcept;
     PropertyList &operator=(const PropertyList &other);
@@ -102,8 +102,8 @@ public:
 
     [[nodiscard]] Kind kind() const noexcept { return kind_; }
 
-    /// Each gives the value where it is of that kind, otherwise null. An Integer is never a Boolean or a Real
-    /// here: what counts as what is the reader's decision.
+    /// Typed access: each function returns the value if it is of that kind, otherwise nullptr. An Integer is
+    /// never converted to a Boolean or a Real; conversions are left to the caller.
     [[nodiscard]] const bool *boolean() const noexcept;
     [[nodiscard]] const std::int64_t *integer() const noexcept;
     [[nodiscard]] const std::uint64_t *unsignedInteger() const noexcept;
@@ -116,27 +116,27 @@ public:
     [[nodiscard]] Array *array() noexcept;
     [[nodiscard]] Dictionary *dictionary() noexcept;
 
-    /// A real that is not a number equals another one, so that a value always equals its copy.
+    /// NaN equals NaN, so that a value always equals its copy.
     bool operator==(const PropertyList &other) const;
 
-    /// A short text for messages, in the manner of `{Size = 12; Items = [a, b]}`.
+    /// Returns a short text for messages, such as `{Size = 12; Items = [a, b]}`.
     [[nodiscard]] std::string text() const;
 
-    /// A copy of the document that the bytes are; see PropertyListDocument::read.
+    /// Reads a document and copies it; see PropertyListDocument::read.
     [[nodiscard]] static PropertyList read(std::span<const std::byte> bytes);
     [[nodiscard]] static PropertyList read(std::string_view bytes);
 
-    /// Writes the XML form, indented by tabs, with the usual document type line, or the binary form
-    /// ("bplist00"). What is written reads back equal within the limits above, but for dates in XML, which
-    /// have whole seconds there. Throws PropertyListError for what a form cannot hold: a depth beyond
-    /// maximumDepth, text that is not UTF-8, a date that is not a number; in XML also control characters and
-    /// dates outside of the years 0 to 9999.
+    /// Writes the XML form, indented by tabs and with the usual document type, or the binary form
+    /// ("bplist00"). Reading the result yields an equal value if it is within the limits above, except that
+    /// XML stores whole seconds of dates. Throws PropertyListError for a depth beyond maximumDepth, text that
+    /// is not UTF-8 and a date that is not a number; in XML also for control characters and dates outside of
+    /// the years 0 to 9999.
     [[nodiscard]] std::string xml() const;
     [[nodiscard]] std::vector<std::byte> binary() const;
 
 private:
     void destroy() noexcept;
-    /// Becomes a copy of `other`, or takes its value where it may be moved from; nothing is held before.
+    /// Copies or moves `other` into this object, which must hold no value.
     template <class Other>
     void construct(Other &&other);
 

@@ -11,7 +11,7 @@
 
 namespace velmar {
 
-/// A key to look up, with what tells it from most other keys at one glance.
+/// A key for lookups, with a fingerprint that differs for most other keys. Doesn't own the text.
 class PropertyListKey {
 public:
     constexpr PropertyListKey() = default;
@@ -29,8 +29,7 @@ public:
     }
 
 private:
-    /// The length and three of the characters. Who chooses keys that it doesn't tell apart pays with
-    /// comparisons of texts.
+    /// Combines the length and three characters. Colliding keys only cost full comparisons.
     static constexpr std::uint32_t fingerprintOf(std::string_view text) noexcept {
         const auto at = [text](std::size_t index) {
             return std::uint32_t{static_cast<unsigned char>(text[index])};
@@ -45,8 +44,8 @@ private:
     std::uint32_t fingerprint_ = 0;
 };
 
-/// A value of a PropertyListDocument, to be read: 24 bytes that own nothing. It and all that it hands out is
-/// valid as long as the document and the bytes that this was read from.
+/// A read-only value of a PropertyListDocument: 24 bytes that own nothing. The value and everything it
+/// returns are valid as long as the document and its source bytes.
 class PropertyListValue {
 public:
     using Kind = PropertyList::Kind;
@@ -55,10 +54,11 @@ public:
 
     struct Entry;
 
-    PropertyListValue() noexcept : entries_(nullptr), kind_(Kind::Dictionary) {} ///< An empty dictionary.
+    /// Creates an empty dictionary.
+    PropertyListValue() noexcept : entries_(nullptr), kind_(Kind::Dictionary) {}
     explicit PropertyListValue(bool value) noexcept : boolean_(value), kind_(Kind::Boolean) {}
     explicit PropertyListValue(std::int64_t value) noexcept : integer_(value), kind_(Kind::Integer) {}
-    /// Kind Integer where it fits, UnsignedInteger above 2^63 - 1.
+    /// Kind Integer up to 2^63 - 1, otherwise UnsignedInteger.
     explicit PropertyListValue(std::uint64_t value) noexcept;
     explicit PropertyListValue(double value) noexcept : real_(value), kind_(Kind::Real) {}
     explicit PropertyListValue(Date value) noexcept
@@ -72,12 +72,12 @@ public:
           size_(static_cast<std::uint32_t>(elements.size())),
           kind_(Kind::Array) {}
     explicit PropertyListValue(std::span<const Entry> entries) noexcept;
-    PropertyListValue(const char *) = delete; // Would be a Boolean.
+    PropertyListValue(const char *) = delete; // would convert to bool
 
     [[nodiscard]] Kind kind() const noexcept { return kind_; }
 
-    /// Each gives the value where it is of that kind. An Integer is never a Boolean or a Real here: what
-    /// counts as what is the reader's decision.
+    /// Typed access: each function returns the value if it is of that kind, otherwise std::nullopt. An
+    /// Integer is never converted to a Boolean or a Real; conversions are left to the caller.
     [[nodiscard]] std::optional<bool> boolean() const noexcept {
         return kind_ == Kind::Boolean ? std::optional(boolean_) : std::nullopt;
     }
@@ -103,19 +103,19 @@ public:
     [[nodiscard]] bool isArray() const noexcept { return kind_ == Kind::Array; }
     [[nodiscard]] bool isDictionary() const noexcept { return kind_ == Kind::Dictionary; }
 
-    /// Those of an array; none for another value.
+    /// Returns the elements of an array; empty for other kinds.
     [[nodiscard]] std::span<const PropertyListValue> elements() const noexcept;
-    /// Those of a dictionary, in the order of the file; none for another value.
+    /// Returns the entries of a dictionary in the order of the file; empty for other kinds.
     [[nodiscard]] std::span<const Entry> entries() const noexcept;
-    /// The value of a key in a dictionary, or null. It goes through the entries, which suits the few keys of
-    /// an item; iterate where there are thousands.
+    /// Returns the value of a key in a dictionary, or nullptr. Lookup is linear, which suits the few keys of
+    /// an item; iterate over large dictionaries instead.
     [[nodiscard]] const PropertyListValue *find(const PropertyListKey &key) const noexcept;
 
-    /// Where the value stands in the bytes that it was read from; 0 for one that was made by code.
+    /// Returns the offset of the value in the source bytes; 0 for a value that was not read.
     [[nodiscard]] std::uint32_t offset() const noexcept { return offset_; }
     void setOffset(std::uint32_t offset) noexcept { offset_ = offset; }
 
-    /// A short text for messages, in the manner of `{Size = 12; Items = [a, b]}`.
+    /// Returns a short text for messages, such as `{Size = 12; Items = [a, b]}`.
     [[nodiscard]] std::string text() const;
 
 private:
@@ -136,11 +136,11 @@ private:
 
 struct PropertyListValue::Entry {
     PropertyListKey key;
-    std::uint32_t keyOffset = 0; ///< Where the key stands, as offset().
+    std::uint32_t keyOffset = 0; ///< Offset of the key in the source bytes.
     PropertyListValue value;
 };
 
-// What is promised of the memory that a file takes rests on these.
+// The memory limits of PropertyListDocument::read depend on these sizes.
 static_assert(sizeof(PropertyListValue) == 24 && sizeof(PropertyListValue::Entry) == 48);
 
 inline PropertyListValue::PropertyListValue(std::span<const Entry> entries) noexcept
