@@ -14,12 +14,12 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// A made-up directory of processes, desktop entries and programs.
+/// A fake directory of processes, desktop entries and programs.
 class Machine : public testing::Test {
 protected:
     struct Process {
         std::string executable = {};
-        std::string unit = {}; ///< The last part of the control group's path.
+        std::string unit = {}; ///< Last component of the control group's path.
         int parent = 1;
         std::vector<std::string> arguments = {};
         std::string environment = {};
@@ -62,7 +62,7 @@ protected:
                          "[Desktop Entry]\nType=Application\n" + keys + "\n[Desktop Action x]\nExec=no\n");
     }
 
-    /// The identifiers that one look tells, or several do.
+    /// Returns the identifiers reported by `times` successive looks.
     std::vector<std::string> look(int times = 1) {
         std::vector<std::string> identifiers;
         for (; times > 0; --times) {
@@ -156,7 +156,7 @@ TEST_F(Machine, NamesApplicationsByTheirEntriesOrPrograms) {
         run(++number, process);
         EXPECT_THAT(look(2), ElementsAre(identifier)) << process.executable;
     }
-    // What is installed meanwhile is known as soon as it runs.
+    // An entry installed later is found as well.
     const std::string fresh = program("fresh");
     entry("org.example.Fresh", "Exec=fresh");
     run(200, {.executable = fresh});
@@ -186,7 +186,7 @@ TEST_F(Machine, TellsNeitherWhatRanBeforeNorWhatIsNoApplication) {
 
 TEST_F(Machine, WaitsUntilAProcessIsTheProgramThatItIsToRun) {
     look();
-    run(100, {.executable = "/usr/bin/bash", .parent = 50}); // Before its exec.
+    run(100, {.executable = "/usr/bin/bash", .parent = 50}); // before its exec
     EXPECT_THAT(look(), IsEmpty());
     std::filesystem::remove(directory_.path("proc/100/exe"));
     std::filesystem::create_symlink("/usr/bin/env", directory_.path("proc/100/exe"));
@@ -195,7 +195,7 @@ TEST_F(Machine, WaitsUntilAProcessIsTheProgramThatItIsToRun) {
     std::filesystem::create_symlink("/opt/tool", directory_.path("proc/100/exe"));
     EXPECT_THAT(look(), ElementsAre("tool"));
     EXPECT_THAT(look(3), IsEmpty());
-    // One that ends before is what it was seen as.
+    // A process that ends early is reported as it was last seen.
     run(101, {.executable = "/opt/brief", .parent = 50});
     EXPECT_THAT(look(), IsEmpty());
     end(101);
@@ -214,7 +214,7 @@ TEST_F(Machine, TellsAStartOnceAndEachStart) {
     run(104, {.executable = "/opt/browser", .parent = 50});
     EXPECT_THAT(look(3), ElementsAre("browser"));
 
-    // Goes on in a child, when the process that was started has gone.
+    // A program that continues in a child after the parent's end is reported once.
     run(110, {.executable = "/opt/daemon", .parent = 50});
     EXPECT_THAT(look(), IsEmpty());
     end(110);
@@ -237,23 +237,23 @@ TEST_F(Machine, TellsAStartOnceAndEachStart) {
     run(131, {.executable = "/opt/s", .unit = service, .environment = "INVOCATION_ID=2"});
     EXPECT_THAT(look(3), ElementsAre("org.example.Service"));
 
-    // Another process with the number of one that has ended.
+    // The process number is reused.
     end(104);
-    directory_.write("proc/999/stat", ""); // Takes the place of the directory.
+    directory_.write("proc/999/stat", ""); // occupies the inode of the removed directory
     run(104, {.executable = "/opt/editor", .parent = 50});
     EXPECT_THAT(look(3), ElementsAre("editor"));
 }
 
 TEST_F(Machine, TellsNothingThatItStartedItself) {
     run(60, {.executable = "/opt/velmar", .parent = 50});
-    run(70, {.executable = "/usr/bin/bash", .parent = 60}); // Since before the watch.
+    run(70, {.executable = "/usr/bin/bash", .parent = 60}); // runs before the watch starts
     look();
     run(100, {.executable = "/usr/bin/bash", .parent = 60});
     run(101, {.executable = "/opt/tool", .parent = 100});
     run(102, {.executable = "/opt/late", .parent = 70});
     EXPECT_THAT(look(), IsEmpty());
     end(100);
-    run(101, {.executable = "/opt/other"}); // Its parent has gone.
+    run(101, {.executable = "/opt/other"}); // its parent has ended
     run(103, {.executable = "/opt/theirs", .parent = 50});
     EXPECT_THAT(look(3), ElementsAre("theirs"));
 }

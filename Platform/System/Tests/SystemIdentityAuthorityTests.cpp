@@ -16,7 +16,7 @@ namespace {
 
 using Session = SystemIdentityAuthority::Session;
 
-// Puts databases of its own over those of the machine, seen by this process alone.
+// Mounts fake account databases over those of the machine, visible to this process only.
 class SystemIdentityAuthorityTest : public testing::Test {
 protected:
     static void SetUpTestSuite() {
@@ -68,7 +68,7 @@ TEST_F(SystemIdentityAuthorityTest, FindsMembersOfPrimaryAndOtherGroups) {
         {"otto", "admin", true},   // listed
         {"mira", "crowd", true},   // in a record larger than the first buffer
         {"plain", "admin", false}, //
-        {"root", "admin", false},  // being root is not being a member
+        {"root", "admin", false},  // root is not a member of every group
         {"nobody-here", "admin", false}, {"otto", "no-such-group", false}, {"", "", false},
     };
     for (const auto &each : cases)

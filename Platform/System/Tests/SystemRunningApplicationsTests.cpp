@@ -25,7 +25,7 @@ struct CountingQueue final : MainThreadQueue {
     std::atomic<int> posts = 0;
     int runs = 0;
     void async(std::function<void()> function) override {
-        ++posts; // First: the main thread may run the function before this one goes on.
+        ++posts; // counted first: the main thread may run the function at once
         MainThreadQueue::async([this, function = std::move(function)] {
             ++runs;
             function();
@@ -52,7 +52,7 @@ TEST(SystemRunningApplications, TellAProcessOfThisMachine) {
     char *arguments[] = {name, time, nullptr};
     pid_t process = 0, later = 0;
     ASSERT_EQ(posix_spawn(&process, program.c_str(), nullptr, nullptr, arguments, environ), 0);
-    // Each turn of the clock is a look, unless the former one is still under way.
+    // Each tick starts a look unless the previous one is still running.
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
     while (started.empty() && std::chrono::steady_clock::now() < deadline) {
         timers.advance(SystemRunningApplications::interval);
@@ -60,7 +60,7 @@ TEST(SystemRunningApplications, TellAProcessOfThisMachine) {
     }
     EXPECT_EQ(started, (std::vector<RunningApplication>{{"velmar-test-program", process}}));
 
-    // A start that is on its way to the observer, and a look under way.
+    // Ends the observation while a start is being delivered and a look is running.
     ASSERT_EQ(posix_spawn(&later, program.c_str(), nullptr, nullptr, arguments, environ), 0);
     for (mainQueue.posts = 0; mainQueue.posts == 0 && std::chrono::steady_clock::now() < deadline;) {
         timers.advance(SystemRunningApplications::interval);

@@ -14,11 +14,11 @@ namespace velmar {
 
 namespace {
 
-constexpr std::size_t largestEntry = 256 * 1024; // Bytes; translations make entries long.
+constexpr std::size_t largestEntry = 256 * 1024; // bytes; translations make entries long
 constexpr int deepestDirectory = 4;
 constexpr std::string_view entrySuffix = ".desktop";
 
-// All zero for what isn't there.
+// Returns a zeroed status if the item doesn't exist.
 struct stat statusOf(const std::string &path) {
     struct stat status {};
     if (stat(path.c_str(), &status) != 0)
@@ -26,12 +26,12 @@ struct stat statusOf(const std::string &path) {
     return status;
 }
 
-// Nanoseconds.
+// Returns the modification time in nanoseconds.
 std::int64_t lastChange(const struct stat &status) {
     return static_cast<std::int64_t>(status.st_mtim.tv_sec) * 1'000'000'000 + status.st_mtim.tv_nsec;
 }
 
-// The values of an entry's main group that matter here, as they stand.
+// Returns the raw values of the main group by key.
 std::map<std::string, std::string> mainGroup(const std::string &content) {
     std::map<std::string, std::string> values;
     std::istringstream lines(content);
@@ -49,7 +49,7 @@ std::map<std::string, std::string> mainGroup(const std::string &content) {
     return values;
 }
 
-// The words of a command: blanks part them, quotes hold them together, backslashes in quotes escape.
+// Splits a command into words at blanks. Quotes group words; a backslash escapes within quotes.
 std::vector<std::string> words(const std::string &command) {
     std::vector<std::string> result;
     bool isQuoted = false;
@@ -75,7 +75,8 @@ std::vector<std::string> words(const std::string &command) {
 struct Start {
     std::string program;
     std::size_t options = 0;
-    bool isWhole = true; // The program alone decides what runs: no argument but options and files to open.
+    // False if the command has arguments besides options and files to open, which decide what runs.
+    bool isWhole = true;
 };
 
 Start startOf(const std::string &command) {
@@ -127,7 +128,7 @@ void DesktopEntries::read() {
 }
 
 void DesktopEntries::readDirectory(const std::string &path, const std::string &prefix, int depth) {
-    // Before its entries, so that what changes meanwhile is read again.
+    // Recorded before reading the entries, so that a concurrent change causes another read.
     const struct stat status = statusOf(path);
     changes_[path] = lastChange(status);
     if (!visited_.emplace(status.st_dev, status.st_ino).second)
@@ -145,7 +146,7 @@ void DesktopEntries::readDirectory(const std::string &path, const std::string &p
                 readDirectory(item, identifier.append("-"), depth + 1);
         }
     } catch (const FileError &) {
-        // One that isn't there has no entries; nor has one that may not be read.
+        // A missing or unreadable directory counts as empty.
         return;
     }
 }
@@ -159,7 +160,7 @@ void DesktopEntries::readEntry(const std::string &path, const std::string &ident
     } catch (const FileError &) {
         return;
     }
-    // What is in a box of its own runs in a unit of its own, and is started by the program of all boxes.
+    // Sandboxed applications run in their own units and are started by the sandbox's launcher.
     if (values["Type"] != "Application" || values["Hidden"] == "true" || values.contains("X-Flatpak") ||
         values.contains("X-SnapInstanceName"))
         return;

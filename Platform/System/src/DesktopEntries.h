@@ -12,20 +12,21 @@
 
 namespace velmar {
 
-/// The installed applications, by their executables. Read when first asked, and again when one of the
-/// directories has changed since. One thread at a time.
+/// Finds installed applications by their executables. The entries are read on first use and again after a
+/// change of a directory. Not thread-safe.
 class DesktopEntries {
 public:
-    /// `directories` hold the entries, `executables` are searched for programs that are given by name alone.
+    /// `directories` contain the entries. `executables` are searched for programs given by name.
     DesktopEntries(std::vector<std::string> directories, std::vector<std::string> executables);
 
-    /// The identifier of the entry that starts the executable, given without links, and nothing else: an
-    /// interpreter isn't the application that it runs. The empty text if there is none. Of several it is the
-    /// one with the fewest options, and of those the first of the alphabet.
+    /// Returns the identifier of the entry that starts exactly this executable, or "" if there is none.
+    /// Entries whose command has further arguments don't count: an interpreter is not the application that it
+    /// runs. Prefers the entry with the fewest options, then the alphabetically first one. `executable` must
+    /// be a path without links.
     [[nodiscard]] std::string identifierFor(const std::string &executable);
 
 private:
-    using Rank = std::pair<std::size_t, std::string>; // The number of options and the identifier.
+    using Rank = std::pair<std::size_t, std::string>; // number of options, identifier
 
     [[nodiscard]] bool isCurrent() const;
     void read();
@@ -35,9 +36,9 @@ private:
 
     std::vector<std::string> directories_;
     std::vector<std::string> executables_;
-    std::map<std::string, std::int64_t> changes_; // When each directory was changed last.
-    std::set<std::string> seen_;                  // An earlier directory's entry hides a later one's.
-    std::set<std::pair<dev_t, ino_t>> visited_;   // Links may lead to a directory again and again.
+    std::map<std::string, std::int64_t> changes_; // modification times of the directories
+    std::set<std::string> seen_;                // identifiers; entries of earlier directories take precedence
+    std::set<std::pair<dev_t, ino_t>> visited_; // directories, since links may form cycles
     std::map<std::string, Rank> byExecutable_;
 };
 

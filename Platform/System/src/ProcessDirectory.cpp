@@ -14,7 +14,7 @@ namespace velmar {
 
 namespace {
 
-// One call of the system gives some 1,300 processes.
+// Holds about 1,300 entries per system call.
 constexpr std::size_t bufferSize = 32 * 1024;
 constexpr std::size_t statLimit = 4096;
 constexpr std::uint64_t kernelThreadFlag = 0x0020'0000;
@@ -27,7 +27,7 @@ std::optional<Number> number(std::string_view text) {
     return error == std::errc() && stop == end ? std::optional(value) : std::nullopt;
 }
 
-/// The fields of a stat file behind the name; they are counted from 3, as its manual does.
+/// Fields of a stat file after the name, numbered from 3 as in proc(5).
 class StatFields {
 public:
     explicit StatFields(std::string_view text) : rest_(text) {}
@@ -56,7 +56,7 @@ ProcessDirectory::ProcessDirectory(const std::string &path)
 std::vector<ProcessDirectory::Entry> ProcessDirectory::list() {
     std::vector<Entry> entries;
     entries.reserve(lastCount_ + lastCount_ / 4);
-    // The stream functions of the C library would open the directory anew, and copy each name.
+    // readdir would reopen the directory and copy each name.
     if (lseek(descriptor_.number(), 0, SEEK_SET) != 0)
         return entries;
     for (;;) {
@@ -78,7 +78,7 @@ std::vector<ProcessDirectory::Entry> ProcessDirectory::list() {
 
 std::optional<ProcessRecord> ProcessDirectory::record(std::int32_t process) const {
     const std::string text = contents(process, "stat", statLimit);
-    // The name may hold brackets and blanks.
+    // The name may contain parentheses and blanks.
     const std::size_t open = text.find('(');
     const std::size_t close = text.rfind(") ");
     if (open == std::string::npos || close == std::string::npos || close < open)
@@ -103,7 +103,7 @@ std::optional<ProcessRecord> ProcessDirectory::record(std::int32_t process) cons
         readlinkat(descriptor_.number(), (name + "/exe").c_str(), static_cast<char *>(target), sizeof target);
     if (length > 0)
         record.executable.assign(static_cast<const char *>(target), static_cast<std::size_t>(length));
-    // An update has replaced the file since.
+    // The kernel's mark of a file that was replaced, such as by an update.
     constexpr std::string_view deleted = " (deleted)";
     if (record.executable.ends_with(deleted))
         record.executable.resize(record.executable.size() - deleted.size());

@@ -10,38 +10,39 @@
 
 namespace velmar {
 
-/// What the system shows of a process.
+/// Information about a process.
 struct ProcessRecord {
     std::int32_t parent = 0;
-    std::uint64_t startTime = 0; ///< In ticks since the machine started; tells it from others of its number.
+    /// In clock ticks since boot; distinguishes processes that reuse a number.
+    std::uint64_t startTime = 0;
     std::uint32_t user = 0;
     bool isKernelThread = false;
-    std::string name;       ///< What it calls itself, at most 15 bytes.
-    std::string executable; ///< Absolute, without links; empty if it may not be known or there is none.
+    std::string name;       ///< Command name, at most 15 bytes.
+    std::string executable; ///< Absolute path without links; empty if it is unreadable or missing.
 };
 
-/// The directory of the processes, /proc, or one of the same shape. One thread at a time.
+/// Reads /proc or a directory with the same layout. Not thread-safe.
 class ProcessDirectory {
 public:
     struct Entry {
         std::int32_t process = 0;
-        /// As long as it is the same, so is the process; another one says nothing.
+        /// An unchanged inode means the same process. A changed one has no meaning.
         std::uint64_t inode = 0;
     };
 
-    /// Lists nothing if it cannot be opened.
+    /// Opens the directory. list() returns nothing if that fails.
     explicit ProcessDirectory(const std::string &path);
 
-    /// In the order of the numbers.
+    /// Returns the processes sorted by number.
     [[nodiscard]] std::vector<Entry> list();
 
-    /// None if there is no such process any more.
+    /// Returns std::nullopt if the process has ended.
     [[nodiscard]] std::optional<ProcessRecord> record(std::int32_t process) const;
 
-    /// The beginning of one of the process's files; empty if it can't be read.
+    /// Returns at most the first `limit` bytes of a file of the process; empty if it can't be read.
     [[nodiscard]] std::string contents(std::int32_t process, const char *file, std::size_t limit) const;
 
-    /// The path in this directory for what lies below the process's working directory.
+    /// Returns a path, ending in "/", that resolves to the process's working directory.
     [[nodiscard]] std::string workingDirectory(std::int32_t process) const;
 
 private:

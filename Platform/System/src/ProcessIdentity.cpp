@@ -22,7 +22,7 @@ namespace {
 constexpr std::size_t controlGroupLimit = 16 * 1024;
 constexpr std::size_t argumentLimit = 4096;
 constexpr std::size_t environmentLimit = 256 * 1024;
-constexpr std::size_t firstLineLimit = 256; // The system reads no further either.
+constexpr std::size_t firstLineLimit = 256; // the kernel's own limit
 
 using OwnedText = std::unique_ptr<char, decltype(&std::free)>;
 
@@ -35,7 +35,8 @@ std::string fileName(const std::string &path) {
     return path.substr(path.rfind('/') + 1);
 }
 
-// The first line of a regular file; empty for anything else, which isn't opened: that alone may have effects.
+// Returns the first line of a regular file. Other files are not opened, since opening may have side effects;
+// the result is then empty.
 std::string firstLine(const std::string &path) {
     const Descriptor place(open(path.c_str(), O_PATH | O_CLOEXEC));
     struct stat status {};
@@ -49,7 +50,7 @@ std::string firstLine(const std::string &path) {
     return text.substr(0, text.find('\n'));
 }
 
-// Whether the file is a script for the program, which is given without links.
+// Returns true if the file is a script for the program, whose path must have no links.
 bool isScript(const std::string &path, const std::string &program) {
     const std::string line = firstLine(path);
     if (!line.starts_with("#!"))
@@ -59,7 +60,7 @@ bool isScript(const std::string &path, const std::string &program) {
     words >> interpreter;
     if (fileName(interpreter) != "env")
         return withoutLinks(interpreter) == program;
-    // It looks for the program's name, of which the executable's has perhaps a version behind.
+    // env searches by name; the executable's name may have a version appended.
     while (words >> interpreter) {
         if (!interpreter.starts_with('-') && interpreter.find('=') == std::string::npos)
             return fileName(program).starts_with(fileName(interpreter));
@@ -67,7 +68,7 @@ bool isScript(const std::string &path, const std::string &program) {
     return false;
 }
 
-// One value of an environment, a text of entries that end with zero bytes.
+// Returns one value of an environment block of NUL-terminated entries.
 std::string value(std::string_view environment, std::string_view name) {
     while (!environment.empty()) {
         const std::string_view entry = environment.substr(0, environment.find('\0'));
@@ -86,7 +87,7 @@ ProcessIdentities::ProcessIdentities(const ProcessDirectory &directory, std::vec
 
 ApplicationIdentity ProcessIdentities::identityOf(std::int32_t process, const ProcessRecord &record) {
     if (auto unit = applicationUnit(directory_.contents(process, "cgroup", controlGroupLimit))) {
-        // Each run of a scope has a name of its own; that of a service is told by a number.
+        // A scope's name is unique per run; a service's runs differ by their invocation id.
         if (unit->name.ends_with(".service"))
             unit->name +=
                 " " + value(directory_.contents(process, "environ", environmentLimit), "INVOCATION_ID");
@@ -104,8 +105,7 @@ ApplicationIdentity ProcessIdentities::identityOf(std::int32_t process, const Pr
 }
 
 std::string ProcessIdentities::scriptOf(std::int32_t process, const std::string &interpreter) const {
-    // The script stands behind the interpreter's name, and behind the one option that its first line may
-    // have.
+    // The script follows the interpreter's name and at most one option from its "#!" line.
     const std::string arguments = directory_.contents(process, "cmdline", argumentLimit);
     std::size_t begin = arguments.find('\0');
     for (int i = 0; i < 2 && begin != std::string::npos; ++i) {

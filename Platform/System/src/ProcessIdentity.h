@@ -8,14 +8,14 @@
 
 namespace velmar {
 
-/// Which application a process is.
+/// Identifies the application that a process belongs to.
 struct ApplicationIdentity {
-    std::string identifier; ///< Empty if that can't be known.
-    std::string unit;       ///< One run of a unit of the service manager; empty for a process without one.
+    std::string identifier; ///< Empty if unknown.
+    std::string unit; ///< Identifies one run of a service manager's unit; empty for a process without one.
     bool operator==(const ApplicationIdentity &) const = default;
 };
 
-/// Finds it out. The directory must outlive it; one thread at a time.
+/// Determines the application of processes. The directory must outlive this object. Not thread-safe.
 class ProcessIdentities {
 public:
     ProcessIdentities(const ProcessDirectory &directory, std::vector<std::string> applications,

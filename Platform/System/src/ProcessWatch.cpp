@@ -23,18 +23,18 @@ namespace velmar {
 
 namespace {
 
-// The look that finds a process and the next two.
+// Readings of a new process: by the look that finds it and the next two.
 constexpr int readingsOfNewProcess = 3;
-// What was read at different moments can make a circle of parents.
+// Bounds the walk over ancestors, since readings from different moments can form a cycle of parents.
 constexpr int mostGenerations = 100;
 
 struct Known {
     ProcessDirectory::Entry entry;
     ProcessRecord record{};
     ApplicationIdentity identity{};
-    int readings = 0;    // That are still to come.
-    bool isOwn = false;  // Descends from the process that watches.
-    bool isPart = false; // Of an application that was there before it.
+    int readings = 0;    // remaining
+    bool isOwn = false;  // descends from the watching process
+    bool isPart = false; // belongs to an application that was already running
     bool isTold = false;
 };
 
@@ -57,7 +57,7 @@ public:
     }
 
     std::vector<RunningApplication> look() {
-        // What ran when the watch began is read now, since that takes its time.
+        // Deferred to the first look because it takes long.
         if (!std::exchange(isRead_, true))
             readKnown();
         told_.clear();
@@ -81,7 +81,7 @@ private:
         }
     }
 
-    // Brings what is known to what the list has, and collects the processes that have ended.
+    // Updates known_ from the list and collects the ended processes.
     void compare(const std::vector<ProcessDirectory::Entry> &entries) {
         std::vector<Known> current;
         current.reserve(entries.size());
@@ -108,7 +108,7 @@ private:
         }
     }
 
-    // Another process may have the number meanwhile.
+    // A process number may have been reused.
     [[nodiscard]] bool isSame(const Known &process, const ProcessDirectory::Entry &entry) const {
         if (process.entry.inode == entry.inode)
             return true;
@@ -122,7 +122,7 @@ private:
             if (process.readings > 0 && readRecord(process))
                 pending.push_back(&process);
         }
-        // A parent comes before its children.
+        // Parents must precede their children.
         std::sort(pending.begin(), pending.end(),
                   [](const Known *one, const Known *other) { return isEarlier(*one, *other); });
         for (Known *process : pending) {
@@ -137,7 +137,7 @@ private:
         auto record = directory_.record(process.entry.process);
         if (record)
             process.record = std::move(*record);
-        // It stays so when a parent has gone.
+        // Stored, because it must survive the parent's end.
         process.isOwn = isOwn(process);
         return record.has_value();
     }
@@ -152,7 +152,7 @@ private:
         return false;
     }
 
-    // True if it is what it was at the last reading.
+    // Returns true if the identity hasn't changed since the last reading.
     bool identify(Known &process) {
         const bool isWatched = !process.record.isKernelThread &&
                                std::find(users_.begin(), users_.end(), process.record.user) != users_.end();
@@ -177,8 +177,7 @@ private:
             return false;
         if (parent->identity.identifier == identity.identifier)
             return true;
-        // A program that goes on in a child of its own leaves that to the first process, or to the manager of
-        // the user's services.
+        // Orphans are adopted by process 1 or by the user's service manager.
         const bool isOrphan = parent->entry.process == 1 || parent->record.name == "systemd";
         return isOrphan && endedIdentifiers_.contains(identity.identifier);
     }
@@ -209,11 +208,11 @@ private:
     std::vector<std::uint32_t> users_;
     std::int32_t ownProcess_;
     bool isRead_ = false;
-    std::vector<Known> known_; // By number.
-    std::vector<Known> ended_; // Since the last look.
+    std::vector<Known> known_; // sorted by number
+    std::vector<Known> ended_; // since the last look
     std::unordered_set<std::string_view> endedIdentifiers_;
-    std::vector<Known> told_;                        // In this look.
-    std::unordered_map<std::string, int> unitSizes_; // Processes of each unit.
+    std::vector<Known> told_;                        // by this look
+    std::unordered_map<std::string, int> unitSizes_; // number of processes by unit
 };
 
 ProcessWatch::Places ProcessWatch::placesOfProcess(const IdentityAuthority &authority) {

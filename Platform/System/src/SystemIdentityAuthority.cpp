@@ -23,7 +23,7 @@ std::vector<gid_t> groupsOf(const UserAccount &user) {
     for (;;) {
         auto count = static_cast<int>(groups.size());
         const bool isWhole = getgrouplist(user.name.c_str(), user.groupId, groups.data(), &count) >= 0;
-        // When the room is too small, the count says how much is needed; a group may be added meanwhile.
+        // getgrouplist returns the needed count, which may be outdated by then.
         groups.resize(isWhole ? static_cast<std::size_t>(count)
                               : std::max(static_cast<std::size_t>(count), groups.size() + 1));
         if (isWhole)
@@ -69,7 +69,7 @@ std::optional<std::string> SystemIdentityAuthority::fullName(const std::string &
     std::string_view field = user->description;
     field = field.substr(0, field.find(','));
 
-    // By old custom an "&" stands for the account's name with a capital letter.
+    // An "&" in the field means, by convention, the capitalised account name.
     std::string account = userName;
     if (!account.empty() && account.front() >= 'a' && account.front() <= 'z')
         account.front() = static_cast<char>(account.front() - 'a' + 'A');
@@ -95,7 +95,7 @@ std::string SystemIdentityAuthority::consoleUserName() const {
         if (consoleUser_ != "root")
             return;
         const auto session = activeSession_();
-        // At a login screen it is a session of the greeter's account.
+        // A login screen's session has another class.
         if (!session || session->kind != "user")
             return;
         if (const auto user = UserAccount::numbered(session->userId))
@@ -105,7 +105,7 @@ std::string SystemIdentityAuthority::consoleUserName() const {
 }
 
 const SystemIdentityAuthority &SystemIdentityAuthority::shared() {
-    // Never destroyed, as functions of queues use it.
+    // Never destroyed: queues may still use it at exit.
     static const auto &authority = *new SystemIdentityAuthority;
     return authority;
 }

@@ -10,7 +10,7 @@ namespace velmar {
 
 namespace {
 
-/// What the main thread and the queue share of an observation.
+/// State shared by the main thread and the queue.
 struct Watched {
     Watched(MainQueue &queue, RunningApplications::Observer told, ProcessWatch::Places places)
         : mainQueue(&queue),
@@ -18,16 +18,16 @@ struct Watched {
           watch(std::move(places)) {}
 
     std::mutex mutex;
-    MainQueue *mainQueue; // Under the mutex; null when the observation is over.
-    // Main thread; null when the observation is over.
+    MainQueue *mainQueue; // Guarded by mutex; null once the observation has ended.
+    // Main thread only; null once the observation has ended.
     std::shared_ptr<const RunningApplications::Observer> observer;
-    ProcessWatch watch; // The queue's, once the observation has begun.
+    ProcessWatch watch; // Queue only, once the observation has begun.
     std::atomic<bool> isLooking = false;
 };
 
 void tell(const std::shared_ptr<Watched> &watched, const std::vector<RunningApplication> &started) {
     for (const RunningApplication &application : started) {
-        // The observer may end its own observation.
+        // The observer may have ended its own observation.
         if (const auto observer = watched->observer)
             (*observer)(application);
     }
@@ -51,7 +51,7 @@ public:
     Watching(MainQueue &mainQueue, TimerScheduler &timers, Observer observer, ProcessWatch::Places places)
         : watched_(std::make_shared<Watched>(mainQueue, std::move(observer), std::move(places))),
           timer_(timers.repeating(interval, [watched = watched_, queue = queue_] {
-              // A look that takes longer than the interval is waited for.
+              // Skips a tick while the previous look is still running.
               if (!watched->isLooking.exchange(true))
                   queue.async([watched] { look(watched); });
           })) {}

@@ -23,7 +23,7 @@ std::vector<std::string_view> split(std::string_view text, char separator) {
     }
 }
 
-// Undoes the escaping of what may not stand in a part of a unit's name: "\x2d" is a dash.
+// Decodes the escapes of a unit's name: "\x2d" is a dash.
 std::string unescaped(std::string_view part) {
     std::string text;
     while (!part.empty()) {
@@ -41,17 +41,17 @@ std::string unescaped(std::string_view part) {
     return text;
 }
 
-// [LAUNCHER-]ID[-RANDOM] of a scope, [LAUNCHER-]ID[-RANDOM][@...] of a service.
+// Parses [LAUNCHER-]ID[-RANDOM] of a scope or [LAUNCHER-]ID[-RANDOM][@...] of a service.
 std::string identifierOfDesktop(std::string_view name, bool isScope) {
     name = name.substr(0, name.find('@'));
     auto parts = split(name, '-');
-    const bool hasRandom =
-        isScope || parts.size() > 2 ||
-        (parts.size() == 2 && parts[0].find('.') != std::string_view::npos &&
-         parts[1].find('.') == std::string_view::npos); // "org.example.App-123": no launcher has dots.
+    const bool hasRandom = isScope || parts.size() > 2 ||
+                           (parts.size() == 2 && parts[0].find('.') != std::string_view::npos &&
+                            // "org.example.App-123": a launcher's name has no dots
+                            parts[1].find('.') == std::string_view::npos);
     if (hasRandom && parts.size() > 1)
         parts.pop_back();
-    // Whoever doesn't escape the dashes of an identifier leaves more than one part of it.
+    // Some launchers don't escape dashes, so the identifier may span several parts.
     const std::size_t begin = parts.size() > 1 ? 1 : 0;
     std::string identifier;
     for (std::size_t i = begin; i < parts.size(); ++i)
@@ -62,7 +62,8 @@ std::string identifierOfDesktop(std::string_view name, bool isScope) {
     return identifier;
 }
 
-// NAME.APP-UUID or NAME.APP.UUID, as the desktop entry has it: NAME_APP. Without a UUID it is a daemon.
+// Parses NAME.APP-UUID or NAME.APP.UUID into NAME_APP, the desktop entry's identifier. A daemon has no UUID
+// and no identifier.
 std::string identifierOfSnap(std::string_view name) {
     if (name.size() <= uuidLength + 1)
         return "";
@@ -93,7 +94,7 @@ std::string identifierOf(std::string_view unit) {
 std::optional<ApplicationUnit> applicationUnit(std::string_view controlGroups) {
     for (const std::string_view line : split(controlGroups, '\n')) {
         auto components = split(line, '/');
-        // The innermost: a unit may have groups of its own below.
+        // Innermost first: a unit may have nested groups.
         std::reverse(components.begin(), components.end());
         for (const std::string_view component : components) {
             if (std::string identifier = identifierOf(component); !identifier.empty())

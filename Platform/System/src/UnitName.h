@@ -6,13 +6,13 @@
 
 namespace velmar {
 
-/// The unit of the service manager that an application runs in.
+/// An application's unit of the service manager.
 struct ApplicationUnit {
-    std::string name;       ///< "app-gnome-org.example.App-123.scope".
-    std::string identifier; ///< "org.example.App".
+    std::string name;       ///< For example "app-gnome-org.example.App-123.scope".
+    std::string identifier; ///< For example "org.example.App".
 };
 
-/// The unit in a process's control groups, the text of /proc/PID/cgroup; none for what is no application's.
+/// Returns the application's unit from the text of /proc/PID/cgroup, or std::nullopt if there is none.
 [[nodiscard]] std::optional<ApplicationUnit> applicationUnit(std::string_view controlGroups);
 
 } // namespace velmar

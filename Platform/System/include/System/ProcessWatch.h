@@ -11,46 +11,48 @@ namespace velmar {
 
 class IdentityAuthority;
 
-/// Notices applications that start, by looking at the processes of the machine from time to time and
-/// comparing.
+/// Detects starts of applications by comparing successive lists of the machine's processes.
 ///
-/// A process is an application's start if it belongs to one of the users, doesn't descend from the process
-/// that watches, and is no part of what runs already: not in the unit of the service manager that a running
-/// application has, and not the same application as its parent, or as an ancestor that has gone. A look takes
-/// a list of the processes and reads the new ones only: at the look that finds them and at the next two,
-/// since a process is often seen before it has become the program that it is to run. It is told when it has a
-/// unit, when two readings in a row say the same, or when it has ended.
+/// A process counts as the start of an application if it belongs to one of the watched users, doesn't descend
+/// from the watching process and isn't part of a running application. It is part of one if its unit of the
+/// service manager has other processes, or, without a unit, if it has the identifier of its parent or, as an
+/// orphan, of a process that has just ended.
 ///
-/// The identifier is, in this order:
-/// - that in the name of the unit, as session managers name them: "app-gnome-org.example.App-123.scope",
+/// Only new processes are read, by the look that finds them and by the next two, because a process is often
+/// listed before it executes its final program. A start is reported once the process has a unit, two
+/// successive readings agree, the third reading is done or the process has ended.
+///
+/// The identifier is the first of these that exists:
+///
+/// - the identifier in the unit's name, as session managers write it: "app-gnome-org.example.App-123.scope",
 ///   "app-org.example.App@autostart.service", "snap.NAME.APP-UUID.scope" (NAME_APP);
-/// - that of the desktop entry whose Exec or TryExec is the executable and nothing else;
-/// - the file name of the executable, for a script that of the script.
+/// - the identifier of the desktop entry whose Exec or TryExec starts the executable and nothing else;
+/// - the file name of the executable, or of the script that it runs.
 ///
-/// One thread at a time.
+/// Not thread-safe, but not bound to one thread.
 class ProcessWatch {
 public:
-    /// Where it looks.
+    /// Configuration of a watch.
     struct Places {
         std::string processes = "/proc";
-        std::vector<std::string> applications; ///< Directories of desktop entries; the first is preferred.
-        std::vector<std::string> executables;  ///< Directories that are searched for a program's name.
-        std::vector<std::uint32_t> users;      ///< Whose processes are looked at.
-        /// The process that watches: what it starts, and what that starts, is no start of an application.
+        std::vector<std::string> applications; ///< Directories of desktop entries, in order of precedence.
+        std::vector<std::string> executables;  ///< Directories searched for a program's name.
+        std::vector<std::uint32_t> users;      ///< Ids of the users whose processes are watched.
+        /// The watching process. Its descendants are never reported.
         std::int32_t ownProcess = 0;
     };
 
-    /// Those of this process. The users are the one that it acts as and, for root, also the one in front of
-    /// the screen.
+    /// Returns the places for this process. The watched users are the effective user and, for root, also the
+    /// user at the console.
     [[nodiscard]] static Places placesOfProcess(const IdentityAuthority &authority);
 
-    /// What runs at this moment is never told.
+    /// Starts a watch. Processes that already run are never reported.
     explicit ProcessWatch(Places places);
     ~ProcessWatch();
     ProcessWatch(const ProcessWatch &) = delete;
     ProcessWatch &operator=(const ProcessWatch &) = delete;
 
-    /// The starts that have become certain since the last look, in the order in which the processes began.
+    /// Returns the starts that became certain since the last look, in the order of their start times.
     [[nodiscard]] std::vector<RunningApplication> look();
 
 private:

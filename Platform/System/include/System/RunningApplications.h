@@ -7,19 +7,20 @@
 
 namespace velmar {
 
-/// A program that was started.
+/// A started program.
 struct RunningApplication {
-    std::string identifier; ///< That of its desktop entry ("org.gnome.Calculator"), or the executable's name.
+    /// Identifier of the desktop entry ("org.gnome.Calculator"), or the executable's name.
+    std::string identifier;
     std::int32_t processIdentifier = 0;
     bool operator==(const RunningApplication &) const = default;
 };
 
-/// The programs that run on the machine, of which it tells the newly started ones. Main thread.
+/// Observes the start of applications on this machine. Main thread only.
 class RunningApplications {
 public:
     using Observer = std::function<void(const RunningApplication &application)>;
 
-    /// Ends when it is destroyed; the observer is not called any more then.
+    /// Owns an observation. Destroying it ends the observation; the observer is not called afterwards.
     class Observation {
     public:
         virtual ~Observation() = default;
@@ -27,8 +28,8 @@ public:
 
     virtual ~RunningApplications() = default;
 
-    /// Calls the observer on the main thread once for each start of an application from now on, in the order
-    /// of the starts. Those that run already are not told.
+    /// Calls the observer on the main thread once for each application that starts from now on, in order.
+    /// Running applications are not reported.
     [[nodiscard]] virtual std::unique_ptr<Observation> observe(Observer observer) = 0;
 };
 

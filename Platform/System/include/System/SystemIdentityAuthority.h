@@ -7,16 +7,16 @@
 
 namespace velmar {
 
-/// The identities of this machine: its user and group databases and its login sessions.
+/// The identities of this machine, from its account databases and login sessions.
 class SystemIdentityAuthority final : public IdentityAuthority {
 public:
-    /// A login session as the system's login manager describes it.
+    /// A login session of the system's login manager.
     struct Session {
         std::uint32_t userId = 0;
-        std::string kind; ///< Its class: "user", "greeter", "lock-screen", ...
+        std::string kind; ///< Session class: "user", "greeter", "lock-screen", ...
     };
 
-    /// Gives the active session of the first seat.
+    /// Returns the active session of the first seat.
     using ActiveSession = std::function<std::optional<Session>()>;
 
     SystemIdentityAuthority();
@@ -28,7 +28,7 @@ public:
     [[nodiscard]] std::string processUserName() const override;
     [[nodiscard]] std::string consoleUserName() const override;
 
-    /// The authority of the process.
+    /// Returns the shared instance of the process.
     [[nodiscard]] static const SystemIdentityAuthority &shared();
 
 private:

@@ -11,12 +11,12 @@
 
 namespace velmar {
 
-/// The applications of this machine, by a ProcessWatch that looks twice a second, on a queue of its own. A
-/// start is told within a second and a half, most of them within one.
+/// The applications of this machine. A ProcessWatch looks twice a second on its own queue. Most starts are
+/// reported within one second, all within one and a half.
 class SystemRunningApplications final : public RunningApplications {
 public:
-    /// The main queue and the timers must outlive the observations. The places are asked for at each one, so
-    /// that looking for them costs nothing where nobody observes.
+    /// The main queue and the timers must outlive the observations. `places` is called for each observation,
+    /// so that it costs nothing before.
     SystemRunningApplications(MainQueue &mainQueue, TimerScheduler &timers,
                               std::function<ProcessWatch::Places()> places);
 
