@@ -7,21 +7,22 @@
 
 namespace velmar {
 
-/// A picture that an AlertPresenter has read.
+/// A picture loaded by an AlertPresenter.
 class AlertIcon {
 public:
     virtual ~AlertIcon() = default;
 };
 
-/// What an alert says.
+/// Content of an alert.
 struct Alert {
     enum class Style : std::uint8_t { informational, warning, critical };
 
     Style style = Style::warning;
     std::string messageText;
-    std::string informativeText;      ///< A second, quieter paragraph; empty for none.
-    std::vector<std::string> buttons; ///< From the first, which is the default; one "OK" where there is none.
-    std::shared_ptr<const AlertIcon> icon = nullptr; ///< In place of the sign of the style.
+    std::string informativeText; ///< Secondary text below the message; empty for none.
+    /// Button titles; the first is the default button. One "OK" button is shown if there are none.
+    std::vector<std::string> buttons;
+    std::shared_ptr<const AlertIcon> icon = nullptr; ///< Replaces the icon of the style.
 };
 
 } // namespace velmar

@@ -9,25 +9,24 @@
 
 namespace velmar {
 
-/// Shows alerts, which keep the user from the application's windows until they are answered. An answer is the
-/// index of a button. Escape and the window's close button press the one that says "Cancel", or the last one
-/// where none does. Main thread.
+/// Shows alerts that block the application's windows until they are answered. An answer is the index of a
+/// button. Escape and the window's close button choose the button titled "Cancel", or the last one if there
+/// is none. Main thread only.
 class AlertPresenter {
 public:
     using Completion = std::function<void(std::size_t button)>;
 
     virtual ~AlertPresenter() = default;
 
-    /// The picture of a file, by its absolute path, for `Alert::icon`; null if there is none that can be
+    /// Loads the picture at an absolute path for `Alert::icon`. Returns nullptr if it is missing or cannot be
     /// read.
     [[nodiscard]] virtual std::shared_ptr<const AlertIcon> icon(const std::string &path) const = 0;
 
-    /// Shows the alert when those that were presented before are answered, and tells the answer, once, from
-    /// the main loop. Returns at once. Whoever is never answered because the application ends is not told.
+    /// Queues the alert behind those already presented and returns at once. The completion is called once,
+    /// from the main loop, with the answer. It is not called if the application ends first.
     virtual void present(Alert alert, Completion completion) = 0;
 
-    /// Shows the alert at once, above any other, and returns with its answer. Runs a loop of its own
-    /// meanwhile.
+    /// Shows the alert at once, above any other, in a nested event loop. Returns the answer.
     virtual std::size_t runModal(const Alert &alert) = 0;
 };
 

@@ -4,13 +4,13 @@
 
 namespace velmar {
 
-/// Where the user's programs find what was copied last. Main thread.
+/// The clipboard of the user's session. Main thread only.
 class SimplePasteboard {
 public:
     virtual ~SimplePasteboard() = default;
 
-    /// Puts a text there, in place of what was there before. False, and nothing is changed, if it is not
-    /// UTF-8. How long it stays after the program's end is up to the desktop.
+    /// Replaces the clipboard's content by a text. Returns false, without a change, if the text is not UTF-8.
+    /// The desktop decides how long the text stays after the end of the program.
     [[nodiscard]] virtual bool setString(const std::string &text) = 0;
 };
 

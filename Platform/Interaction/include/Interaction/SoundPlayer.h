@@ -6,34 +6,35 @@
 
 namespace velmar {
 
-/// A sound that was found and looks like one.
+/// A sound whose file exists and begins like a sound file.
 struct Sound {
-    std::string path; ///< Absolute, of a file; empty for one that the user's theme turns off.
+    std::string path; ///< Absolute path of the file; empty for a sound that the user's theme disables.
     bool operator==(const Sound &) const = default;
 };
 
-/// How the playing of a sound ended.
+/// The outcome of playing a sound.
 struct SoundOutcome {
-    bool hasFinished = false; ///< To the end; also where nothing could be heard for want of a sound device.
-    std::string problem;      ///< If not, why, as a sentence.
+    /// True if the sound was played to its end. Also true without a sound device.
+    bool hasFinished = false;
+    std::string problem; ///< Otherwise the reason, as a sentence.
 };
 
-/// Finds sounds and plays them, several at once. Any thread.
+/// Finds and plays sounds; several can play at once. Thread-safe.
 class SoundPlayer {
 public:
     using Completion = std::function<void(const SoundOutcome &outcome)>;
 
     virtual ~SoundPlayer() = default;
 
-    /// The sound that the desktop's sound theme or, failing that, the program has under the name.
-    /// "Hero" is the program's own.
+    /// Returns the sound of this name in the desktop's sound theme or else among the program's own ("Hero").
+    /// Returns std::nullopt if there is none.
     [[nodiscard]] virtual std::optional<Sound> soundNamed(const std::string &name) const = 0;
 
-    /// The sound in a file, given as a file URL or a path; none if there is no file or it holds no sound.
+    /// Returns the sound at a file URL or a path, or std::nullopt if the file is missing or isn't a sound.
     [[nodiscard]] virtual std::optional<Sound> soundAt(const std::string &fileURLOrPath) const = 0;
 
-    /// Begins to play and returns at once. The completion is called once, on the main thread, unless the
-    /// application ends before. A sound that is turned off has finished at once.
+    /// Starts playing and returns at once. The completion is called once, on the main thread, unless the
+    /// application ends first. A disabled sound completes at once.
     virtual void play(const Sound &sound, Completion completion) = 0;
 };
 

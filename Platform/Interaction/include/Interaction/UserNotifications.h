@@ -8,54 +8,58 @@
 
 namespace velmar {
 
-/// What a notification says; plain texts.
+/// Content of a notification; plain text.
 struct UserNotification {
-    /// A button.
+    /// A button of a notification.
     struct Action {
-        std::string identifier; ///< What the delegate is told when it is pressed.
+        std::string identifier; ///< Passed to the delegate when the button is pressed.
         std::string title;
         bool operator==(const Action &) const = default;
     };
 
     std::string title;
-    std::string body;                     ///< Empty for none.
-    std::optional<std::string> soundName; ///< A name of the desktop's sound theme.
+    std::string body;                     ///< Empty for no body.
+    std::optional<std::string> soundName; ///< A sound name of the desktop's sound theme.
     std::vector<Action> actions;
 };
 
-/// How the showing of a notification ended.
+/// The outcome of showing a notification.
 struct UserNotificationOutcome {
     bool isShown = false;
-    std::string problem; ///< If not, why; if so, what of it is missing; empty for nothing. A sentence.
+    /// A sentence: the reason of a failure, or the parts that could not be shown. Empty if there is no
+    /// problem.
+    std::string problem;
 };
 
-/// What a person has done with a notification.
+/// A user's response to a notification.
 struct UserNotificationResponse {
-    std::optional<std::string> actionIdentifier; ///< That of the button; none for a tap on the body.
+    /// Identifier of the pressed button; absent for a tap on the body.
+    std::optional<std::string> actionIdentifier;
 };
 
-/// Is told the responses to the notifications of this process. Main thread.
+/// Receives the responses to this process's notifications. Main thread only.
 class UserNotificationsDelegate {
 public:
     virtual ~UserNotificationsDelegate() = default;
 
-    /// Calls the completion handler, once, when it is done with the response; the notification goes then.
+    /// Handles a response. Must call the completion handler once when it is done; the notification is then
+    /// withdrawn.
     virtual void didReceive(const UserNotificationResponse &response,
                             std::function<void()> completionHandler) = 0;
 };
 
-/// Shows notifications, beside the windows of the application. Main thread.
+/// Shows notifications of the desktop. Main thread only.
 class UserNotifications {
 public:
     using Completion = std::function<void(const UserNotificationOutcome &outcome)>;
 
     virtual ~UserNotifications() = default;
 
-    /// Replaces the delegate, which is held weakly; responses that nobody is told of are dropped.
+    /// Replaces the delegate, which is held weakly. Responses are dropped while there is none.
     virtual void setDelegate(std::weak_ptr<UserNotificationsDelegate> delegate) = 0;
 
     /// Shows the notification and returns at once. The completion is called once, from the main loop, unless
-    /// the application ends before. Nobody has to be asked for leave.
+    /// the application ends first. No permission is needed.
     virtual void add(UserNotification notification, Completion completion) = 0;
 };
 
