@@ -1,6 +1,6 @@
-// velmar-sound FILE: plays a sound to its end. Ends with 0 when it has, also without a sound device, or else
-// with 1 and a sentence on standard output. It is a program of its own for the reasons in
-// docs/decisions/0042-sounds-in-a-process.md.
+// velmar-sound FILE: plays a sound to its end. Exits with 0 after playing, even without a sound device,
+// otherwise with 1 and a sentence on standard output. docs/decisions/0042-sounds-in-a-process.md explains why
+// it is a separate program.
 
 #include <QAudioDevice>
 #include <QAudioOutput>
@@ -25,13 +25,13 @@
 namespace {
 
 constexpr unsigned secondsToLoad = 15;
-constexpr unsigned secondsToSpare = 5; // Until a device has played what it was given.
+constexpr unsigned secondsToSpare = 5; // Time for a device to play its buffer.
 
-/// One playing of one file.
+/// Plays one file.
 class Playing final : public QObject {
 public:
     explicit Playing(const QString &path) {
-        // Some backends take an output without a device badly.
+        // Some backends fail on an output without a device.
         if (!QMediaDevices::audioOutputs().isEmpty()) {
             output_ = std::make_unique<QAudioOutput>();
             player_.setAudioOutput(output_.get());
@@ -40,7 +40,7 @@ public:
                 [this](QMediaPlayer::Error /*error*/, const QString &text) { fail(text); });
         connect(&player_, &QMediaPlayer::mediaStatusChanged, this,
                 [this](QMediaPlayer::MediaStatus status) { follow(status); });
-        // Whatever a library waits for, this ends.
+        // Ends the process even if a library hangs.
         alarm(secondsToLoad);
         player_.setSource(QUrl::fromLocalFile(path));
     }
@@ -63,7 +63,7 @@ private:
             return;
         }
         alarm(static_cast<unsigned>(player_.duration() / 1000) + 2 * secondsToSpare);
-        // Without a device there is no end but that of the time; with one the end may get lost.
+        // The timer ends the playing without a device, and is a fallback with one.
         const qint64 spare = output_ == nullptr ? 0 : secondsToSpare * 1000;
         QTimer::singleShot(std::chrono::milliseconds(player_.duration() + spare), this,
                            [] { QCoreApplication::exit(EXIT_SUCCESS); });
@@ -73,7 +73,7 @@ private:
     }
 
     void fail(const QString &reason) {
-        // The first error says most.
+        // The first error is the most informative.
         if (!std::exchange(hasFailed_, true)) {
             std::printf("%s\n", qUtf8Printable(reason));
             QCoreApplication::exit(EXIT_FAILURE);
@@ -92,7 +92,7 @@ int main(int argumentCount, char **arguments) {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     const QString ffmpeg =
         QLibraryInfo::path(QLibraryInfo::PluginsPath) + QStringLiteral("/multimedia/libffmpegmediaplugin.so");
-    // The other backend ends the process where its own plugins are missing.
+    // The other backend aborts the process if its own plugins are missing.
     if (!qEnvironmentVariableIsSet("QT_MEDIA_BACKEND") && QFile::exists(ffmpeg)) {
         qputenv("QT_MEDIA_BACKEND", "ffmpeg");
     }

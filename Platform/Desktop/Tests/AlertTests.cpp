@@ -21,7 +21,7 @@ namespace {
 
 class Alerts : public QtTest<> {
 protected:
-    /// Shows the alert and lets the user act once it is there.
+    /// Shows the alert and calls `user` with its dialog.
     static std::size_t answer(const Alert &alert, const std::function<void(QWidget &)> &user) {
         QTimer poll;
         QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
@@ -111,7 +111,7 @@ TEST_F(Alerts, ArePresentedOneAfterAnotherAndAnsweredFromTheLoop) {
         button(*QApplication::activeModalWidget(), text).click();
         EXPECT_EQ(answers.size(), before) << "not within the click";
         QCoreApplication::processEvents();
-        // The one that was answered goes while the next one is open.
+        // Deletes the answered dialog while the next one is open.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
     setUncaughtHandler({});
@@ -130,8 +130,7 @@ TEST_F(Alerts, AreDismissedWithTheWindowBelow) {
     window.reset();
     QCoreApplication::processEvents();
     EXPECT_EQ(answers, (std::vector<std::size_t>{2}));
-    // The second is there now, and goes unanswered with the presenter; one that is asked for at once is
-    // above.
+    // The second alert is open and remains unanswered; a modal one opens above it.
     EXPECT_EQ(answer(question, [](QWidget &dialog) { button(dialog, "Yes").click(); }), 0U);
     EXPECT_NE(QApplication::activeModalWidget(), nullptr);
 }

@@ -19,7 +19,7 @@
 namespace velmar {
 namespace {
 
-/// Notes what it is told, and does at the end of the launch what the test wants.
+/// Records events and runs the test's function at the end of the launch.
 class Recorder final : public ApplicationDelegate {
 public:
     void applicationWillFinishLaunching() override {
@@ -80,7 +80,7 @@ TEST_F(Application, EndsInOrderUnlessTheDelegateRefuses) {
         application().mainQueue().async([] { std::raise(SIGTERM); });
         alert.exec();
     };
-    // One that closes before the launch is over is no last window.
+    // An alert that closes before the end of the launch doesn't count as the last window.
     const Function closedAlert = [] {
         QDialog alert;
         application().mainQueue().async([&alert] { alert.accept(); });
@@ -90,7 +90,7 @@ TEST_F(Application, EndsInOrderUnlessTheDelegateRefuses) {
         Function whileLaunching, afterLaunch;
         int refusals;
         bool fails;
-        std::string events; // Behind the first.
+        std::string events; // events after the first
     } rows[] = {
         {nothing, terminate, 0, false, "did launch, should terminate, will terminate"},
         {nothing, [] { std::raise(SIGINT); }, 0, false, "did launch, should terminate, will terminate"},

@@ -13,7 +13,7 @@
 namespace velmar {
 namespace {
 
-/// Themes of the test's own; the player and the shipped sound are the real ones.
+/// Uses fake themes with the real player and the shipped sound.
 class DesktopSoundPlayerTest : public QtTest<> {
 protected:
     DesktopSoundPlayerTest() {
@@ -32,7 +32,7 @@ protected:
     }
     std::string sound(const std::string &name) { return directory_.write(name, "RIFF....WAVE"); }
 
-    /// A sound of silence.
+    /// Writes a silent sound file and returns its path.
     std::string silence(const std::string &name, int milliseconds) {
         const int size = milliseconds * 16;
         const auto number = [](unsigned value, int bytes) {
@@ -49,7 +49,7 @@ protected:
                                           std::string(bytes, '\0'));
     }
 
-    /// Plays all at once and waits for their ends.
+    /// Plays all sounds at once and waits for their outcomes.
     std::vector<SoundOutcome> play(const std::vector<std::string> &paths) {
         QtMainQueue mainQueue;
         DesktopSoundPlayer player(mainQueue, places_);

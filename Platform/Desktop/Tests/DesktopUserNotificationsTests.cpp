@@ -12,11 +12,11 @@
 namespace velmar {
 namespace {
 
-/// A bus, and a notification service on it that answers as the test says.
+/// Runs a session bus with a fake notification service.
 class UserNotificationsTest : public QtTest<>, public QDBusVirtualObject {
 protected:
     static void SetUpTestSuite() {
-        // Before the toolkit asks for it: it is read once.
+        // Set first, because the toolkit reads it only once.
         qputenv("DBUS_SESSION_BUS_ADDRESS", address_.c_str());
         QtTest<>::SetUpTestSuite();
     }

@@ -7,7 +7,7 @@ namespace velmar {
 
 namespace {
 
-// Asked for each class of an object, from its own up, before the toolkit's factory is.
+// Called for each class of an object's hierarchy, most derived first, before the toolkit's own factory.
 QAccessibleInterface *interfaceOf(const QString &className, QObject *object) {
     if (className != QLatin1String("QScrollArea") && className != QLatin1String("QAbstractScrollArea")) {
         return nullptr;

@@ -2,9 +2,9 @@
 
 namespace velmar {
 
-/// Has readers of the screen see scroll areas as plain parents of what is in them. The toolkit's own interface
-/// of one (Qt 6.4) reads past its list of children when it is asked for one that has gone since they were
-/// counted, as a scroll bar may. Once the application is made.
+/// Replaces the accessible interface of scroll areas by that of plain parents. The toolkit's own one (Qt 6.4)
+/// reads beyond its list of children if a child, such as a scroll bar, has disappeared since they were
+/// counted. Call this once after creating the application.
 void installAccessibleScrollAreas();
 
 } // namespace velmar

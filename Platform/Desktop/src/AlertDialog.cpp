@@ -21,22 +21,22 @@ namespace velmar {
 
 namespace {
 
-// Points, on a grid of 4.
+// In points, on a grid of 4.
 constexpr int outerMargin = 24;
 constexpr int signGap = 16;
 constexpr int textWidth = 384;
 constexpr int contentWidth = AlertSign::side + signGap + textWidth;
 constexpr int paragraphGap = 8;
-constexpr int buttonGap = 4;  // Beyond the room that each button keeps for the ring of its focus.
-constexpr int ringRoom = 4;   // That room.
-constexpr int frameRoom = 96; // Around the window, for its title bar and for what the desktop shows.
+constexpr int buttonGap = 4;  // in addition to ringRoom
+constexpr int ringRoom = 4;   // kept by each button for its focus ring
+constexpr int frameRoom = 96; // kept around the window for its title bar and desktop panels
 constexpr int smallestScreen = 600;
-constexpr double messageScale = 15.0 / 14; // The body's size, from that of controls.
+constexpr double messageScale = 15.0 / 14; // size of the message relative to the font of controls
 
-// Characters; nobody reads further, and the laying out of a text takes its time.
+// Limit of characters: longer texts are unreadable and slow to lay out.
 constexpr qsizetype longestText = 10'000;
 
-/// The text with places to break in the words that are longer than a line.
+/// Inserts break opportunities into words that are wider than a line.
 QString breakable(const QString &text, const QFontMetrics &metrics) {
     QString result;
     QTextBoundaryFinder words(QTextBoundaryFinder::Line, text);
@@ -78,12 +78,12 @@ QLabel *paragraph(const std::string &content, bool isMessage, QWidget *parent) {
     label->setAccessibleName(text);
     label->setWordWrap(true);
     label->setFixedWidth(textWidth);
-    // A copy would have the places to break in it.
+    // A copied text would contain the inserted break opportunities.
     label->setTextInteractionFlags(shown == text ? Qt::TextSelectableByMouse : Qt::NoTextInteraction);
     return label;
 }
 
-/// The column as it is, or else scrolling in the given height.
+/// Returns an area of at most `largestHeight` in which the column scrolls if it is higher.
 QScrollArea *scrolling(QWidget *column, int largestHeight, QWidget *parent) {
     auto *area = new QScrollArea(parent);
     area->setFrameShape(QFrame::NoFrame);
@@ -101,7 +101,7 @@ QScrollArea *scrolling(QWidget *column, int largestHeight, QWidget *parent) {
 
 AlertDialog::AlertDialog(const Alert &alert, QWidget *parent)
     : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint), buttons_(alert.buttons) {
-    // The last window of the application is one of its own, not an alert.
+    // Alerts don't count as windows of the application.
     setAttribute(Qt::WA_QuitOnClose, false);
     setWindowTitle(QCoreApplication::applicationName());
     setAccessibleName(QString::fromStdString(alert.messageText));
@@ -114,7 +114,7 @@ AlertDialog::AlertDialog(const Alert &alert, QWidget *parent)
     const QScreen *screen = parent != nullptr ? parent->screen() : QGuiApplication::primaryScreen();
     const int room = (screen == nullptr ? smallestScreen : screen->availableGeometry().height()) - frameRoom -
                      3 * outerMargin;
-    // Either may have what the other leaves of its half.
+    // Each column gets half the height, plus what the other doesn't need.
     const int half = room / 2;
     texts_ = scrolling(textColumn, std::max(half, room - buttonColumn->height()), this);
     QScrollArea *buttons = scrolling(buttonColumn, std::max(half, room - textColumn->height()), this);
@@ -125,7 +125,7 @@ AlertDialog::AlertDialog(const Alert &alert, QWidget *parent)
     top->addWidget(texts_, 1, Qt::AlignVCenter);
     top->setContentsMargins(ringRoom, ringRoom, ringRoom, 0);
 
-    // The buttons reach further out, by the room for their rings.
+    // The buttons extend into the margin by the room of their focus rings.
     auto *layout = new QVBoxLayout(this);
     constexpr int margin = outerMargin - ringRoom;
     layout->setContentsMargins(margin, margin, margin, margin);
@@ -196,13 +196,13 @@ std::size_t AlertDialog::answer() const {
 void AlertDialog::changeEvent(QEvent *event) {
     QDialog::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange && isMinimized()) {
-        // The windows below wait for an answer.
+        // The alert blocks the windows below.
         setWindowState(windowState() & ~Qt::WindowMinimized);
     }
 }
 
 void AlertDialog::keyPressEvent(QKeyEvent *event) {
-    // The keys that the buttons have no use for.
+    // Scrolls the texts, since the buttons don't use these keys.
     if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown) {
         texts_->verticalScrollBar()->triggerAction(event->key() == Qt::Key_PageUp
                                                        ? QAbstractSlider::SliderPageStepSub

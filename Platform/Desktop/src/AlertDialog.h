@@ -12,18 +12,18 @@ namespace velmar {
 
 struct Alert;
 
-/// The window of an alert: its icon, its texts and its buttons, which stand in a row from the right as long
-/// as that holds them, and below one another otherwise. What is too high for the screen scrolls.
+/// The window of an alert: icon, texts and buttons. The buttons form a row from the right if they fit,
+/// otherwise a column. Content that exceeds the screen scrolls.
 class AlertDialog final : public QDialog {
     Q_OBJECT
 
 public:
     AlertDialog(const Alert &alert, QWidget *parent);
 
-    /// The button that was pressed, or what closing counts as.
+    /// Returns the index of the pressed button, or the answer that closing the window implies.
     [[nodiscard]] std::size_t answer() const;
 
-    /// In the middle of the screen, where there is no window to stand above.
+    /// Centres the dialog on the screen if it has no parent window.
     void place();
 
 protected:

@@ -9,7 +9,7 @@ namespace velmar {
 
 namespace {
 
-// Pixels, enough for the icon's 64 points on the densest screens.
+// In pixels: sufficient for the icon's 64 points on the densest screens.
 constexpr QSize largest(256, 256);
 
 } // namespace

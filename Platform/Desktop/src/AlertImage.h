@@ -10,13 +10,13 @@
 
 namespace velmar {
 
-/// The picture of an icon, no larger than it can be shown.
+/// The picture of an alert's icon, reduced to the size needed.
 class AlertImage final : public AlertIcon {
 public:
-    /// Null if the path is not that of a file with a picture, of whatever kind the toolkit reads.
+    /// Returns nullptr if there is no picture at the path in a format that the toolkit reads.
     [[nodiscard]] static std::shared_ptr<const AlertImage> read(const std::string &path);
 
-    /// The same as an icon; null for one that is not from `read`.
+    /// Returns the icon as an AlertImage, or nullptr if read() didn't create it.
     [[nodiscard]] static const AlertImage *from(const AlertIcon *icon);
 
     explicit AlertImage(QImage image) : image_(std::move(image)) {}

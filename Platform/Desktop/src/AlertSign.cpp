@@ -11,12 +11,11 @@ namespace velmar {
 
 namespace {
 
-// Points.
-constexpr qreal signGrid = 44; // The side of the square in which the signs are designed.
+// In points.
+constexpr qreal signGrid = 44; // side of the square in which the signs are designed
 constexpr qreal badgeSide = 28;
 
-/// A triangle for what is wrong, a disc for what is worth knowing; with a wider outline of another colour
-/// where it lies on a picture.
+/// Draws a triangle for a warning or error, a disc for information. An outlined sign stands out on a picture.
 void drawSign(QPainter &painter, Alert::Style style, const QRectF &square, const QPalette &palette,
               bool isOutlined) {
     painter.save();

@@ -8,16 +8,15 @@
 
 namespace velmar {
 
-/// What an alert shows beside its texts: the sign of its style, or its icon, to which the signs of warnings
-/// and worse are put as a badge. The signs are drawn rather than taken from the desktop's icons, of which a
-/// bare installation has none.
+/// The picture of an alert: its icon or the sign of its style. Warnings and critical alerts add their sign to
+/// the icon as a badge. The signs are drawn because a bare installation has no icon theme.
 class AlertSign final : public QWidget {
     Q_OBJECT
 
 public:
     AlertSign(Alert::Style style, std::shared_ptr<const AlertIcon> icon, QWidget *parent);
 
-    static constexpr int side = 64; ///< Points.
+    static constexpr int side = 64; ///< In points.
 
 protected:
     void paintEvent(QPaintEvent *event) override;

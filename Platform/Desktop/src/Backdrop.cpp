@@ -13,7 +13,7 @@ namespace velmar {
 
 namespace {
 
-constexpr float veil = 0.4F; // Of the page's colour over the picture.
+constexpr float veil = 0.4F; // opacity of the page's colour over the picture
 
 } // namespace
 
@@ -24,7 +24,7 @@ Backdrop::Backdrop(QImage picture)
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_QuitOnClose, false);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    winId(); // The hint belongs to the native window.
+    winId(); // Creates the native window, which carries the hint.
     setOnEveryWorkspace(*windowHandle());
 }
 

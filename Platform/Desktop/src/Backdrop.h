@@ -5,22 +5,22 @@
 
 namespace velmar {
 
-/// A window that covers a screen. Takes no focus, and nobody closes it. Shows a picture through a veil of
-/// the page's colour.
+/// A window that covers a screen. Takes no focus and can't be closed by the user. Shows a picture through a
+/// veil of the page's colour.
 class Backdrop final : public QWidget {
     Q_OBJECT
 
 public:
-    /// The picture is that of the screen; a null one where there is none to be had.
+    /// `picture` shows the screen; null if it is not available.
     explicit Backdrop(QImage picture);
 
-    /// Whether the page's colour alone is shown.
+    /// Sets whether only the page's colour is shown.
     void setPlain(bool isPlain);
 
-    /// Covers the rectangle of the desktop, that of a screen.
+    /// Covers a screen, given by its rectangle of the desktop.
     void cover(const QRect &geometry);
 
-    /// Paints a part of it, given in the coordinates of the desktop, at the painter's origin.
+    /// Paints an area, given in desktop coordinates, at the painter's origin.
     void paint(QPainter &painter, const QRect &area) const;
 
 signals:

@@ -10,10 +10,10 @@ namespace velmar {
 namespace {
 
 constexpr int shrinking = 4;
-constexpr int radius = 9; // Pixels of the small picture.
-constexpr int passes = 3; // As many means come near to a bell curve.
+constexpr int radius = 9; // in pixels of the reduced picture
+constexpr int passes = 3; // repeated box blurs approximate a Gaussian
 
-/// The mean of each pixel of a line with its neighbours; the ends go on as they are.
+/// Computes the mean of each pixel and its neighbours in a line. The ends are extended by their last pixel.
 void blurLine(const std::vector<QRgb> &line, std::vector<QRgb> &result) {
     const int last = static_cast<int>(line.size()) - 1;
     const auto at = [&](int index) { return line[static_cast<std::size_t>(std::clamp(index, 0, last))]; };
@@ -59,7 +59,7 @@ QImage blurredPicture(const QImage &picture) {
     QImage image = picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
                        .convertToFormat(QImage::Format_RGB32);
     blurRows(image);
-    // A turned picture has its columns as rows, which lie together in memory.
+    // Transposed, so that the columns are contiguous in memory.
     image = image.transformed(QTransform(0, 1, 1, 0, 0, 0));
     blurRows(image);
     return image.transformed(QTransform(0, 1, 1, 0, 0, 0));

@@ -4,7 +4,7 @@
 
 namespace velmar {
 
-/// The picture at a quarter of its size, blurred until nothing in it can be read.
+/// Returns the picture at a quarter of its size, blurred until it is unreadable.
 [[nodiscard]] QImage blurredPicture(const QImage &picture);
 
 } // namespace velmar

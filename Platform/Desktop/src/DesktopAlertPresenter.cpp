@@ -13,7 +13,7 @@
 
 namespace velmar {
 
-/// The alerts that wait for their turn, and the one that is open.
+/// The open alert and the waiting ones.
 class DesktopAlertPresenter::Queue final : public QObject {
 public:
     ~Queue() override {
@@ -53,7 +53,7 @@ private:
             dialog_->deleteLater();
             answered(dialog_->answer());
         });
-        // A window that goes takes the alerts above it along.
+        // A destroyed parent window destroys its alerts.
         connect(dialog_, &QObject::destroyed, this,
                 [this, dismissal = dialog_->answer()] { answered(dismissal); });
         dialog_->setModal(true);
@@ -66,7 +66,7 @@ private:
         if (!completion_) {
             return;
         }
-        // Not from within the click, in whose course the completion could do away with the window below.
+        // Posted, not called: the completion may destroy the parent window during the click.
         QMetaObject::invokeMethod(
             this,
             [this, button, completion = std::exchange(completion_, {})] {
@@ -79,8 +79,8 @@ private:
 
     std::deque<std::pair<Alert, Completion>> waiting_;
     QPointer<AlertDialog> dialog_;
-    Completion completion_; // Of the open alert; empty once it is answered.
-    bool isBusy_ = false;   // From the showing of an alert until its answer is told.
+    Completion completion_; // completion of the open alert; empty once it is answered
+    bool isBusy_ = false;   // from showing an alert until its completion is called
     int modalAlerts_ = 0;
 };
 

@@ -36,8 +36,7 @@ void DesktopAppearance::followSettingsService() {
     if (!hasSessionBus()) {
         return;
     }
-    // The slot is found by the names of its types, which only the bridge to readers of the screen would
-    // register.
+    // The slot is found by its type names, which otherwise only the accessibility bridge registers.
     qRegisterMetaType<QDBusVariant>();
     QDBusConnection::sessionBus().connect(service, path, interface, QStringLiteral("SettingChanged"), this,
                                           SLOT(settingChanged(QString, QString, QDBusVariant)));
@@ -67,7 +66,7 @@ void DesktopAppearance::readSetting(const QString &group, const QString &key) {
 
 void DesktopAppearance::apply(const QString &group, const QString &key, const QVariant &value) {
     if (group == appearanceGroup && key == colorSchemeKey) {
-        // 0 leaves it to the program, 1 is dark and 2 is light.
+        // 0 means no preference, 1 dark, 2 light.
         const uint scheme = value.toUInt();
         setPrefersDark(scheme == 0 ? std::nullopt : std::optional(scheme == 1));
     } else if (group == desktopGroup && key == animationsKey) {

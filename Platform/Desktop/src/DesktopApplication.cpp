@@ -52,11 +52,11 @@ public:
     }
 
     void terminate() {
-        // The delegate may run loops of its own, from which a second request comes.
+        // A nested loop of the delegate may deliver a second request.
         if (delegate_ == nullptr || std::exchange(isTerminating_, true)) {
             return;
         }
-        // Until the first event is over there is nothing that the delegate could object to or put in order.
+        // The delegate has no state to save before the end of the first event.
         if (hasBegun_) {
             bool isRefused = false;
             runReportingUncaught("applicationShouldTerminate",
@@ -77,7 +77,7 @@ public:
 
 protected:
     bool event(QEvent *event) override {
-        // The toolkit's own way to quit first asks the windows to close, each of which may refuse.
+        // The toolkit's default handler asks each window to close, which it may refuse.
         if (event->type() == QEvent::Quit) {
             terminate();
             return true;
@@ -87,7 +87,7 @@ protected:
 
 private:
     void signalCame() {
-        // A loop within the termination may be what takes one that came after the decision.
+        // The signal may arrive in a nested loop during the termination.
         if (isTerminating_) {
             isTerminationDemanded_ = true;
         } else {
@@ -113,7 +113,7 @@ private:
     }
 
     void lastWindowWasClosed() {
-        // An alert may be the last window before the launch is over.
+        // An alert may be the last window before the end of the launch.
         if (!isLaunched_ || isTerminating_) {
             return;
         }
@@ -133,7 +133,7 @@ private:
         if (isActive == std::exchange(isActive_, isActive)) {
             return;
         }
-        // The desktop tells of it once, when it has happened.
+        // The desktop reports the change once, after the fact.
         runReportingUncaught("applicationStateChanged", [&] {
             if (isActive) {
                 delegate_->applicationWillBecomeActive();
@@ -148,11 +148,11 @@ private:
     TerminationSignals signals_;
     ApplicationDelegate *delegate_ = nullptr;
     std::exception_ptr launchError_;
-    bool hasBegun_ = false; // The first event is over.
+    bool hasBegun_ = false; // set after the first event
     bool isLaunched_ = false;
     bool isActive_ = false;
     bool isTerminating_ = false;
-    bool isTerminationDemanded_ = false; // By a signal, while it is under way.
+    bool isTerminationDemanded_ = false; // by a signal during the termination
 };
 
 DesktopApplication::DesktopApplication(int &argumentCount, char **arguments)

@@ -20,12 +20,13 @@ namespace velmar {
 
 namespace {
 
-constexpr qint64 longestReason = 500; // Bytes.
+constexpr qint64 longestReason = 500; // bytes
 
-/// Whether a file begins as one of the kinds of sound files that are in use. A decoder has the last word.
+/// Returns true if the file begins like a common sound format. Only the decoder decides whether it is
+/// playable.
 bool looksLikeSound(const QString &path) {
     QFile file(path);
-    // Opening what is no file, such as a pipe, could wait for ever.
+    // Opening a pipe could block forever.
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
         return false;
     }
@@ -46,7 +47,7 @@ SoundOutcome failure(const Sound &sound, const QString &reason) {
 
 } // namespace
 
-/// The sounds that play. Main thread.
+/// The running player processes. Main thread only.
 class DesktopSoundPlayer::Processes {
 public:
     explicit Processes(const std::string &program) : program_(QString::fromStdString(program)) {}
@@ -64,7 +65,7 @@ public:
     void start(const Sound &sound, Completion completion) {
         auto *process = new QProcess(&owner_);
         const auto end = [process, completion = std::move(completion)](const SoundOutcome &outcome) {
-            // A process that fails may say so twice.
+            // A failing process may report twice.
             process->disconnect();
             process->deleteLater();
             runReportingUncaught("SoundPlayer", [&] { completion(outcome); });
@@ -84,7 +85,7 @@ public:
                 const QString reason = QString::fromUtf8(process->read(longestReason)).trimmed();
                 end(failure(sound, reason.isEmpty() ? QStringLiteral("the player has failed") : reason));
             });
-        // What libraries say is nothing for the user of the program.
+        // Messages of libraries are not meant for the user.
         process->setStandardErrorFile(QProcess::nullDevice());
         process->setStandardInputFile(QProcess::nullDevice());
         process->start(program_, {QString::fromStdString(sound.path)});

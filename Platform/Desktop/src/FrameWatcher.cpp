@@ -35,7 +35,7 @@ bool FrameWatcher::nativeEventFilter(const QByteArray &eventType, void *message,
         const auto *change = static_cast<const xcb_property_notify_event_t *>(message);
         if (change->atom == property_ && change->window == static_cast<xcb_window_t>(window_.winId()) &&
             change->state == XCB_PROPERTY_NEW_VALUE) {
-            // The toolkit has to see the event first.
+            // Deferred: the toolkit must process the event first.
             QTimer::singleShot(0, &window_, std::exchange(framed_, nullptr));
         }
     }

@@ -9,12 +9,12 @@ class QWindow;
 
 namespace velmar {
 
-/// Waits until the window manager has told what it puts around a window: it does so in a property, some time
-/// after the window is mapped, and nothing else says when. On platforms other than X11 it never comes. Main
-/// thread.
+/// Detects the moment at which the window manager has set the frame of a window. The only sign is a property
+/// that it sets some time after mapping on X11. The callback is never called on other platforms. Main thread
+/// only.
 class FrameWatcher final : public QAbstractNativeEventFilter {
 public:
-    /// `framed` runs once, from the event loop. The window must outlive the watcher.
+    /// Calls `framed` once, from the event loop. The window must outlive the watcher.
     FrameWatcher(const QWindow &window, std::function<void()> framed);
     ~FrameWatcher() override;
 

@@ -9,7 +9,7 @@ namespace velmar {
 
 std::optional<ImageFile> ImageFile::read(const std::string &path, QSize largest) {
     const QString name = QString::fromStdString(path);
-    // Opening what is no file, such as a pipe, could wait for ever.
+    // Opening a pipe could block forever.
     if (!QFileInfo(name).isFile()) {
         return std::nullopt;
     }

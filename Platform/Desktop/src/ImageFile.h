@@ -8,13 +8,13 @@
 
 namespace velmar {
 
-/// A picture from a file, no larger than it can be shown.
+/// A picture from a file, reduced to the size needed.
 struct ImageFile {
     QImage image;
-    QSize size; ///< That of the file's picture, in pixels or in what a drawing counts by.
+    QSize size; ///< Size of the original, in pixels or in user units of a vector drawing.
 
-    /// Nothing if the path is not that of a file with a picture, of whatever kind the toolkit reads. A larger
-    /// picture is brought within the given size, and so is a smaller one if it is a drawing.
+    /// Reads a picture in any format of the toolkit. Returns std::nullopt if there is none at the path. A
+    /// larger picture is scaled down to `largest`; a vector drawing is always scaled to it.
     [[nodiscard]] static std::optional<ImageFile> read(const std::string &path, QSize largest);
 };
 

@@ -27,7 +27,7 @@ bool isModifierAlone(int key) {
 }
 
 std::string characters(const QKeyEvent &event) {
-    // Keys with a character have its code point as their number.
+    // The code of a key with a character is its code point.
     const auto key = static_cast<char32_t>(event.key());
     return key <= U'\U0010FFFF' ? QString::fromUcs4(&key, 1).toStdString() : std::string();
 }
@@ -41,7 +41,7 @@ public:
     }
 
     bool eventFilter(QObject *watched, QEvent *event) override {
-        // The event comes to the native window first, and from there on to each widget that leaves it.
+        // Filtered at the native window, which receives the event before the widgets.
         if (event->type() != QEvent::KeyPress || !watched->isWindowType()) {
             return false;
         }

@@ -9,7 +9,7 @@ namespace velmar {
 
 namespace {
 
-constexpr int secondTry = 200; // Milliseconds; another program may hold the keyboard for a moment.
+constexpr int secondTry = 200; // milliseconds; another program may hold the keyboard briefly
 
 bool isMenuThatCloses(const QObject *object, const QEvent *event) {
     return event->type() == QEvent::Hide && object->isWidgetType() &&
@@ -38,8 +38,7 @@ bool KeyboardGrab::eventFilter(QObject *watched, QEvent *event) {
         }
     } else if (isMenuThatCloses(watched, event) ||
                (event->type() == QEvent::Expose && isOfTheWindow(watched))) {
-        // The toolkit grabs the keyboard for a menu and lets it go after it, and the server lets it go for a
-        // window that is hidden, if only for a moment.
+        // The toolkit's menus and hiding the window, even briefly, end the grab.
         later_.start(0);
     }
     return false;

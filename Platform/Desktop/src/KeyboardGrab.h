@@ -7,13 +7,13 @@ class QWidget;
 
 namespace velmar {
 
-/// Has every key go to a window, those of the window manager included, while the window is the active one and
-/// none of our dialogs or menus is up.
+/// Directs all keys to a window, including the window manager's shortcuts, while the window is active and no
+/// dialog or menu of this application is open.
 class KeyboardGrab final : public QObject {
     Q_OBJECT
 
 public:
-    /// The window, which has its native window already, must outlive the grab.
+    /// The window must have a native window and outlive the grab.
     explicit KeyboardGrab(QWidget &window);
     ~KeyboardGrab() override;
 

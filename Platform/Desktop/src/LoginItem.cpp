@@ -14,8 +14,8 @@ bool isAlready(const FileManager &fileManager, const std::string &path, const st
     }
 }
 
-// The value of an entry's key is unescaped once as a string of the file and once more as a command line, in
-// which "%" introduces a field code.
+// Quotes an argument of Exec. The value is unescaped twice: as a string of the file and as a command line,
+// where "%" starts a field code.
 std::string quoted(const std::string &argument) {
     std::string text = "\"";
     for (const char character : argument) {
@@ -56,7 +56,7 @@ void LoginItem::enable(std::span<const std::string> command) const {
         line += (line.empty() ? "" : " ") + quoted(argument);
     }
     const std::string entry = "[Desktop Entry]\nType=Application\nName=Velmar\nExec=" + line + "\n";
-    // Writing waits for the disk, at a time when the window waits to be painted.
+    // Avoids disk writes, which would delay the first paint.
     if (!isAlready(fileManager_, path_, entry)) {
         fileManager_.createDirectory(directory_, 0700);
         fileManager_.writeAtomically(path_, entry, 0644);

@@ -18,7 +18,7 @@ void removeTagged(std::vector<MenuItem> &items, int tag) {
 void MainMenu::setItems(std::vector<MenuItem> items) {
     items_ = std::move(items);
     std::erase_if(observers_, [](const auto &observer) { return observer.expired(); });
-    // One may end others.
+    // Iterates over a copy, since an observer may end another observation.
     for (const auto &each : std::vector(observers_)) {
         if (const Observation observer = each.lock()) {
             (*observer)();

@@ -41,8 +41,7 @@ void MenuBar::reveal() {
 
 void MenuBar::rebuild() {
     if (actions_) {
-        // Shortcuts end at once; the action itself may be what replaces the items, and goes when its event is
-        // over.
+        // The shortcuts end at once. Deletion is deferred, because an action itself may replace the items.
         for (QAction *action : actions_->findChildren<QAction *>()) {
             window_.removeAction(action);
         }
@@ -92,7 +91,7 @@ QMenuBar &MenuBar::bar() {
 
 void MenuBar::fill(QMenuBar &bar) {
     bar.clear();
-    // The window's actions are those of the entries, in their order.
+    // The children are the actions of the entries, in their order.
     auto action = actions_->children().cbegin();
     for (const MenuItem &item : menu_.items()) {
         auto *menu = new QMenu(literalLabel(QString::fromStdString(item.title)), &bar);
@@ -106,7 +105,7 @@ void MenuBar::fill(QMenuBar &bar) {
 }
 
 void MenuBar::menuWillHide() {
-    // Another menu may open in its place.
+    // Deferred: another menu may open next.
     QTimer::singleShot(0, bar_, [this] {
         if (!isOnShow() && QApplication::activePopupWidget() == nullptr) {
             bar_->hide();

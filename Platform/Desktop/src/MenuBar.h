@@ -12,28 +12,28 @@ class QWidget;
 
 namespace velmar {
 
-/// Shows the application's menus in a window. The actions belong to the window as well, so that their
-/// shortcuts work without the bar, which is made when it is first to be seen or the window has been painted:
-/// it would hold the paint up.
+/// Shows the application's menus in a window. The actions belong to the window, so that their shortcuts work
+/// without the bar. The bar is created after the first paint, unless it is visible, because it would delay
+/// the paint.
 class MenuBar final : public QObject {
     Q_OBJECT
 
 public:
     enum class Visibility {
-        asNeeded, ///< While there are more menus than the application's own.
-        revealed, ///< Only when it is asked for.
+        asNeeded, ///< Visible while there is a menu besides the application's own.
+        revealed, ///< Visible only after reveal().
     };
 
-    /// The menu must outlive the bar. The window has its layout already.
+    /// The menu must outlive the bar. The window must have a layout.
     MenuBar(MainMenu &menu, QWidget &window, Visibility visibility);
 
-    /// Makes the bar if it is one to be seen.
+    /// Creates the bar if it is visible.
     void windowWillPaint();
 
-    /// Makes the bar, so that assistive technologies find the menus also while it is hidden.
+    /// Creates the bar, so that assistive technologies find the menus even while it is hidden.
     void prepare() { bar(); }
 
-    /// Shows a hidden bar until its menu closes, and opens the first menu.
+    /// Shows the bar, opens the first menu, and hides the bar again when its menu closes.
     void reveal();
 
 private:
@@ -41,7 +41,7 @@ private:
     void fill(QMenuBar &bar);
     void menuWillHide();
     QAction *makeAction(const MenuItem &item);
-    /// Made where there is none.
+    /// Returns the bar, creating it on first use.
     QMenuBar &bar();
     [[nodiscard]] bool isOnShow() const {
         return visibility_ == Visibility::asNeeded && menu_.items().size() > 1;
@@ -50,8 +50,8 @@ private:
     MainMenu &menu_;
     QWidget &window_;
     Visibility visibility_;
-    QMenuBar *bar_ = nullptr;          // Owned by the window; null until it is wanted.
-    std::unique_ptr<QObject> actions_; // Owns the actions of the present items.
+    QMenuBar *bar_ = nullptr;          // owned by the window; null until first used
+    std::unique_ptr<QObject> actions_; // owns the actions of the current items
     MainMenu::Observation observation_;
 };
 

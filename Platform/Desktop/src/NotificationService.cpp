@@ -24,15 +24,15 @@ namespace {
 const auto serviceName = QStringLiteral("org.freedesktop.Notifications");
 const auto path = QStringLiteral("/org/freedesktop/Notifications");
 const auto interface = QStringLiteral("org.freedesktop.Notifications");
-// Of a connection of our own: the one that is shared in the process is never made again when it is lost.
+// A separate connection: the toolkit doesn't reopen the shared one once it is lost.
 const auto connectionName = QStringLiteral("UserNotifications");
-// The service's word for a tap on the body.
+// Identifier of a tap on the body, given by the service's protocol.
 const auto tapOnBody = QStringLiteral("default");
-// Characters; nobody reads more, and the bus ends the connection of who sends too much.
+// Limit of characters: the bus disconnects clients that send too much.
 constexpr qsizetype longestText = 10'000;
-// For a bus to answer to a connection, which the main thread waits for.
+// Limit for the bus to answer; the main thread waits for it.
 constexpr std::chrono::milliseconds patience(500);
-// Between two looks at a silent one.
+// Time between two checks of a silent bus.
 constexpr std::chrono::seconds rest(30);
 
 QDBusMessage methodCall(const QString &method, const QVariantList &arguments = {}) {
@@ -43,12 +43,12 @@ QDBusMessage methodCall(const QString &method, const QVariantList &arguments = {
 
 QString shownText(const std::string &text) {
     QString shown = QString::fromStdString(text);
-    shown.remove(QChar::Null); // Which would end it.
+    shown.remove(QChar::Null); // The service would cut the text there.
     return shortened(shown, longestText);
 }
 
 UserNotificationOutcome notShown(QString reason) {
-    // The bus ends some of its sentences.
+    // Some error messages of the bus end in a full stop.
     while (reason.endsWith(QLatin1Char('.'))) {
         reason.chop(1);
     }
@@ -126,7 +126,7 @@ QString NotificationService::connectionProblem() {
     if (!busIsSilent_.hasExpired()) {
         return QStringLiteral("the session bus does not answer");
     }
-    // Not by the bus's address: the toolkit would then abort the process where the bus refuses it.
+    // Connecting by address would make the toolkit abort the process if the bus refuses.
     auto bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName);
     if (!bus.isConnected()) {
         return QStringLiteral("the session bus cannot be reached: ") + bus.lastError().message();
@@ -135,7 +135,7 @@ QString NotificationService::connectionProblem() {
                 SLOT(actionInvoked(uint, QString)));
     bus.connect(serviceName, path, interface, QStringLiteral("NotificationClosed"), this,
                 SLOT(notificationClosed(uint, uint)));
-    // Another service begins to count anew.
+    // A restarted service numbers its notifications from the start.
     watcher_ = std::make_unique<QDBusServiceWatcher>(serviceName, bus);
     connect(watcher_.get(), &QDBusServiceWatcher::serviceUnregistered, this, &NotificationService::forgetAll);
     return {};
@@ -186,7 +186,7 @@ void NotificationService::show(const UserNotification &notification, const QStri
 void NotificationService::actionInvoked(uint number, const QString &key) {
     const auto found = shown_.constFind(number);
     if (found == shown_.cend()) {
-        return; // Somebody else's.
+        return; // a notification of another application
     }
     bool isNumber = false;
     const std::size_t index = key.toUInt(&isNumber);
@@ -213,7 +213,7 @@ void NotificationService::notificationClosed(uint number, uint /*reason*/) {
 
 void NotificationService::withdraw(uint number) {
     shown_.remove(number);
-    // The service may have done so itself.
+    // The service may have closed it already, which is harmless.
     QDBusConnection(connectionName).send(methodCall(QStringLiteral("CloseNotification"), {number}));
 }
 

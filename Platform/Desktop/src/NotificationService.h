@@ -16,12 +16,13 @@
 
 namespace velmar {
 
-/// The notification service of the desktop, org.freedesktop.Notifications, and what it shows for us.
+/// Client of the desktop's notification service, org.freedesktop.Notifications. Keeps track of this process's
+/// notifications.
 class NotificationService final : public QObject {
     Q_OBJECT
 
 public:
-    /// The timeout is that of each call.
+    /// `timeout` applies to each call.
     explicit NotificationService(std::chrono::milliseconds timeout);
     ~NotificationService() override;
     NotificationService(const NotificationService &) = delete;
@@ -29,29 +30,29 @@ public:
 
     void setDelegate(std::weak_ptr<UserNotificationsDelegate> delegate) { delegate_ = std::move(delegate); }
 
-    /// The completion is called from the main loop.
+    /// Calls the completion from the main loop.
     void add(UserNotification notification, UserNotifications::Completion completion);
 
 private:
     Q_SLOT void actionInvoked(uint number, const QString &key);
     Q_SLOT void notificationClosed(uint number, uint reason);
 
-    /// Connects to the bus if that has to be done. Empty if there is a connection.
+    /// Connects to the bus if necessary. Returns the reason of a failure, or an empty text.
     QString connectionProblem();
     void show(const UserNotification &notification, const QStringList &capabilities,
               const UserNotifications::Completion &completion);
     void withdraw(uint number);
     void forgetAll();
 
-    /// What the service answers goes to `next`, and that it doesn't to the completion.
+    /// Calls the service. Passes a reply to `next` and reports an error to the completion.
     template <class Answer, class Next>
     void call(const QDBusMessage &message, const UserNotifications::Completion &completion, Next next);
 
     std::chrono::milliseconds timeout_;
-    QDeadlineTimer busIsSilent_{0}; // Taken for silent until then.
+    QDeadlineTimer busIsSilent_{0}; // the bus counts as silent until then
     std::weak_ptr<UserNotificationsDelegate> delegate_;
     std::unique_ptr<QDBusServiceWatcher> watcher_;
-    QHash<uint, std::vector<std::string>> shown_; // The identifiers of the actions, by the service's number.
+    QHash<uint, std::vector<std::string>> shown_; // action identifiers by the service's number
 };
 
 } // namespace velmar

@@ -11,14 +11,14 @@ namespace velmar {
 
 namespace {
 
-constexpr int gap = 4;    // Points between the popover and its place,
-constexpr int margin = 8; // and between it and the edges of the screen.
+constexpr int gap = 4;    // points between the popover and its place
+constexpr int margin = 8; // points between the popover and the edges of the screen
 
-// Milliseconds within which a click on the place is the one that has closed the popover, where that click
-// makes the desktop's panel the active application first.
+// Milliseconds after hiding during which a click on the place is ignored: it may be the click that made the
+// panel active and thereby closed the popover.
 constexpr int sameClick = 250;
 
-// Milliseconds within which the keyboard comes back from an alert, also on a busy machine.
+// Milliseconds for the keyboard to return from an alert, even on a busy machine.
 constexpr int keyboardsReturn = 1000;
 
 constexpr Window::Style style{.hasTitleBar = false,
@@ -80,7 +80,7 @@ bool Popover::eventFilter(QObject *watched, QEvent *event) {
     if (event->type() == QEvent::WindowActivate) {
         hadTheKeyboard_ = true;
     } else if (event->type() == QEvent::WindowUnblocked) {
-        // An alert is over: until the keyboard has come back to what it stood on, the user looks turned away.
+        // An alert has closed: the application is inactive until the keyboard has returned.
         QTimer::singleShot(keyboardsReturn, this, &Popover::hideIfTurnedAway);
     }
     const bool isEscape =
@@ -94,8 +94,7 @@ bool Popover::eventFilter(QObject *watched, QEvent *event) {
 }
 
 void Popover::hideIfTurnedAway() {
-    // What is told now may be of the time before the popover was shown. An alert above it must not lose what
-    // it stands on.
+    // The state may predate the popover. Don't hide while an alert is open on top of it.
     if (QGuiApplication::applicationState() != Qt::ApplicationActive && hadTheKeyboard_ &&
         behavior_ == Behavior::transient && window_.isVisible() &&
         QApplication::activeModalWidget() == nullptr) {

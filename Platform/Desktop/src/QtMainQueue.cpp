@@ -14,12 +14,11 @@
 
 namespace velmar {
 
-/// One posted event stands for all the functions that wait.
+/// Posts one event for all waiting functions.
 class QtMainQueue::Receiver final : public QObject {
 public:
     Receiver() {
-        // A function that runs a loop of its own leaves the rest of its batch to that loop, which nothing
-        // would wake.
+        // Wakes a nested loop, started by a function, to run the rest of the batch.
         connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this, [this] {
             if (!batch_.empty()) {
                 wake();
@@ -59,10 +58,10 @@ public:
 private:
     void wake() { QCoreApplication::postEvent(this, new QEvent(QEvent::User)); }
 
-    std::mutex mutex_; // Guards the next two.
+    std::mutex mutex_; // guards incoming_ and isPosted_
     std::vector<std::function<void()>> incoming_;
     bool isPosted_ = false;
-    std::deque<std::function<void()>> batch_; // Main thread.
+    std::deque<std::function<void()>> batch_; // main thread only
 };
 
 QtMainQueue::QtMainQueue() : receiver_(std::make_unique<Receiver>()) {}

@@ -13,7 +13,7 @@ public:
     LoopTimer(std::chrono::milliseconds interval, bool isSingleShot, std::function<void()> function)
         : run_([function = std::move(function)] { runReportingUncaught("Timer", function); }) {
         timer_.setSingleShot(isSingleShot);
-        // A copy, since the function may destroy the timer.
+        // Captures a copy, because the function may destroy the timer.
         QObject::connect(&timer_, &QTimer::timeout, &timer_, [run = run_] { run(); });
         timer_.start(interval);
     }

@@ -14,7 +14,7 @@ namespace velmar {
 
 class RoundCorners::Corner final : public QWidget {
 public:
-    /// The centre of the circle, in its own coordinates, is one of its corners.
+    /// `centre` is the centre of the circle in the widget's coordinates: one of its corners.
     Corner(QWidget &window, const RoundCorners &owner, QPoint centre)
         : QWidget(&window), owner_(owner), centre_(centre) {
         setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -102,7 +102,7 @@ bool RoundCorners::eventFilter(QObject *watched, QEvent *event) {
     if (event->type() == QEvent::Resize) {
         place();
     } else if (event->type() == QEvent::ChildPolished) {
-        raise(); // Above what has come later.
+        raise(); // raised above children added later
     }
     return QObject::eventFilter(watched, event);
 }

@@ -11,19 +11,20 @@ class QWidget;
 
 namespace velmar {
 
-/// Cuts the corners of a window without frame: smoothly where the desktop lets them shine through, or where
-/// it is known what is behind them, and by the window's shape otherwise.
+/// Rounds the corners of a frameless window. The edge is smooth if the desktop is composited or the area
+/// behind the window is known; otherwise the window gets a shape mask.
 class RoundCorners final : public QObject {
     Q_OBJECT
 
 public:
-    /// Paints a rectangle of the desktop, given in its coordinates, at the painter's origin.
+    /// Paints a rectangle, given in desktop coordinates, at the painter's origin.
     using Behind = std::function<void(QPainter &painter, const QRect &area)>;
 
-    /// The window has no native window yet, and outlives this.
+    /// The window must outlive this object and must not have a native window yet.
     RoundCorners(QWidget &window, int radius);
 
-    /// What is behind the window, which stays where it is. May be called again when that has changed.
+    /// Sets the painter of the area behind the window, which must not move. Call again when that area
+    /// changes.
     void setBehind(Behind behind);
 
 protected:
@@ -38,7 +39,7 @@ private:
     int radius_;
     bool isSeenThrough_;
     Behind behind_;
-    std::vector<Corner *> corners_; // Owned by the window.
+    std::vector<Corner *> corners_; // owned by the window
 };
 
 } // namespace velmar

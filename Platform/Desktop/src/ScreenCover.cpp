@@ -29,7 +29,8 @@ public:
           guard_(
               *window.windowHandle(), [this] { bringToFront(); }, std::move(giveUp)) {
         qApp->installEventFilter(this);
-        // A window that is clicked on is raised, and no ordinary window of X11 belongs to another one.
+        // A click raises a window, and on X11 an ordinary window has no transient parent, so the others must
+        // be raised again.
         connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this] { raiseOtherWindows(); });
     }
 
@@ -46,7 +47,7 @@ public:
         for (Covered &screen : added) {
             screen.backdrop->cover(screen.geometry);
         }
-        // After the new ones, so that nothing is bare in between.
+        // Removed after the new ones are shown, so that no screen is uncovered in between.
         std::erase_if(covered_, [&](const Covered &known) {
             return std::none_of(screens.begin(), screens.end(),
                                 [&](const QScreen *screen) { return screen->geometry() == known.geometry; });
@@ -68,7 +69,7 @@ public:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override {
-        // Window managers keep a dialog above the window that it belongs to.
+        // Window managers keep a dialog above its transient parent.
         if (event->type() == QEvent::Show && watched->isWidgetType()) {
             const auto &widget = *static_cast<QWidget *>(watched);
             if (isOtherWindow(widget) && widget.windowHandle()->transientParent() == nullptr) {
@@ -89,7 +90,8 @@ private:
                            [&](const Covered &known) { return known.geometry == geometry; });
     }
 
-    /// What was to be seen on the screen before it was covered for the first time, or on what lay there.
+    /// Returns the blurred content of the screen before it was first covered. Areas that were covered earlier
+    /// are taken from their pictures.
     [[nodiscard]] QImage picture(QScreen &screen) {
         const QRect geometry = screen.geometry();
         const auto known = std::find_if(pictures_.begin(), pictures_.end(),
@@ -109,7 +111,7 @@ private:
         return pictures_.emplace_back(geometry, image).second;
     }
 
-    /// A dialog, or a window that an action has opened; the backdrops are of another type.
+    /// Returns true for a dialog or a window opened by an action. Backdrops have a different window type.
     [[nodiscard]] bool isOtherWindow(const QWidget &widget) const {
         const bool isWindow = widget.windowType() == Qt::Window || widget.windowType() == Qt::Dialog;
         return isWindow && &widget != &window_ && widget.windowHandle() != nullptr;
@@ -129,7 +131,7 @@ private:
             const bool isMain = main != nullptr && screen.geometry == main->geometry();
             screen.backdrop->setPlain(isMain && onMainScreen_ == Backing::plain);
             if (isMain) {
-                // Compositors keep the window above the one that it belongs to.
+                // Compositors keep the window above its transient parent.
                 window_.windowHandle()->setTransientParent(screen.backdrop->windowHandle());
                 window_.setBehind(
                     [backdrop = QPointer(screen.backdrop.get())](QPainter &painter, const QRect &area) {
@@ -144,7 +146,8 @@ private:
     Window &window_;
     Backing onMainScreen_;
     std::vector<Covered> covered_;
-    std::vector<std::pair<QRect, QImage>> pictures_; // Of every screen so far, on this desktop.
+    // pictures of all screens covered so far, by their rectangle
+    std::vector<std::pair<QRect, QImage>> pictures_;
     KeyboardGrab grab_;
     StackingGuard guard_;
 };

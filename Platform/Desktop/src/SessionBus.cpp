@@ -23,9 +23,9 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr const char *addressVariable = "DBUS_SESSION_BUS_ADDRESS";
-// An address of no known kind: libraries of D-Bus give up on it at once, and look for no other.
+// An unknown transport: D-Bus libraries fail at once and don't search for another bus.
 constexpr const char *noBus = "disabled:";
-// A bus may be started by the first connection, while the login keeps the machine busy.
+// The first connection may start a bus, while the login keeps the machine busy.
 constexpr std::chrono::seconds patienceAtLaunch(3);
 
 QByteArray busAddress() {
@@ -33,8 +33,7 @@ QByteArray busAddress() {
     return address.isEmpty() ? "unix:path=" + qgetenv("XDG_RUNTIME_DIR") + "/bus" : address;
 }
 
-/// The name of the socket, with a leading zero in place of the path for an abstract one; empty where the
-/// address is of another kind.
+/// Returns the name of the socket, with a leading NUL for an abstract one; empty for another transport.
 QByteArray socketName(const QByteArray &address) {
     if (!address.startsWith("unix:")) {
         return {};
@@ -55,7 +54,7 @@ int timeLeft(Clock::time_point end) {
     return static_cast<int>(std::max<std::chrono::milliseconds::rep>(left.count(), 0));
 }
 
-/// Tries until the end while the queue of the socket is full. Zero, or an errno.
+/// Connects, retrying until `end` while the socket's queue is full. Returns 0 or an errno.
 int connectTo(const QByteArray &name, int descriptor, Clock::time_point end) {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
@@ -70,7 +69,7 @@ int connectTo(const QByteArray &name, int descriptor, Clock::time_point end) {
     return 0;
 }
 
-/// Any answer is one, and so is a refusal.
+/// Returns true if the bus reacts in any way, even by refusing.
 bool answers(int descriptor, Clock::time_point end) {
     const QByteArray greeting =
         QByteArray("\0AUTH EXTERNAL ", 15) + QByteArray::number(::getuid()).toHex() + "\r\n";
@@ -113,7 +112,7 @@ bool isSessionBusSilent(std::chrono::milliseconds patience) {
     if (!hasSessionBus()) {
         return false;
     }
-    // Who connects takes the first address at which there is a socket.
+    // Clients use the first address that accepts a connection.
     for (const QByteArray &address : busAddress().split(';')) {
         const QByteArray name = socketName(address);
         if (name.isEmpty() || static_cast<std::size_t>(name.size()) >= sizeof sockaddr_un::sun_path) {

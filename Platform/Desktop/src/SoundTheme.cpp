@@ -11,16 +11,16 @@ namespace velmar {
 
 namespace {
 
-constexpr qint64 largestIndex = 1024 * 1024; // Bytes.
+constexpr qint64 largestIndex = 1024 * 1024; // bytes
 const auto commonTheme = QStringLiteral("freedesktop");
 const auto profile = QStringLiteral("stereo");
 const QStringList suffixes{QStringLiteral(".disabled"), QStringLiteral(".oga"), QStringLiteral(".ogg"),
                            QStringLiteral(".wav")};
 
-/// What a theme's index says.
+/// Content of a theme's index.
 struct ThemeIndex {
     QStringList parents;
-    QStringList subdirectories; // Those for two loudspeakers and for any number.
+    QStringList subdirectories; // those for stereo or without a profile
 };
 
 std::optional<ThemeIndex> readIndex(const QString &path) {

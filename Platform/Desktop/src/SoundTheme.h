@@ -7,19 +7,19 @@
 
 namespace velmar {
 
-/// The sounds of a desktop, found by name as its sound themes lay them out. Without state; any thread.
+/// Finds sounds by name in the desktop's sound themes. Stateless and thread-safe.
 class SoundTheme {
 public:
-    /// `directories` hold the themes and sounds without one; `theme` is the user's; of sounds in several
-    /// languages that of `locale` ("de_DE") is preferred.
+    /// `directories` contain the themes and unthemed sounds. `theme` is the user's theme. Sounds in the
+    /// language of `locale` ("de_DE") are preferred.
     SoundTheme(QStringList directories, QString theme, const QString &locale);
 
-    /// The path of a sound's file, which ends in ".disabled" if the theme turns the sound off. A theme goes
-    /// before those that it inherits from, "freedesktop" and what has no theme. A name that isn't found is
-    /// tried without its last part: "dialog-warning" is good for "dialog-warning-battery".
+    /// Returns the path of a sound's file, which ends in ".disabled" if the theme disables the sound.
+    /// Searches the theme, its parents, "freedesktop" and unthemed sounds in this order. A name that isn't
+    /// found loses its last part: "dialog-warning" serves for "dialog-warning-battery".
     [[nodiscard]] std::optional<QString> find(const QString &name) const;
 
-    /// What the user has chosen in the settings that desktops write for programs, or else "freedesktop".
+    /// Returns the theme in the user's GTK settings, by default "freedesktop".
     [[nodiscard]] static QString ofUser();
 
 private:
@@ -28,7 +28,7 @@ private:
 
     QStringList directories_;
     QString theme_;
-    QStringList languages_; // Names of directories, the last one empty.
+    QStringList languages_; // names of directories; the last one is empty
 };
 
 } // namespace velmar

@@ -19,11 +19,10 @@ namespace velmar {
 
 namespace {
 
-constexpr int restBetweenLooks = 50; // Milliseconds, in which changes come together.
-// A window that the window manager keeps above ours whatever is asked, or that comes back each time, is not
-// fought without end.
+constexpr int restBetweenLooks = 50; // milliseconds, during which changes are merged
+// Limit for a window that the window manager keeps above ours or that returns each time.
 constexpr int mostAttempts = 20;
-constexpr std::chrono::seconds peace(1); // After which the attempts are counted anew.
+constexpr std::chrono::seconds peace(1); // without attempts, after which their number is reset
 
 bool asksForPassword(const std::string &application) {
     constexpr std::array<std::string_view, 4> programs{"polkit", "lxpolkit", "pinentry", "gcr-prompter"};
@@ -142,14 +141,14 @@ bool StackingGuard::findMisplaced(const std::vector<std::uint32_t> &stack) {
 }
 
 bool StackingGuard::mayFight(std::uint32_t window) {
-    // A window of the keyboard may not be in the list yet.
+    // The active window may not be in the list yet.
     const auto known = others_.find(window);
     const Other other =
         known != others_.end() ? known->second : Other{WindowList::applicationOf(window), false};
     Fight &fight = fights_[other.application];
     fight.isOver.setRemainingTime(peace);
     if (std::exchange(fight.look, looks_) != looks_ && ++fight.attempts == mostAttempts + 1) {
-        // The name of the program, which its class follows.
+        // The application is stored as name and class, separated by NUL.
         giveUp_(other.application.substr(0, other.application.find('\0')), other.asksForPassword);
     }
     return fight.attempts <= mostAttempts;

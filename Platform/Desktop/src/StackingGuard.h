@@ -14,16 +14,16 @@ class QWindow;
 
 namespace velmar {
 
-/// Sees what windows of other applications come above ours, or take the keyboard's focus away, and has that
-/// undone, unless the same application does so again and again. The desktop's dialogs for a password are let
-/// through. Does nothing where there is no X server.
+/// Watches for other applications' windows that are raised above ours or take the keyboard, and reverts that,
+/// except for an application that repeats it too often. The desktop's password dialogs are let through. Does
+/// nothing without an X server.
 class StackingGuard final : public QAbstractNativeEventFilter {
 public:
-    /// Told the name, maybe an empty one, of an application whose windows are left alone: above ours, or a
-    /// dialog for a password below them.
+    /// Called with the name, possibly empty, of an application whose windows are left alone: they stay above
+    /// ours, or a password dialog stays below.
     using GiveUp = std::function<void(const std::string &application, bool asksForPassword)>;
 
-    /// The front window must outlive the guard.
+    /// `front` must outlive the guard.
     StackingGuard(QWindow &front, std::function<void()> bringToFront, GiveUp giveUp);
     ~StackingGuard() override;
 
@@ -37,15 +37,15 @@ private:
     };
     struct Fight {
         int attempts = 0;
-        std::uint64_t look = 0; // The last one that found something to fight for; an attempt each.
+        std::uint64_t look = 0; // last look that counted an attempt; one attempt per look
         QDeadlineTimer isOver;
     };
 
     void look();
     void learn(const std::vector<std::uint32_t> &stack);
-    /// Lifts the dialogs for a password that are below ours. True if other windows are above ours.
+    /// Raises password dialogs that are below our windows. Returns true if other windows are above ours.
     bool findMisplaced(const std::vector<std::uint32_t> &stack);
-    /// Counts an attempt against a window's application; false once there were too many in a row.
+    /// Counts an attempt against a window's application. Returns false after too many attempts in a row.
     bool mayFight(std::uint32_t window);
 
     QWindow &front_;
@@ -54,8 +54,8 @@ private:
     std::uint32_t stacking_;
     std::uint32_t active_;
     std::uint64_t looks_ = 0;
-    std::map<std::string, Fight> fights_;   // By application: each of its windows may be a new one.
-    std::map<std::uint32_t, Other> others_; // Those of the stack that are not ours.
+    std::map<std::string, Fight> fights_;   // by application, since it may create a new window each time
+    std::map<std::uint32_t, Other> others_; // windows of other applications in the stack
     QTimer later_;
 };
 

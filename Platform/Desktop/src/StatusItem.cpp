@@ -17,11 +17,11 @@ namespace velmar {
 
 namespace {
 
-// Pixels, enough for the panels of the densest screens.
+// In pixels: sufficient for the panels of the densest screens.
 constexpr QSize largest(96, 96);
 constexpr int sides[] = {16, 22, 24, 32, 48, 64, 96};
 
-/// The shape of the image in one colour, as large as a square holds it.
+/// Returns the image's shape in one colour, scaled to fit a square.
 QPixmap shapeOf(const QImage &image, const QColor &color, int side) {
     QPixmap square(side, side);
     square.fill(Qt::transparent);
@@ -74,7 +74,7 @@ protected:
 
 private:
     void draw() {
-        // An icon of nothing at all is not shown, and then there is nothing to click on.
+        // A null icon would not be shown and could not be clicked.
         const QImage image = image_ ? image_->image() : QPixmap(largest).toImage();
         const QColor color =
             image_ ? QApplication::palette().color(QPalette::WindowText) : QColor(Qt::transparent);

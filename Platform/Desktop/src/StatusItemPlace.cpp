@@ -18,11 +18,11 @@ namespace velmar {
 
 namespace {
 
-// Milliseconds.
-constexpr int restWhileWaiting = 100; // Between two looks,
-constexpr int restOnceThere = 1000;   // of which the later ones are for a place that goes.
-constexpr int patience = 3000;        // For a place that comes,
-constexpr int absence = 5000;         // and for one that comes back.
+// In milliseconds.
+constexpr int restWhileWaiting = 100; // between looks before the place appears
+constexpr int restOnceThere = 1000;   // between looks afterwards
+constexpr int patience = 3000;        // time for the place to appear
+constexpr int absence = 5000;         // time for the place to return
 
 } // namespace
 
@@ -45,7 +45,7 @@ private:
         }
     }
 
-    /// The toolkit asks the same, but once, while everything waits for the answer.
+    /// Asynchronous, unlike the toolkit's own check, which blocks.
     void askPanelOnTheBus() {
         QDBusMessage question = QDBusMessage::createMethodCall(
             QStringLiteral("org.kde.StatusNotifierWatcher"), QStringLiteral("/StatusNotifierWatcher"),
@@ -74,8 +74,7 @@ private:
         }
     }
 
-    /// Counts what was waited for by intent: when the program itself stands still for a while, the panel is
-    /// not to blame.
+    /// Adds only intended waiting time, so that a stall of this process doesn't count against the panel.
     void wasMissed(int waited) {
         const int rest = isThere_ ? restOnceThere : restWhileWaiting;
         missedFor_ += waited + rest;
@@ -87,7 +86,7 @@ private:
     }
 
     std::function<void(bool isThere)> tell_;
-    QTimer timer_; // To the next look.
+    QTimer timer_; // for the next look
     int missedFor_ = 0;
     bool isThere_ = false;
 };

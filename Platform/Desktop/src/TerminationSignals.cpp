@@ -16,7 +16,7 @@ namespace {
 
 std::atomic<int> signalDescriptor = -1;
 
-// Only what is allowed in a signal handler: one write, errno as it was.
+// Async-signal-safe: one write, errno restored.
 void noteSignal(int /*number*/) {
     const int error = errno;
     const std::uint64_t one = 1;
@@ -53,7 +53,7 @@ TerminationSignals::TerminationSignals(std::function<void()> onSignal)
 }
 
 TerminationSignals::~TerminationSignals() {
-    // The process is ending, and must not be killed before it has written its log.
+    // Ignored from now on, so that the process can finish writing its log.
     handle(SIG_IGN);
     notifier_.reset();
     signalDescriptor = -1;

@@ -7,13 +7,13 @@
 
 namespace velmar {
 
-/// Turns SIGTERM and SIGINT into a call on the main thread's loop, for as long as it lives; from then
-/// on both are ignored. One per process.
+/// Turns SIGTERM and SIGINT into calls on the main thread's event loop. Both signals are ignored after
+/// destruction. At most one instance per process.
 class TerminationSignals {
 public:
     explicit TerminationSignals(std::function<void()> onSignal);
     ~TerminationSignals();
-    /// Whether one has come that the loop has not called for yet.
+    /// Returns true if a signal has arrived that the loop hasn't handled yet.
     [[nodiscard]] bool isOnePending() const;
     TerminationSignals(const TerminationSignals &) = delete;
     TerminationSignals &operator=(const TerminationSignals &) = delete;

@@ -20,7 +20,7 @@ namespace velmar {
 
 namespace {
 
-// Points that suffice for what window managers put around a window.
+// In points: sufficient for the frames of common window managers.
 constexpr QMargins usualFrame(8, 40, 8, 8);
 
 Qt::WindowFlags flagsOf(const Window::Style &style) {
@@ -43,12 +43,12 @@ Window::Window(Style style, MainMenu &menu)
     layout_->setSpacing(0);
     menuBar_ = std::make_unique<MenuBar>(
         menu, *this, style_.hasMenuBar ? MenuBar::Visibility::asNeeded : MenuBar::Visibility::revealed);
-    // Behind what else waits for the paint.
+    // Queued behind other work that waits for the paint.
     connect(this, &Window::firstPainted, menuBar_.get(), &MenuBar::prepare, Qt::QueuedConnection);
     if (!style_.hasTitleBar && style_.isRound) {
         corners_ = std::make_unique<RoundCorners>(*this, cornerRadius);
     }
-    winId(); // The hints belong to the native window, and are read when it is mapped.
+    winId(); // Creates the native window: it carries the hints, which are read when it is mapped.
     windowHandle()->installEventFilter(this);
     if (style_.hasTitleBar) {
         frameWatcher_ = std::make_unique<FrameWatcher>(*windowHandle(), [this] { emit framed(); });
@@ -62,7 +62,7 @@ Window::Window(Style style, MainMenu &menu)
 }
 
 Window::~Window() {
-    // The bar unregisters from the menu, and its actions from this window, while the window is still whole.
+    // Destroyed first: the bar uses the menu and this window.
     menuBar_.reset();
     frameWatcher_.reset();
 }
@@ -70,7 +70,7 @@ Window::~Window() {
 void Window::setContent(QWidget *content) {
     delete content_;
     content_ = content;
-    // In its final size, which the layout would otherwise give it after it has been laid out in another one.
+    // Sets the final size; otherwise the layout would lay the content out twice.
     content_->setGeometry(contentsRect());
     layout_->addWidget(content_);
     content_->show();
@@ -93,7 +93,7 @@ void Window::setSizes(QSize content, QSize minimum, QSize maximum) {
 void Window::shrinkToScreen() {
     QMargins frame = windowHandle()->frameMargins();
     if (frame.isNull() && style_.hasTitleBar) {
-        // To be resized and moved at once while it is being framed may leave the title bar off the screen.
+        // A window that is resized and moved while it is being framed may have its title bar off the screen.
         frame = usualFrame;
     }
     const QSize room = screen()->availableGeometry().size().shrunkBy(frame);
@@ -103,8 +103,8 @@ void Window::shrinkToScreen() {
 }
 
 QSize Window::frameSize() const {
-    // The widget remembers margins that it saw too early; the native window asks for them, but knows a size
-    // only when it is shown.
+    // frameGeometry() may be outdated; the native window queries its margins, but knows its size only once it
+    // is shown.
     return size().grownBy(windowHandle()->frameMargins());
 }
 
@@ -115,7 +115,7 @@ void Window::moveFrame(QPoint origin) {
 bool Window::eventFilter(QObject *watched, QEvent *event) {
     if (event->type() == QEvent::Expose && windowHandle()->isExposed() && !std::exchange(wasPainted_, true)) {
         menuBar_->windowWillPaint();
-        // The window paints itself while it handles the event.
+        // Deferred: the window paints itself while it handles the event.
         QTimer::singleShot(0, this, &Window::firstPainted);
     }
     return QWidget::eventFilter(watched, event);
@@ -124,14 +124,14 @@ bool Window::eventFilter(QObject *watched, QEvent *event) {
 void Window::changeEvent(QEvent *event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange && isMinimized() && style_.rank == Style::Rank::front) {
-        // Window managers have a key for it too.
+        // Window managers minimise by shortcut as well.
         setWindowState(windowState() & ~Qt::WindowMinimized);
         activateWindow();
     }
 }
 
 void Window::closeEvent(QCloseEvent *event) {
-    // Window managers have a key for it even where the window has no button.
+    // Window managers close by shortcut even without a close button.
     event->setAccepted(style_.isClosable && style_.hasTitleBar);
 }
 
@@ -152,7 +152,7 @@ void Window::mousePressEvent(QMouseEvent *event) {
 }
 
 void Window::paintEvent(QPaintEvent *event) {
-    // What has no background of the system has none at all.
+    // A translucent window has no background of its own.
     if (testAttribute(Qt::WA_TranslucentBackground)) {
         QPainter(this).fillRect(event->rect(), palette().color(QPalette::Window));
     }

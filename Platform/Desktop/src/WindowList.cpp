@@ -12,8 +12,8 @@ namespace velmar::WindowList {
 
 namespace {
 
-constexpr std::uint32_t longest = 16 * 1024; // Words of a property.
-constexpr std::uint32_t fromTheUser = 2;     // Window managers obey the user, not programs.
+constexpr std::uint32_t longest = 16 * 1024; // 32-bit words of a property
+constexpr std::uint32_t fromTheUser = 2;     // window managers follow requests of the user, not of programs
 
 xcb_window_t rootOf(xcb_connection_t *connection) {
     return xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
@@ -21,7 +21,7 @@ xcb_window_t rootOf(xcb_connection_t *connection) {
 
 using Reply = std::unique_ptr<xcb_get_property_reply_t, decltype(&std::free)>;
 
-/// Null where there is none, or where the window is gone.
+/// Returns null if the property or the window doesn't exist.
 Reply property(xcb_window_t window, xcb_atom_t name, xcb_atom_t type) {
     xcb_connection_t *connection = connectionOfWindowSystem();
     const auto cookie = xcb_get_property(connection, 0, window, name, type, 0, longest);

@@ -6,23 +6,23 @@
 
 namespace velmar {
 
-/// The windows of all applications as the window manager of an X server tells of them. Numbers are the
-/// server's; nothing of all this does anything where there is no X server.
+/// The windows of all applications, as reported by an X server's window manager. Windows are identified by
+/// the server's numbers. Without an X server all functions do nothing.
 namespace WindowList {
 
-/// From the lowest to the highest.
+/// Returns the windows from bottom to top.
 [[nodiscard]] std::vector<std::uint32_t> fromTheLowest();
 
-/// The one that the keyboard goes to; 0 for none.
+/// Returns the window with the keyboard focus; 0 for none.
 [[nodiscard]] std::uint32_t active();
 
-/// What kind of program a window is of, in its own words: a name and a class, each with a NUL at its end.
+/// Returns the WM_CLASS of a window: name and class, each terminated by NUL.
 [[nodiscard]] std::string applicationOf(std::uint32_t window);
 
-/// Gives the keyboard to a window, whoever has it.
+/// Gives the keyboard focus to a window.
 void activate(std::uint32_t window);
 
-/// Puts a window of another application above the ordinary ones, and gives it the keyboard.
+/// Puts a window of another application above ordinary windows and gives it the keyboard focus.
 void lift(std::uint32_t window);
 
 } // namespace WindowList

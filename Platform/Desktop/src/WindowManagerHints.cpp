@@ -15,7 +15,7 @@ namespace velmar {
 
 namespace {
 
-// The property's layout and bits are those of the Motif window manager, which all the others took over.
+// Layout and bits are those of the Motif window manager, which others adopted.
 constexpr std::uint32_t functionsAreSet = 1U << 0U;
 constexpr std::uint32_t decorationsAreSet = 1U << 1U;
 constexpr std::uint32_t functionResize = 1U << 1U;
@@ -30,7 +30,7 @@ constexpr std::uint32_t decorationMenu = 1U << 4U;
 
 xcb_connection_t *connectionOfWindowSystem() {
     const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    // Other platforms may have the interface too, without a connection behind it.
+    // Other platforms may provide the interface without a connection.
     return x11 == nullptr ? nullptr : x11->connection();
 }
 

@@ -8,31 +8,32 @@ struct xcb_connection_t;
 
 namespace velmar {
 
-/// What the user may do with a window by the window manager's means.
+/// Operations that the window manager offers to the user.
 struct WindowFunctions {
     bool resize = true;
     bool move = true;
     bool close = true;
 };
 
-/// Null where the window system is none of X11's.
+/// Returns nullptr if the window system is not X11. Not owned.
 [[nodiscard]] xcb_connection_t *connectionOfWindowSystem();
 
-/// The number that the window system gives to a name; 0 where it is none of X11's.
+/// Returns the X11 atom of a name; 0 if the window system is not X11.
 [[nodiscard]] std::uint32_t atomOfWindowSystem(std::string_view name);
 
-/// Whether what is behind a window shines through where the window is transparent.
+/// Returns true if transparent windows show the area behind them.
 [[nodiscard]] bool windowsAreComposited();
 
-/// Who has a selection of the X server, by its name; 0 for nobody.
+/// Returns the owner of an X11 selection; 0 for none.
 [[nodiscard]] std::uint32_t ownerOfSelection(std::string_view name);
 
-/// Tells the window manager what it may offer for a window with a title bar; minimising and maximising never.
-/// Window managers are free not to follow. Before the window is shown; does nothing where there is no X
-/// server.
+/// Sets the operations that the window manager offers for a window with title bar. Minimising and maximising
+/// are never offered. Window managers may ignore the hint. Must be called before the window is shown. Does
+/// nothing without an X server.
 void setWindowManagerFunctions(QWindow &window, WindowFunctions functions);
 
-/// Shows the window on every workspace. Before it is shown; does nothing where there is no X server.
+/// Shows the window on every workspace. Must be called before the window is shown. Does nothing without an X
+/// server.
 void setOnEveryWorkspace(QWindow &window);
 
 } // namespace velmar

@@ -6,7 +6,7 @@
 
 namespace velmar {
 
-/// Shows alerts as windows of the desktop.
+/// An AlertPresenter that shows alerts as desktop windows.
 class DesktopAlertPresenter final : public AlertPresenter {
 public:
     DesktopAlertPresenter();

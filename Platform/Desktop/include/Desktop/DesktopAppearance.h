@@ -8,31 +8,31 @@
 
 namespace velmar {
 
-/// How the user wants programs to look: light or dark, with or without motion. The desktop's palette decides
-/// until its settings service has answered, which is asked without waiting. Main thread.
+/// The user's preferences for a light or dark appearance and for animations. The desktop's palette decides
+/// until the settings service has answered an asynchronous request. Main thread only.
 class DesktopAppearance final : public QObject {
     Q_OBJECT
 
 public:
     using QObject::QObject;
 
-    /// Whether a palette is that of a dark appearance.
+    /// Returns true if the palette has a dark appearance.
     [[nodiscard]] static bool isDark(const QPalette &palette);
 
-    /// Light or dark, given the palette that the desktop offers.
+    /// Returns true for a dark appearance. `desktopPalette` decides unless the user has a preference.
     [[nodiscard]] bool prefersDark(const QPalette &desktopPalette) const {
         return prefersDark_.value_or(isDark(desktopPalette));
     }
 
-    /// False when the desktop turns animations off.
+    /// Returns false if the desktop disables animations.
     [[nodiscard]] bool isAnimated() const { return isAnimated_; }
 
-    /// The user's word, over that of the palette; none leaves it to the palette.
+    /// Overrides the palette by the user's preference; std::nullopt leaves the decision to the palette.
     void setPrefersDark(std::optional<bool> prefersDark);
     void setAnimated(bool isAnimated) { isAnimated_ = isAnimated; }
 
-    /// Asks the settings service for the user's preferences and follows their changes. Does nothing where
-    /// there is no session bus. To be called after the first paint, which it would hold up.
+    /// Requests the user's preferences from the settings service and follows their changes. Does nothing
+    /// without a session bus. Call this after the first paint, which it would delay.
     void followSettingsService();
 
 signals:

@@ -13,29 +13,30 @@ namespace velmar {
 class ApplicationDelegate;
 class DesktopAppearance;
 
-/// The process as a program of the desktop: its event loop, and what exists once beside it. One is made, in
-/// `main`, after `displayProblem()` found nothing. Main thread, but for what `mainQueue()` takes.
+/// The process as a desktop application: its event loop and its per-process objects. `main` creates one
+/// instance, after displayProblem() returned no problem. Main thread only, except the functions of
+/// mainQueue().
 class DesktopApplication {
 public:
-    /// Takes the toolkit's own options out of the arguments, which must outlive the application. SIGTERM and
-    /// SIGINT are from now on the same as `terminate()`. An exception that leaves the handler of an event is
-    /// reported as uncaught, and the loop goes on.
+    /// Removes the toolkit's own options from the arguments, which must outlive the application. SIGTERM and
+    /// SIGINT now act like terminate(). Exceptions of event handlers are reported as uncaught; the loop
+    /// continues.
     DesktopApplication(int &argumentCount, char **arguments);
     ~DesktopApplication();
     DesktopApplication(const DesktopApplication &) = delete;
     DesktopApplication &operator=(const DesktopApplication &) = delete;
 
-    /// Runs the loop until the application has terminated, and gives the exit status. The delegate is told
-    /// the launching events first. Throws what left one of them: the launch failed, and the loop is over.
+    /// Runs the loop until the application terminates and returns the exit status. The delegate receives the
+    /// launch events first. Rethrows an exception of a launch event, after which the loop has ended.
     int run(ApplicationDelegate &delegate);
 
-    /// Ends the loop unless the delegate objects; what the delegate throws is reported as uncaught and holds
-    /// nothing up. Loops of alerts that are open end with it. While `applicationWillFinishLaunching` runs or
-    /// is to come, the delegate is neither asked nor told.
+    /// Ends the loop, including nested loops of open alerts, unless the delegate refuses. Exceptions of the
+    /// delegate are reported as uncaught and don't stop the termination. The delegate is neither asked nor
+    /// notified until `applicationWillFinishLaunching` has returned.
     void terminate();
 
-    /// Whether SIGTERM or SIGINT has come while the main thread doesn't get to it: for who holds it up in the
-    /// termination.
+    /// True once SIGTERM or SIGINT arrived while the main thread is blocked; poll this from code that blocks
+    /// it during termination.
     [[nodiscard]] bool isTerminationDemanded() const;
 
     [[nodiscard]] MainMenu &mainMenu() noexcept { return mainMenu_; }
@@ -45,9 +46,9 @@ public:
 
 private:
     class Loop;
-    std::jthread fontLoader_; // Beside the making of the loop, which may throw.
+    std::jthread fontLoader_; // Runs in parallel to the constructor of Loop, which may throw.
     MainMenu mainMenu_;
-    std::unique_ptr<DesktopAppearance> appearance_; // The style of the loop's widgets uses it to the end.
+    std::unique_ptr<DesktopAppearance> appearance_; // Outlives loop_, whose widgets' style uses it.
     std::unique_ptr<Loop> loop_;
     std::unique_ptr<MainQueue> mainQueue_;
     std::unique_ptr<TimerScheduler> timers_;

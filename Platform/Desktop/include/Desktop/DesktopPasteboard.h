@@ -4,8 +4,8 @@
 
 namespace velmar {
 
-/// The clipboard of the desktop. What was put there stays after the program's end where a clipboard manager
-/// runs, which takes it over when the application is destroyed.
+/// The desktop's clipboard. A clipboard manager, if one runs, takes the content over when the application is
+/// destroyed.
 class DesktopPasteboard final : public SimplePasteboard {
 public:
     [[nodiscard]] bool setString(const std::string &text) override;

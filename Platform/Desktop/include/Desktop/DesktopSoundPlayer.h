@@ -10,21 +10,21 @@
 
 namespace velmar {
 
-/// Plays sounds, each in a process of its own, which ends with the player. Made and destroyed on the main
-/// thread, when nobody uses it any more.
+/// Plays each sound in its own process, which ends with the player. Must be created and destroyed on the main
+/// thread; no other thread may use it during destruction.
 class DesktopSoundPlayer final : public SoundPlayer {
 public:
-    /// Where things are.
+    /// Locations of sounds and of the player program.
     struct Places {
         std::vector<std::string> themes; ///< Directories of sound themes.
-        std::string theme;               ///< The one that the user has chosen.
-        std::string locale;              ///< "de_DE".
-        std::string ownSounds;           ///< The directory of the program's own sounds.
-        std::string program;             ///< The path of velmar-sound.
+        std::string theme;               ///< Name of the user's theme.
+        std::string locale;              ///< For example "de_DE".
+        std::string ownSounds;           ///< Directory of the program's own sounds.
+        std::string program;             ///< Path of velmar-sound.
     };
 
-    /// Those of the user and of the running program, which finds its own beside itself. After the
-    /// application is made.
+    /// Returns the places of the user and of the running program, whose own files are relative to the
+    /// executable. Requires a QCoreApplication.
     [[nodiscard]] static Places placesOfProcess();
 
     /// The main queue must outlive the player.

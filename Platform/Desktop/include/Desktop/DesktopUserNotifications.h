@@ -9,11 +9,11 @@ namespace velmar {
 
 class NotificationService;
 
-/// Shows notifications by the desktop's notification service, which it looks for when there is something to
-/// show. They stay when the application ends.
+/// Shows notifications through the desktop's notification service, to which it connects on demand.
+/// Notifications remain when the application ends.
 class DesktopUserNotifications final : public UserNotifications {
 public:
-    /// A service that takes longer than the timeout for one of its two answers counts as none.
+    /// `timeout` applies to each of the two calls per notification; a slower service counts as missing.
     explicit DesktopUserNotifications(std::chrono::milliseconds timeout = std::chrono::seconds(10));
     ~DesktopUserNotifications() override;
     DesktopUserNotifications(const DesktopUserNotifications &) = delete;

@@ -6,9 +6,9 @@
 
 namespace velmar {
 
-/// Why no window could be shown, as a sentence for the one who started the program; nothing where one can.
-/// Asked before the application is made, since the toolkit ends the process when it finds no display. The
-/// arguments are looked through for a choice of another platform than the usual ones.
+/// Returns a sentence for the user if no window can be shown, otherwise std::nullopt. Must be called before
+/// the application is created, because the toolkit exits the process if there is no display. The arguments
+/// are searched for `-platform`, which overrides the usual platforms.
 [[nodiscard]] std::optional<std::string> displayProblem(std::span<const std::string> arguments);
 
 } // namespace velmar

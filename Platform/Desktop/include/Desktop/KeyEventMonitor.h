@@ -6,11 +6,11 @@
 
 namespace velmar {
 
-/// Sees each key-down event of the application before any window does, for as long as it lives. Modifier keys
-/// alone are no key-down events. Main thread.
+/// Receives each key-down event of the application before its windows do, from construction to destruction.
+/// Modifier keys alone don't count as key-down events. Main thread only.
 class KeyEventMonitor {
 public:
-    /// The modifiers as docs/decisions/0016-modifier-keys.md has them.
+    /// A key-down event. docs/decisions/0016-modifier-keys.md describes the modifiers.
     struct Event {
         std::string charactersIgnoringModifiers; ///< UTF-8; empty for keys without a character.
         bool command = false;
@@ -19,7 +19,7 @@ public:
         bool shift = false;
     };
 
-    /// True if the event goes no further.
+    /// Returns true to stop the event.
     using Handler = std::function<bool(const Event &)>;
 
     explicit KeyEventMonitor(Handler handler);

@@ -4,8 +4,7 @@
 
 namespace velmar {
 
-/// A text for a button or a menu, in whose labels '&' marks the key that presses it: shown character for
-/// character.
+/// Escapes a text for the label of a button or a menu, where '&' would mark a mnemonic.
 [[nodiscard]] inline QString literalLabel(QString text) {
     return text.replace(u'&', QStringLiteral("&&"));
 }

@@ -7,22 +7,22 @@
 
 namespace velmar {
 
-/// The entry by which the desktop starts the application again at the user's next login: a file in the user's
-/// autostart directory, as desktops look for it.
+/// The autostart entry that starts the application at the user's next login: a desktop entry in the user's
+/// autostart directory.
 class LoginItem {
 public:
-    /// `directory` holds the entries; `fileManager` must outlive the item.
+    /// `directory` contains the autostart entries. `fileManager` must outlive the item.
     explicit LoginItem(std::string directory = userDirectory(),
                        const FileManager &fileManager = FileManager::defaultManager());
 
-    /// "autostart" in UserDirectories::configuration().
+    /// Returns "autostart" in UserDirectories::configuration().
     [[nodiscard]] static std::string userDirectory();
 
-    /// Writes the entry, in place of a former one that differs. The command is the absolute path of a program
-    /// and its arguments, whatever characters they hold but for line feeds. Throws FileError.
+    /// Writes the entry unless it exists with the same content. `command` is the absolute path of a program
+    /// and its arguments, which may contain any characters except line feeds. Throws FileError.
     void enable(std::span<const std::string> command) const;
 
-    /// Removes the entry if there is one. Throws FileError.
+    /// Removes the entry if it exists. Throws FileError.
     void disable() const;
 
     [[nodiscard]] const std::string &path() const noexcept { return path_; }

@@ -8,10 +8,9 @@
 
 namespace velmar {
 
-/// A key with modifiers. How the four are found on this system's keyboards:
-/// docs/decisions/0016-modifier-keys.md.
+/// A key with modifiers. docs/decisions/0016-modifier-keys.md maps the modifiers to keyboards.
 struct KeyShortcut {
-    char key = 0; ///< A letter in upper case or a digit.
+    char key = 0; ///< An upper case letter or a digit.
     bool command = false;
     bool control = false;
     bool option = false;
@@ -19,30 +18,30 @@ struct KeyShortcut {
     bool operator==(const KeyShortcut &) const = default;
 };
 
-/// An entry, or a menu where it has a submenu.
+/// An entry, or a menu if it has a submenu.
 struct MenuItem {
     std::string title;
-    int tag = 0; ///< Marks items of one kind; 0 for none.
+    int tag = 0; ///< Marks items for removeItems(); 0 for none.
     std::optional<KeyShortcut> shortcut;
     std::function<void()> action;
     std::vector<MenuItem> submenu;
 };
 
-/// The menus of the application, as a value that is looked at and replaced as a whole. By custom the first
-/// menu is the application's own, and Quit its last entry. Main thread.
+/// The application's menus as a value that is read and replaced as a whole. The first menu is, by convention,
+/// the application's own and ends with Quit. Main thread only.
 class MainMenu {
 public:
     [[nodiscard]] const std::vector<MenuItem> &items() const noexcept { return items_; }
     void setItems(std::vector<MenuItem> items);
 
-    /// Takes out every item with the tag, at any depth; the others keep their order. A menu without a tag
-    /// stays, even if it is empty then.
+    /// Removes all items with the tag, at any depth. The remaining items keep their order. An untagged menu
+    /// stays, even if it becomes empty.
     void removeItems(int tag);
 
-    /// Keeps one observer; letting go of it ends the observation. It may outlive the menu.
+    /// Owns one observer. Destroying it ends the observation. May outlive the menu.
     using Observation = std::shared_ptr<const std::function<void()>>;
 
-    /// The observer, a window that offers the menus, is called after each change.
+    /// Registers an observer, such as a window with a menu bar, that is called after each change.
     [[nodiscard]] Observation observe(std::function<void()> observer);
 
 private:

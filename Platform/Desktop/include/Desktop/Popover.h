@@ -10,30 +10,30 @@ namespace velmar {
 
 class MainMenu;
 
-/// A window beside a place of the desktop, such as a status item, which the user calls and sends away: by the
-/// Escape key, and by turning to another application if it is transient. It keeps its content while it is
-/// away. Main thread.
+/// A window next to a place on the desktop, such as a status item. The user opens it there and closes it with
+/// the Escape key or, if it is transient, by switching to another application. It keeps its content while
+/// hidden. Main thread only.
 class Popover final : public QObject {
     Q_OBJECT
 
 public:
     enum class Behavior {
         transient,
-        semitransient, ///< Stays while the user works in other applications.
+        semitransient, ///< Stays open when the user switches to another application.
     };
 
     /// The menu must outlive the popover.
     explicit Popover(MainMenu &menu);
 
-    /// Owns the content that it is given.
+    /// Returns the window that holds the content. The window owns its content.
     [[nodiscard]] Window &window() noexcept { return window_; }
 
-    /// Shows the content in that size, with the keyboard in the window and none of its controls; or closes
-    /// what is open.
+    /// Shows the content in the given size and gives the keyboard to the window, but to none of its controls.
+    /// Closes the popover if it is open.
     void toggle(const ScreenFrame &place, QSize size, Behavior behavior);
 
-    /// Where a popover of that size stands: centred below a place in the upper half of the area that the
-    /// screen leaves to windows, above one in the lower half, and within that area.
+    /// Returns the origin of a popover of that size: centred below a place in the upper half of `area`, above
+    /// a place in the lower half, and always within `area`.
     [[nodiscard]] static QPoint originOf(const QRect &place, QSize size, const QRect &area);
 
 protected:
@@ -45,7 +45,7 @@ private:
 
     Window window_;
     Behavior behavior_ = Behavior::transient;
-    bool hadTheKeyboard_ = false; // Since it was last shown.
+    bool hadTheKeyboard_ = false; // since it was last shown
     QElapsedTimer sinceSentAway_;
 };
 

@@ -7,9 +7,9 @@
 
 namespace velmar {
 
-/// The main queue on the event loop of the thread that makes it. What a function throws is reported as
-/// uncaught, and the functions behind it run all the same. While a function runs a loop of its own (an
-/// alert), the others go on in it.
+/// The main queue on the event loop of the thread that creates it. An exception of a function is reported as
+/// uncaught; the following functions still run. A nested loop within a function, such as that of an alert,
+/// runs further functions.
 class QtMainQueue final : public MainQueue {
 public:
     QtMainQueue();

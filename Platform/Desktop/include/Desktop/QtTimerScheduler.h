@@ -7,7 +7,7 @@
 
 namespace velmar {
 
-/// Timers on the event loop of the main thread. What a timer's function throws is reported as uncaught. A
+/// Timers on the main thread's event loop. Exceptions of a timer's function are reported as uncaught. A
 /// function may destroy its own timer.
 class QtTimerScheduler final : public TimerScheduler {
 public:

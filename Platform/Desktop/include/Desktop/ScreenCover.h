@@ -8,29 +8,29 @@ namespace velmar {
 
 class Window;
 
-/// Keeps a window before the eyes of the user: every screen is covered by a backdrop behind it, the keyboard
-/// is the window's unless a dialog is up, and what comes above is put below again, as far as the desktop
-/// allows: docs/decisions/0050-covering-windows.md. Main thread.
+/// Keeps a window in front of the user: covers every screen by a backdrop behind the window, gives the window
+/// the keyboard while no dialog is open, and lowers windows that other applications raise above it, as far as
+/// the desktop allows. See docs/decisions/0050-covering-windows.md. Main thread only.
 class ScreenCover {
 public:
-    /// What covers the main screen; the others show a blurred picture of what was there.
+    /// Backdrop of the main screen. Other screens show a blurred picture of their former content.
     enum class Backing { blurred, plain };
 
-    /// Told the name, maybe an empty one, of an application that is left alone for as long as it goes on: its
-    /// window comes above or takes the keyboard too often, or is a dialog for a password that stays below.
+    /// Called with the name, possibly empty, of an application that is left alone until it pauses for a
+    /// second: its window is raised or takes the keyboard too often, or its password dialog cannot be raised.
     using GiveUp = std::function<void(const std::string &application, bool asksForPassword)>;
 
-    /// The window, one of the rank `front`, must outlive the cover.
+    /// `window` must have the rank `front` and outlive the cover.
     ScreenCover(Window &window, Backing onMainScreen, GiveUp giveUp);
     ~ScreenCover();
     ScreenCover(const ScreenCover &) = delete;
     ScreenCover &operator=(const ScreenCover &) = delete;
 
-    /// Covers the screens that there are now, and uncovers what is no screen any more. To be called before
-    /// the window is shown for the first time and whenever the screens have changed.
+    /// Covers all current screens and removes the backdrops of missing ones. Must be called before the window
+    /// is first shown and whenever the screens change.
     void coverScreens();
 
-    /// Puts the window above the backdrops and gives it the keyboard.
+    /// Raises the window above the backdrops and gives it the keyboard.
     void bringToFront();
 
 private:

@@ -7,7 +7,7 @@
 
 namespace velmar {
 
-/// A rectangle of the desktop in points, y growing downwards from the top of the first screen.
+/// A rectangle of the desktop in points. The y axis points down from the top of the first screen.
 struct ScreenFrame {
     int x = 0;
     int y = 0;
@@ -16,17 +16,17 @@ struct ScreenFrame {
     bool operator==(const ScreenFrame &) const = default;
 };
 
-/// The screens of this moment.
+/// A snapshot of the screens.
 struct Screens {
     std::vector<ScreenFrame> frames;
-    std::optional<ScreenFrame> main; ///< The desktop's primary screen.
+    std::optional<ScreenFrame> main; ///< The desktop's primary screen, if any.
 
-    /// Main thread.
+    /// Returns the current screens. Main thread only.
     [[nodiscard]] static Screens current();
 };
 
-/// Tells when screens have come, gone, or changed their place, for as long as it lives: once for changes that
-/// come together, from the event loop. Main thread.
+/// Observes screens from construction to destruction. Calls `changed` from the event loop, once for
+/// simultaneous changes, after screens were added, removed or moved. Main thread only.
 class ScreensObserver {
 public:
     explicit ScreensObserver(std::function<void()> changed);

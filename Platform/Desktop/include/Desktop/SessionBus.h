@@ -6,16 +6,17 @@
 
 namespace velmar {
 
-/// Whether the session says where its message bus is. Where it doesn't, the library would start a bus of its
-/// own, on which nobody listens. Any thread.
+/// Returns true if the session announces a bus. The toolkit's library would otherwise start its own bus,
+/// which has no services. Thread-safe.
 [[nodiscard]] bool hasSessionBus();
 
-/// Whether the session's bus takes connections and says nothing for that long: whoever connects to it, as the
-/// toolkit does more than once, waits without end. Waits no longer than that. Any thread.
+/// Returns true if the session bus accepts connections but doesn't answer within `patience`. A client such as
+/// the toolkit would block on it forever. Blocks for at most `patience`. Thread-safe.
 [[nodiscard]] bool isSessionBusSilent(std::chrono::milliseconds patience);
 
-/// Has this process do without a session bus that is silent, by its environment, though not the programs that
-/// it launches; tells so in a sentence. Before the first thread.
+/// Disables a silent session bus in this process's environment, but not for launched programs. Returns a
+/// sentence about it, or std::nullopt if the bus is not silent. Must be called before the first thread
+/// starts.
 [[nodiscard]] std::optional<std::string> leaveSilentSessionBus();
 
 } // namespace velmar

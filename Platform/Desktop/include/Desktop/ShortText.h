@@ -4,8 +4,8 @@
 
 namespace velmar {
 
-/// The text, or its beginning and an ellipsis where it has more characters than that. No character is cut in
-/// two. Any thread.
+/// Returns the text, cut to `longest` UTF-16 units plus an ellipsis if it is longer. Doesn't split surrogate
+/// pairs. Thread-safe.
 [[nodiscard]] inline QString shortened(QString text, qsizetype longest) {
     if (text.size() > longest) {
         text.truncate(text.at(longest - 1).isHighSurrogate() ? longest - 1 : longest);

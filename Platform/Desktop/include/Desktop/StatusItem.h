@@ -11,13 +11,13 @@ class QImage;
 
 namespace velmar {
 
-/// The picture of a status item, as its file has it.
+/// The picture of a status item, loaded from a file.
 class StatusItemImage {
 public:
-    /// Nothing if the path is not that of a file with a picture.
+    /// Returns std::nullopt if there is no readable picture at the path.
     [[nodiscard]] static std::optional<StatusItemImage> read(const std::string &path);
 
-    /// In pixels, or in what a drawing counts by.
+    /// Size in pixels, or in user units of a vector drawing.
     [[nodiscard]] int width() const noexcept { return width_; }
     [[nodiscard]] int height() const noexcept { return height_; }
 
@@ -32,25 +32,24 @@ private:
     int height_;
 };
 
-/// A button among the status items of the desktop's panel. Its image is a template: only its shape counts,
-/// and it has the colour of texts, light or dark. Main thread.
+/// A status item in the desktop's panel. Its image is a template: only the shape counts, drawn in the colour
+/// of text for a light or dark appearance. Main thread only.
 class StatusItem {
 public:
-    /// Where `StatusItemPlace` has found a place. The title is what assistive technologies and the pointer's
-    /// hint tell.
+    /// Requires a place found by StatusItemPlace. The title is shown as tool tip and read by assistive
+    /// technologies.
     StatusItem(std::string title, std::function<void()> action);
     ~StatusItem();
     StatusItem(const StatusItem &) = delete;
     StatusItem &operator=(const StatusItem &) = delete;
 
-    /// In proportion to the item's place. Without an image the item is empty, and can be clicked all the
-    /// same.
+    /// Sets the image, scaled to the item. An item without image is blank but can be clicked.
     void setImage(StatusItemImage image);
 
-    /// Puts the item into the panel.
+    /// Adds the item to the panel.
     void show();
 
-    /// Where the item is; where the pointer is, on desktops that don't tell.
+    /// Returns the item's rectangle, or the position of the pointer if the desktop doesn't report it.
     [[nodiscard]] ScreenFrame frame() const;
 
 private:

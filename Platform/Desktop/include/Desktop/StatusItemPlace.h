@@ -5,13 +5,13 @@
 
 namespace velmar {
 
-/// Finds out whether the desktop has a place for status items. A panel may begin after the programs of a
-/// login, so that one is waited for, three seconds at most; one that goes is given five seconds to come back.
-/// No answer of the desktop is waited for. Main thread.
+/// Detects a place for status items on the desktop. A panel may start late in a login, so the place may
+/// appear within three seconds; one that disappears has five seconds to return. Never blocks. Main thread
+/// only.
 class StatusItemPlace {
 public:
-    /// Tells that the place is there, if it comes in time; and in the end, if it has gone or never came, that
-    /// it isn't. From the event loop, not from within the constructor; never after this is destroyed.
+    /// Calls `tell` with true when the place appears, and finally with false if it never appears or
+    /// disappears for good. Calls come from the event loop, never after destruction.
     explicit StatusItemPlace(std::function<void(bool isThere)> tell);
     ~StatusItemPlace();
     StatusItemPlace(const StatusItemPlace &) = delete;

@@ -16,64 +16,65 @@ class FrameWatcher;
 class MenuBar;
 class RoundCorners;
 
-/// A window of the desktop with the application's menus and one content. It never offers to be minimised. The
-/// menu bar is on show while there are more menus than the application's own, unless the style says
-/// otherwise, and comes by F10 where it isn't; shortcuts work in either case. Main thread.
+/// A desktop window with the application's menus and one content widget. It has no minimise button. The menu
+/// bar is visible while there is a menu besides the application's own, unless the style hides it; F10 shows a
+/// hidden bar. Shortcuts always work. Main thread only.
 class Window final : public QWidget {
     Q_OBJECT
 
 public:
-    /// What the window manager draws and allows; fixed for the window's life.
+    /// Decorations and permitted operations; constant for the window's life.
     struct Style {
-        bool hasTitleBar = true; ///< Without one, the user has neither button nor resizing.
+        bool hasTitleBar = true; ///< A window without one has no close button and cannot be resized.
         bool isClosable = true;
         bool isResizable = true;
         bool isMovable = true;
-        /// What the window is to the others of the desktop.
+        /// Stacking level relative to other applications' windows.
         enum class Rank {
             ordinary,
-            front,   ///< Above the windows of other applications, on every workspace, and never minimised.
-            popover, ///< Above them as well, and in no list of windows.
+            front,   ///< Above other applications' windows, on every workspace, never minimised.
+            popover, ///< Above other applications' windows and not in window lists.
         } rank = Rank::ordinary;
-        bool isRound = true;    ///< The corners of a window without title bar.
-        bool hasMenuBar = true; ///< Without it, the menus come by F10 alone.
+        bool isRound = true;    ///< Round corners of a window without title bar.
+        bool hasMenuBar = true; ///< A window without one shows its menus only on F10.
     };
 
     /// The menu must outlive the window.
     Window(Style style, MainMenu &menu);
     ~Window() override;
 
-    /// Replaces the content, which is destroyed; the window owns the new one.
+    /// Deletes the current content and takes ownership of the new one.
     void setContent(QWidget *content);
     [[nodiscard]] QWidget *content() const { return content_; }
-    /// Gives up the content, which the caller has to put somewhere; null where there is none.
+    /// Releases the content to the caller, which must reparent or delete it. Returns nullptr if there is
+    /// none.
     [[nodiscard]] QWidget *takeContent();
 
-    /// The size of the content, and the sizes between which the user may choose.
+    /// Sets the size of the content and the limits of resizing by the user.
     void setSizes(QSize content, QSize minimum, QSize maximum);
-    /// Makes a window that its screen has no room for smaller, by the frame that is known. Again when it is
-    /// `framed`.
+    /// Shrinks a window that doesn't fit its screen with its frame, or a usual frame while that is unknown.
+    /// Call again on framed().
     void shrinkToScreen();
 
-    /// With what the window manager puts around the window, as far as it is known.
+    /// Size including the window manager's frame, once the frame is known.
     [[nodiscard]] QSize frameSize() const;
-    /// The top left corner of the frame, in the coordinates of the desktop.
+    /// Moves the top left corner of the frame to a point in desktop coordinates.
     void moveFrame(QPoint origin);
 
-    /// What is behind round corners, if it is known: a painting of a rectangle of the desktop, given in its
-    /// coordinates, at the painter's origin. To be set again when it has changed.
+    /// Sets a function that paints the area behind round corners: a rectangle in desktop coordinates, at the
+    /// painter's origin. Must be set again when that area changes.
     void setBehind(std::function<void(QPainter &painter, const QRect &area)> behind);
 
     [[nodiscard]] const Style &style() const noexcept { return style_; }
 
-    /// The radius of the corners of a window without title bar, in points.
+    /// Radius of the corners of a window without title bar, in points.
     static constexpr int cornerRadius = 10;
-    /// The height of the strip at the top by which a window without title bar is moved, in points.
+    /// Height of the strip at the top that moves a window without title bar, in points.
     static constexpr int moveStripHeight = 40;
 
 signals:
-    /// Once, when the window manager has told what it puts around the window; never for a window without
-    /// frame.
+    /// Emitted once, when the window manager has reported the size of its frame. Never emitted for a window
+    /// without frame.
     void framed();
     void firstPainted();
 
