@@ -7,7 +7,7 @@ namespace velmar {
 
 struct TestTimerScheduler::Entry {
     std::chrono::milliseconds due;
-    std::chrono::milliseconds interval; // 0 for one that fires once
+    std::chrono::milliseconds interval; // 0 for a single shot
     std::function<void()> function;
     bool isRunning = true;
 };
@@ -20,7 +20,7 @@ public:
     TestTimer &operator=(const TestTimer &) = delete;
 
     void fire() override {
-        // The function may destroy the timer that it belongs to.
+        // The function may destroy its own timer.
         const auto entry = entry_;
         entry->function();
     }
@@ -31,7 +31,7 @@ private:
 
 std::unique_ptr<Timer> TestTimerScheduler::repeating(std::chrono::milliseconds interval,
                                                      std::function<void()> function) {
-    // One without a pause would keep the clock from moving.
+    // An interval of zero would keep the clock from advancing.
     const auto pause = std::max(interval, std::chrono::milliseconds(1));
     return add(pause, pause, std::move(function));
 }

@@ -9,7 +9,7 @@
 
 namespace velmar {
 
-/// A fresh directory for one test, removed with it.
+/// A new directory for one test. The destructor removes it with its content.
 class TemporaryDirectory {
 public:
     TemporaryDirectory() {
@@ -28,7 +28,7 @@ public:
     [[nodiscard]] const std::string &path() const noexcept { return path_; }
     [[nodiscard]] std::string path(const std::string &name) const { return path_ + "/" + name; }
 
-    /// Writes a file, making the directories above it, and gives its path.
+    /// Writes a file, creating its parent directories, and returns its path.
     std::string write(const std::string &name, std::string_view content) const {
         std::string file = path(name);
         std::filesystem::create_directories(std::filesystem::path(file).parent_path());

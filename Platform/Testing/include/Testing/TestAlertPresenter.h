@@ -10,14 +10,14 @@
 
 namespace velmar {
 
-/// Records alerts and answers them as the test says.
+/// A fake that records alerts; the test answers them.
 class TestAlertPresenter final : public AlertPresenter {
 public:
-    std::set<std::string> readableIcons; ///< Paths.
-    std::size_t modalAnswer = 0;         ///< What `runModal` gives.
-    std::vector<Alert> alerts;           ///< All, in the order of asking.
+    std::set<std::string> readableIcons; ///< Paths of readable icons.
+    std::size_t modalAnswer = 0;         ///< Answer of runModal().
+    std::vector<Alert> alerts;           ///< All alerts, in the order of the calls.
 
-    /// Answers the presented alert that waits longest; throws std::logic_error if none does.
+    /// Answers the oldest waiting alert. Throws std::logic_error if there is none.
     void answer(std::size_t button) {
         if (waiting_.empty())
             throw std::logic_error("no alert waits");

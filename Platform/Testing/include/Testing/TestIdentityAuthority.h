@@ -9,13 +9,13 @@
 
 namespace velmar {
 
-/// Users and groups that a test makes up.
+/// A fake with the test's users and groups.
 class TestIdentityAuthority final : public IdentityAuthority {
 public:
     struct User {
         UserIds ids;
         std::string fullName;         ///< Empty for none.
-        std::set<std::string> groups; ///< The primary one included.
+        std::set<std::string> groups; ///< Includes the primary group.
     };
 
     std::map<std::string, User> users;

@@ -4,7 +4,7 @@
 
 namespace velmar {
 
-/// A main queue that runs its functions when the test says so.
+/// A fake main queue; the test runs its functions.
 class TestMainQueue final : public MainThreadQueue {};
 
 } // namespace velmar

@@ -6,7 +6,7 @@
 
 namespace velmar {
 
-/// Keeps what is copied.
+/// A fake that stores the text.
 class TestPasteboard final : public SimplePasteboard {
 public:
     std::optional<std::string> content;

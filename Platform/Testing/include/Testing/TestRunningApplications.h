@@ -9,10 +9,10 @@
 
 namespace velmar {
 
-/// Applications that start when the test says so.
+/// A fake; the test starts the applications.
 class TestRunningApplications final : public RunningApplications {
 public:
-    /// Tells every observer, in the order of observing.
+    /// Reports a start to every observer, in the order of registration.
     void start(const std::string &identifier) {
         const RunningApplication application{identifier, ++lastProcess_};
         const auto observers = observers_;
@@ -21,7 +21,7 @@ public:
                 (*observer)(application);
     }
 
-    /// Observations that live.
+    /// Returns the number of active observations.
     [[nodiscard]] std::size_t observations() const {
         std::size_t count = 0;
         for (const auto &each : observers_)

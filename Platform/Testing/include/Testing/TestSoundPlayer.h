@@ -12,19 +12,19 @@
 
 namespace velmar {
 
-/// Records what is played and ends it when the test says so. The members are set before it is used.
+/// A fake that records played sounds; the test ends them. Thread-safe once `named` and `files` are set.
 class TestSoundPlayer final : public SoundPlayer {
 public:
     std::map<std::string, Sound> named = {{"Hero", {"/sounds/Hero"}}};
-    std::set<std::string> files; ///< URLs or paths that hold a sound.
+    std::set<std::string> files; ///< URLs or paths of sounds.
 
-    /// The paths of the sounds that were played, in the order of asking.
+    /// Returns the paths of all played sounds, in the order of the calls.
     [[nodiscard]] std::vector<std::string> played() const {
         const std::lock_guard lock(mutex_);
         return played_;
     }
 
-    /// Ends the sound that plays longest; throws std::logic_error if none does.
+    /// Ends the oldest playing sound. Throws std::logic_error if there is none.
     void end(const SoundOutcome &outcome = {.hasFinished = true, .problem = {}}) {
         std::unique_lock lock(mutex_);
         if (playing_.empty())

@@ -10,8 +10,8 @@
 
 namespace velmar {
 
-/// Timers on a clock that the test moves. One thread; the scheduler may go before its timers, which then
-/// rest.
+/// Timers on a fake clock that the test advances. Not thread-safe. May be destroyed before its timers, which
+/// then never fire.
 class TestTimerScheduler final : public TimerScheduler {
 public:
     [[nodiscard]] std::unique_ptr<Timer> repeating(std::chrono::milliseconds interval,
@@ -19,13 +19,13 @@ public:
     [[nodiscard]] std::unique_ptr<Timer> once(std::chrono::milliseconds delay,
                                               std::function<void()> function) override;
 
-    /// Moves the clock on; whatever falls due meanwhile runs in the order of its time, at its time. Timers
-    /// that the functions make, stop or fire take part.
+    /// Advances the clock. Runs all timers that become due, in the order of their time, including those that
+    /// the functions create, stop or fire meanwhile.
     void advance(std::chrono::milliseconds time);
 
-    /// Time since the scheduler was made.
+    /// Returns the time since construction.
     [[nodiscard]] std::chrono::milliseconds now() const noexcept { return now_; }
-    /// Timers that will still fire.
+    /// Returns the number of timers that will still fire.
     [[nodiscard]] std::size_t runningTimers() const;
 
 private:
@@ -37,7 +37,7 @@ private:
     std::shared_ptr<Entry> nextDue(std::chrono::milliseconds end);
 
     std::chrono::milliseconds now_{0};
-    std::vector<std::weak_ptr<Entry>> entries_; // in the order of making
+    std::vector<std::weak_ptr<Entry>> entries_; // in the order of creation
 };
 
 } // namespace velmar

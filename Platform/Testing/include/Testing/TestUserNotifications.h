@@ -7,14 +7,14 @@
 
 namespace velmar {
 
-/// Records notifications and answers them as the test says.
+/// A fake that records notifications; the test responds to them.
 class TestUserNotifications final : public UserNotifications {
 public:
     UserNotificationOutcome outcome{.isShown = true, .problem = {}};
-    std::vector<UserNotification> notifications; ///< All, in the order of asking.
+    std::vector<UserNotification> notifications; ///< All notifications, in the order of the calls.
     int handledResponses = 0;
 
-    /// Somebody presses the button of an action, or taps on the body.
+    /// Simulates a press of an action's button, or a tap on the body.
     void respond(std::optional<std::string> actionIdentifier) {
         if (const auto delegate = delegate_.lock())
             delegate->didReceive({std::move(actionIdentifier)}, [this] { ++handledResponses; });
