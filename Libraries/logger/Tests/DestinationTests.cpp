@@ -109,7 +109,7 @@ TEST_F(FileDestinationTest, TellsALossOnStandardErrorIfAsked) {
     }
 }
 
-// Root writes for a user who controls the folder "home".
+// Root writes on behalf of a user who controls the folder "home".
 class RootsFileDestinationTest : public FileDestinationTest {
 protected:
     static constexpr FileOwner ada{.user = 61'001, .group = 61'002};
@@ -130,7 +130,7 @@ protected:
 };
 
 TEST_F(RootsFileDestinationTest, GivesWhatItCreatesToTheOwner) {
-    // The first stands where only root may write.
+    // Only root can write to the parent of "roots".
     for (const auto *top : {"roots", "home/Library"}) {
         const auto log = fs::path(top) / "Logs/velmar.log";
         logTo(log.string());
@@ -158,7 +158,7 @@ TEST_F(RootsFileDestinationTest, WritesNothingWhereTheOwnersRightsCannotBeHad) {
     }
 }
 
-// Neither through a link of the owner nor by a group of root's.
+// Neither a link of the owner nor a group of root gives access.
 TEST_F(RootsFileDestinationTest, LendsTheOwnerNoneOfRootsRights) {
     constexpr gid_t group = 61'010;
     fs::create_directory(at("secret"));
@@ -168,7 +168,7 @@ TEST_F(RootsFileDestinationTest, LendsTheOwnerNoneOfRootsRights) {
     fs::permissions(at("shared"), fs::perms(0775));
     std::vector<gid_t> after(1);
     std::thread([&] {
-        // For this thread alone, unlike the function of the C library.
+        // The system call affects this thread only, unlike the C library's function.
         ASSERT_EQ(syscall(SYS_setgroups, 1, &group), 0);
         logTo("shared/log");
         logTo("shared/folder/log");
@@ -184,7 +184,7 @@ TEST(ConsoleDestination, SurvivesAReaderThatWentAway) {
     ASSERT_EQ(pipe(ends), 0);
     close(ends[0]);
     ConsoleDestination destination({}, false, ends[1]);
-    log(destination, "lost"); // An unblocked SIGPIPE would end the process.
+    log(destination, "lost"); // an unblocked SIGPIPE would end the process
     close(ends[1]);
     sigset_t pending;
     sigpending(&pending);

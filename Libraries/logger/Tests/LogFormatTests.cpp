@@ -13,10 +13,10 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// 2024-02-09 14:02:11.0459 in the time zone of this test, five and a half hours east of Greenwich.
+// 2024-02-09 14:02:11.0459 in this test's time zone, UTC+5:30.
 const auto time = std::chrono::system_clock::time_point(1'707'467'531s + 45'900us);
 
-// Set here and not only by what runs the tests.
+// Sets the time zone regardless of the environment of the test.
 class LocalTimeZone : public testing::Environment {
 public:
     void SetUp() override {
@@ -86,7 +86,7 @@ TEST(LogFormat, LetsNoMessageForgeALineOrSteerATerminal) {
         LogRecord record;
         record.message = message;
         record.context = context;
-        // What stands before it is a line of its own.
+        // Text before the appended line must stay unchanged.
         std::string line = "[Velmar] before\n";
         LogFormat("[Velmar] $M $X").append(line, record, {}, false);
         EXPECT_EQ(line, "[Velmar] before\n[Velmar] " + expected);
@@ -116,7 +116,7 @@ TEST(DatePattern, PrintsTheUsualFieldsLikeIcu) {
             oracle.format(static_cast<UDate>(milliseconds.count()), expected);
             std::string text;
             expected.toUTF8String(text);
-            // ICU counts milliseconds only.
+            // ICU counts whole milliseconds only.
             EXPECT_EQ(dated(pattern, std::chrono::system_clock::time_point(milliseconds)), text) << pattern;
         }
     }

@@ -9,7 +9,7 @@
 
 namespace velmar {
 
-/// Keeps the messages it is given; a closed one hangs in its first write until it is opened.
+/// Records messages. A closed destination blocks in its first write until open() is called.
 class RecordingDestination : public BaseDestination {
 public:
     explicit RecordingDestination(DestinationSettings settings = {}, bool open = true)

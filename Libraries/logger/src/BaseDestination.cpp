@@ -10,7 +10,7 @@ namespace velmar {
 
 namespace {
 
-// Lines are handed on together up to this size, so that a burst of messages costs few system calls.
+// Lines are passed on together up to this size, so that a burst of messages needs few system calls.
 constexpr std::size_t bytesOfBatch = 64 * 1024;
 
 } // namespace

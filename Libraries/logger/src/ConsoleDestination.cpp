@@ -12,8 +12,8 @@ namespace velmar {
 
 namespace {
 
-// A reader that is gone raises SIGPIPE, which would end the process: it is held back for this thread, and
-// taken away if it was this writing that raised it.
+// Blocks SIGPIPE for this thread, which a closed pipe raises and which would end the process. Discards the
+// signal unless it was pending before.
 class PipeSignalHeldBack {
 public:
     PipeSignalHeldBack() {

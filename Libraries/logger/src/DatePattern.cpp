@@ -45,7 +45,7 @@ int valueOf(char letter, const std::tm &time) {
     }
 }
 
-// Digits of the second's fraction, cut off and not rounded.
+// Appends digits of the second's fraction, truncated.
 void appendFraction(std::string &text, nanoseconds fraction, int digits) {
     const std::string all = fmt::format("{:09}", fraction.count());
     const auto count = static_cast<std::size_t>(digits);
@@ -55,13 +55,13 @@ void appendFraction(std::string &text, nanoseconds fraction, int digits) {
 
 } // namespace
 
-// Made with the first date, since loading ICU's data takes milliseconds.
+// Creates the formatter with the first date, since loading ICU's data takes milliseconds.
 class DatePattern::Icu {
 public:
     explicit Icu(std::string_view pattern) : pattern_(pattern) {}
 
-    // The offset of the local time from UTC at that time, in seconds: the system's own, since ICU does not
-    // know every way in which TZ can name a zone.
+    // `offset` is the local time's offset from UTC in seconds. The system provides it, since ICU doesn't
+    // support every syntax of TZ.
     void append(std::string &text, std::chrono::system_clock::time_point time, long offset) {
         if (!format_) {
             UErrorCode status = U_ZERO_ERROR;
@@ -92,14 +92,14 @@ DatePattern::DatePattern(std::string_view pattern) {
     }
 }
 
-// False where the pattern needs ICU.
+// Returns false if the pattern needs ICU.
 bool DatePattern::parse(std::string_view pattern) {
     std::string literal;
     bool quoted = false;
     for (std::size_t at = 0; at < pattern.size();) {
         const char c = pattern[at];
         if (c == '\'') {
-            // Two quotes stand for one, within quoted text and outside.
+            // A doubled quote is a literal one, within quoted text and outside.
             const bool doubled = at + 1 < pattern.size() && pattern[at + 1] == '\'';
             literal += doubled ? "'" : "";
             quoted = doubled ? quoted : !quoted;

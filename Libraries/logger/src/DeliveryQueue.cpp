@@ -34,7 +34,7 @@ LogRecord recordOfLoss(std::uint64_t lost) {
 
 } // namespace
 
-// Shared by the queue and its thread, so that the process can go on without waiting for a thread that hangs.
+// State shared by the queue and its thread, so that the process can end without waiting for a blocked thread.
 class DeliveryQueue::Worker : public std::enable_shared_from_this<Worker> {
 public:
     explicit Worker(std::shared_ptr<BaseDestination> destination) : destination_(std::move(destination)) {}
@@ -77,7 +77,7 @@ private:
 
     void run() {
         pthread_setname_np(pthread_self(), "velmar-log");
-        // A woken thread of this kind does not take the processor from the caller.
+        // A batch thread doesn't preempt the caller when it wakes up.
         const sched_param priority{};
         pthread_setschedparam(pthread_self(), SCHED_BATCH, &priority);
         std::vector<LogRecord> batch;
@@ -88,13 +88,13 @@ private:
                 }
                 destination_->write(batch);
             } catch (...) {
-                // A line that cannot be written is dropped; there is no other place to tell it.
+                // A line that cannot be written is dropped; there is no other place to report it.
             }
             finish(batch);
         }
     }
 
-    // Moves all that waits into the empty batch, waiting for it. False at the end of the queue.
+    // Waits for records and moves all of them into the empty batch. Returns false at the end of the queue.
     bool take(std::vector<LogRecord> &batch) {
         std::unique_lock lock(mutex_);
         while (waiting_.empty()) {
@@ -133,7 +133,7 @@ private:
     std::uint64_t accepted_ = 0;
     std::uint64_t writtenCount_ = 0;
     std::uint64_t lost_ = 0;
-    // Of the batch in the hands of the thread.
+    // Counts of the batch that the thread is writing.
     std::size_t taken_ = 0;
     std::uint64_t lostBeforeTaking_ = 0;
     bool started_ = false;

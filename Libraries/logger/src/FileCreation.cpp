@@ -16,21 +16,21 @@ namespace velmar {
 
 namespace {
 
-// Other users have no business in a log.
+// Only the owner may read a log.
 constexpr mode_t fileMode = S_IRUSR | S_IWUSR;
 constexpr mode_t folderMode = S_IRWXU | S_IRGRP | S_IXGRP | S_IROTH | S_IXOTH;
 
 constexpr int folderFlags = O_PATH | O_DIRECTORY | O_CLOEXEC;
 
-// The rights of a user in the file system, for the calling thread alone: the groups too are those of a
-// thread, unless they are set through the C library.
+// Switches the calling thread to a user's file system rights. Groups are per thread, too, unless they are set
+// through the C library.
 class ActingAs {
 public:
     explicit ActingAs(const FileOwner &owner) : previousGroups_(groups()) {
         isInForce_ = setGroups({}) && groups().empty();
         previousGroup_ = static_cast<gid_t>(setfsgid(owner.group));
         previousUser_ = static_cast<uid_t>(setfsuid(owner.user));
-        // The calls report no failure; another one, which never succeeds, tells what is so.
+        // The calls don't report failure; a second, invalid call returns the current id.
         isInForce_ = isInForce_ && static_cast<gid_t>(setfsgid(noGroup)) == owner.group &&
                      static_cast<uid_t>(setfsuid(noUser)) == owner.user;
     }
@@ -67,7 +67,7 @@ private:
     bool isInForce_ = false;
 };
 
-// What `make` opens with the rights of the owner; closed, with EPERM, where they cannot be had.
+// Calls `make` with the owner's rights. Returns a closed descriptor with EPERM if they cannot be acquired.
 template <class Make>
 Descriptor makeAs(const FileOwner &owner, const Make &make) {
     const ActingAs user(owner);
@@ -78,7 +78,7 @@ Descriptor makeAs(const FileOwner &owner, const Make &make) {
     return make();
 }
 
-// Whether nobody but root can change what is in the folder.
+// Returns true if only root can change the folder's entries.
 bool isRootsAlone(int folder) {
     struct stat found {};
     return fstat(folder, &found) == 0 && found.st_uid == 0 && (found.st_mode & (S_IWGRP | S_IWOTH)) == 0;
@@ -101,7 +101,7 @@ Descriptor FileCreation::openFolder(const std::filesystem::path &folder,
     Descriptor current(open("/", folderFlags));
     for (const auto &component : normal) {
         if (component.empty()) {
-            continue; // behind a trailing slash
+            continue; // after a trailing slash
         }
         current = enter(current.number(), component, missingFrom-- <= 0);
         if (!current) {
@@ -132,7 +132,7 @@ Descriptor FileCreation::makeFolder(int parent, const std::string &name) const {
     if (!isRootsAlone(parent)) {
         return makeAs(*owner_, make);
     }
-    // Nobody can swap it here between the making and the giving away.
+    // Only root can write to the parent, so the folder can't be replaced before it is given away.
     Descriptor folder = make();
     return folder && giveTo(*owner_, folder.number()) ? std::move(folder) : Descriptor();
 }

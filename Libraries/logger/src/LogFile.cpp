@@ -13,9 +13,9 @@ namespace velmar {
 
 namespace {
 
-// Nonblocking, so that a pipe in the file's place is refused and not waited for.
+// O_NONBLOCK: a pipe in the file's place is rejected without blocking.
 constexpr int openFlags = O_WRONLY | O_APPEND | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
-// Others can remove and create the file in turn while it is being opened.
+// Another process may alternately remove and create the file.
 constexpr int attempts = 8;
 
 [[noreturn]] void refuse(int error, const std::string &path) {
@@ -26,7 +26,8 @@ Descriptor openOrCreate(const FileCreation &creation, const LogFileSettings &set
     const Descriptor folder = creation.openFolder(settings.logFileURL.parent_path(), settings.requiredFolder);
     const std::string name = settings.logFileURL.filename();
     for (int attempt = 0; attempt < attempts; ++attempt) {
-        // Without O_CREAT first: in a sticky folder the kernel may refuse it for a file that is there.
+        // O_CREAT is added only if necessary: the kernel may refuse it for an existing file in a sticky
+        // folder.
         Descriptor file(openat(folder.number(), name.c_str(), openFlags));
         if (!file && errno == ENOENT) {
             file = creation.createFile(folder.number(), name, openFlags);

@@ -10,15 +10,15 @@
 
 namespace velmar {
 
-/// An open log file, under the rules of FileDestination.
+/// An open log file that follows the rules of FileDestination.
 class LogFile {
 public:
-    /// Opens the file, creates it and the folders above it where they are missing. Throws FileError.
+    /// Opens the file, creating it and missing folders. Throws FileError.
     explicit LogFile(const LogFileSettings &settings);
 
-    /// Whether the path still leads to this file.
+    /// Returns true if the path still refers to this file.
     [[nodiscard]] bool isCurrent() const;
-    /// Appends the text with one call where the system takes it whole. Throws FileError.
+    /// Appends the text, if possible in a single system call. Throws FileError.
     void append(std::string_view text);
 
 private:

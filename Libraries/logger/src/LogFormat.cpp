@@ -20,8 +20,7 @@ bool isControl(unsigned char byte) {
     return (byte < 0x20 && byte != '\n' && byte != '\t') || byte == 0x7F;
 }
 
-// Appends what came from outside. The controls from U+0080 to U+009F, which terminals obey too, are two
-// bytes.
+// Appends untrusted text. Terminals also obey the controls U+0080 to U+009F, which are two bytes in UTF-8.
 void appendPrintable(std::string &line, std::string_view text) {
     constexpr unsigned char leadOfUpperControls = 0xC2;
     for (std::size_t at = 0; at < text.size(); ++at) {
@@ -113,7 +112,7 @@ void LogFormat::append(std::string &line, const LogRecord &record, const Destina
     indentContinuations(line, start);
 }
 
-// In the finished line, since a message's end and the context may make up such a beginning together.
+// Applied to the finished line, since message and context together may form such a start.
 void LogFormat::indentContinuations(std::string &line, std::size_t start) const {
     if (head_.empty()) {
         return;

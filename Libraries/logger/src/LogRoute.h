@@ -17,7 +17,7 @@ namespace velmar {
 
 class BaseDestination;
 
-/// The way of messages to one destination of the list: through its queue or at once. Any thread.
+/// Delivers messages to one destination, directly or through its queue. Thread-safe.
 class LogRoute {
 public:
     explicit LogRoute(std::shared_ptr<BaseDestination> destination);
@@ -26,7 +26,7 @@ public:
     [[nodiscard]] bool accepts(LogLevel level, const SourceLocation &where) const;
     [[nodiscard]] bool needsThreadName() const { return needsThreadName_; }
 
-    /// Nothing is written on the caller's thread where the destination is asynchronous.
+    /// Writes the record, or queues it if the destination is asynchronous.
     void send(LogRecord &&record);
     bool drain(std::chrono::steady_clock::time_point deadline);
 
@@ -34,11 +34,11 @@ private:
     const std::shared_ptr<BaseDestination> destination_;
     const bool needsThreadName_;
     std::optional<DeliveryQueue> queue_;
-    // Serialises the writes of a destination without a queue.
+    // Serialises writes of a destination without a queue.
     std::mutex writing_;
 };
 
-/// An immutable list of destinations; the logger changes its list by putting another one in its place.
+/// An immutable list of destinations. The logger replaces the list to change it.
 class LogRoutes {
 public:
     std::vector<std::shared_ptr<LogRoute>> items;

@@ -68,7 +68,7 @@ void Logger::removeAllDestinations() {
 bool Logger::flush(std::chrono::milliseconds bound) {
     const auto deadline = std::chrono::steady_clock::now() + bound;
     const auto routes = registry().snapshot();
-    // Each one gets its chance, whatever the one before it did.
+    // Drains every destination, even if a previous one failed.
     return std::count_if(routes->items.begin(), routes->items.end(),
                          [&](const auto &route) { return !route->drain(deadline); }) == 0;
 }
@@ -88,8 +88,7 @@ void Logger::deliver(LogLevel level, MessageSource message, std::string_view con
                              .thread = route->needsThreadName() ? nameOfThisThread() : std::string()});
             }
         } catch (...) {
-            // Thrown by the message's function, a filter, or for want of memory: this line is lost, nothing
-            // else.
+            // The message's function, a filter or an allocation threw: only this line is lost.
         }
     }
 }

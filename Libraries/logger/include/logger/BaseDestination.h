@@ -14,8 +14,8 @@
 
 namespace velmar {
 
-/// Base class of all destinations: turns messages into lines. Owned by the logger's list and by the thread of
-/// its queue, which may be the last to let go of it. Once it was added its settings never change.
+/// Base class of destinations: filters messages and formats lines. Shared by the logger's list and the thread
+/// of its queue, either of which may destroy it. The settings don't change once it is added to the logger.
 class BaseDestination {
 public:
     explicit BaseDestination(DestinationSettings settings = {});
@@ -24,28 +24,27 @@ public:
     BaseDestination &operator=(const BaseDestination &) = delete;
 
     [[nodiscard]] const DestinationSettings &settings() const { return settings_; }
-    /// When the destination was made.
+    /// Returns the time of construction.
     [[nodiscard]] std::chrono::system_clock::time_point startDate() const { return startDate_; }
 
-    /// Replaces the format and level strings. Only before the destination is added.
+    /// Replaces the format and the level strings. Must be called before the destination is added.
     void setFormat(std::string format, LevelTexts levelString);
 
-    /// Whether a message is to be logged here. Any thread.
+    /// Returns true if the level and the filters accept a message. Thread-safe.
     [[nodiscard]] bool shouldBeLogged(LogLevel level, const SourceLocation &where) const;
-    /// Whether records need the name of the thread.
+    /// Returns true if records need the name of the thread.
     [[nodiscard]] virtual bool printsThread() const { return formatter_.printsThread(); }
 
-    /// Writes messages in their order. Calls never overlap; they come from the destination's queue, or from
-    /// the callers' threads where it is not asynchronous. It must not log itself; what it throws loses the
-    /// batch.
+    /// Writes messages in order. Calls never overlap. They come from the destination's queue, or from the
+    /// callers' threads if it is not asynchronous. Must not log. An exception loses the batch.
     virtual void write(std::span<const LogRecord> records) = 0;
 
 protected:
-    /// Gives the records' lines, each with its line feed, several at a time, in their order. `colored` tells
-    /// whether $C and $c print anything.
+    /// Passes the records' lines to `output` in order, several at a time, each with its line feed. `colored`
+    /// enables $C and $c.
     void formatLines(std::span<const LogRecord> records, bool colored,
                      const std::function<void(std::string_view lines)> &output) const;
-    /// Tells on standard error why lines were lost, where the settings ask for it.
+    /// Reports the reason of lost lines on standard error if the settings enable it.
     void reportLoss(std::string_view reason) const;
 
 private:

@@ -9,11 +9,11 @@
 
 namespace velmar {
 
-/// Prints the lines to the standard output. A reader that went away loses them without a signal, and one that
-/// does not read holds up the destination's queue alone.
+/// Prints lines to standard output. A closed pipe loses them without SIGPIPE; a slow reader blocks only the
+/// destination's queue.
 class ConsoleDestination : public BaseDestination {
 public:
-    /// The descriptor is not closed.
+    /// `descriptor` is not owned.
     explicit ConsoleDestination(DestinationSettings settings = {}, bool useTerminalColors = false,
                                 int descriptor = STDOUT_FILENO);
 

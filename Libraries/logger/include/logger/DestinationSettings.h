@@ -9,25 +9,25 @@
 
 namespace velmar {
 
-/// Decides beside the level whether a message is logged, before it is made. Called on any thread.
+/// A filter in addition to the level. Called before the message is created, on any thread.
 using LogFilter = std::function<bool(LogLevel level, const SourceLocation &where)>;
 
-/// What a destination is made with.
+/// Settings of a destination.
 struct DestinationSettings {
-    /// In the language of LogFormat.
+    /// Format of a line; see LogFormat.
     std::string format = "$DHH:mm:ss$d $L > $M $X";
-    /// Whether lines are written on the destination's own serial queue; otherwise before the call returns.
+    /// True to write on the destination's own serial queue, false to write before the call returns.
     bool asynchronously = true;
     LogLevel minLevel = LogLevel::verbose;
-    /// What $L prints.
+    /// Output of $L.
     LevelTexts levelString{"🖨", "⚙️", "ℹ️", "⚠️", "🛑"};
-    /// What $C prints behind `escape` where the destination is coloured; $c prints `reset`.
+    /// Output of $C after `escape` in a coloured destination; $c prints `reset`.
     LevelTexts levelColor{"251m", "35m", "38m", "178m", "197m"};
     std::string reset = "\x1b[0m";
     std::string escape = "\x1b[38;5;";
-    /// All must agree.
+    /// A message is logged if all filters return true.
     std::vector<LogFilter> filters = {};
-    /// Whether lines that cannot be written are reported on standard error.
+    /// Reports lost lines on standard error.
     bool debugPrint = false;
 };
 

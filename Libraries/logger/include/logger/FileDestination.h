@@ -14,7 +14,7 @@ namespace velmar {
 
 class LogFile;
 
-/// Whom files belong to.
+/// Owner of created files.
 struct FileOwner {
     uid_t user;
     gid_t group;
@@ -22,24 +22,24 @@ struct FileOwner {
 
 /// The file of a FileDestination.
 struct LogFileSettings {
-    /// Absolute; nothing is written where it is not.
+    /// Absolute path; nothing is written to a relative one.
     std::filesystem::path logFileURL;
-    /// A folder above the file that is never created: while it is missing, nothing is written. Empty for
+    /// A parent folder of the file that is never created: nothing is written while it is missing. Empty for
     /// none.
     std::filesystem::path requiredFolder = {};
-    /// For a process of root that writes for another user: what is created belongs to this owner. Ignored for
+    /// Owner of created files and folders, for a root process that writes on behalf of a user. Ignored in
     /// other processes.
     std::optional<FileOwner> owner = std::nullopt;
     bool syncAfterEachWrite = false;
     bool colored = false;
 };
 
-/// Appends lines to a file, which is never truncated and never rotated. Missing folders and the file are
-/// created; a file that was removed or replaced meanwhile is opened anew.
+/// Appends lines to a file, which is never truncated or rotated. Creates the file and missing folders.
+/// Reopens a file that was removed or replaced.
 ///
-/// A file that is not a regular one with a single link, or that belongs to neither root, the process's user
-/// nor the owner, is never written. Where root writes for an owner, no link on the way to the file is
-/// followed, because the owner may have placed it. Lines that cannot be written are dropped.
+/// Only writes to a regular file with a single link that belongs to root, the process's user or the owner. If
+/// root writes for an owner, it follows no link on the path, because the owner may have placed it. Lines that
+/// cannot be written are dropped.
 class FileDestination : public BaseDestination {
 public:
     explicit FileDestination(LogFileSettings file, DestinationSettings settings = {});

@@ -15,25 +15,24 @@ namespace velmar {
 
 /// A line format, parsed once:
 ///
-///     $D...$d  the time of the call in the date pattern in between (see DatePattern)
+///     $D...$d  the time of the call in the enclosed date pattern (see DatePattern)
 ///     $L  the level string       $M  the message           $X  the context, or nothing
 ///     $N  the source file's name without folder and extension
 ///     $F  the function's name                       $l  the line
 ///     $T  the thread: "main", or its name
 ///     $C  the level's colour on  $c  colours off
 ///
-/// Any other text is printed as it stands, a "$D" without its "$d" too. What a token prints is not expanded
-/// again.
+/// Other text is printed literally, including a "$D" without "$d". The output of a token is not expanded
+/// further.
 ///
-/// No message looks like the work of others: control characters, but for tabs and line feeds, are printed as
-/// "\x1B", and a line feed is followed by a blank where the line behind it would begin as the format does,
-/// with the text before its first token ("[Velmar]").
+/// A message cannot forge log lines. Control characters except tabs and line feeds are printed as "\x1B". A
+/// line of a message that starts with the text before the format's first token ("[Velmar]") is indented by a
+/// blank.
 class LogFormat {
 public:
     explicit LogFormat(std::string_view format);
 
-    /// Appends the line of a record, without a line feed. Not to be called for one format by two threads at
-    /// once.
+    /// Appends the line of a record, without a line feed. Not thread-safe.
     void append(std::string &line, const LogRecord &record, const DestinationSettings &settings,
                 bool colored) const;
 
@@ -49,7 +48,7 @@ private:
     void indentContinuations(std::string &line, std::size_t start) const;
 
     std::vector<Piece> pieces_;
-    // What every line begins with, without the blanks at its end.
+    // Literal start of every line, without trailing blanks.
     std::string head_;
 };
 

@@ -8,15 +8,15 @@
 
 namespace velmar {
 
-/// The levels in ascending order.
+/// Levels in ascending order.
 enum class LogLevel : std::uint8_t { verbose, debug, info, warning, error };
 
 inline constexpr std::size_t logLevelCount = 5;
 
-/// Such as "warning".
+/// Returns the level's name, such as "warning".
 [[nodiscard]] std::string_view nameOf(LogLevel level) noexcept;
 
-/// One text for each level, UTF-8.
+/// One UTF-8 text per level.
 class LevelTexts {
 public:
     LevelTexts() = default;

@@ -8,16 +8,16 @@
 
 namespace velmar {
 
-/// One message on its way to one destination. Texts are passed on as they are, whatever their bytes.
+/// One message for one destination. Texts may contain any bytes.
 struct LogRecord {
     LogLevel level = LogLevel::verbose;
-    /// When the message was logged, not when it is written.
+    /// Time of the log call.
     std::chrono::system_clock::time_point time;
     SourceLocation where;
     std::string message;
     /// Empty for none.
     std::string context;
-    /// Name of the thread that logged; empty unless the destination prints it.
+    /// Name of the logging thread; empty unless the destination prints it.
     std::string thread;
 };
 

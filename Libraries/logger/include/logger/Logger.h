@@ -19,19 +19,19 @@ namespace velmar {
 class BaseDestination;
 class LogRoutes;
 
-/// The process-wide logger. A message goes to every destination that logs its level, in the order in which
-/// they were added; it is given as a function and made once for each of them, on the caller's thread at the
-/// time of the call:
+/// The process-wide logger. A message goes to all destinations that log its level, in the order in which they
+/// were added. It is passed as a function that is called once per destination, on the caller's thread, before
+/// the log call returns:
 ///
 ///     Logger::info([&] { return fmt::format("Found configuration file at {}", path); });
 ///     Logger::error([] { return "An error occurred while retrieving the configuration file"; }, context);
 ///
-/// The function gives a text or whatever fmt can print. A plain text may stand in its place where nothing is
-/// computed. The context is an optional text behind the message ($X); it is read before the call returns.
+/// The function returns a text or any value that fmt can format. A message without computation may be passed
+/// as plain text. The context is an optional text after the message ($X). It is copied before the call
+/// returns.
 ///
-/// Any thread, at any time of the process, its static destruction included; never throws: what a message's
-/// function throws loses that message alone. The application installs the destinations; what is logged before
-/// is dropped.
+/// Thread-safe, also during static destruction. Never throws: an exception of a message's function loses that
+/// message only. The application adds the destinations; earlier messages are dropped.
 class Logger {
 public:
     template <class Message>
@@ -60,7 +60,7 @@ public:
         log(LogLevel::error, message, context, where);
     }
 
-    /// The same for a level that is known at run time only.
+    /// Logs with a level known at run time only.
     template <class Message>
     static void log(LogLevel level, Message &&message, std::string_view context = {},
                     const SourceLocation &where = SourceLocation::current()) {
@@ -69,12 +69,12 @@ public:
         }
     }
 
-    /// Whether some destination's minimum level lets the level pass. Takes no lock.
+    /// Returns true if the minimum level of any destination accepts the level. Lock-free.
     [[nodiscard]] static bool isLogged(LogLevel level) noexcept {
         return static_cast<std::uint8_t>(level) >= minimumLevel_.load(std::memory_order_relaxed);
     }
 
-    /// The text of a message: what its function gives, or itself.
+    /// Returns the text of a message, calling it if it is a function.
     template <class Message>
     [[nodiscard]] static std::string textOf(Message &&message) {
         if constexpr (std::is_invocable_v<Message &>) {
@@ -88,22 +88,21 @@ public:
         }
     }
 
-    /// Appends a destination to the list; messages of calls that began before may not reach it. A destination
-    /// stands in the list once.
+    /// Appends a destination to the list. Calls that have already begun may not reach it. A destination must
+    /// be added only once.
     static void addDestination(std::shared_ptr<BaseDestination> destination);
 
-    /// Empties the list. What was logged before is still written, as long as the process lives.
+    /// Removes all destinations. Earlier messages are still written while the process lives.
     static void removeAllDestinations();
 
-    /// Waits until everything logged before the call was written, at most for the bound. False if a
-    /// destination did not get that far. To be called at the end of main and before exit(); logging may go on
-    /// during and after.
+    /// Waits until all earlier messages are written, at most for `bound`. Returns false if a destination did
+    /// not finish. Must be called at the end of main and before exit(). Other threads may log meanwhile.
     static bool flush(std::chrono::milliseconds bound = std::chrono::seconds(2));
 
 private:
     friend class ScopedDestinations;
 
-    // A reference to the caller's message, whatever its type.
+    // A type-erased reference to the caller's message.
     class MessageSource {
     public:
         template <class Message>
@@ -114,7 +113,7 @@ private:
     private:
         template <class Message>
         static std::string makeFrom(const void *address) {
-            // Made from a reference to Message, const or not, in the constructor.
+            // The constructor took the address of a Message, which may be const.
             return textOf(*static_cast<Message *>(const_cast<void *>(address)));
         }
 
@@ -124,10 +123,10 @@ private:
 
     static void deliver(LogLevel level, MessageSource message, std::string_view context,
                         const SourceLocation &where) noexcept;
-    // Puts another list in place of the present one, which is returned.
+    // Replaces the list of destinations and returns the previous one.
     static std::shared_ptr<const LogRoutes> exchange(std::shared_ptr<const LogRoutes> routes);
 
-    // The lowest level that some destination logs; above all levels while there is none.
+    // Lowest level that any destination logs; above all levels if there is none.
     static constinit inline std::atomic<std::uint8_t> minimumLevel_{logLevelCount};
 };
 

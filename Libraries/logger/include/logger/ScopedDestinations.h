@@ -7,9 +7,9 @@
 
 namespace velmar {
 
-/// Puts other destinations in place of the logger's for the lifetime of an object: what any thread of the
-/// process logs meanwhile goes to these alone, so that a tool or a test can look at it. At its end what was
-/// logged to them is written, within the bound of Logger::flush, and the previous ones are back.
+/// Replaces the logger's destinations during the lifetime of an object, so that a tool or a test can inspect
+/// the messages of all threads. The destructor flushes the destinations, within the default bound of
+/// Logger::flush, and restores the previous ones.
 class ScopedDestinations {
 public:
     explicit ScopedDestinations(std::vector<std::shared_ptr<BaseDestination>> destinations = {});

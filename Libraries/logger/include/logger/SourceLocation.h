@@ -2,14 +2,14 @@
 
 namespace velmar {
 
-/// The place in the sources of a call. Like the standard's class, which clang 14 cannot compile, but with the
-/// plain name of the function. The texts live as long as the process.
+/// A place in the source code. Replaces std::source_location, which clang 14 cannot compile, and contains the
+/// plain name of the function. The texts are static.
 struct SourceLocation {
     const char *file = "";
     const char *function = "";
     int line = 0;
 
-    /// As a default argument: the place of the caller.
+    /// Returns the place of the caller if used as a default argument.
     static constexpr SourceLocation current(const char *file = __builtin_FILE(),
                                             const char *function = __builtin_FUNCTION(),
                                             int line = __builtin_LINE()) noexcept {

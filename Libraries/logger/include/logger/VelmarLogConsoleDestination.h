@@ -6,7 +6,7 @@
 
 namespace velmar {
 
-/// The application's lines on the standard output.
+/// Writes the application's lines to standard output.
 class VelmarLogConsoleDestination : public VelmarLogDestination {
 public:
     explicit VelmarLogConsoleDestination(std::string_view displayName);

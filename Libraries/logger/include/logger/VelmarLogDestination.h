@@ -8,14 +8,13 @@
 
 namespace velmar {
 
-/// Gives a final destination the application's format and level strings, and forwards each message to it: a
-/// line is
-/// "[" + display name + "] 14:02:11 ℹ️ > message context", with a trailing blank where there is no
-/// context. Level, filters and queue are the decorator's own.
+/// A decorator that gives a destination the application's format and level strings and forwards messages to
+/// it. A line is "[" + display name + "] 14:02:11 ℹ️ > message context", with a trailing blank if
+/// there is no context. Level, filters and queue are those of the decorator.
 class VelmarLogDestination : public BaseDestination {
 public:
     VelmarLogDestination() = delete;
-    /// The final destination is new and never null.
+    /// `finalDestination` must not be null.
     VelmarLogDestination(std::unique_ptr<BaseDestination> finalDestination, std::string_view displayName);
 
     [[nodiscard]] const BaseDestination &finalDestination() const { return *finalDestination_; }

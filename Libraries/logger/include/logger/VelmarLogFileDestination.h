@@ -8,11 +8,11 @@
 
 namespace velmar {
 
-/// The application's throw-away log, /tmp/{userName}-velmar.log. A user name that cannot be a file's name
-/// loses it.
+/// Writes the application's temporary log, /tmp/{userName}-velmar.log. Writes nothing if the user name is not
+/// a valid file name.
 class VelmarLogFileDestination : public VelmarLogDestination {
 public:
-    /// The owner is the user of that name, for a process that may be root's.
+    /// `owner` is the user of that name, for a process that may run as root.
     VelmarLogFileDestination(std::string_view displayName, std::string_view userName,
                              std::optional<FileOwner> owner);
 

@@ -7,8 +7,8 @@
 
 namespace velmar {
 
-/// The application's permanent log, /Users/{userName}/Library/Logs/Velmar/velmar.log. Without a
-/// /Users/{userName}, which is never created, nothing is written.
+/// Writes the application's permanent log, /Users/{userName}/Library/Logs/Velmar/velmar.log. Writes nothing
+/// if /Users/{userName} doesn't exist; that folder is never created.
 class VelmarLogFilePermanentDestination : public VelmarLogFileDestination {
 public:
     VelmarLogFilePermanentDestination(std::string_view displayName, std::string_view userName,
