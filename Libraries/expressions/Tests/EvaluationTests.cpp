@@ -28,7 +28,7 @@ Variables tableVariables() {
     return variables;
 }
 
-// An outcome, then the expressions that have it, with " ; " between them.
+// Each outcome is followed by the expressions that have it, separated by " ; ".
 constexpr const char *table = R"(true
     on ; ab == 1 % ; ab ==1 ; 1 == ab ; 2 > ab ; ab == "1" ; ab == real ; on != off ; false == off
     on <: "true" ; word > on ; ab < word ; minus < 0 ; hex == 31 ; huge > 9 ; plus == 5 ; odd != 1
@@ -116,7 +116,7 @@ TEST(Expression, IsEvaluatedLikeTheTableOfTheLanguage) {
 
 TEST(Operator, GivesAResultForItsKindsOnly) {
     const Value values[] = {"a", "b", 1.0, 2.0, false, true};
-    // For texts, numbers and booleans: less, equal, greater; "-" for no result.
+    // Columns for texts, numbers and booleans: less, equal, greater; "-" for no result.
     const std::pair<std::string_view, std::string> rows[] = {
         {"==", "010010010"}, {"!=", "101101101"}, {">", "001001---"},
         {">=", "011011---"}, {"<", "100100---"},  {"<=", "110110---"},
@@ -153,7 +153,7 @@ TEST(Expression, TellsItsSteps) {
     }
 }
 
-// A disjunction of conjunctions made by chance, and what it gives: as a whole, and its last conjunction.
+// A random disjunction of conjunctions with its value and the value of its last conjunction.
 struct Generated {
     std::string text;
     bool value = false;

@@ -53,7 +53,7 @@ TEST(Expression, IsWrittenFromItsElementsOrRefused) {
 }
 
 TEST(Expression, ReadsPlainLinesAsThePatternDoes) {
-    // Not the default pattern by its text, so that every line is read with it.
+    // Differs from the default pattern as text, so that every line is matched by the engine.
     constexpr std::string_view samePattern = "[a-zA-Z]{1}[a-zA-Z0-9_-]{1,}";
     const std::string_view pieces[] = {"AB",    "x-1", "A",  "9a",   "3",    "4.5.6", ".",  "true", "\"a b\"",
                                        "\"(\"", "\"",  "(",  ")",    "((",   ")(",    "==", "=",    "&&",
@@ -67,7 +67,7 @@ TEST(Expression, ReadsPlainLinesAsThePatternDoes) {
         });
         return described + outcome;
     };
-    std::mt19937 random(7); // NOLINT(*-msc51-cpp): the same lines in every run.
+    std::mt19937 random(7); // NOLINT(*-msc51-cpp): the same lines in every run
     for (int count = 0; count < 20'000; ++count) {
         std::string line;
         for (auto pieceCount = 1 + random() % 12; pieceCount > 0; --pieceCount) {
@@ -93,7 +93,7 @@ TEST(Expression, IsACollectionEqualByItsElements) {
 TEST(Expression, TakesACallersPatternOfNames) {
     EXPECT_TRUE(Expression("$a == 1", R"(\$[a-z])").evaluate(Variables{{"$a", "1"}}));
     EXPECT_THROW(Expression("ab", "(").evaluate(Variables()), RegularExpressionError);
-    // The first match has to cover the name: here it is its first letter.
+    // The first match must cover the name; here it covers the first letter only.
     EXPECT_EQ(outcomeOf([] { return Expression("ab == 1", "a|ab").evaluate(Variables()); }),
               "2: Invalid variable name or element: \"ab\"");
     EXPECT_EQ(outcomeOf([] { return Expression("\"a\"b\"", R"("a"b")").evaluate(Variables()); }),
@@ -132,7 +132,7 @@ TEST(Expression, OfAnySizeHasAnOutcomeInASecond) {
             EXPECT_NE(error.as<RegularExpressionFailure::StepLimitReached>(), nullptr) << line.substr(0, 20);
             ++refusedByEngine;
         }
-        // A second; sanitizers take their share on top.
+        // One second; sanitizers take longer.
         EXPECT_LT(std::clock() - start, 2 * CLOCKS_PER_SEC) << line.substr(0, 20);
     }
     EXPECT_GT(refusedByEngine, 0U) << "a search without end was taken for one without a match";

@@ -4,7 +4,7 @@
 
 namespace velmar::expressions {
 
-/// "true", "false", or the kind and the text of the failure.
+/// Returns "true", "false", or the kind and the message of the error.
 template <class Function>
 std::string outcomeOf(const Function &function) {
     try {

@@ -9,7 +9,7 @@ namespace velmar::expressions {
 
 namespace {
 
-// Compared in place, as the length is known.
+// Faster than a string comparison, since the length is known at compile time.
 template <std::size_t size>
 bool isWord(std::string_view text, const char (&word)[size]) noexcept {
     return text.size() == size - 1 && std::memcmp(text.data(), word, size - 1) == 0;
@@ -52,7 +52,7 @@ bool compare(Operator comparison, T left, T right) {
 
 bool evaluate(const Plan::Comparison<Plan::Name> &comparison, const VariableLookup &variables) {
     const std::string &left = valueOf(comparison.variable, variables);
-    // Unlike the left one, a right variable may be missing.
+    // Only the left variable must be defined.
     const std::string *right = variables.find(comparison.other);
     if (right == nullptr)
         return false;
@@ -87,7 +87,7 @@ bool evaluate(const Plan::Comparison<bool> &comparison, const VariableLookup &va
     return compareWithLiteral(comparison, booleanOf(valueOf(comparison.variable, variables)));
 }
 
-/// Goes through the clauses, with one reduction for each open level of brackets.
+/// Evaluates the clauses with one reduction per open bracket level.
 class Evaluation {
 public:
     Evaluation(std::size_t levels, const VariableLookup &variables, std::vector<Step> *steps)

@@ -6,28 +6,28 @@
 
 namespace velmar::expressions {
 
-/// A value together with the logic operator that follows it, if one does.
+/// A boolean and the logical operator that follows it, if any.
 struct HalfBooleanExpression {
     bool boolean = false;
     std::optional<LogicOperator> logicOperator;
 };
 
-/// The value of the halves of one level of brackets, && above ||, folded as they come. Every level is
-/// evaluated as `false || ...`. Nothing follows a half without operator.
+/// Folds the booleans of one bracket level, with && before ||. Starts as `false || ...`. Nothing may be added
+/// after a half without operator.
 class Reduction {
 public:
     void add(HalfBooleanExpression half) noexcept {
         const bool applied = currentOperator_.evaluate(current_, half.boolean);
         const bool bindsTighter = half.logicOperator == LogicOperator::conjunction &&
                                   currentOperator_ == LogicOperator::disjunction;
-        // What waits, waits with ||: false as long as nothing does.
+        // The pending value is joined with ||; false if nothing is pending.
         if (bindsTighter)
             pending_ = pending_ || current_;
         current_ = bindsTighter ? half.boolean : applied;
         currentOperator_ = half.logicOperator.value_or(LogicOperator::disjunction);
     }
 
-    /// After a trailing && what was pending before it counts no more: `aa || bb &&` is bb.
+    /// Returns the folded value. A trailing && discards the pending value: `aa || bb &&` is bb.
     [[nodiscard]] bool result() const noexcept {
         return currentOperator_ == LogicOperator::conjunction ? current_ : pending_ || current_;
     }

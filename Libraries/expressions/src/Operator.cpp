@@ -27,8 +27,8 @@ bool holds(T left, T right) {
     return Relation()(left, right);
 }
 
-// Whether a piece of the list, which commas separate, is the wanted text. That one is composed only once:
-// both may have a megabyte.
+// Returns true if `wanted` is one of the comma-separated items. It is composed only once, because both texts
+// may be megabytes long.
 bool listHolds(std::string_view list, std::string_view wanted) {
     std::string storage;
     if (!UnicodeText::isAscii(wanted)) {

@@ -2,7 +2,7 @@
 
 namespace velmar::expressions {
 
-/// One function object of several, for std::visit.
+/// A visitor for std::visit that combines several functions.
 template <class... Functions>
 struct Overloaded : Functions... {
     using Functions::operator()...;

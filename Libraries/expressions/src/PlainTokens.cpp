@@ -43,14 +43,14 @@ bool isBracket(char character) noexcept {
     return character == '(' || character == ')';
 }
 
-// The length of what `takes` takes from the start.
+// Returns the length of the leading run of characters for which `takes` returns true.
 template <class Takes>
 std::size_t runOf(std::string_view text, const Takes &takes) {
     const auto end = std::ranges::find_if_not(text, takes);
     return static_cast<std::size_t>(end - text.begin());
 }
 
-// The length of the operand at the start of a text, without brackets behind it; 0 if there is none.
+// Returns the length of the operand at the start of a text, without closing brackets; 0 if there is none.
 std::size_t operandLength(std::string_view text) {
     if (text.starts_with('"')) {
         const std::size_t end = text.find('"', 1);
@@ -87,7 +87,7 @@ std::optional<std::vector<std::string_view>> plainTokens(std::string_view line) 
         if (const std::size_t length = runOf(line, [&](char c) { return holds(operators, c); }); length > 0) {
             take(length);
         } else {
-            // Brackets before an operand are a token of their own, those behind it are a part of it.
+            // Brackets before an operand are a separate token; brackets after it belong to its token.
             if (const std::size_t brackets = runOf(line, isBracket); brackets > 0)
                 take(brackets);
             if (!isAtEndOfWord()) {

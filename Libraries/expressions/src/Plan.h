@@ -13,15 +13,14 @@
 
 namespace velmar::expressions {
 
-/// What evaluating a list of elements comes to. Which element is read in which place, and where the chain of
-/// elements breaks, depends on no variable: so that is found once, and an evaluation only runs through the
-/// clauses.
+/// The evaluation of a list of elements, prepared as a list of clauses. The order of reads and the place of a
+/// syntax error don't depend on variables, so they are determined once.
 class Plan {
 public:
-    /// The elements outlive the plan, where they are.
+    /// `elements` must outlive the plan at the same address.
     explicit Plan(const std::vector<ExpressionElement> &elements);
 
-    /// See Expression::evaluate.
+    /// Evaluates the plan; see Expression::evaluate.
     bool run(const VariableLookup &variables, std::vector<Step> *steps) const;
 
     struct Part {
@@ -29,32 +28,33 @@ public:
         std::size_t count = 0;
     };
     using Name = HashedVariableName;
-    /// A variable alone.
+    /// A single variable.
     struct Single {
         Part part;
         Name variable;
     };
-    /// A variable and another one (Name) or a literal, whose kind it takes; a literal text is composed.
+    /// Compares a variable with another variable (Name) or a literal of a certain kind. A literal text is
+    /// stored composed.
     template <class Other>
     struct Comparison {
         Part part;
         Operator comparison;
-        Name variable; ///< The left one of two.
+        Name variable; ///< The left one of two variables.
         Other other;
-        bool isReversed = false; ///< The variable stands on the right.
+        bool isReversed = false; ///< True if the variable is the right operand.
     };
-    /// Evaluation gets no further; in the middle of a part unless that is empty.
+    /// The evaluation fails here. `part` is empty if the fault is between two parts.
     struct Failure {
         Part part;
         ExpressionError error;
     };
     using Test = std::variant<Failure, Single, Comparison<Name>, Comparison<std::string>, Comparison<double>,
                               Comparison<bool>>;
-    /// `( ( test ) &&`
+    /// A test with its brackets and the following operator: `( ( test ) &&`
     struct Clause {
-        std::size_t opening = 0; ///< Brackets.
+        std::size_t opening = 0; ///< number of brackets before the test
         Test test;
-        std::size_t closing = 0; ///< Brackets.
+        std::size_t closing = 0; ///< number of brackets after the test
         std::optional<LogicOperator> logicOperator{};
     };
 

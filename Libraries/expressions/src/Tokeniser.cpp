@@ -15,7 +15,7 @@ namespace {
 
 template <OperatorProtocol T>
 void appendCharacters(std::string &characters) {
-    // The engine takes two & in a class for an intersection.
+    // '&' is escaped because "&&" in a character class means intersection.
     constexpr std::string_view escaped = "*?+[(){}^$|\\./=&";
     for (const T &each : T::all()) {
         for (const char character : each.description()) {
@@ -26,8 +26,8 @@ void appendCharacters(std::string &characters) {
     }
 }
 
-// A long word that is no operand is tried from each of its characters. This is 4,000 of them in one word, a
-// third of a second; what becomes an expression takes a twentieth of that for 64 kB.
+// A long word that is not an operand is tried from each of its characters. The limit allows 4,000 characters
+// in one word, a third of a second; valid expressions of 64 kB need a twentieth of it.
 constexpr std::int32_t stepLimit = 1000;
 
 std::string tokenPattern(std::string_view variableNamePattern) {
@@ -47,12 +47,12 @@ std::string tokenPattern(std::string_view variableNamePattern) {
 Tokeniser Tokeniser::withNames(std::string_view variableNamePattern) {
     if (variableNamePattern != Expression::defaultVariableNamePattern)
         return Tokeniser(variableNamePattern);
-    // Never destroyed: functions of queues may still evaluate when the process ends.
+    // Never destroyed: queues may still evaluate at exit.
     static const auto &standard = *new Tokeniser(Expression::defaultVariableNamePattern);
     return standard;
 }
 
-// The pattern of names comes first, so that its faults are reported about what the caller gave.
+// Compiles the pattern of names first, so that its errors refer to the caller's text.
 Tokeniser::Tokeniser(std::string_view variableNamePattern)
     : hasDefaultNames_(variableNamePattern == Expression::defaultVariableNamePattern),
       names_(variableNamePattern),
@@ -80,7 +80,7 @@ std::vector<ExpressionElement> Tokeniser::elements(std::string_view line) const 
     return elements;
 }
 
-// Only one bracket is taken off each end.
+// Removes one bracket at most from each end.
 void Tokeniser::append(std::string_view token, std::vector<ExpressionElement> &elements) const {
     const bool isOne = token.size() <= 1;
     if (!isOne && token.starts_with('(')) {

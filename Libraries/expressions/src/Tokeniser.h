@@ -10,14 +10,16 @@
 
 namespace velmar::expressions {
 
-/// Takes lines apart into elements, with one regular expression that is made of the operators' texts and the
-/// pattern of names; plain lines without it. An immutable value: copies share what is compiled.
+/// Splits lines into elements by a regular expression, which is built from the operators' texts and the
+/// pattern of names. Simple lines don't need it. An immutable value: copies share the compiled form.
+/// Thread-safe.
 class Tokeniser {
 public:
-    /// The default pattern is compiled once for the process. Throws RegularExpressionError (InvalidPattern).
+    /// Returns a tokeniser for a pattern of names. The default pattern is compiled once per process. Throws
+    /// RegularExpressionError (InvalidPattern).
     [[nodiscard]] static Tokeniser withNames(std::string_view variableNamePattern);
 
-    /// At least one element. Throws ExpressionError and RegularExpressionError.
+    /// Returns at least one element. Throws ExpressionError and RegularExpressionError.
     [[nodiscard]] std::vector<ExpressionElement> elements(std::string_view line) const;
 
     [[nodiscard]] const std::string &pattern() const noexcept { return tokens_.pattern(); }

@@ -13,46 +13,46 @@
 
 namespace velmar::expressions {
 
-/// What an evaluation found for one part of an expression: a variable alone, or a comparison.
+/// The evaluation of one part of an expression: a single variable or a comparison.
 struct Step {
-    std::size_t first = 0;      ///< The index of its first element.
-    std::size_t count = 0;      ///< Of elements.
-    std::optional<bool> result; ///< Absent if the evaluation failed here.
+    std::size_t first = 0;      ///< Index of its first element.
+    std::size_t count = 0;      ///< Number of elements.
+    std::optional<bool> result; ///< Absent if the evaluation failed in this part.
 
     bool operator==(const Step &) const = default;
 };
 
 /// A condition in one line of text, such as `DEVICE_NAME == "lab" && (ANSWER >= 3 || FLAG)`, parsed once and
-/// evaluated as often as variables change. An immutable value: copies share the parsed form, and any number
-/// of threads may evaluate it at once.
+/// evaluated many times. An immutable value: copies share the parsed form. Thread-safe.
 ///
-/// The line is taken apart by one regular expression; what stands after its last match is ignored. Evaluating
-/// reads every part from left to right, whatever the parts before it give, so that a failure anywhere is a
-/// failure of the whole.
+/// A regular expression splits the line into elements; text after its last match is ignored. Every part is
+/// evaluated from left to right, without short-circuit, so that an error in any part is an error of the
+/// expression.
 class Expression {
 public:
     static constexpr std::string_view defaultVariableNamePattern = "[a-zA-Z]{1}[a-zA-Z0-9_-]+";
 
-    /// Throws ExpressionError, and RegularExpressionError where the pattern is not valid or the line is too
-    /// much for the engine. The line is UTF-8.
+    /// Parses a UTF-8 line. Throws ExpressionError, or RegularExpressionError if the pattern is invalid or
+    /// the line exceeds the engine's limits.
     explicit Expression(std::string_view line,
                         std::string_view variableNamePattern = defaultVariableNamePattern);
 
-    /// Throws ExpressionError. Allocates nothing up to 16 levels of brackets and for ASCII texts. `steps`, if
-    /// not null, receives the parts evaluated, in their order, also when it throws.
+    /// Returns the value for these variables. Allocates nothing up to 16 levels of brackets and for ASCII
+    /// texts. `steps`, if not null, receives the evaluated parts in order, even if the function throws.
+    /// Throws ExpressionError.
     bool evaluate(const VariableLookup &variables, std::vector<Step> *steps = nullptr) const;
 
-    /// The names that the expression mentions.
+    /// Returns the names of all variables in the expression.
     [[nodiscard]] VariableNames variableNames() const;
-    /// The elements with one blank between them and none inside of brackets: `(FLAG == 'on') && COUNT > 2.0`
+    /// Returns the elements, separated by blanks except inside of brackets: `(FLAG == 'on') && COUNT > 2.0`
     [[nodiscard]] std::string description() const;
-    /// The line as it was given.
+    /// Returns the line as given to the constructor.
     [[nodiscard]] const std::string &source() const noexcept;
     [[nodiscard]] const std::vector<ExpressionElement> &elements() const noexcept;
-    /// The whole pattern that took the line apart.
+    /// Returns the complete pattern that splits the line.
     [[nodiscard]] const std::string &regexPattern() const noexcept;
 
-    // A collection of its elements.
+    // Range access to the elements.
     [[nodiscard]] auto begin() const noexcept { return elements().begin(); }
     [[nodiscard]] auto end() const noexcept { return elements().end(); }
     [[nodiscard]] std::size_t size() const noexcept { return elements().size(); }

@@ -16,25 +16,25 @@ struct Operand {
         bool operator==(const Variable &other) const;
     };
     struct String {
-        std::string text; ///< Without its quotes.
+        std::string text; ///< Without quotes.
         bool operator==(const String &other) const;
     };
 
     std::variant<Variable, String, double, bool> value;
 
-    /// The name of the variable, null for a literal.
+    /// Returns the variable's name, or nullptr for a literal.
     [[nodiscard]] const std::string *variable() const noexcept;
 
-    /// Names and texts are equal by canonical equivalence.
+    /// Compares names and texts by canonical equivalence.
     bool operator==(const Operand &) const = default;
 };
 
 using ExpressionElement = std::variant<Operator, LogicOperator, Bracket, Operand>;
 
-/// The name of the variable that an element is, null for any other.
+/// Returns the variable's name, or nullptr if the element is not a variable.
 [[nodiscard]] const std::string *variableOf(const ExpressionElement &element) noexcept;
 
-/// "&&", "(", a variable's name, 'text', 2.0, true
+/// Returns the source form of an element: "&&", "(", a variable's name, 'text', 2.0, true
 [[nodiscard]] std::string description(const Operand &operand);
 [[nodiscard]] std::string description(const ExpressionElement &element);
 

@@ -6,8 +6,8 @@
 
 namespace velmar::expressions {
 
-/// The cases of ExpressionError. The texts are kept as they are, slips included: administrators search for
-/// them.
+/// Cases of ExpressionError. Their texts are kept unchanged, including typos, because administrators search
+/// for them.
 namespace ExpressionErrors {
 
 struct InvalidExpression {
@@ -49,7 +49,7 @@ struct WrongOperatorAndOperandsAssociation {
 
 } // namespace ExpressionErrors
 
-/// Why a text is no expression, or an expression has no value.
+/// An invalid expression, or a failed evaluation.
 class ExpressionError final
     : public ErrorOfCases<ExpressionErrors::InvalidExpression, ExpressionErrors::InvalidStringQuotation,
                           ExpressionErrors::InvalidVariableName, ExpressionErrors::UndefinedVariable,

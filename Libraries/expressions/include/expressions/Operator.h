@@ -9,10 +9,10 @@
 
 namespace velmar::expressions {
 
-/// A value of one of the three kinds that operands have.
+/// A value of one of the three operand kinds.
 using Value = std::variant<std::string_view, double, bool>;
 
-/// What the two families of operators share: a closed set, each with a text that identifies it.
+/// Requirements of both operator types: a closed set of operators, each identified by a text.
 template <class T>
 concept OperatorProtocol = std::equality_comparable<T> && requires(const T &each) {
     { each.description() } -> std::same_as<std::string_view>;
@@ -28,26 +28,26 @@ template <OperatorProtocol T>
     return std::nullopt;
 }
 
-/// An operator that compares two values. Texts are equal, ordered, begin and end by canonical equivalence.
+/// A comparison operator. Texts are compared by canonical equivalence.
 class Operator {
 public:
-    /// In the declared order: == != > >= < <= <: ~= =~
+    /// Returns all operators in the declared order: == != > >= < <= <: ~= =~
     [[nodiscard]] static std::span<const Operator> all() noexcept;
 
     [[nodiscard]] std::string_view description() const noexcept { return row_->description; }
-    /// Of two values of one kind; absent if the operator says nothing about that kind.
+    /// Compares two values of one kind. Returns std::nullopt if the operator doesn't support that kind.
     template <class T>
     [[nodiscard]] std::optional<bool> evaluate(T left, T right) const {
         const auto function = std::get<bool (*)(T, T)>(row_->functions);
         return function != nullptr ? std::optional(function(left, right)) : std::nullopt;
     }
-    /// Absent also where the kinds differ.
+    /// Compares two values. Also returns std::nullopt if their kinds differ.
     [[nodiscard]] std::optional<bool> evaluate(const Value &left, const Value &right) const;
 
     bool operator==(const Operator &) const = default;
 
 private:
-    // A null function is no result.
+    // A null function means that the kind is not supported.
     struct Row {
         std::string_view description;
         std::tuple<bool (*)(std::string_view, std::string_view), bool (*)(double, double),
@@ -56,16 +56,16 @@ private:
     };
     constexpr explicit Operator(const Row &row) : row_(&row) {}
 
-    const Row *row_; ///< Of the one table.
+    const Row *row_; ///< A row of the static table in all().
 };
 
-/// An operator that links two booleans.
+/// A logical operator on two booleans.
 class LogicOperator {
 public:
     static const LogicOperator disjunction; ///< ||
     static const LogicOperator conjunction; ///< &&
 
-    /// In the declared order: || &&
+    /// Returns all operators in the declared order: || &&
     [[nodiscard]] static std::span<const LogicOperator> all() noexcept;
 
     [[nodiscard]] constexpr std::string_view description() const noexcept { return isAnd_ ? "&&" : "||"; }

@@ -12,7 +12,7 @@
 
 namespace velmar {
 
-/// A name together with its hash, for whoever looks the same one up again and again. It refers to the text.
+/// A variable's name with its hash, for repeated lookups of the same name. Doesn't own the text.
 struct HashedVariableName {
     std::string_view name;
     std::size_t hash;
@@ -20,11 +20,11 @@ struct HashedVariableName {
     explicit HashedVariableName(std::string_view text);
 };
 
-/// Names of variables are equal by canonical equivalence, like all texts that people write. Both functions
-/// are transparent: looking up by std::string_view allocates nothing for a name in ASCII.
+/// Hash of a variable's name. Names are equal by canonical equivalence. Hash and equality are transparent: a
+/// lookup by std::string_view doesn't allocate for ASCII names.
 struct VariableNameHash {
     using is_transparent = void;
-    using is_avalanching = void; ///< The map need not mix the hash again.
+    using is_avalanching = void; ///< The map doesn't need to mix the hash again.
     [[nodiscard]] std::size_t operator()(std::string_view name) const;
     [[nodiscard]] std::size_t operator()(const HashedVariableName &name) const noexcept { return name.hash; }
 };
@@ -39,7 +39,7 @@ struct VariableNameEqual {
     }
 
 private:
-    // Names are short, so that two overlapping words cost less than a call.
+    // Faster than memcmp for short names: compares two overlapping words.
     static bool isSame(std::string_view left, std::string_view right) noexcept {
         const std::size_t size = left.size();
         if (size != right.size())
@@ -50,7 +50,7 @@ private:
             return areWords<std::uint64_t>(left, right);
         return left == right;
     }
-    // Compares the first and the last word of two texts of one size, of one to two words.
+    // Compares the first and the last word of two texts of equal size, between one and two words long.
     template <class Word>
     static bool areWords(std::string_view left, std::string_view right) noexcept {
         const auto word = [](const char *at) {
@@ -65,23 +65,21 @@ private:
     static bool isEquivalent(std::string_view left, std::string_view right);
 };
 
-/// Variables with their values. A value's address holds until the map is changed.
+/// Variables and their values. Changing the map invalidates the addresses of values.
 using Variables = boost::unordered_flat_map<std::string, std::string, VariableNameHash, VariableNameEqual>;
 
 using VariableNames = std::set<std::string, std::less<>>;
 
-/// Where an evaluation looks for the values of variables. It owns nothing and lives as long as the call that
-/// it is passed to.
+/// Source of variables for an evaluation. Owns nothing; valid for the duration of the call.
 struct VariableLookup {
     const Variables &variables;
-    /// Values of named conditions ("true" or "false"), which stand before a variable of the same name; may be
-    /// null.
+    /// Values of named conditions ("true" or "false"), which take precedence over variables. May be null.
     const Variables *named = nullptr;
 
     VariableLookup(const Variables &all, const Variables *conditions = nullptr) // NOLINT(*-explicit-*)
         : variables(all), named(conditions) {}
 
-    /// The value of a variable, null if there is none of that name.
+    /// Returns the variable's value, or nullptr if there is none.
     [[nodiscard]] const std::string *find(std::string_view name) const { return found(name); }
     [[nodiscard]] const std::string *find(const HashedVariableName &name) const { return found(name); }
 
