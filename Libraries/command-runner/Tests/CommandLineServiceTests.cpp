@@ -26,14 +26,14 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using Strings = std::vector<std::string>;
 
-// What an operation, called with its arguments and a completion, completes with.
+// Starts an operation and returns the future of its result.
 std::future<Result<std::string>> start(const auto &operation, auto... arguments) {
     const auto promise = std::make_shared<std::promise<Result<std::string>>>();
     operation(arguments..., [promise](Result<std::string> result) { promise->set_value(std::move(result)); });
     return promise->get_future();
 }
 
-// The text, or "!" and that of the error.
+// Returns the text, or "!" and the message of the error.
 std::string outcomeOf(std::future<Result<std::string>> future) {
     if (future.wait_for(60s) != std::future_status::ready)
         throw std::runtime_error("no completion");
@@ -58,7 +58,7 @@ TEST(CommandLineService, RawCommandsGiveWhatTheyPrint) {
         {"\xE3\x80\x80 echo\xC2\xA0schön\n", "schön"},
         {"true", ""},
         {"sh -c 'echo kept; kill -9 $$'", "kept"},
-        {"cat", ""}, // has nothing to read
+        {"cat", ""}, // has no input
         {R"(echo --x="a b" c)", "c"},
         {R"(echo one "two 'three don't)", "one three dont"},
         {R"(yes | head -n 1)", "y"},
@@ -80,7 +80,7 @@ TEST(CommandLineService, TellsWhatItLeavesOutAndCutsOffInTheLog) {
     EXPECT_EQ(outcomeOf(start(executeRaw, std::string(R"(echo --x="a b" c "d)"))), "c");
     EXPECT_THAT(log.lines(), ElementsAre(R"(warning: The command `echo --x="a b" c "d` is executed without )"
                                          R"(`--x="a b"` and `"d`: quotes enclose whole words)"));
-    // 64 MiB is no multiple of the character's three bytes.
+    // 64 MiB is not a multiple of the character's three bytes.
     const std::string endless = "yes € | tr -d '\\n' | head -c 70000001";
     const std::string text = outcomeOf(start(execute, std::string("/bin/sh"), Strings{"-c", endless}));
     EXPECT_EQ(text.size(), CommandLineService::maximumOutput - 1);
@@ -115,7 +115,7 @@ TEST(CommandLineService, TellsWhyALaunchFailed) {
                     ElementsAre(fmt::format("error: Error while executing the process `{} {}`. {}", command,
                                             argument, sentence)));
     }
-    // Not even the first one is started.
+    // No process is started, not even the first.
     const std::string mark = directory.path("mark");
     for (const std::string &second : {plain, std::string("no-such-command")})
         EXPECT_THAT(outcomeOf(start(executeRaw, fmt::format("touch {} | {}", mark, second))),
@@ -155,7 +155,7 @@ TEST(CommandLineService, PassesArgumentsAsTheyAre) {
             EXPECT_EQ(outcomeOf(start(CommandLineService::executeScript, script, arguments)),
                       R"([a b][][|]["q"][$HOME][A=1])");
     }
-    // Not the one of the search path.
+    // The search path is not used.
     EXPECT_THAT(outcomeOf(start(CommandLineService::executeScript, std::string("ls"), Strings{})),
                 HasSubstr("No such file"));
 }
@@ -167,7 +167,7 @@ TEST(CommandLineService, ManyAtOnceLeaveNoChildBehind) {
             start(executeRaw, std::string(number % 3 == 0 ? "yes | /nonexistent" : "yes | cat | head -c 2"));
     for (std::size_t number = 0; number < results.size(); ++number)
         EXPECT_EQ(outcomeOf(std::move(results[number])).front(), number % 3 == 0 ? '!' : 'y');
-    // The others of a chain end and are reaped soon after the last.
+    // The other processes of a chain may end after the last one.
     siginfo_t child{};
     const auto hasChildren = [&] { return waitid(P_ALL, 0, &child, WEXITED | WNOHANG | WNOWAIT) == 0; };
     const auto deadline = std::chrono::steady_clock::now() + 30s;

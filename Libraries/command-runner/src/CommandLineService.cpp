@@ -24,7 +24,7 @@ namespace velmar::CommandLineService {
 
 namespace {
 
-// More than any path.
+// Longer than any path.
 constexpr std::size_t maximumPath = 64 * 1024;
 
 bool endsWithCharacter(std::string_view bytes) {
@@ -35,7 +35,7 @@ bool endsWithCharacter(std::string_view bytes) {
     return false;
 }
 
-// The text of an output, or NilString.
+// Returns the trimmed text of an output, or NilString.
 Result<std::string> textOf(ProcessOutput output, const Process &process) {
     std::string_view bytes = output.bytes;
     if (output.isCut) {
@@ -43,7 +43,7 @@ Result<std::string> textOf(ProcessOutput output, const Process &process) {
             return fmt::format("The output of the process `{}` was cut at {} MiB", process.description(),
                                bytes.size() >> 20);
         });
-        // The cut may go through a character, of four bytes at most.
+        // The cut may split a character of up to four bytes.
         for (int count = 0; count < 3 && !endsWithCharacter(bytes); ++count)
             bytes.remove_suffix(1);
     }
@@ -56,13 +56,13 @@ Result<std::string> textOf(ProcessOutput output, const Process &process) {
     return std::move(output.bytes);
 }
 
-// Whatever else went wrong, with what is being thrown.
+// Converts the current exception to an Unexpected error.
 CompletionError unexpectedError() {
     return CompletionError::Unexpected{std::string(velmar::textOf(std::current_exception()))};
 }
 
-// The processes of one call, from the look-up of their names to the completion. It lives in the functions
-// that wait for its next step.
+// The processes of one call, from looking up their names to the completion. Kept alive by the callbacks of
+// its next step.
 class Execution : public std::enable_shared_from_this<Execution> {
 public:
     enum class Kind { attached, detached };
@@ -78,7 +78,7 @@ public:
         attempt(processes_.front(), [&] { proceedFrom(0); });
     }
 
-    // Takes a step for a process; false if it threw, with which the execution has then ended.
+    // Runs a step for a process. Returns false if it threw, which ends the execution.
     template <class Step>
     bool attempt(const Process &process, const Step &step) {
         try {
@@ -87,7 +87,7 @@ public:
         } catch (const ProcessError &error) {
             fail(process, error);
         } catch (...) {
-            // What the completion throws is the queue's to report.
+            // The queue reports exceptions of the completion.
             if (isComplete_)
                 throw;
             fail(process, unexpectedError());
@@ -96,7 +96,7 @@ public:
     }
 
 private:
-    // Looks up the bare names from this process on, one after the other, then launches.
+    // Looks up bare names from `index` on, one after the other, then launches the processes.
     void proceedFrom(std::size_t index) {
         while (index < processes_.size() && processes_[index].executablePath.find('/') != std::string::npos)
             ++index;
@@ -125,7 +125,7 @@ private:
             return;
         }
         process.executablePath = output.bytes.substr(start, last + 1 - start);
-        // Where the search path names the current directory.
+        // PATH may contain the current directory.
         if (process.executablePath.find('/') == std::string::npos)
             process.executablePath.insert(0, "./");
         proceedFrom(index + 1);
@@ -195,7 +195,7 @@ Result<RawCommand> parsed(std::string_view text) {
 
 Process throughEnv(const Process &script) {
     Process env{"/usr/bin/env", {}};
-    // It takes a path with "=" for a variable to be set.
+    // env would treat a path with "=" as a variable assignment.
     if (script.executablePath.find('=') != std::string::npos)
         env.arguments = {"/bin/sh", "-c", R"(exec "$0" "$@")"};
     env.arguments.push_back(script.executablePath);
@@ -205,7 +205,8 @@ Process throughEnv(const Process &script) {
 
 } // namespace
 
-// All on the pool: a caller neither waits for a launch nor is called back before its call has returned.
+// All work runs on the pool: the caller doesn't wait for a launch, and no completion precedes the return of
+// the call.
 
 void execute(std::string rawCommand, Completion completion) {
     DispatchQueue::global().async([text = std::move(rawCommand), completion = std::move(completion)] {
@@ -235,7 +236,7 @@ namespace {
 
 void executeScript(std::string path, std::vector<std::string> arguments, Execution::Kind kind,
                    std::function<void()> launched, Completion completion) {
-    // Neither searched for nor an option of the program that runs it.
+    // "./" prevents a search and keeps the path from being read as an option.
     if (!path.starts_with('/'))
         path.insert(0, "./");
     DispatchQueue::global().async([script = Process{std::move(path), std::move(arguments)}, kind,

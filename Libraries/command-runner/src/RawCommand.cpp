@@ -12,7 +12,7 @@ namespace velmar {
 
 namespace {
 
-// Never destroyed, as functions of queues match.
+// Never destroyed: queues may still match at exit.
 const RegularExpression &tokenPattern() {
     static const auto &pattern =
         *new RegularExpression(R"RE((?<=(\s|\A))("[^"]*"|'[^']*'|[^"\s]+)(?=(\s|$)))RE");
@@ -25,7 +25,7 @@ std::string withoutQuotes(std::string_view token) {
     return text;
 }
 
-// Takes a piece apart into words.
+// Splits a piece into words.
 std::vector<std::string> wordsOf(std::string_view piece, std::vector<std::string> &leftOut) {
     std::vector<std::string> words;
     std::size_t end = 0;

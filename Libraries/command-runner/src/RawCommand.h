@@ -8,13 +8,13 @@
 
 namespace velmar {
 
-/// The processes of a raw command; the first word of each is its `executablePath`, even where that is a bare
+/// The processes of a raw command. `executablePath` is the first word of each piece, which may be a bare
 /// name.
 struct RawCommand {
     std::vector<Process> processes;
-    std::vector<std::string> leftOut; ///< What is neither a word nor blank.
+    std::vector<std::string> leftOut; ///< Text that is neither a word nor blank.
 
-    /// Throws CompletionError where a part of the command has no words, RegularExpressionError.
+    /// Parses a raw command. Throws CompletionError if a piece has no words, and RegularExpressionError.
     explicit RawCommand(std::string_view text);
 };
 

@@ -7,35 +7,35 @@
 #include <string>
 #include <vector>
 
-/// Runs programs and gives what they print on their standard output, as text without the white space around
-/// it. Whether a program succeeds makes no difference: what it printed is the result. Programs read nothing,
-/// share the standard error of this process, and live on if it ends first. Any thread; returns at once.
+/// Runs programs and returns their standard output as text, without surrounding white space. Exit statuses
+/// are ignored. Programs have no input, share this process's standard error and keep running if this process
+/// ends first. Thread-safe. The functions return at once.
 namespace velmar::CommandLineService {
 
-/// Is called once, on a thread of the pool; not if DispatchQueue::shutdown comes before the program's end.
-/// Fails with CompletionError, ProcessError (a launch) or, for a raw command that is too much for the
-/// pattern of its words, RegularExpressionError. May be empty.
+/// Called once, on a pool thread, unless DispatchQueue::shutdown comes before the program's end. Errors are
+/// CompletionError, ProcessError for a failed launch, and RegularExpressionError for a raw command that
+/// exceeds the limits of the word pattern. May be empty.
 using Completion = std::function<void(Result<std::string>)>;
 
-/// Of what a program prints the rest is dropped, with a warning in the log.
+/// Maximum output in bytes. The rest is dropped with a warning in the log.
 inline constexpr std::size_t maximumOutput = std::size_t{64} << 20;
 
-/// Runs a line of programs with arguments: "|" leads the output of one into the next. A word stands between
-/// blanks, and one with blanks in it between quotes (" or '), too. This is no shell: quotes don't protect a
-/// "|", there are no variables, patterns or redirections, and what is quoted in part or not to its end is
-/// left out, with a warning in the log. Nothing is started unless every program is there.
+/// Runs a pipeline of programs, separated by "|". Words are separated by blanks; quotes (" or ') enclose
+/// words with blanks. This is not a shell: quotes don't protect a "|", and there are no variables, patterns
+/// or redirections. Partly quoted words and text after an open quote are omitted, with a warning in the log.
+/// No program is started unless all exist.
 void execute(std::string rawCommand, Completion completion = nullptr);
 
-/// Runs one program, each argument as it is. A command without a slash is looked up in the search path.
+/// Runs one program with these arguments. A command without a slash is looked up in PATH.
 void execute(std::string command, std::vector<std::string> arguments, Completion completion);
 
-/// Runs a script, which says itself by what it is to be run. The path is never searched for.
+/// Runs a script through the interpreter of its `#!` line. PATH is not searched.
 void executeScript(std::string path, std::vector<std::string> arguments, Completion completion);
 
-/// The same for a script that may outlive this process: whoever reads its output may be gone, which it
-/// doesn't notice. It is over when it has itself ended, whatever it leaves running. Its output may have
-/// `maximumOutput` bytes and no more. `launched` is called on a thread of the pool when its process is there
-/// and needs this one no more; not if it can't be launched.
+/// Runs a script that may outlive this process. Its output goes to a file of at most `maximumOutput` bytes,
+/// so it is not affected if this process ends. The execution ends with the script itself, even if its
+/// children still run. `launched` is called on a pool thread once the script no longer depends on this
+/// process; it is not called if the launch fails.
 void executeDetachedScript(std::string path, std::vector<std::string> arguments,
                            std::function<void()> launched, Completion completion);
 

@@ -7,23 +7,23 @@
 namespace velmar {
 
 struct CompletionFailure {
-    /// The raw command, or the part of it before, between or behind its "|", names no program.
+    /// The raw command, or a part of it between "|", contains no words.
     struct NoProcessesBuiltFromRawCommand {
-        std::string command; ///< The raw command, whole.
+        std::string command; ///< The whole raw command.
         [[nodiscard]] std::string errorDescription() const;
     };
-    /// What the program printed is not UTF-8.
+    /// The output is not UTF-8.
     struct NilString {
         [[nodiscard]] std::string errorDescription() const;
     };
-    /// Something that nobody counts on, such as a want of memory.
+    /// An unexpected failure, such as out of memory.
     struct Unexpected {
         std::string reason;
         [[nodiscard]] std::string errorDescription() const;
     };
 };
 
-/// Why a command has no text as its result, apart from a launch that failed.
+/// A command without a result, for any reason except a failed launch.
 class CompletionError final
     : public ErrorOfCases<CompletionFailure::NoProcessesBuiltFromRawCommand, CompletionFailure::NilString,
                           CompletionFailure::Unexpected>,
