@@ -1,8 +1,10 @@
 #include <Desktop/QtMainQueue.h>
 #include <Desktop/QtTimerScheduler.h>
+#include <Dispatch/DispatchQueue.h>
 #include <Dispatch/UncaughtHandler.h>
 #include <Support/QtTest.h>
 
+#include <QCoreApplication>
 #include <QEventLoop>
 
 #include <stdexcept>
@@ -82,28 +84,51 @@ TEST_F(MainQueue, WakesTheLoopOfAFunctionForWhatWaitedBehindIt) {
     QCoreApplication::processEvents();
 }
 
-TEST_F(MainQueue, TimersFireFireByHandAndMayEndThemselves) {
+TEST_F(MainQueue, TimersTickFireAndMayEndThemselves) {
+    QtMainQueue queue;
     QtTimerScheduler scheduler;
     QEventLoop loop;
     int repeated = 0;
     std::unique_ptr<Timer> timer;
-    timer = scheduler.repeating(1ms, [&] {
+    timer = scheduler.repeating(queue, 1ms, [&] {
         if (++repeated == 3) {
             timer.reset();
             loop.quit();
         }
     });
     timer->fire();
-    EXPECT_EQ(repeated, 1);
+    EXPECT_EQ(repeated, 0) << "posted, as at a tick";
     loop.exec();
     EXPECT_EQ(repeated, 3);
 
-    const auto failing = scheduler.once(1ms, [&] {
+    const auto failing = scheduler.once(queue, 1ms, [&] {
         loop.quit();
         throw std::runtime_error("late");
     });
     loop.exec();
     EXPECT_EQ(uncaught, std::vector<std::string>{"late"});
+}
+
+TEST_F(MainQueue, TimersOfAnotherQueueAreMadeAndDestroyedThere) {
+    QtMainQueue mainQueue;
+    QtTimerScheduler scheduler;
+    QEventLoop loop;
+    const DispatchQueue queue("timers");
+    int repeated = 0; // The queue's.
+    std::unique_ptr<Timer> timer;
+    queue.async([&] {
+        timer = scheduler.repeating(queue, 1ms, [&] {
+            EXPECT_FALSE(mainQueue.isCurrent());
+            if (++repeated == 3) {
+                timer.reset();
+                mainQueue.async([&] { loop.quit(); });
+            }
+        });
+    });
+    loop.exec();
+    ASSERT_TRUE(queue.waitUntilIdle(30s));
+    EXPECT_EQ(repeated, 3);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 } // namespace

@@ -1,43 +1,53 @@
 #include <Desktop/QtTimerScheduler.h>
 
-#include <Dispatch/UncaughtHandler.h>
-
+#include <QCoreApplication>
+#include <QThread>
 #include <QTimer>
+
+#include <utility>
 
 namespace velmar {
 
 namespace {
 
+/// Destroys an object of the main thread from any thread.
+struct DeleteOnItsThread {
+    void operator()(QObject *object) const {
+        if (object->thread() == QThread::currentThread()) {
+            delete object;
+        } else {
+            object->deleteLater();
+        }
+    }
+};
+
 class LoopTimer final : public Timer {
 public:
-    LoopTimer(std::chrono::milliseconds interval, bool isSingleShot, std::function<void()> function)
-        : run_([function = std::move(function)] { runReportingUncaught("Timer", function); }) {
-        timer_.setSingleShot(isSingleShot);
-        // Captures a copy, because the function may destroy the timer.
-        QObject::connect(&timer_, &QTimer::timeout, &timer_, [run = run_] { run(); });
-        timer_.start(interval);
+    LoopTimer(TimerFunction function, std::chrono::milliseconds delay, bool isSingleShot)
+        : function_(std::move(function)), clock_(new QTimer) {
+        clock_->setSingleShot(isSingleShot);
+        QObject::connect(clock_.get(), &QTimer::timeout, clock_.get(),
+                         [tick = function_] { static_cast<void>(tick.postTick()); });
+        clock_->moveToThread(QCoreApplication::instance()->thread());
+        // At once on the main thread, posted from any other.
+        QMetaObject::invokeMethod(clock_.get(), [clock = clock_.get(), delay] { clock->start(delay); });
     }
+    ~LoopTimer() override { function_.cancel(); }
+    LoopTimer(const LoopTimer &) = delete;
+    LoopTimer &operator=(const LoopTimer &) = delete;
 
-    void fire() override {
-        const auto run = run_;
-        run();
-    }
+    void fire() override { function_.post(); }
 
 private:
-    std::function<void()> run_;
-    QTimer timer_;
+    TimerFunction function_;
+    std::unique_ptr<QTimer, DeleteOnItsThread> clock_;
 };
 
 } // namespace
 
-std::unique_ptr<Timer> QtTimerScheduler::repeating(std::chrono::milliseconds interval,
-                                                   std::function<void()> function) {
-    return std::make_unique<LoopTimer>(interval, false, std::move(function));
-}
-
-std::unique_ptr<Timer> QtTimerScheduler::once(std::chrono::milliseconds delay,
-                                              std::function<void()> function) {
-    return std::make_unique<LoopTimer>(delay, true, std::move(function));
+std::unique_ptr<Timer> QtTimerScheduler::start(TimerFunction function, std::chrono::milliseconds delay,
+                                               std::chrono::milliseconds interval) {
+    return std::make_unique<LoopTimer>(std::move(function), delay, interval.count() == 0);
 }
 
 } // namespace velmar

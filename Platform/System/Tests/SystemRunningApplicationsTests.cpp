@@ -9,8 +9,6 @@
 #include <atomic>
 #include <filesystem>
 #include <string>
-#include <thread>
-#include <tuple>
 #include <vector>
 
 #include <csignal>
@@ -52,21 +50,19 @@ TEST(SystemRunningApplications, TellAProcessOfThisMachine) {
     char *arguments[] = {name, time, nullptr};
     pid_t process = 0, later = 0;
     ASSERT_EQ(posix_spawn(&process, program.c_str(), nullptr, nullptr, arguments, environ), 0);
-    // Each tick starts a look unless the previous one is still running.
+    // Each turn of the clock is a look.
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
     while (started.empty() && std::chrono::steady_clock::now() < deadline) {
         timers.advance(SystemRunningApplications::interval);
-        std::ignore = mainQueue.runUntil([&] { return !started.empty(); }, std::chrono::milliseconds(5));
+        mainQueue.runUntilEmpty();
     }
     EXPECT_EQ(started, (std::vector<RunningApplication>{{"velmar-test-program", process}}));
 
-    // Ends the observation while a start is being delivered and a look is running.
+    // A start that is on its way to the observer.
     ASSERT_EQ(posix_spawn(&later, program.c_str(), nullptr, nullptr, arguments, environ), 0);
     for (mainQueue.posts = 0; mainQueue.posts == 0 && std::chrono::steady_clock::now() < deadline;) {
         timers.advance(SystemRunningApplications::interval);
-        std::this_thread::yield();
     }
-    timers.advance(SystemRunningApplications::interval);
     observation.reset();
     EXPECT_EQ(timers.runningTimers(), 0U);
     mainQueue.runs = 0;

@@ -2,7 +2,6 @@
 
 #include <Dispatch/DispatchQueue.h>
 
-#include <atomic>
 #include <mutex>
 #include <utility>
 
@@ -21,8 +20,7 @@ struct Watched {
     MainQueue *mainQueue; // Guarded by mutex; null once the observation has ended.
     // Main thread only; null once the observation has ended.
     std::shared_ptr<const RunningApplications::Observer> observer;
-    ProcessWatch watch; // Queue only, once the observation has begun.
-    std::atomic<bool> isLooking = false;
+    ProcessWatch watch; // The queue's, once the observation has begun.
 };
 
 void tell(const std::shared_ptr<Watched> &watched, const std::vector<RunningApplication> &started) {
@@ -34,10 +32,6 @@ void tell(const std::shared_ptr<Watched> &watched, const std::vector<RunningAppl
 }
 
 void look(const std::shared_ptr<Watched> &watched) {
-    struct LookEnd {
-        std::atomic<bool> &isLooking;
-        ~LookEnd() { isLooking = false; }
-    } const end{watched->isLooking};
     auto started = watched->watch.look();
     const std::lock_guard lock(watched->mutex);
     if (watched->mainQueue != nullptr && !started.empty())
@@ -50,11 +44,7 @@ class SystemRunningApplications::Watching final : public Observation {
 public:
     Watching(MainQueue &mainQueue, TimerScheduler &timers, Observer observer, ProcessWatch::Places places)
         : watched_(std::make_shared<Watched>(mainQueue, std::move(observer), std::move(places))),
-          timer_(timers.repeating(interval, [watched = watched_, queue = queue_] {
-              // Skips a tick while the previous look is still running.
-              if (!watched->isLooking.exchange(true))
-                  queue.async([watched] { look(watched); });
-          })) {}
+          timer_(timers.repeating(queue_, interval, [watched = watched_] { look(watched); })) {}
 
     ~Watching() override {
         watched_->observer = nullptr;

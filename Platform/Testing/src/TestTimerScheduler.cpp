@@ -1,50 +1,56 @@
 #include <Testing/TestTimerScheduler.h>
 
 #include <algorithm>
+#include <future>
 #include <utility>
 
 namespace velmar {
 
+namespace {
+
+void runOnItsQueue(const TimerFunction &function) {
+    if (function.queue().isCurrent()) {
+        function.run();
+        return;
+    }
+    // Ready, too, if the queue drops the function and the promise with it.
+    auto end = std::make_shared<std::promise<void>>();
+    const auto hasEnded = end->get_future();
+    function.queue().async([function, end = std::move(end)] {
+        function.run();
+        end->set_value();
+    });
+    hasEnded.wait();
+}
+
+} // namespace
+
 struct TestTimerScheduler::Entry {
+    TimerFunction function;
     std::chrono::milliseconds due;
-    std::chrono::milliseconds interval; // 0 for a single shot
-    std::function<void()> function;
+    std::chrono::milliseconds interval; // 0 for one that ticks once.
     bool isRunning = true;
 };
 
 class TestTimerScheduler::TestTimer final : public Timer {
 public:
     explicit TestTimer(std::shared_ptr<Entry> entry) : entry_(std::move(entry)) {}
-    ~TestTimer() override { entry_->isRunning = false; }
+    ~TestTimer() override {
+        entry_->isRunning = false;
+        entry_->function.cancel();
+    }
     TestTimer(const TestTimer &) = delete;
     TestTimer &operator=(const TestTimer &) = delete;
 
-    void fire() override {
-        // The function may destroy its own timer.
-        const auto entry = entry_;
-        entry->function();
-    }
+    void fire() override { entry_->function.post(); }
 
 private:
     std::shared_ptr<Entry> entry_;
 };
 
-std::unique_ptr<Timer> TestTimerScheduler::repeating(std::chrono::milliseconds interval,
-                                                     std::function<void()> function) {
-    // An interval of zero would keep the clock from advancing.
-    const auto pause = std::max(interval, std::chrono::milliseconds(1));
-    return add(pause, pause, std::move(function));
-}
-
-std::unique_ptr<Timer> TestTimerScheduler::once(std::chrono::milliseconds delay,
-                                                std::function<void()> function) {
-    return add(delay, std::chrono::milliseconds(0), std::move(function));
-}
-
-std::unique_ptr<Timer> TestTimerScheduler::add(std::chrono::milliseconds delay,
-                                               std::chrono::milliseconds interval,
-                                               std::function<void()> function) {
-    auto entry = std::make_shared<Entry>(Entry{now_ + delay, interval, std::move(function), true});
+std::unique_ptr<Timer> TestTimerScheduler::start(TimerFunction function, std::chrono::milliseconds delay,
+                                                 std::chrono::milliseconds interval) {
+    auto entry = std::make_shared<Entry>(Entry{std::move(function), now_ + delay, interval, true});
     entries_.push_back(entry);
     return std::make_unique<TestTimer>(std::move(entry));
 }
@@ -53,11 +59,12 @@ void TestTimerScheduler::advance(std::chrono::milliseconds time) {
     const auto end = now_ + time;
     while (const auto entry = nextDue(end)) {
         now_ = std::max(now_, entry->due);
-        if (entry->interval.count() > 0)
+        if (entry->interval.count() > 0) {
             entry->due += entry->interval;
-        else
+        } else {
             entry->isRunning = false;
-        entry->function();
+        }
+        runOnItsQueue(entry->function);
     }
     now_ = end;
 }

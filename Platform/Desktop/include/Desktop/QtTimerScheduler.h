@@ -2,19 +2,16 @@
 
 #include <Dispatch/Timer.h>
 
-#include <functional>
+#include <chrono>
 #include <memory>
 
 namespace velmar {
 
-/// Timers on the main thread's event loop. Exceptions of a timer's function are reported as uncaught. A
-/// function may destroy its own timer.
+/// Timers on the event loop of the main thread, which also wakes those of dispatch queues. The application
+/// must outlive the timers.
 class QtTimerScheduler final : public TimerScheduler {
-public:
-    [[nodiscard]] std::unique_ptr<Timer> repeating(std::chrono::milliseconds interval,
-                                                   std::function<void()> function) override;
-    [[nodiscard]] std::unique_ptr<Timer> once(std::chrono::milliseconds delay,
-                                              std::function<void()> function) override;
+    [[nodiscard]] std::unique_ptr<Timer> start(TimerFunction function, std::chrono::milliseconds delay,
+                                               std::chrono::milliseconds interval) override;
 };
 
 } // namespace velmar
