@@ -1,85 +1,21 @@
-#include "ViewTest.h"
-#include <Support/AppManagerFixture.h>
+#include "VelmarView.h"
 
 #include <Base/NavigationNotifications.h>
-#include <Views/Content/ContentView/ContentViewController.h>
 #include <Views/Content/Slides/SlideViewController.h>
 #include <Views/Navigation/NavigationButton.h>
-#include <Views/Navigation/NavigationViewController.h>
-#include <Views/VelmarViewController.h>
 
 #include <Termination/TerminationNotifications.h>
-#include <Testing/TestAlertPresenter.h>
 
 #include <QAccessible>
 #include <QKeyEvent>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QVBoxLayout>
 
 #include <string>
 #include <vector>
 
 namespace velmar {
 namespace {
-
-class QuitAttempts final : public AppTerminationManagerProtocol {
-public:
-    void tryToQuitApplication() override { ++count; }
-    int count = 0;
-};
-
-/// The whole of the views, of a configuration whose slides are one that scrolls and two that don't.
-class VelmarView : public ViewTest<AppManagerFixture> {
-protected:
-    VelmarView() {
-        std::string lines;
-        for (int index = 0; index < 60; ++index) {
-            lines += textComponent(fmt::format("Line {}", index));
-        }
-        write("Simple", slideOf(lines) + slideOf(textComponent("Second")) + slideOf(textComponent("Third")));
-        shared_ = std::make_unique<AppManager::Scope>(makeAppManager());
-        view = std::make_unique<VelmarViewController>(
-            VelmarViewController::Surroundings{
-                queue, quits, appearance(), alerts,
-                [](bool byResetingVariables) { AppManager::shared()->reloadInterface(byResetingVariables); },
-                center},
-            &window);
-        (new QVBoxLayout(&window))->addWidget(view.get());
-        content = view->findChild<ContentViewController *>();
-        bar = view->findChild<NavigationViewController *>();
-        window.resize(600, 400);
-        window.show();
-        window.activateWindow();
-        settle();
-    }
-
-    void write(std::string_view mode, const std::string &slides) {
-        writeConfiguration(fmt::format("<key>Window</key><dict><key>OnScreen</key><string>{}</string></dict>"
-                                       "<key>MenuBarSlide</key>{}"
-                                       "<key>Navigation</key><dict><key>InstallationIncompleteQuitText</key>"
-                                       "<string>Not before all is installed</string></dict>",
-                                       mode, slideOf(textComponent("Below the menu bar"))),
-                           0644, slides);
-    }
-
-    void press(int key, bool repeats = false) {
-        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, {}, repeats);
-        QCoreApplication::sendEvent(view.get(), &event);
-        settle();
-    }
-
-    NotificationCenter center;
-    QuitAttempts quits;
-    TestAlertPresenter alerts;
-    QWidget window;
-    std::unique_ptr<VelmarViewController> view;
-    ContentViewController *content = nullptr;
-    NavigationViewController *bar = nullptr;
-
-private:
-    std::unique_ptr<AppManager::Scope> shared_;
-};
 
 TEST_F(VelmarView, TakesTheKeysThatScrollAndLeavesTheOthersAlone) {
     const QScrollBar &scroller = *content->findChild<QScrollArea *>()->verticalScrollBar();
@@ -245,20 +181,6 @@ TEST_F(VelmarView, IsCalledLikeItsSlideByReadersOfTheScreen) {
         EXPECT_EQ(interface->role(), QAccessible::Grouping);
         press(Qt::Key_Right);
     }
-}
-
-TEST_F(VelmarView, TellsWhenTheAnimationOfAnEndIsOver) {
-    std::vector<std::string> reached;
-    std::vector<NotificationObserver> tokens;
-    for (const auto name :
-         {NavigationNotifications::didReachFirstSlide, NavigationNotifications::didReachLastSlide}) {
-        tokens.push_back(center.addObserver(std::string(name), [&, name] { reached.emplace_back(name); }));
-    }
-    for (const int key : {Qt::Key_Right, Qt::Key_Right, Qt::Key_Left, Qt::Key_Left}) {
-        press(key);
-    }
-    EXPECT_EQ(reached,
-              (std::vector<std::string>{"didReachLastSlideNotification", "didReachFirstSlideNotification"}));
 }
 
 TEST_F(VelmarView, KeepsTheButtonsAsTheLatestArrivalLeftThemAndTakesNoPressOfOneThatIsGoing) {
