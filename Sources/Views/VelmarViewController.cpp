@@ -124,9 +124,8 @@ void VelmarViewController::buildSideContainer() {
 
 void VelmarViewController::buildNavigation() {
     delete navigationViewController_;
-    navigationViewController_ = new NavigationViewController(
-        *_navigation.wrappedValue(),
-        {surroundings_.mainQueue, surroundings_.center, surroundings_.appearance}, this);
+    navigationViewController_ = new NavigationViewController(*_navigation.wrappedValue(), contentViewModel_,
+                                                             surroundings_.appearance, this);
     column_->addWidget(navigationViewController_);
 }
 

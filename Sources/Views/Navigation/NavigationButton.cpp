@@ -46,11 +46,11 @@ void NavigationButton::setConcealed(bool isConcealed) {
 }
 
 void NavigationButton::setConcealed(bool isConcealed, int milliseconds) {
-    if (isConcealed == isConcealed_) {
-        return;
-    }
     if (milliseconds == 0) {
         setConcealed(isConcealed);
+        return;
+    }
+    if (isConcealed == isConcealed_) {
         return;
     }
     isConcealed_ = isConcealed;

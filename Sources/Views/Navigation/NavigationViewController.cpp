@@ -1,8 +1,8 @@
 #include <Views/Navigation/NavigationViewController.h>
 
-#include <Base/NavigationNotifications.h>
 #include <Desktop/DesktopAppearance.h>
 #include <Views/Appearance/Color.h>
+#include <Views/Content/ContentView/ContentViewModel.h>
 #include <Views/CustomViews/Colors.h>
 #include <Views/CustomViews/Theme.h>
 #include <Views/Navigation/NavigationButton.h>
@@ -10,10 +10,10 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
-#include <QPointer>
 #include <QTimer>
 
 #include <string>
+#include <utility>
 
 namespace velmar {
 
@@ -29,9 +29,11 @@ QString label(const std::optional<std::string> &configured, const QString &stand
 } // namespace
 
 NavigationViewController::NavigationViewController(const NavigationSection &section,
-                                                   Surroundings surroundings, QWidget *parent)
+                                                   std::shared_ptr<const ContentViewModel> content,
+                                                   const DesktopAppearance &appearance, QWidget *parent)
     : QWidget(parent),
-      surroundings_(surroundings),
+      center_(content->center()),
+      appearance_(appearance),
       section_(section),
       //% "Previous"
       previousLabel_(label(section._previousButtonText(), qtTrId("navigation.buttons.previous"))),
@@ -41,13 +43,12 @@ NavigationViewController::NavigationViewController(const NavigationSection &sect
       quitLabel_(label(section._quitButtonText(), qtTrId("navigation.buttons.quit"))),
       previousButton_(new NavigationButton(false, this)),
       nextButton_(new NavigationButton(true, this)),
-      viewModel_(*this, surroundings.center) {
+      viewModel_(*this, std::move(content)) {
     setFixedHeight(width);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::AlternateBase);
     previousButton_->setLabel(previousLabel_);
-    nextButton_->setLabel(nextLabel_);
-    previousButton_->setConcealed(true);
+    apply(viewModel_.state(), 0);
     auto *layout = new QHBoxLayout(this);
     const int side = padding - Theme::focusRingRoom;
     layout->setContentsMargins(side, 0, side, 0);
@@ -73,90 +74,53 @@ void NavigationViewController::pressPrevious() {
 }
 
 void NavigationViewController::nextPressed() {
-    if (nextButton_->isConcealed()) {
-        return;
+    if (!nextButton_->isConcealed()) {
+        navigate(NavigationNotifications::willNavigateToNextSlide,
+                 viewModel_.state().nextButtonMoves() ? previousButton_ : nullptr);
     }
-    if (viewModel_.isCurrentSlideValid() && !isSoleSlideReached_ && !isLastSlideReached_) {
-        previousButton_->setConcealed(false);
-    }
-    viewModel_.clearHideFlags();
-    surroundings_.center.post(NavigationNotifications::willNavigateToNextSlide);
-    hideWhatTheSlideWantsHidden();
 }
 
 void NavigationViewController::previousPressed() {
-    if (previousButton_->isConcealed()) {
-        return;
+    if (!previousButton_->isConcealed()) {
+        navigate(NavigationNotifications::willNavigateToPreviousSlide,
+                 viewModel_.state().isSlideValid ? nextButton_ : nullptr);
     }
-    if (viewModel_.isCurrentSlideValid()) {
-        nextButton_->setConcealed(false);
-    }
-    nextButton_->setLabel(nextLabel_);
-    isLastSlideReached_ = false;
-    viewModel_.clearHideFlags();
-    surroundings_.center.post(NavigationNotifications::willNavigateToPreviousSlide);
-    hideWhatTheSlideWantsHidden();
 }
 
-void NavigationViewController::hideWhatTheSlideWantsHidden() {
-    if (viewModel_.currentSlideHideNextButton()) {
+void NavigationViewController::navigate(std::string_view notification, NavigationButton *revealed) {
+    if (revealed != nullptr) {
+        revealed->setConcealed(false);
+    }
+    viewModel_.clearHideFlags();
+    center_.post(notification);
+    const NavigationState state = viewModel_.state();
+    if (state.slideHidesNextButton) {
         nextButton_->setConcealed(true);
     }
-    if (viewModel_.currentSlideHidePreviousButton()) {
+    if (state.slideHidesPreviousButton) {
         previousButton_->setConcealed(true);
     }
 }
 
-void NavigationViewController::reachedFirstSlide() {
-    isLastSlideReached_ = false; // An action may lead here at once.
-    laterUnlessGoneOn([this] { nextButton_->setLabel(nextLabel_); });
-    previousButton_->setConcealed(true, animationDuration());
-    nextButton_->setConcealed(viewModel_.currentSlideHideNextButton(), animationDuration());
-    postAfterAnimation(NavigationNotifications::didReachFirstSlide);
+void NavigationViewController::reachedSlide(const SlideArrival &arrival) {
+    const bool isFading = !arrival.completion.empty();
+    const int duration = isFading ? animationDuration() : 0;
+    apply(viewModel_.state(), duration);
+    if (isFading) {
+        QTimer::singleShot(duration, this,
+                           [this, completion = arrival.completion] { center_.post(completion); });
+    }
 }
 
-void NavigationViewController::reachedLastSlide() {
-    isLastSlideReached_ = true;
-    laterUnlessGoneOn([this] { nextButton_->setLabel(quitLabel_); });
-    previousButton_->setConcealed(viewModel_.currentSlideHidePreviousButton(), animationDuration());
-    nextButton_->setConcealed(viewModel_.currentSlideHideNextButton(), animationDuration());
-    postAfterAnimation(NavigationNotifications::didReachLastSlide);
-}
-
-void NavigationViewController::reachedSoleSlide() {
-    isSoleSlideReached_ = true;
-    ++arrival_;
-    nextButton_->setConcealed(viewModel_.currentSlideHideNextButton(), animationDuration());
-    nextButton_->setLabel(quitLabel_);
-    postAfterAnimation(NavigationNotifications::didReachSoleSlide);
-}
-
-void NavigationViewController::reevaluateButtons() {
-    isLastSlideReached_ = false;
-    laterUnlessGoneOn([this] {
-        nextButton_->setLabel(nextLabel_);
-        previousButton_->setConcealed(viewModel_.currentSlideHidePreviousButton());
-        nextButton_->setConcealed(viewModel_.currentSlideHideNextButton());
-    });
-}
-
-void NavigationViewController::laterUnlessGoneOn(std::function<void()> function) {
-    surroundings_.mainQueue.async(
-        [bar = QPointer(this), arrival = ++arrival_, function = std::move(function)] {
-            if (bar != nullptr && bar->arrival_ == arrival) {
-                function();
-            }
-        });
+void NavigationViewController::apply(const NavigationState &state, int milliseconds) {
+    nextButton_->setLabel(state.nextButtonQuits() ? quitLabel_ : nextLabel_);
+    nextButton_->setConcealed(state.isNextButtonHidden(), milliseconds);
+    previousButton_->setConcealed(state.isPreviousButtonHidden(), milliseconds);
 }
 
 int NavigationViewController::animationDuration() const {
     // Before the bar is on show there is nothing to watch.
-    return surroundings_.appearance.isAnimated() && isVisible() ? animationMilliseconds : 0;
-}
-
-void NavigationViewController::postAfterAnimation(std::string_view notification) {
-    QTimer::singleShot(animationDuration(), this,
-                       [this, notification] { surroundings_.center.post(notification); });
+    return appearance_.isAnimated() && isVisible() ? animationMilliseconds : 0;
 }
 
 void NavigationViewController::updateTextColors() {

@@ -1,45 +1,39 @@
 #pragma once
 
 #include <Configuration/NavigationSection.h>
-#include <Dispatch/MainQueue.h>
-#include <Foundation/NotificationCenter.h>
 #include <Views/Navigation/NavigationViewModel.h>
 
 #include <QWidget>
+
+#include <memory>
+#include <string_view>
 
 namespace velmar {
 
 class DesktopAppearance;
 class NavigationButton;
 
-/// The bar below the slides with the buttons that lead back and on. Main thread.
+/// Bar below the slides with the buttons Previous and Next. Main thread.
 class NavigationViewController final : public QWidget, public NavigationViewModelDelegate {
     Q_OBJECT
 
 public:
-    /// The thickness of the bar, in points.
+    /// Thickness of the bar, in points.
     static constexpr int width = 64;
 
-    /// What must outlive the bar.
-    struct Surroundings {
-        MainQueue &mainQueue;
-        NotificationCenter &center;
-        const DesktopAppearance &appearance;
-    };
-
-    NavigationViewController(const NavigationSection &section, Surroundings surroundings, QWidget *parent);
+    /// The appearance must outlive the bar.
+    NavigationViewController(const NavigationSection &section,
+                             std::shared_ptr<const ContentViewModel> content,
+                             const DesktopAppearance &appearance, QWidget *parent);
 
     [[nodiscard]] NavigationButton &previousButton() const noexcept { return *previousButton_; }
     [[nodiscard]] NavigationButton &nextButton() const noexcept { return *nextButton_; }
 
-    /// What a click on the button does; nothing while the bar or the button is hidden.
+    /// Does what a click on the button does. Nothing happens while the bar or the button is hidden.
     void pressNext();
     void pressPrevious();
 
-    void reachedFirstSlide() override;
-    void reachedLastSlide() override;
-    void reachedSoleSlide() override;
-    void reevaluateButtons() override;
+    void reachedSlide(const SlideArrival &arrival) override;
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -48,25 +42,22 @@ protected:
 private:
     void nextPressed();
     void previousPressed();
-    void hideWhatTheSlideWantsHidden();
+    /// Posts a press. The button `revealed`, unless nullptr, is shown before the post, and the buttons that
+    /// the slide hides are hidden after it, both without an animation.
+    void navigate(std::string_view notification, NavigationButton *revealed);
+    void apply(const NavigationState &state, int milliseconds);
     void updateTextColors();
-    /// Notes an arrival at a slide, and runs the function on the main queue unless by then there was another
-    /// one or the bar is gone.
-    void laterUnlessGoneOn(std::function<void()> function);
-    /// The length of the bar's animations in milliseconds; 0 where the desktop wants none.
+    /// Duration of the fades in milliseconds. 0 if the desktop disables animations.
     [[nodiscard]] int animationDuration() const;
-    void postAfterAnimation(std::string_view notification);
 
-    Surroundings surroundings_;
+    NotificationCenter &center_;
+    const DesktopAppearance &appearance_;
     NavigationSection section_;
     QString previousLabel_;
     QString nextLabel_;
     QString quitLabel_;
     NavigationButton *previousButton_;
     NavigationButton *nextButton_;
-    bool isSoleSlideReached_ = false;
-    bool isLastSlideReached_ = false;
-    unsigned arrival_ = 0;          // Counts them.
     NavigationViewModel viewModel_; // Last: it calls back.
 };
 

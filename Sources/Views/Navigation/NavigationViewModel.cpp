@@ -1,25 +1,33 @@
 #include <Views/Navigation/NavigationViewModel.h>
 
-#include <Base/NavigationNotifications.h>
+#include <Views/Content/ContentView/ContentViewModel.h>
 
 #include <string>
+#include <utility>
 
 namespace velmar {
 
-NavigationViewModel::NavigationViewModel(NavigationViewModelDelegate &delegate, NotificationCenter &center) {
+NavigationViewModel::NavigationViewModel(NavigationViewModelDelegate &delegate,
+                                         std::shared_ptr<const ContentViewModel> content)
+    : content_(std::move(content)) {
     using namespace NavigationNotifications;
-    const auto observe = [&](std::string_view name, NotificationCenter::Handler handler) {
-        observers_.push_back(center.addObserver(std::string(name), std::move(handler)));
+    const auto observe = [this](std::string_view name, NotificationCenter::Handler handler) {
+        observers_.push_back(content_->center().addObserver(std::string(name), std::move(handler)));
     };
-    observe(slideHasInvalidMandatoryElements, [this] { isCurrentSlideValid_ = false; });
-    observe(allMandatoryElementsInSlideAreValid, [this] { isCurrentSlideValid_ = true; });
     observe(currentSlideWantsToHidePreviousButton, [this] { currentSlideHidePreviousButton_ = true; });
     observe(currentSlideWantsToHideNextButton, [this] { currentSlideHideNextButton_ = true; });
     observe(evaluateButtonsHide, [this] { clearHideFlags(); });
-    observe(willReachFirstSlide, [&delegate] { delegate.reachedFirstSlide(); });
-    observe(willReachLastSlide, [&delegate] { delegate.reachedLastSlide(); });
-    observe(willReachSoleSlide, [&delegate] { delegate.reachedSoleSlide(); });
-    observe(navigateToNthSlide, [&delegate] { delegate.reevaluateButtons(); });
+    for (const SlideArrival &arrival : slideArrivals) {
+        observe(arrival.announcement, [this, &delegate, &arrival] {
+            position_ = arrival.position;
+            delegate.reachedSlide(arrival);
+        });
+    }
+}
+
+NavigationState NavigationViewModel::state() const {
+    return {position_, content_->isCurrentSlideValid(), currentSlideHidePreviousButton_,
+            currentSlideHideNextButton_};
 }
 
 void NavigationViewModel::clearHideFlags() noexcept {

@@ -1,43 +1,43 @@
 #pragma once
 
 #include <Foundation/NotificationCenter.h>
+#include <Views/Navigation/NavigationState.h>
 
+#include <memory>
 #include <vector>
 
 namespace velmar {
 
-/// Who shows the two buttons.
+class ContentViewModel;
+
+/// The view of the two buttons.
 class NavigationViewModelDelegate {
 public:
     virtual ~NavigationViewModelDelegate() = default;
-    virtual void reachedFirstSlide() = 0;
-    virtual void reachedLastSlide() = 0;
-    virtual void reachedSoleSlide() = 0;
-    /// A slide with others on both sides.
-    virtual void reevaluateButtons() = 0;
+
+    /// Called when an arrival is announced. The state of the model is already that of the arrival.
+    virtual void reachedSlide(const SlideArrival &arrival) = 0;
 };
 
-/// What the navigation bar knows of the current slide, from the notifications alone. Main thread.
+/// State of the navigation bar: the position and the hidden buttons as the notifications announce them, and
+/// the validity of the content. Main thread.
 class NavigationViewModel {
 public:
     /// The delegate must outlive the model.
-    explicit NavigationViewModel(NavigationViewModelDelegate &delegate,
-                                 NotificationCenter &center = NotificationCenter::defaultCenter());
+    NavigationViewModel(NavigationViewModelDelegate &delegate,
+                        std::shared_ptr<const ContentViewModel> content);
 
-    [[nodiscard]] bool isCurrentSlideValid() const noexcept { return isCurrentSlideValid_; }
-    [[nodiscard]] bool currentSlideHidePreviousButton() const noexcept {
-        return currentSlideHidePreviousButton_;
-    }
-    [[nodiscard]] bool currentSlideHideNextButton() const noexcept { return currentSlideHideNextButton_; }
+    [[nodiscard]] NavigationState state() const;
 
-    /// Forgets what the current slide wants hidden; the next one says it anew.
+    /// Resets what the current slide hides. The next announcement sets it again.
     void clearHideFlags() noexcept;
 
 private:
-    std::vector<NotificationObserver> observers_;
-    bool isCurrentSlideValid_ = true;
+    std::shared_ptr<const ContentViewModel> content_;
+    SlidePosition position_ = SlidePosition::first;
     bool currentSlideHidePreviousButton_ = false;
     bool currentSlideHideNextButton_ = false;
+    std::vector<NotificationObserver> observers_;
 };
 
 } // namespace velmar

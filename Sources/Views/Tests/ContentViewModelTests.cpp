@@ -185,11 +185,11 @@ TEST_F(ContentModel, HoldsTheUserOnAnInvalidSlideOnlyForward) {
     EXPECT_EQ(element->warnings, 1);
 }
 
-TEST_F(ContentModel, HoldsTheUserOnASlideThatIsStillToBeShown) {
+TEST_F(ContentModel, HoldsTheUserOnASlideThatIsInvalidFromItsArrival) {
     start({slide(), slide(), slide()});
     controller.didTransition = [this] { invalidate(); };
     next();
-    next(); // The second slide turns out not to be right.
+    next();
     EXPECT_EQ(model->selectedSlideIndex(), 1);
     EXPECT_EQ(takeTransitions(), Names{"0>1"});
 }
@@ -276,10 +276,11 @@ TEST_F(ContentModel, PublishesWhichSlideIsCurrentAndWhetherItIsValid) {
 
 TEST_F(ContentModel, MakesNoTransitionOnceItsControllerIsGone) {
     start({slide(), slide()});
-    next();
+    slidesActionManager->navigateToIndex(1);
     model->setController(nullptr);
     EXPECT_EQ(takeTransitions(), Names{});
-    next();
+    EXPECT_EQ(model->selectedSlideIndex(), 1);
+    slidesActionManager->navigateToIndex(0);
     model.reset();
     EXPECT_EQ(takeTransitions(), Names{});
 }

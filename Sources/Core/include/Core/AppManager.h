@@ -80,7 +80,7 @@ public:
 
     private:
         Shared<ConfigurationSlot>::Scope configuration_;
-        AppManager::Scope manager_;
+        Shared<AppManager>::Scope manager_;
     };
 
     /// The process's instance. Throws VelmarError::InternalError outside any Scope.

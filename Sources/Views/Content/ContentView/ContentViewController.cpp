@@ -34,7 +34,6 @@ ContentViewController::~ContentViewController() {
 
 void ContentViewController::rebuild() {
     animation_.stop();
-    viewModel_->cancelTransitions();
     for (const auto &[index, view] : slides_) {
         view->viewWillDisappear();
         delete view;

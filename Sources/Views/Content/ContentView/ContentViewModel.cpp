@@ -2,6 +2,7 @@
 
 #include <Base/NavigationNotifications.h>
 #include <Views/Content/Slides/SlideViewModel.h>
+#include <Views/Navigation/NavigationState.h>
 
 #include <logger/Logger.h>
 
@@ -46,15 +47,19 @@ void ContentViewModel::setSelectedIndex(int index, bool notifyingDelegate) {
     if (count == 0 || index > count) {
         return;
     }
-    makePendingTransition();
-    if (index > _selectedSlideIndex() && !_isCurrentSlideValid()) {
+    const int old = _selectedSlideIndex();
+    const bool isHeldBack = index > old && !_isCurrentSlideValid();
+    if (isHeldBack) {
         showWarningsOfCurrentSlide();
         Logger::warning(
             "Transition to the next slides prevented since the slide contains invalid mandatory elements");
     } else {
-        move(index, notifyingDelegate);
+        _selectedSlideIndex.set(index);
     }
     announcePosition();
+    if (!isHeldBack && notifyingDelegate && controller_ != nullptr) {
+        controller_->transition(old, index);
+    }
 }
 
 void ContentViewModel::jumpWith(std::int64_t offset) {
@@ -101,27 +106,6 @@ void ContentViewModel::navigateByOffset(std::int64_t offset) {
     });
 }
 
-void ContentViewModel::move(int index, bool notifyingDelegate) {
-    const int old = _selectedSlideIndex();
-    _selectedSlideIndex.set(index);
-    if (!notifyingDelegate) {
-        return;
-    }
-    pendingTransition_ = Transition{old, index};
-    mainQueue_.async([model = weak_from_this()] {
-        if (const auto self = model.lock()) {
-            self->makePendingTransition();
-        }
-    });
-}
-
-void ContentViewModel::makePendingTransition() {
-    const auto pending = std::exchange(pendingTransition_, std::nullopt);
-    if (pending && controller_ != nullptr) {
-        controller_->transition(pending->from, pending->to);
-    }
-}
-
 void ContentViewModel::announcePosition() {
     const auto present = slides();
     const auto position = static_cast<std::size_t>(_selectedSlideIndex());
@@ -135,15 +119,7 @@ void ContentViewModel::announcePosition() {
     if (slide._hideNextButton()) {
         center_.post(NavigationNotifications::currentSlideWantsToHideNextButton);
     }
-    if (present->size() < 2) {
-        center_.post(NavigationNotifications::willReachSoleSlide);
-    } else if (position == 0) {
-        center_.post(NavigationNotifications::willReachFirstSlide);
-    } else if (position + 1 == present->size()) {
-        center_.post(NavigationNotifications::willReachLastSlide);
-    } else {
-        center_.post(NavigationNotifications::navigateToNthSlide);
-    }
+    center_.post(slideArrival(slidePosition(position, present->size())).announcement);
 }
 
 void ContentViewModel::goToPreviousSlide() {
@@ -158,7 +134,6 @@ void ContentViewModel::goToPreviousSlide() {
 
 void ContentViewModel::goToNextSlide() {
     Logger::debug("Will transition to next slide");
-    makePendingTransition();
     const int target = _selectedSlideIndex() + 1;
     if (target < slidesCount()) {
         setSelectedIndex(target, true);
@@ -171,7 +146,6 @@ void ContentViewModel::goToNextSlide() {
 }
 
 void ContentViewModel::tryToQuitApplication() {
-    makePendingTransition();
     if (!_isCurrentSlideValid()) {
         showWarningsOfCurrentSlide();
         Logger::warning("App termination prevented since the slide contains invalid mandatory elements");

@@ -12,7 +12,6 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
-#include <optional>
 #include <vector>
 
 namespace velmar {
@@ -90,8 +89,8 @@ public:
     [[nodiscard]] int selectedSlideIndex() const noexcept { return _selectedSlideIndex(); }
     [[nodiscard]] bool isCurrentSlideValid() const noexcept { return _isCurrentSlideValid(); }
 
-    /// Moves to a slide unless the current one holds the user back, which it does only forward; in either
-    /// case the navigation is told how the slide that is current then stands among the others.
+    /// Moves to a slide, unless it lies ahead and the current one is invalid. In both cases announces the
+    /// position of the slide that is then current, before the controller begins the transition.
     void setSelectedIndex(int index, bool notifyingDelegate);
 
     /// Moves by a number of slides, forward or backward. An offset that leads nowhere is logged.
@@ -100,10 +99,6 @@ public:
     /// The requests of actions, on their threads: each is followed on the main thread, later.
     void navigateToIndex(std::int64_t index) override;
     void navigateByOffset(std::int64_t offset) override;
-
-    /// Drops the transitions that the controller has not been told of yet: it shows the current slide
-    /// without.
-    void cancelTransitions() noexcept { pendingTransition_.reset(); }
 
     /// Quits unless the current slide or the side container is not yet right.
     void tryToQuitApplication();
@@ -115,11 +110,7 @@ public:
 private:
     void goToPreviousSlide();
     void goToNextSlide();
-    void move(int index, bool notifyingDelegate);
     void moveForAction(int index);
-    /// Has the controller make the transition that waits on the main queue, if there is one: only then the
-    /// validity and the warnings are those of the current slide.
-    void makePendingTransition();
     void announcePosition();
     void showWarningsOfCurrentSlide();
     [[nodiscard]] int slidesCount() const { return static_cast<int>(slides()->size()); }
@@ -133,11 +124,6 @@ private:
     std::vector<NotificationObserver> observers_;
     ContentUpdater<bool> _isCurrentSlideValid{true, GeneralSection::Placeholders::currentSlideValid};
     ContentUpdater<int> _selectedSlideIndex{0, GeneralSection::Placeholders::currentSlideIndex};
-    struct Transition {
-        int from;
-        int to;
-    };
-    std::optional<Transition> pendingTransition_; // The controller has not been told of it yet.
 };
 
 } // namespace velmar
