@@ -10,16 +10,16 @@ namespace velmar {
 
 class MandatorySupervised;
 
-/// Who is told of the validity of elements, and keeps them.
+/// Keeps supervised elements and reacts to changes of their validity.
 class MandatorySupervisor {
 public:
     virtual ~MandatorySupervisor() = default;
 
-    /// Files the element under its identifier, in place of a former one, and reacts to its validity.
+    /// Files the element under its identifier, replacing a former one, and reacts to its validity.
     virtual void elementDidChange(const std::shared_ptr<MandatorySupervised> &element) = 0;
 };
 
-/// Something on a slide that must be right before the user goes on. Main thread.
+/// Element of a slide that must be valid before the user can go on. Main thread.
 class MandatorySupervised {
 public:
     virtual ~MandatorySupervised() = default;
@@ -34,7 +34,7 @@ public:
     virtual void showWarnings() = 0;
 };
 
-/// The elements that a supervisor keeps, one of an identifier, in the order in which they were first filed.
+/// Elements of a supervisor, one per identifier, in the order of first filing.
 class MandatoryElements {
 public:
     void file(const std::shared_ptr<MandatorySupervised> &element) {
@@ -46,18 +46,18 @@ public:
         }
     }
 
-    /// Forgets the element of an identifier, if there is one.
+    /// Removes the element with the identifier, if there is one.
     void remove(const UUID &identifier) {
         std::erase_if(elements_, [&](const auto &element) { return identifierOf(element) == identifier; });
     }
 
-    /// True also where there are none.
+    /// True if there are none.
     [[nodiscard]] bool areValid() const {
         return std::ranges::all_of(elements_, [](const auto &element) { return element->isValid(); });
     }
 
     void showWarnings() const {
-        // A warning may have elements come and go.
+        // A warning may add and remove elements.
         for (const auto &element : std::vector(elements_)) {
             element->showWarnings();
         }

@@ -8,21 +8,23 @@
 
 namespace velmar {
 
-/// A button of the navigation bar. It keeps its place while it is hidden, and can come and go gradually.
+/// Button of the navigation bar. It keeps its place while it is hidden, and can fade in and out.
 class NavigationButton final : public PushButton {
     Q_OBJECT
 
 public:
-    /// `isPrimary`: the one that leads on.
+    /// `isPrimary` is true for the next button.
     NavigationButton(bool isPrimary, QWidget *parent);
 
-    /// The colour of the label; none for that of the theme. A primary button whose accent would make the
-    /// colour hard to read is drawn as an ordinary one.
+    /// Colour of the label; without a value that of the theme. A primary button is drawn as an ordinary one
+    /// if the colour is hard to read on the accent.
     void setTextColor(const std::optional<QColor> &color);
 
-    /// Ends what is under way. A button that goes takes no more clicks of the mouse; whoever acts on
-    /// `clicked` must look at `isConcealed()`, for keys and assistive programs press it still.
+    /// Hides or shows the button and ends a running fade. A concealed button takes no clicks of the mouse,
+    /// but keys and assistive programs press it until the fade ends: handlers of `clicked` must check
+    /// `isConcealed()`.
     void setConcealed(bool isConcealed);
+    /// The same with a fade of this duration; 0 for none.
     void setConcealed(bool isConcealed, int milliseconds);
     [[nodiscard]] bool isConcealed() const noexcept { return isConcealed_; }
 

@@ -119,7 +119,7 @@ void NavigationViewController::apply(const NavigationState &state, int milliseco
 }
 
 int NavigationViewController::animationDuration() const {
-    // Before the bar is on show there is nothing to watch.
+    // The fade of an invisible bar would only delay the completion.
     return appearance_.isAnimated() && isVisible() ? animationMilliseconds : 0;
 }
 

@@ -95,7 +95,7 @@ void ContentViewController::transition(int /*from*/, int to) {
     currentSlideIndex_ = to;
     if (SlideViewController *previous = slide(previousSlideIndex_)) {
         previous->viewWillDisappear();
-        previous->setAttribute(Qt::WA_TransparentForMouseEvents); // What is leaving takes no clicks.
+        previous->setAttribute(Qt::WA_TransparentForMouseEvents); // The leaving slide takes no clicks.
         emit willLeave(*previous);
     }
     next->resize(size());

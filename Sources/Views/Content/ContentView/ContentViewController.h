@@ -23,7 +23,7 @@ public:
                           QWidget *parent);
     ~ContentViewController() override;
 
-    /// Shows the current slide without a transition, made anew from the present configuration.
+    /// Creates the current slide from the present configuration and shows it without a transition.
     void rebuild();
 
     void transition(int from, int to) override;
@@ -35,16 +35,16 @@ public:
     [[nodiscard]] int currentSlideIndex() const noexcept { return currentSlideIndex_; }
 
 signals:
-    /// A transition begins, to a slide that may just have been made.
+    /// Emitted when a transition begins. The slide that it leads to exists.
     void willLeave(const SlideViewController &slide);
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    /// Null where there is no such slide.
+    /// Creates the slide on its first use. nullptr if there is no such slide.
     SlideViewController *slide(int index);
-    /// The same, null also for one that has not been made.
+    /// nullptr if the slide has not been created.
     [[nodiscard]] SlideViewController *madeSlide(int index) const;
     void place(double progress);
     void finishTransition();

@@ -21,7 +21,7 @@ ContentViewModel::ContentViewModel(MainQueue &mainQueue, AppTerminationManagerPr
       settings_(std::move(settings)) {}
 
 void ContentViewModel::setupNotifications() {
-    // The first views may show them.
+    // The first views may show the variables.
     _isCurrentSlideValid.set(_isCurrentSlideValid());
     _selectedSlideIndex.set(_selectedSlideIndex());
     using namespace NavigationNotifications;
@@ -76,7 +76,8 @@ void ContentViewModel::jumpWith(std::int64_t offset) {
 }
 
 void ContentViewModel::moveForAction(int index) {
-    // What the slide on show wants hidden must not hold for the next one. The buttons clear it themselves.
+    // The hidden buttons of the slide on show must not stay hidden on the next one. A press resets them
+    // itself.
     center_.post(NavigationNotifications::evaluateButtonsHide);
     setSelectedIndex(index, true);
 }
@@ -138,7 +139,7 @@ void ContentViewModel::goToNextSlide() {
     if (target < slidesCount()) {
         setSelectedIndex(target, true);
     } else if (controller_ != nullptr && controller_->isTransitionUnderWay()) {
-        // The press was meant for the slide before.
+        // The press was meant for the slide that is leaving.
         Logger::debug("No quit before the last slide is on show");
     } else {
         tryToQuitApplication();
@@ -153,7 +154,7 @@ void ContentViewModel::tryToQuitApplication() {
     }
     if (terminationDelegate_ != nullptr && !terminationDelegate_->isSideContainerValid()) {
         terminationDelegate_->showSideContainerWarnings();
-        // The warning may have made the user set it right.
+        // The user may have corrected the input during the warning.
         if (!terminationDelegate_->isSideContainerValid()) {
             return;
         }

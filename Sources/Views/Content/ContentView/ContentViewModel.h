@@ -29,32 +29,32 @@ public:
     /// True while the user still sees the slide before.
     [[nodiscard]] virtual bool isTransitionUnderWay() const = 0;
 
-    /// Of the slide on show; null while there is none.
+    /// View model of the slide on show; nullptr if there is none.
     [[nodiscard]] virtual std::shared_ptr<SlideViewModel> currentSlideViewModel() const = 0;
 };
 
-/// Who may hold the quit back for what stands beside the slides.
+/// Validity of the side container, which can prevent the termination.
 class ContentViewModelTerminationDelegate {
 public:
     virtual ~ContentViewModelTerminationDelegate() = default;
 
-    /// True also where there is no side container.
+    /// True if there is no side container.
     [[nodiscard]] virtual bool isSideContainerValid() const = 0;
     virtual void showSideContainerWarnings() = 0;
 };
 
-/// Which slide is the current one, and whether the user may leave it. Made as a shared_ptr. Main thread.
+/// The index and the validity of the current slide, and the moves between slides. Owned by a shared_ptr. Main
+/// thread.
 class ContentViewModel final : public SlideNavigationObserver,
                                public std::enable_shared_from_this<ContentViewModel> {
 public:
-    /// What the model reads of the configuration, and whom it listens to.
+    /// Configuration of the model, and the source of the actions' requests.
     struct Settings {
         Config<WindowSection::OnScreen> _onScreen = LaunchWindow::onScreen();
         Config<std::vector<SlideItem>> _onboardSlides{
             [](const Configuration &c) -> decltype(auto) { return c._slides(); }};
         Config<SlideItem> _menubarSlide{
             [](const Configuration &c) -> decltype(auto) { return c._menuBarSlideSection(); }};
-        /// Who passes the requests of actions on.
         std::shared_ptr<SlidesActionManager> slidesActionManager = SlidesActionManager::shared();
     };
 
@@ -65,26 +65,25 @@ public:
     ContentViewModel(MainQueue &mainQueue, AppTerminationManagerProtocol &appTerminationManager,
                      NotificationCenter &center, Settings settings);
 
-    /// Held weakly, as it were: both are taken back, with null, by whoever they are before they go.
+    /// Not owned. The caller must reset the pointer to nullptr before the object is destroyed.
     void setController(ContentViewControllerProtocol *controller) noexcept { controller_ = controller; }
     void setTerminationDelegate(ContentViewModelTerminationDelegate *delegate) noexcept {
         terminationDelegate_ = delegate;
     }
 
-    /// Where the navigation and the slides tell of themselves.
+    /// Notification centre of the navigation and of the slides' validity.
     [[nodiscard]] NotificationCenter &center() const noexcept { return center_; }
     [[nodiscard]] MainQueue &mainQueue() const noexcept { return mainQueue_; }
 
-    /// Begins to follow the navigation's notifications and the requests of actions, and to publish what the
-    /// model knows.
+    /// Publishes the index and the validity, and registers for the notifications and the requests of actions.
     void setupNotifications();
 
-    /// Whether the one slide is that below the menu bar.
+    /// True if the slides are the one below the menu bar.
     [[nodiscard]] bool isMenuBarMode() const {
         return settings_._onScreen() == WindowSection::OnScreen::menuBar;
     }
 
-    /// The slides of the present configuration, for the mode.
+    /// Slides of the present configuration in the mode of the launch.
     [[nodiscard]] std::shared_ptr<const std::vector<SlideItem>> slides() const;
     [[nodiscard]] int selectedSlideIndex() const noexcept { return _selectedSlideIndex(); }
     [[nodiscard]] bool isCurrentSlideValid() const noexcept { return _isCurrentSlideValid(); }
@@ -93,14 +92,14 @@ public:
     /// position of the slide that is then current, before the controller begins the transition.
     void setSelectedIndex(int index, bool notifyingDelegate);
 
-    /// Moves by a number of slides, forward or backward. An offset that leads nowhere is logged.
+    /// Moves by a number of slides, forward or backward. An offset out of bounds is logged.
     void jumpWith(std::int64_t offset);
 
-    /// The requests of actions, on their threads: each is followed on the main thread, later.
+    /// Requests of actions. Any thread: the move is posted to the main queue.
     void navigateToIndex(std::int64_t index) override;
     void navigateByOffset(std::int64_t offset) override;
 
-    /// Quits unless the current slide or the side container is not yet right.
+    /// Asks for the termination, unless the current slide or the side container is invalid.
     void tryToQuitApplication();
 
     /// Runs `reload`, which may replace the configuration, and goes back to the first slide if their number
