@@ -1,10 +1,11 @@
 #include "DesktopEntries.h"
 
+#include "OwnedText.h"
+
 #include <Foundation/FileError.h>
 #include <Foundation/FileManager.h>
 
 #include <cstdlib>
-#include <memory>
 #include <optional>
 #include <sstream>
 
@@ -181,8 +182,7 @@ void DesktopEntries::add(const std::string &program, std::size_t options, const 
             places.push_back(directory + "/");
     }
     for (const std::string &place : places) {
-        const std::unique_ptr<char, decltype(&std::free)> path(realpath((place + program).c_str(), nullptr),
-                                                               std::free);
+        const OwnedText path(realpath((place + program).c_str(), nullptr));
         if (path == nullptr)
             continue;
         const Rank rank(options, identifier);

@@ -1,12 +1,12 @@
 #include "ProcessIdentity.h"
 
+#include "OwnedText.h"
 #include "UnitName.h"
 
 #include <Foundation/Descriptor.h>
 
 #include <algorithm>
 #include <cstdlib>
-#include <memory>
 #include <sstream>
 #include <string_view>
 #include <utility>
@@ -19,15 +19,12 @@ namespace velmar {
 
 namespace {
 
-constexpr std::size_t controlGroupLimit = 16 * 1024;
 constexpr std::size_t argumentLimit = 4096;
 constexpr std::size_t environmentLimit = 256 * 1024;
 constexpr std::size_t firstLineLimit = 256; // the kernel's own limit
 
-using OwnedText = std::unique_ptr<char, decltype(&std::free)>;
-
 std::string withoutLinks(const std::string &path) {
-    const OwnedText real(realpath(path.c_str(), nullptr), std::free);
+    const OwnedText real(realpath(path.c_str(), nullptr));
     return real == nullptr ? "" : real.get();
 }
 
@@ -82,16 +79,20 @@ std::string value(std::string_view environment, std::string_view name) {
 } // namespace
 
 ProcessIdentities::ProcessIdentities(const ProcessDirectory &directory, std::vector<std::string> applications,
-                                     std::vector<std::string> executables)
-    : directory_(directory), entries_(std::move(applications), std::move(executables)) {}
+                                     std::vector<std::string> executables, UnitOfProcess unitOfProcess)
+    : directory_(directory),
+      entries_(std::move(applications), std::move(executables)),
+      unitOfProcess_(std::move(unitOfProcess)) {}
 
 ApplicationIdentity ProcessIdentities::identityOf(std::int32_t process, const ProcessRecord &record) {
-    if (auto unit = applicationUnit(directory_.contents(process, "cgroup", controlGroupLimit))) {
-        // A scope's name is unique per run; a service's runs differ by their invocation id.
-        if (unit->name.ends_with(".service"))
-            unit->name +=
-                " " + value(directory_.contents(process, "environ", environmentLimit), "INVOCATION_ID");
-        return {std::move(unit->identifier), std::move(unit->name)};
+    std::string unit = unitOfProcess_ ? unitOfProcess_(process) : "";
+    if (std::string identifier = applicationOfUnit(unit); !identifier.empty()) {
+        // A scope's name differs in each run; the runs of a service differ by their invocation, which
+        // libsystemd gives for the own process only.
+        if (unit.ends_with(".service")) {
+            unit += " " + value(directory_.contents(process, "environ", environmentLimit), "INVOCATION_ID");
+        }
+        return {std::move(identifier), std::move(unit)};
     }
     if (record.executable.empty())
         return {record.name, ""};

@@ -3,6 +3,8 @@
 #include "DesktopEntries.h"
 #include "ProcessDirectory.h"
 
+#include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -18,8 +20,10 @@ struct ApplicationIdentity {
 /// Determines the application of processes. The directory must outlive this object. Not thread-safe.
 class ProcessIdentities {
 public:
+    using UnitOfProcess = std::function<std::string(std::int32_t process)>;
+
     ProcessIdentities(const ProcessDirectory &directory, std::vector<std::string> applications,
-                      std::vector<std::string> executables);
+                      std::vector<std::string> executables, UnitOfProcess unitOfProcess);
 
     [[nodiscard]] ApplicationIdentity identityOf(std::int32_t process, const ProcessRecord &record);
 
@@ -28,6 +32,7 @@ private:
 
     const ProcessDirectory &directory_;
     DesktopEntries entries_;
+    UnitOfProcess unitOfProcess_;
 };
 
 } // namespace velmar

@@ -6,6 +6,7 @@
 
 #include "ProcessDirectory.h"
 #include "ProcessIdentity.h"
+#include "UnitName.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -49,7 +50,8 @@ class ProcessWatch::Table {
 public:
     explicit Table(Places places)
         : directory_(places.processes),
-          identities_(directory_, std::move(places.applications), std::move(places.executables)),
+          identities_(directory_, std::move(places.applications), std::move(places.executables),
+                      std::move(places.unitOfProcess)),
           users_(std::move(places.users)),
           ownProcess_(places.ownProcess) {
         for (const auto &entry : directory_.list())
@@ -216,7 +218,11 @@ private:
 };
 
 ProcessWatch::Places ProcessWatch::placesOfProcess(const IdentityAuthority &authority) {
-    Places places{.applications = {}, .executables = {}, .users = {geteuid()}, .ownProcess = getpid()};
+    Places places{.applications = {},
+                  .executables = {},
+                  .users = {geteuid()},
+                  .ownProcess = getpid(),
+                  .unitOfProcess = unitOfProcess};
     for (const std::string &directory : UserDirectories::data())
         places.applications.push_back(directory + "/applications");
     const char *path = std::getenv("PATH"); // NOLINT(concurrency-mt-unsafe): nothing changes the environment

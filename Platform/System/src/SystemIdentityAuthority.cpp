@@ -3,9 +3,9 @@
 #include <Foundation/GroupAccount.h>
 #include <Foundation/UserAccount.h>
 
+#include "OwnedText.h"
+
 #include <algorithm>
-#include <cstdlib>
-#include <memory>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -31,18 +31,16 @@ std::vector<gid_t> groupsOf(const UserAccount &user) {
     }
 }
 
-using OwnedText = std::unique_ptr<char, decltype(&std::free)>;
-
 std::optional<SystemIdentityAuthority::Session> activeSessionOfFirstSeat() {
     char *session = nullptr;
     uid_t user = 0;
     if (sd_seat_get_active("seat0", &session, &user) < 0)
         return std::nullopt;
-    const OwnedText identifier(session, std::free);
+    const OwnedText identifier(session);
     char *kind = nullptr;
     if (sd_session_get_class(session, &kind) < 0)
         return std::nullopt;
-    const OwnedText owned(kind, std::free);
+    const OwnedText owned(kind);
     return SystemIdentityAuthority::Session{user, kind};
 }
 

@@ -1,8 +1,14 @@
 #include "UnitName.h"
 
-#include <algorithm>
+#include "OwnedText.h"
+
+#include <boost/algorithm/string/classification.hpp>
+#include <boost/algorithm/string/split.hpp>
+
 #include <charconv>
 #include <vector>
+
+#include <systemd/sd-login.h>
 
 namespace velmar {
 
@@ -12,18 +18,7 @@ constexpr std::string_view scopeSuffix = ".scope";
 constexpr std::string_view serviceSuffix = ".service";
 constexpr std::size_t uuidLength = 36;
 
-std::vector<std::string_view> split(std::string_view text, char separator) {
-    std::vector<std::string_view> parts;
-    for (;;) {
-        const std::size_t end = text.find(separator);
-        parts.push_back(text.substr(0, end));
-        if (end == std::string_view::npos)
-            return parts;
-        text.remove_prefix(end + 1);
-    }
-}
-
-// Decodes the escapes of a unit's name: "\x2d" is a dash.
+// Undoes the escaping of what may not stand in a part of a unit's name: "\x2d" is a dash.
 std::string unescaped(std::string_view part) {
     std::string text;
     while (!part.empty()) {
@@ -44,14 +39,15 @@ std::string unescaped(std::string_view part) {
 // Parses [LAUNCHER-]ID[-RANDOM] of a scope or [LAUNCHER-]ID[-RANDOM][@...] of a service.
 std::string identifierOfDesktop(std::string_view name, bool isScope) {
     name = name.substr(0, name.find('@'));
-    auto parts = split(name, '-');
-    const bool hasRandom = isScope || parts.size() > 2 ||
-                           (parts.size() == 2 && parts[0].find('.') != std::string_view::npos &&
-                            // "org.example.App-123": a launcher's name has no dots
-                            parts[1].find('.') == std::string_view::npos);
+    std::vector<std::string> parts;
+    boost::algorithm::split(parts, name, boost::algorithm::is_any_of("-"));
+    const bool hasRandom =
+        isScope || parts.size() > 2 ||
+        (parts.size() == 2 && parts[0].find('.') != std::string::npos &&
+         parts[1].find('.') == std::string::npos); // "org.example.App-123": no launcher has dots.
     if (hasRandom && parts.size() > 1)
         parts.pop_back();
-    // Some launchers don't escape dashes, so the identifier may span several parts.
+    // A launcher that doesn't escape the dashes of an identifier leaves more than one part of it.
     const std::size_t begin = parts.size() > 1 ? 1 : 0;
     std::string identifier;
     for (std::size_t i = begin; i < parts.size(); ++i)
@@ -76,7 +72,18 @@ std::string identifierOfSnap(std::string_view name) {
     return identifier;
 }
 
-std::string identifierOf(std::string_view unit) {
+} // namespace
+
+std::string unitOfProcess(std::int32_t process) {
+    char *name = nullptr;
+    if (sd_pid_get_user_unit(process, &name) < 0 && sd_pid_get_unit(process, &name) < 0) {
+        return "";
+    }
+    const OwnedText unit(name);
+    return unit.get();
+}
+
+std::string applicationOfUnit(std::string_view unit) {
     const bool isScope = unit.ends_with(scopeSuffix);
     if (!isScope && !unit.ends_with(serviceSuffix))
         return "";
@@ -87,21 +94,6 @@ std::string identifierOf(std::string_view unit) {
     }
     constexpr std::string_view snap = "snap.";
     return isScope && unit.starts_with(snap) ? identifierOfSnap(unit.substr(snap.size())) : "";
-}
-
-} // namespace
-
-std::optional<ApplicationUnit> applicationUnit(std::string_view controlGroups) {
-    for (const std::string_view line : split(controlGroups, '\n')) {
-        auto components = split(line, '/');
-        // Innermost first: a unit may have nested groups.
-        std::reverse(components.begin(), components.end());
-        for (const std::string_view component : components) {
-            if (std::string identifier = identifierOf(component); !identifier.empty())
-                return ApplicationUnit{std::string(component), std::move(identifier)};
-        }
-    }
-    return std::nullopt;
 }
 
 } // namespace velmar

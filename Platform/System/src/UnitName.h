@@ -1,18 +1,18 @@
 #pragma once
 
-#include <optional>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace velmar {
 
-/// An application's unit of the service manager.
-struct ApplicationUnit {
-    std::string name;       ///< For example "app-gnome-org.example.App-123.scope".
-    std::string identifier; ///< For example "org.example.App".
-};
+/// Name of the service manager's unit that a process of this machine runs in, such as
+/// "app-gnome-org.example.App-123.scope". The unit of the user's manager comes before that of the system's.
+/// Empty without a unit, and without a service manager.
+[[nodiscard]] std::string unitOfProcess(std::int32_t process);
 
-/// Returns the application's unit from the text of /proc/PID/cgroup, or std::nullopt if there is none.
-[[nodiscard]] std::optional<ApplicationUnit> applicationUnit(std::string_view controlGroups);
+/// Identifier of the application that a unit runs, such as "org.example.App", by the unit's name. Empty for a
+/// unit of no application. libsystemd gives the names of units but doesn't take them apart.
+[[nodiscard]] std::string applicationOfUnit(std::string_view unit);
 
 } // namespace velmar

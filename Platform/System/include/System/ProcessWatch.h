@@ -3,6 +3,7 @@
 #include <System/RunningApplications.h>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -40,6 +41,9 @@ public:
         std::vector<std::uint32_t> users;      ///< Ids of the users whose processes are watched.
         /// The watching process. Its descendants are never reported.
         std::int32_t ownProcess = 0;
+        /// Name of the service manager's unit that a process runs in, empty without one. nullptr: no process
+        /// has a unit.
+        std::function<std::string(std::int32_t process)> unitOfProcess = nullptr;
     };
 
     /// Returns the places for this process. The watched users are the effective user and, for root, also the
