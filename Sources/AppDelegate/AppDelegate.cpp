@@ -81,7 +81,7 @@ AppDelegate::AppDelegate(Surroundings surroundings)
                          AppManager::shared()->reloadInterface(byResetingVariables);
                      }}});
     application.mainMenu().setItems(ApplicationMenu::items(
-        {.quit = [&application] { application.terminate(); },
+        {.quit = [terminationManager] { terminationManager->tryToQuitApplication(); },
          .reloadInterfaceSavingVariables = [window = customWindow_] { window->reloadInterface(false); },
          .reloadInterfaceResetingVariables = [window = customWindow_] { window->reloadInterface(true); }}));
 }

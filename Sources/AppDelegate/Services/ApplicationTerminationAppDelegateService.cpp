@@ -8,30 +8,21 @@
 
 namespace velmar {
 
-namespace {
-
-void disableQuitShortcut(MenuItem &quitItem) {
-    quitItem.shortcut = KeyShortcut{.key = 'Q', .command = true, .control = true, .option = true};
-    LoggerExtensions::info(LogSubject::termination, "The quit shortcut has been replaced by ⌃⌥⌘Q");
+void ApplicationTerminationAppDelegateService::applicationDidFinishLaunching() {
+    if (!_appTermination.wrappedValue()->_isQuitShortcutEnabled()) {
+        disableQuitShortcut();
+    }
 }
 
-} // namespace
-
-ApplicationTerminationAppDelegateService::ApplicationTerminationAppDelegateService(
-    MainMenu &mainMenu, std::shared_ptr<AppTerminationManagerProtocol> appTerminationManager)
-    : mainMenu_(mainMenu), appTerminationManager_(std::move(appTerminationManager)) {}
-
-void ApplicationTerminationAppDelegateService::applicationDidFinishLaunching() {
+void ApplicationTerminationAppDelegateService::disableQuitShortcut() {
     std::vector<MenuItem> items = mainMenu_.items();
     if (items.empty() || items.front().submenu.empty()) {
         return;
     }
-    MenuItem &quitItem = items.front().submenu.back();
-    quitItem.action = [manager = appTerminationManager_] { manager->tryToQuitApplication(); };
-    if (!_appTermination.wrappedValue()->_isQuitShortcutEnabled()) {
-        disableQuitShortcut(quitItem);
-    }
+    items.front().submenu.back().shortcut =
+        KeyShortcut{.key = 'Q', .command = true, .control = true, .option = true};
     mainMenu_.setItems(std::move(items));
+    LoggerExtensions::info(LogSubject::termination, "The quit shortcut has been replaced by ⌃⌥⌘Q");
 }
 
 } // namespace velmar
