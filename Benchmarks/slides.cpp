@@ -6,6 +6,7 @@
 #include <Configuration/Configuration.h>
 #include <Desktop/DesktopAppearance.h>
 #include <Desktop/QtMainQueue.h>
+#include <Support/TestServices.h>
 #include <Termination/AppTerminationManager.h>
 #include <Variables/ConditionEvaluator.h>
 #include <Variables/ContentManager.h>
@@ -94,13 +95,14 @@ public:
         settings._onboardSlides.setOverrideValue(slides);
         model = std::make_shared<ContentViewModel>(queue, quitting, center, settings);
         model->setupNotifications();
-        view = std::make_unique<ContentViewController>(model, appearance, nullptr);
+        view = std::make_unique<ContentViewController>(model, services.bundle, appearance, nullptr);
         view->resize(windowSize);
         view->show();
         runFor(300ms);
     }
 
     QtMainQueue queue;
+    TestServices services{queue};
     NoQuitting quitting;
     NotificationCenter center;
     std::shared_ptr<ContentViewModel> model;

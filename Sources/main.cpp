@@ -1,6 +1,8 @@
 #include <Admission/LaunchOptions.h>
 #include <AppDelegate/AppDelegate.h>
+#include <AppDelegate/OpenedWindow.h>
 #include <Base/ProcessEnd.h>
+#include <Base/Services.h>
 #include <Base/VelmarLogDestinations.h>
 #include <Desktop/DesktopAlertPresenter.h>
 #include <Desktop/DesktopApplication.h>
@@ -12,6 +14,7 @@
 #include <Dispatch/UncaughtHandler.h>
 #include <System/SystemIdentityAuthority.h>
 #include <System/SystemRunningApplications.h>
+#include <Variables/ContentManager.h>
 #include <logger/Logger.h>
 
 #include <fmt/core.h>
@@ -28,6 +31,39 @@
 using namespace velmar;
 
 namespace {
+
+/// The services of the application.
+class ApplicationServices {
+public:
+    ApplicationServices(DesktopApplication &application, const IdentityAuthority &authority)
+        : sounds_(application.mainQueue(), DesktopSoundPlayer::placesOfProcess()),
+          runningApplications_(application.mainQueue(), application.timers(),
+                               [&authority] { return ProcessWatch::placesOfProcess(authority); }),
+          openedWindow_(bundle_, application.mainMenu(), application.appearance()),
+          bundle_{.mainQueue = application.mainQueue(),
+                  .timers = application.timers(),
+                  .alerts = alerts_,
+                  .pasteboard = pasteboard_,
+                  .sounds = sounds_,
+                  .notifications = notifications_,
+                  .windows = openedWindow_,
+                  .runningApplications = runningApplications_,
+                  .variables = ContentManager::shared()} {}
+    ApplicationServices(const ApplicationServices &) = delete;
+    ApplicationServices &operator=(const ApplicationServices &) = delete;
+
+    [[nodiscard]] const Services &bundle() const noexcept { return bundle_; }
+    [[nodiscard]] OpenedWindow &openedWindow() noexcept { return openedWindow_; }
+
+private:
+    DesktopAlertPresenter alerts_;
+    DesktopPasteboard pasteboard_;
+    DesktopSoundPlayer sounds_;
+    DesktopUserNotifications notifications_;
+    SystemRunningApplications runningApplications_;
+    OpenedWindow openedWindow_;
+    Services bundle_;
+};
 
 int runLoop(DesktopApplication &application, AppDelegate &delegate) {
     try {
@@ -58,22 +94,10 @@ int run(int argumentCount, char **arguments, LaunchOptions options) {
         std::error_code ignored;
         const std::string executable = std::filesystem::read_symlink("/proc/self/exe", ignored).string();
         DesktopApplication application(argumentCount, arguments);
-        DesktopAlertPresenter alerts;
-        DesktopPasteboard pasteboard;
-        DesktopSoundPlayer sounds(application.mainQueue(), DesktopSoundPlayer::placesOfProcess());
-        DesktopUserNotifications notifications;
-        SystemRunningApplications runningApplications(
-            application.mainQueue(), application.timers(),
-            [&authority] { return ProcessWatch::placesOfProcess(authority); });
-        AppDelegate delegate({.application = application,
-                              .alerts = alerts,
-                              .pasteboard = pasteboard,
-                              .sounds = sounds,
-                              .notifications = notifications,
-                              .runningApplications = runningApplications,
-                              .identityAuthority = authority,
-                              .options = std::move(options),
-                              .executable = executable});
+        ApplicationServices services(application, authority);
+        AppDelegate delegate(application, services.bundle(), authority,
+                             {.options = std::move(options), .executable = executable});
+        services.openedWindow().setDidClose([&delegate] { delegate.openedWindowDidClose(); });
         const int status = runLoop(application, delegate);
         // While what the functions of the queues work with is there.
         settleOrExit(status);

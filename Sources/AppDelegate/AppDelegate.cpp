@@ -1,7 +1,7 @@
 #include <AppDelegate/AppDelegate.h>
 
+#include <Actions/ActionContext.h>
 #include <Actions/ActionSetManager.h>
-#include <Actions/ActionSurroundings.h>
 #include <Actions/DispatchableItem.h>
 #include <Admission/ConfigurationRefusal.h>
 #include <AppDelegate/ApplicationMenu.h>
@@ -12,6 +12,7 @@
 #include <AppDelegate/Services/CustomWindowAppDelegateService.h>
 #include <AppDelegate/Services/LoginRelaunchAppDelegateService.h>
 #include <Base/Domain.h>
+#include <Base/Services.h>
 #include <Core/TriggerNotificationActionsManager.h>
 #include <Termination/AppTerminationService.h>
 #include <Variables/ContentManager.h>
@@ -22,6 +23,7 @@
 #include <Desktop/KeyEventMonitor.h>
 #include <Desktop/Window.h>
 #include <Foundation/UserDefaults.h>
+#include <Interaction/AlertPresenter.h>
 #include <logger/Logger.h>
 
 #include <QGuiApplication>
@@ -46,40 +48,35 @@ AppManager::KeyDownMonitor addKeyDownMonitor(AppManager::KeyDownHandler handler)
 
 } // namespace
 
-AppDelegate::AppDelegate(Surroundings surroundings)
-    : surroundings_(std::move(surroundings)),
-      openedWindow_({.mainMenu = surroundings_.application.mainMenu(),
-                     .mainQueue = surroundings_.application.mainQueue(),
-                     .appearance = surroundings_.application.appearance(),
-                     .screens = &Screens::current,
-                     .didClose = [this] { openedWindowDidClose(); }}),
-      terminationScript_(
-          [&application = surroundings_.application] { return application.isTerminationDemanded(); }) {
+AppDelegate::AppDelegate(DesktopApplication &application, const Services &services,
+                         const IdentityAuthority &identityAuthority, Launch launch)
+    : application_(application),
+      services_(services),
+      identityAuthority_(identityAuthority),
+      launch_(std::move(launch)),
+      terminationScript_([&application] { return application.isTerminationDemanded(); }) {
     QCoreApplication::setApplicationName(QStringLiteral("Velmar"));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.nurvan.velmar"));
-    DesktopApplication &application = surroundings_.application;
     Theme::install(application.appearance());
     Localization::install();
     shareActionDispatcher();
-    notificationActions_ = TriggerNotificationActionsManager::make(surroundings_.notifications);
+    notificationActions_ = TriggerNotificationActionsManager::make(services_.notifications);
     terminationService_ = std::make_shared<AppTerminationService>(
-        application.mainQueue(), [&application] { application.terminate(); });
-    const auto terminationManager = std::make_shared<AppTerminationManager>(
-        AppTerminationManager::Surroundings{.terminationService = terminationService_});
+        services_.mainQueue, [&application] { application.terminate(); });
+    const auto terminationManager =
+        std::make_shared<AppTerminationManager>(terminationService_, services_.variables);
     appTerminationManager_.emplace(terminationManager);
-    customWindow_ =
-        std::make_shared<CustomWindowAppDelegateService>(CustomWindowAppDelegateService::Surroundings{
+    customWindow_ = std::make_shared<CustomWindowAppDelegateService>(
+        services_,
+        VelmarViewController::Application{
+            .terminationManager = *terminationManager,
+            .reloadInterface =
+                [](bool byResetingVariables) { AppManager::shared()->reloadInterface(byResetingVariables); }},
+        CustomWindowAppDelegateService::Desktop{
             .mainMenu = application.mainMenu(),
-            .screens = &Screens::current,
+            .appearance = application.appearance(),
             .didPaint = [] { Logger::debug("First paint"); },
-            .didPresent = [&application] { application.appearance().followSettingsService(); },
-            .view = {.mainQueue = application.mainQueue(),
-                     .appTerminationManager = *terminationManager,
-                     .appearance = application.appearance(),
-                     .alerts = surroundings_.alerts,
-                     .reloadInterface = [](bool byResetingVariables) {
-                         AppManager::shared()->reloadInterface(byResetingVariables);
-                     }}});
+            .didPresent = [&application] { application.appearance().followSettingsService(); }});
     application.mainMenu().setItems(ApplicationMenu::items(
         {.quit = [terminationManager] { terminationManager->tryToQuitApplication(); },
          .reloadInterfaceSavingVariables = [window = customWindow_] { window->reloadInterface(false); },
@@ -88,13 +85,13 @@ AppDelegate::AppDelegate(Surroundings surroundings)
 
 AppDelegate::~AppDelegate() {
     // The entries hold the window, which holds the menu bar that watches the entries.
-    surroundings_.application.mainMenu().setItems({});
+    application_.mainMenu().setItems({});
 }
 
 std::vector<std::shared_ptr<AppDelegateService>> AppDelegate::services() {
     return {customWindow_,
-            std::make_shared<ApplicationTerminationAppDelegateService>(surroundings_.application.mainMenu()),
-            std::make_shared<AdminModeAppDelegateService>(surroundings_.application.mainMenu()),
+            std::make_shared<ApplicationTerminationAppDelegateService>(application_.mainMenu()),
+            std::make_shared<AdminModeAppDelegateService>(application_.mainMenu()),
             std::make_shared<ActionSetsAppDelegateService>(),
             std::make_shared<LoginRelaunchAppDelegateService>(LoginItem(), relaunchCommand())};
 }
@@ -105,11 +102,10 @@ void AppDelegate::applicationWillFinishLaunching() {
     } catch (const std::exception &error) {
         const ConfigurationRefusal refusal{.alert =
                                                [this](const std::string &message, const std::string &button) {
-                                                   surroundings_.alerts.runModal(
-                                                       {.style = Alert::Style::critical,
-                                                        .messageText = message,
-                                                        .informativeText = {},
-                                                        .buttons = {button}});
+                                                   services_.alerts.runModal({.style = Alert::Style::critical,
+                                                                              .messageText = message,
+                                                                              .informativeText = {},
+                                                                              .buttons = {button}});
                                                },
                                            // The toolkit's objects are still in use, so nothing is torn down.
                                            .exit = [](int status) { std::_Exit(status); }};
@@ -122,45 +118,35 @@ void AppDelegate::applicationWillFinishLaunching() {
 }
 
 void AppDelegate::shareActionDispatcher() {
-    MainQueue &mainQueue = surroundings_.application.mainQueue();
-    const auto actions = std::make_shared<const ActionSurroundings>(
-        ActionSurroundings{.mainQueue = mainQueue,
-                           .alerts = surroundings_.alerts,
-                           .pasteboard = surroundings_.pasteboard,
-                           .sounds = surroundings_.sounds,
-                           .windows = openedWindow_,
-                           .notifications = surroundings_.notifications,
-                           // The service comes after the dispatcher, which it uses.
-                           .terminateApp = [this, &mainQueue] {
-                               mainQueue.async([this] { terminationService_->terminate(); });
-                           }});
+    const auto context = std::make_shared<const ActionContext>(ActionContext{
+        .services = services_,
+        // The service comes after the dispatcher, which it uses.
+        .terminateApp = [this] { services_.mainQueue.async([this] { terminationService_->terminate(); }); }});
     actionDispatcher_.emplace(
-        std::make_shared<ActionDispatcher>([actions](std::shared_ptr<const ActionItem> item) {
-            return dispatchable(std::move(item), actions);
+        std::make_shared<ActionDispatcher>([context](std::shared_ptr<const ActionItem> item) {
+            return dispatchable(std::move(item), context);
         }));
 }
 
 void AppDelegate::openedWindowDidClose() {
-    // The desktop tells of the last window only when the user closes it.
     const Window *const window = customWindow_->window();
     if (window != nullptr && !window->isVisible() && applicationShouldTerminateAfterLastWindowClosed()) {
-        surroundings_.application.terminate();
+        application_.terminate();
     }
 }
 
 void AppDelegate::makeActionSetManager() {
     AppManager::shared()->setActionSetManager(
-        ActionSetManager::make(ActionSetManager::configuredActionSets().wrappedValue(),
-                               {.runningApplications = surroundings_.runningApplications}));
+        ActionSetManager::make(ActionSetManager::configuredActionSets().wrappedValue(), services_));
 }
 
 void AppDelegate::makeAppManager() {
     UserDefaults defaults(Domain::defaultsSuite);
-    appManager_.emplace(std::make_shared<AppManager>(AppManager::Surroundings{
-        .locator = ConfigurationLocator(surroundings_.options, defaults, FileManager::defaultManager()),
-        .identityAuthority = surroundings_.identityAuthority,
-        .addKeyDownMonitor = &addKeyDownMonitor,
-        .terminate = [this] { surroundings_.application.terminate(); }}));
+    const ConfigurationLocator locator(launch_.options, defaults, FileManager::defaultManager());
+    appManager_.emplace(std::make_shared<AppManager>(
+        locator, identityAuthority_,
+        AppManager::ForceQuit{.addKeyDownMonitor = &addKeyDownMonitor,
+                              .terminate = [this] { application_.terminate(); }}));
 }
 
 void AppDelegate::applicationDidFinishLaunching() {
@@ -190,9 +176,9 @@ bool AppDelegate::applicationShouldTerminateAfterLastWindowClosed() {
 
 std::vector<std::string> AppDelegate::relaunchCommand() const {
     // Of the arguments only the configuration's name: others may be secrets.
-    std::vector<std::string> command{surroundings_.executable};
-    if (surroundings_.options.configuration) {
-        command.insert(command.end(), {"-c", *surroundings_.options.configuration});
+    std::vector<std::string> command{launch_.executable};
+    if (launch_.options.configuration) {
+        command.insert(command.end(), {"-c", *launch_.options.configuration});
     }
     return command;
 }

@@ -2,7 +2,6 @@
 
 #include <Actions/ActionDispatcher.h>
 #include <Admission/LaunchOptions.h>
-#include <AppDelegate/OpenedWindow.h>
 #include <AppDelegate/ServiceableAppDelegate.h>
 #include <Base/Shared.h>
 #include <Configuration/Configuration.h>
@@ -15,7 +14,6 @@
 #include <Views/Content/ContentView/ContentViewModel.h>
 
 #include <Desktop/DesktopApplication.h>
-#include <Interaction/AlertPresenter.h>
 #include <System/IdentityAuthority.h>
 
 #include <optional>
@@ -25,31 +23,22 @@
 namespace velmar {
 
 class CustomWindowAppDelegateService;
-class RunningApplications;
-class SimplePasteboard;
-class SoundPlayer;
 class TriggerNotificationActionsManager;
-class UserNotifications;
+struct Services;
 
 /// The application's delegate: makes the shared AppManager at the first event, and has the services of the
 /// chain do the rest. Made after the application, and destroyed before it.
 class AppDelegate final : public ServiceableAppDelegate {
 public:
-    /// What the delegate works with; the references must outlive it.
-    struct Surroundings {
-        DesktopApplication &application;
-        AlertPresenter &alerts;
-        SimplePasteboard &pasteboard;
-        SoundPlayer &sounds;
-        UserNotifications &notifications;
-        RunningApplications &runningApplications;
-        const IdentityAuthority &identityAuthority;
+    /// The command that started the process.
+    struct Launch {
         LaunchOptions options;
-        /// The absolute path of the program.
-        std::string executable;
+        std::string executable; ///< Absolute path.
     };
 
-    explicit AppDelegate(Surroundings surroundings);
+    /// The references must outlive the delegate.
+    AppDelegate(DesktopApplication &application, const Services &services,
+                const IdentityAuthority &identityAuthority, Launch launch);
     ~AppDelegate() override;
 
     /// All but the first are new at each reading.
@@ -64,16 +53,20 @@ public:
     void applicationWillTerminate() override;
     bool applicationShouldTerminateAfterLastWindowClosed() override;
 
+    /// Ends the application if no window is left: the desktop reports only windows that the user closes.
+    void openedWindowDidClose();
+
 private:
     void shareActionDispatcher();
     void makeAppManager();
     void makeActionSetManager();
-    void openedWindowDidClose();
     [[nodiscard]] std::vector<std::string> relaunchCommand() const;
 
     Config<WindowSection::OnScreen> _onScreen = LaunchWindow::onScreen();
-    Surroundings surroundings_;
-    OpenedWindow openedWindow_;
+    DesktopApplication &application_;
+    const Services &services_;
+    const IdentityAuthority &identityAuthority_;
+    Launch launch_;
     std::optional<Shared<ActionDispatcher>::Scope> actionDispatcher_;
     std::shared_ptr<TriggerNotificationActionsManager> notificationActions_;
     std::shared_ptr<AppTermination> terminationService_;

@@ -9,8 +9,6 @@
 
 #include <QCoreApplication>
 
-#include <utility>
-
 namespace velmar {
 
 namespace {
@@ -24,12 +22,14 @@ QString titleOf(const SlideViewController &slide) {
 
 } // namespace
 
-OpenedWindow::OpenedWindow(Surroundings surroundings) : surroundings_(std::move(surroundings)) {}
+OpenedWindow::OpenedWindow(const Services &services, MainMenu &mainMenu, const DesktopAppearance &appearance,
+                           std::function<Screens()> screens)
+    : services_(services), mainMenu_(mainMenu), appearance_(appearance), screens_(std::move(screens)) {}
 
 OpenedWindow::~OpenedWindow() = default;
 
 void OpenedWindow::open(std::shared_ptr<const ActionItems::OpenWindow> item) {
-    const ScreenFrame screen = WindowPlacement::chooseScreen(surroundings_.screens(), std::nullopt);
+    const ScreenFrame screen = WindowPlacement::chooseScreen(screens_(), std::nullopt);
     dismiss();
     window_ = std::make_unique<Window>(Window::Style{.hasTitleBar = true,
                                                      .isClosable = item->_isClosable(),
@@ -37,11 +37,9 @@ void OpenedWindow::open(std::shared_ptr<const ActionItems::OpenWindow> item) {
                                                      .isMovable = item->_isMovable(),
                                                      .rank = Window::Style::Rank::front,
                                                      .hasMenuBar = false},
-                                       surroundings_.mainMenu);
-    auto *slide = new SlideViewController(
-        item->_slide(), SlideViewController::Kind::standard, center_,
-        ContainerViewController::Surroundings{surroundings_.mainQueue, surroundings_.appearance},
-        window_.get());
+                                       mainMenu_);
+    auto *slide = new SlideViewController(item->_slide(), SlideViewController::Kind::standard, center_,
+                                          services_, appearance_, window_.get());
     window_->setContent(slide);
     const QSize size = pixels(item->_size());
     window_->setSizes(size, size, size);
@@ -65,7 +63,7 @@ void OpenedWindow::open(std::shared_ptr<const ActionItems::OpenWindow> item) {
 
 void OpenedWindow::close() {
     if (dismiss()) {
-        surroundings_.didClose();
+        didClose_();
     }
 }
 

@@ -9,6 +9,7 @@
 #include <Views/Navigation/NavigationButton.h>
 #include <Views/Navigation/NavigationViewController.h>
 
+#include <Base/Services.h>
 #include <Interaction/AlertPresenter.h>
 #include <Termination/TerminationNotifications.h>
 
@@ -45,11 +46,14 @@ QAccessibleInterface *accessibleContent(const QString &className, QObject *objec
 
 } // namespace
 
-VelmarViewController::VelmarViewController(Surroundings surroundings, QWidget *parent)
+VelmarViewController::VelmarViewController(const Services &services, const DesktopAppearance &appearance,
+                                           Application application, QWidget *parent)
     : QWidget(parent),
-      surroundings_(std::move(surroundings)),
+      services_(services),
+      appearance_(appearance),
+      application_(std::move(application)),
       contentViewModel_(std::make_shared<ContentViewModel>(
-          surroundings_.mainQueue, surroundings_.appTerminationManager, surroundings_.center)),
+          services_.mainQueue, application_.terminationManager, application_.center)),
       row_(new QHBoxLayout(this)),
       column_(new QVBoxLayout) {
     row_->setContentsMargins(0, 0, 0, 0);
@@ -61,7 +65,7 @@ VelmarViewController::VelmarViewController(Surroundings surroundings, QWidget *p
     setupQuitAlerts();
     buildSideContainer();
     buildNavigation();
-    contentViewController_ = new ContentViewController(contentViewModel_, surroundings_.appearance, this);
+    contentViewController_ = new ContentViewController(contentViewModel_, services_, appearance_, this);
     column_->insertWidget(0, contentViewController_, 1);
     QAccessible::installFactory(&accessibleContent); // Once, however often it is called.
     setFocusPolicy(Qt::ClickFocus);                  // No stop of the Tab key: it shows no ring.
@@ -78,12 +82,12 @@ VelmarViewController::~VelmarViewController() {
 void VelmarViewController::setupQuitAlerts() {
     using namespace TerminationNotifications;
     const auto alertOn = [this](std::string_view notification, auto text) {
-        observers_.push_back(surroundings_.center.addObserver(std::string(notification), [this, text] {
-            surroundings_.alerts.present({.style = Alert::Style::warning,
-                                          .messageText = text(*_navigation.wrappedValue()),
-                                          .informativeText = {},
-                                          .buttons = {}},
-                                         [](std::size_t) {});
+        observers_.push_back(application_.center.addObserver(std::string(notification), [this, text] {
+            services_.alerts.present({.style = Alert::Style::warning,
+                                      .messageText = text(*_navigation.wrappedValue()),
+                                      .informativeText = {},
+                                      .buttons = {}},
+                                     [](std::size_t) {});
         }));
     };
     alertOn(userTriesToQuitWhenNotAllMonitorsAreInstalled, [](const NavigationSection &navigation) {
@@ -114,7 +118,7 @@ void VelmarViewController::buildSideContainer() {
     }
     sideContainerViewController_ =
         new ContainerViewController((*section)->_container(), ContainerViewController::Kind::inSidebar,
-                                    std::nullopt, {surroundings_.mainQueue, surroundings_.appearance}, this);
+                                    std::nullopt, services_, appearance_, this);
     sideContainerSupervisor_ =
         SideContainerMandatorySupervisor::make(sideContainerViewController_->viewModel());
     sideContainerViewController_->viewWillAppear();
@@ -124,8 +128,8 @@ void VelmarViewController::buildSideContainer() {
 
 void VelmarViewController::buildNavigation() {
     delete navigationViewController_;
-    navigationViewController_ = new NavigationViewController(*_navigation.wrappedValue(), contentViewModel_,
-                                                             surroundings_.appearance, this);
+    navigationViewController_ = new NavigationViewController(*_navigation.wrappedValue(), services_.mainQueue,
+                                                             application_.center, appearance_, this);
     column_->addWidget(navigationViewController_);
 }
 
@@ -168,7 +172,7 @@ void VelmarViewController::focusNavigation() {
 
 void VelmarViewController::reload(bool byResetingVariables) {
     contentViewModel_->reloadSlidesIfCountChanged(
-        [this, byResetingVariables] { surroundings_.reloadInterface(byResetingVariables); });
+        [this, byResetingVariables] { application_.reloadInterface(byResetingVariables); });
     buildSideContainer();
     buildNavigation();
     contentViewController_->rebuild();

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <Configuration/Configuration.h>
-#include <Dispatch/MainQueue.h>
 #include <Foundation/NotificationCenter.h>
 #include <Settings/Config.h>
 #include <Views/Content/ContentView/ContentViewModel.h>
@@ -17,13 +16,13 @@ class QVBoxLayout;
 
 namespace velmar {
 
-class AlertPresenter;
 class ContainerViewController;
 class ContentViewController;
 class DesktopAppearance;
 class NavigationViewController;
 class SideContainerMandatorySupervisor;
 class SlideViewController;
+struct Services;
 
 /// The whole of what the user sees: the slides, the bar that leads through them, and the container beside
 /// them. Main thread.
@@ -31,18 +30,17 @@ class VelmarViewController final : public QWidget, public ContentViewModelTermin
     Q_OBJECT
 
 public:
-    /// What the controller needs; the references must outlive it.
-    struct Surroundings {
-        MainQueue &mainQueue;
-        AppTerminationManagerProtocol &appTerminationManager;
-        const DesktopAppearance &appearance;
-        AlertPresenter &alerts;
+    /// The application behind the views. The references must outlive the controller.
+    struct Application {
+        AppTerminationManagerProtocol &terminationManager;
         /// Reads the configuration again; AppManager::reloadInterface.
         std::function<void(bool byResetingVariables)> reloadInterface;
         NotificationCenter &center = NotificationCenter::defaultCenter();
     };
 
-    explicit VelmarViewController(Surroundings surroundings, QWidget *parent = nullptr);
+    /// The appearance must outlive the controller.
+    VelmarViewController(const Services &services, const DesktopAppearance &appearance,
+                         Application application, QWidget *parent = nullptr);
     ~VelmarViewController() override;
 
     /// The administrator's menu actions: the interface is made anew from the configuration as it is then.
@@ -74,7 +72,9 @@ private:
         [](const Configuration &c) -> decltype(auto) { return c._navigation(); }};
     Config<std::optional<SideContainerSection>> _sideContainer{
         [](const Configuration &c) -> decltype(auto) { return c._sideContainer(); }};
-    Surroundings surroundings_;
+    const Services &services_;
+    const DesktopAppearance &appearance_;
+    Application application_;
     std::shared_ptr<ContentViewModel> contentViewModel_;
     QHBoxLayout *row_;
     QVBoxLayout *column_;

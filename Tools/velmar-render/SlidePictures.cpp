@@ -4,6 +4,7 @@
 #include <Base/NavigationNotifications.h>
 #include <Configuration/Configuration.h>
 #include <Core/AppManager.h>
+#include <Variables/ContentManager.h>
 #include <Views/CustomViews/Pixels.h>
 
 #include <QCoreApplication>
@@ -21,13 +22,13 @@ constexpr QSize screenSize(1280, 800);
 } // namespace
 
 SlidePictures::SlidePictures(QSize size, const DesktopAppearance &appearance)
-    : view_(std::make_unique<VelmarViewController>(
-          VelmarViewController::Surroundings{.mainQueue = queue_,
-                                             .appTerminationManager = termination_,
-                                             .appearance = appearance,
-                                             .alerts = alerts_,
-                                             .reloadInterface = [](bool /*byResetingVariables*/) {},
-                                             .center = center_})) {
+    : services_(
+          queue_, input_, [](const std::string & /*line*/) {}, ContentManager::shared()),
+      view_(std::make_unique<VelmarViewController>(
+          services_.bundle(), appearance,
+          VelmarViewController::Application{.terminationManager = termination_,
+                                            .reloadInterface = [](bool /*byResetingVariables*/) {},
+                                            .center = center_})) {
     view_->setFixedSize(size);
     view_->show();
     settle();

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <Desktop/DesktopAlertPresenter.h>
 #include <Dispatch/MainThreadQueue.h>
 #include <Foundation/NotificationCenter.h>
+#include <TerminalServices.h>
 #include <Termination/AppTerminationManager.h>
 #include <Views/VelmarViewController.h>
 
@@ -11,6 +11,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <sstream>
 
 namespace velmar {
 
@@ -44,7 +45,8 @@ private:
     MainThreadQueue queue_;
     NotificationCenter center_;
     NoTermination termination_;
-    DesktopAlertPresenter alerts_;               // Of refused quits, which nobody tries here.
+    std::istringstream input_; // Empty.
+    TerminalServices services_;
     std::unique_ptr<VelmarViewController> view_; // Before what it uses goes.
 };
 

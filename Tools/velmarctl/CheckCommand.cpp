@@ -17,16 +17,16 @@ CheckCommand::CheckCommand(CLI::App &commandLine)
     options().add_flag("--strict", strict_, "Count warnings as errors");
 }
 
-ExitStatus CheckCommand::run(const Surroundings &surroundings) const {
-    const ConfigurationCheck checker({.admission = !noAdmission_, .strict = strict_}, surroundings.authority);
+ExitStatus CheckCommand::run(const CommandEnvironment &environment) const {
+    const ConfigurationCheck checker({.admission = !noAdmission_, .strict = strict_}, environment.authority);
     std::vector<Diagnostic> diagnostics;
     for (const std::string &file : files_) {
         std::ranges::move(checker.check(file).diagnostics, std::back_inserter(diagnostics));
     }
     if (json_) {
-        writeJSON(surroundings.out, diagnostics);
+        writeJSON(environment.out, diagnostics);
     } else {
-        writeText(surroundings.out, diagnostics);
+        writeText(environment.out, diagnostics);
     }
     const bool isRefused = std::ranges::find(diagnostics, Diagnostic::Severity::error,
                                              &Diagnostic::severity) != diagnostics.end();

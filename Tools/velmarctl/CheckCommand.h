@@ -12,7 +12,7 @@ class CheckCommand final : public Command {
 public:
     explicit CheckCommand(CLI::App &commandLine);
 
-    [[nodiscard]] ExitStatus run(const Surroundings &surroundings) const override;
+    [[nodiscard]] ExitStatus run(const CommandEnvironment &environment) const override;
 
 private:
     std::vector<std::string> files_;

@@ -18,8 +18,8 @@ enum class ExitStatus {
     failed = 2,  ///< Used wrongly, or the output could not be written.
 };
 
-/// What commands work with.
-struct Surroundings {
+/// The environment that a command runs in.
+struct CommandEnvironment {
     const IdentityAuthority &authority;
     std::istream &in;
     std::ostream &out; ///< Results.
@@ -38,7 +38,7 @@ public:
     [[nodiscard]] bool isNamed() const;
 
     /// Never throws for what a file or an input holds.
-    [[nodiscard]] virtual ExitStatus run(const Surroundings &surroundings) const = 0;
+    [[nodiscard]] virtual ExitStatus run(const CommandEnvironment &environment) const = 0;
 
 protected:
     Command(CLI::App &commandLine, const char *name, const char *description);

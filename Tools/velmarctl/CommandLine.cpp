@@ -18,7 +18,7 @@ namespace velmar {
 
 namespace {
 
-ExitStatus run(std::vector<std::string> arguments, const Surroundings &surroundings) {
+ExitStatus run(std::vector<std::string> arguments, const CommandEnvironment &environment) {
     CLI::App app("The administrator's tool for Velmar.", "velmarctl");
     app.set_version_flag("--version", fmt::format("velmarctl {} (configuration {})", VELMAR_VERSION,
                                                   ConfigurationVersion::version));
@@ -35,20 +35,20 @@ ExitStatus run(std::vector<std::string> arguments, const Surroundings &surroundi
         std::ranges::reverse(arguments); // CLI11 takes them from the back.
         app.parse(std::move(arguments));
     } catch (const CLI::ParseError &error) {
-        return app.exit(error, surroundings.out, surroundings.err) == 0 ? ExitStatus::succeeded
-                                                                        : ExitStatus::failed;
+        return app.exit(error, environment.out, environment.err) == 0 ? ExitStatus::succeeded
+                                                                      : ExitStatus::failed;
     }
     // The parser has seen to it that there is one.
     const Command *const commands[] = {&check, &eval, &runSet, &render, &schema, &reference};
-    return (*std::ranges::find_if(commands, &Command::isNamed))->run(surroundings);
+    return (*std::ranges::find_if(commands, &Command::isNamed))->run(environment);
 }
 
 } // namespace
 
-ExitStatus runCommandLine(std::vector<std::string> arguments, const Surroundings &surroundings) {
-    const ExitStatus status = run(std::move(arguments), surroundings);
-    if (!surroundings.out.flush()) {
-        surroundings.err << "velmarctl: The output could not be written.\n";
+ExitStatus runCommandLine(std::vector<std::string> arguments, const CommandEnvironment &environment) {
+    const ExitStatus status = run(std::move(arguments), environment);
+    if (!environment.out.flush()) {
+        environment.err << "velmarctl: The output could not be written.\n";
         return ExitStatus::failed;
     }
     return status;

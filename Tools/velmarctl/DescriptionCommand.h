@@ -16,8 +16,8 @@ public:
     DescriptionCommand(CLI::App &commandLine, const char *name, const char *purpose, Write write)
         : Command(commandLine, name, purpose), write_(write) {}
 
-    [[nodiscard]] ExitStatus run(const Surroundings &surroundings) const override {
-        write_(surroundings.out);
+    [[nodiscard]] ExitStatus run(const CommandEnvironment &environment) const override {
+        write_(environment.out);
         return ExitStatus::succeeded;
     }
 

@@ -35,13 +35,13 @@ EvalCommand::EvalCommand(CLI::App &commandLine)
     });
 }
 
-ExitStatus EvalCommand::run(const Surroundings &surroundings) const {
+ExitStatus EvalCommand::run(const CommandEnvironment &environment) const {
     EvaluationContext context;
     if (configuration_) {
-        const ConfigurationCheck check({.admission = !noAdmission_}, surroundings.authority);
+        const ConfigurationCheck check({.admission = !noAdmission_}, environment.authority);
         auto [diagnostics, configuration] = check.check(*configuration_);
         if (!configuration) {
-            writeText(surroundings.err, diagnostics);
+            writeText(environment.err, diagnostics);
             return ExitStatus::refused;
         }
         context = EvaluationContext(std::move(configuration));
@@ -51,34 +51,35 @@ ExitStatus EvalCommand::run(const Surroundings &surroundings) const {
         context.set(std::string(name), std::string(value));
     }
     if (batch_) {
-        answerBatch(surroundings.in, surroundings.out, context);
-        if (surroundings.in.bad()) {
-            surroundings.err << "velmarctl: The input could not be read.\n";
+        answerBatch(environment.in, environment.out, context);
+        if (environment.in.bad()) {
+            environment.err << "velmarctl: The input could not be read.\n";
             return ExitStatus::failed;
         }
         return ExitStatus::succeeded;
     }
-    return evaluate(context, surroundings);
+    return evaluate(context, environment);
 }
 
-ExitStatus EvalCommand::evaluate(const EvaluationContext &context, const Surroundings &surroundings) const {
+ExitStatus EvalCommand::evaluate(const EvaluationContext &context,
+                                 const CommandEnvironment &environment) const {
     std::string failure;
     try {
         const expressions::Expression expression(expression_);
         const Evaluation evaluation = context.evaluate(expression);
         if (explain_) {
-            writeExplanation(surroundings.out, expression, evaluation, context);
+            writeExplanation(environment.out, expression, evaluation, context);
         }
         if (evaluation.value) {
-            surroundings.out << (*evaluation.value ? "true\n" : "false\n");
+            environment.out << (*evaluation.value ? "true\n" : "false\n");
             return ExitStatus::succeeded;
         }
         failure = evaluation.failure;
     } catch (const LocalizedError &error) {
         failure = error.errorDescription();
     }
-    surroundings.out.flush(); // What was explained stands before its end.
-    surroundings.err << printable(failure, "\n    ") << '\n';
+    environment.out.flush(); // What was explained stands before its end.
+    environment.err << printable(failure, "\n    ") << '\n';
     return ExitStatus::refused;
 }
 

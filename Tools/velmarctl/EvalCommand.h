@@ -15,11 +15,11 @@ class EvalCommand final : public Command {
 public:
     explicit EvalCommand(CLI::App &commandLine);
 
-    [[nodiscard]] ExitStatus run(const Surroundings &surroundings) const override;
+    [[nodiscard]] ExitStatus run(const CommandEnvironment &environment) const override;
 
 private:
     [[nodiscard]] ExitStatus evaluate(const EvaluationContext &context,
-                                      const Surroundings &surroundings) const;
+                                      const CommandEnvironment &environment) const;
 
     std::string expression_;
     std::vector<std::string> variables_; // NAME=VALUE

@@ -67,26 +67,26 @@ RenderCommand::RenderCommand(CLI::App &commandLine)
     addVariableOption(options(), variables_);
 }
 
-ExitStatus RenderCommand::run(const Surroundings &surroundings) const {
-    const ConfigurationCheck check({.admission = !noAdmission_}, surroundings.authority);
+ExitStatus RenderCommand::run(const CommandEnvironment &environment) const {
+    const ConfigurationCheck check({.admission = !noAdmission_}, environment.authority);
     const auto [diagnostics, configuration] = check.check(file_);
     if (!configuration) {
-        writeText(surroundings.out, diagnostics);
+        writeText(environment.out, diagnostics);
         return ExitStatus::refused;
     }
-    surroundings.out.flush(); // The renderer's complaints come in between.
+    environment.out.flush(); // The renderer's complaints come in between.
     std::promise<Result<std::string>> names;
     CommandLineService::execute(rendererPath(), argumentsOfRenderer(),
                                 [&](Result<std::string> result) { names.set_value(std::move(result)); });
     const Result<std::string> result = names.get_future().get();
     if (!result) {
-        surroundings.err << fmt::format("velmarctl: {}\n", result.error()->errorDescription());
+        environment.err << fmt::format("velmarctl: {}\n", result.error()->errorDescription());
         return ExitStatus::failed;
     }
     std::istringstream lines(*result);
     std::size_t count = 0;
     for (std::string name; std::getline(lines, name); ++count) {
-        surroundings.out << (std::filesystem::path(directory_) / name).string() << '\n';
+        environment.out << (std::filesystem::path(directory_) / name).string() << '\n';
     }
     // Why there are fewer the renderer has said.
     return count == slidesCount(*configuration) ? ExitStatus::succeeded : ExitStatus::failed;

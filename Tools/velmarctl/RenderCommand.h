@@ -13,7 +13,7 @@ class RenderCommand final : public Command {
 public:
     explicit RenderCommand(CLI::App &commandLine);
 
-    [[nodiscard]] ExitStatus run(const Surroundings &surroundings) const override;
+    [[nodiscard]] ExitStatus run(const CommandEnvironment &environment) const override;
 
 private:
     [[nodiscard]] std::vector<std::string> argumentsOfRenderer() const;

@@ -17,21 +17,21 @@ RunSetCommand::RunSetCommand(CLI::App &commandLine)
     addVariableOption(options(), variables_);
 }
 
-ExitStatus RunSetCommand::run(const Surroundings &surroundings) const {
+ExitStatus RunSetCommand::run(const CommandEnvironment &environment) const {
     // Always admitted: what it holds is run.
-    const ConfigurationCheck check({}, surroundings.authority);
+    const ConfigurationCheck check({}, environment.authority);
     const auto [diagnostics, configuration] = check.check(configuration_);
     if (!configuration) {
-        writeText(surroundings.err, diagnostics);
+        writeText(environment.err, diagnostics);
         return ExitStatus::refused;
     }
     const std::size_t count = configuration->_actionSets().size();
     if (index_ >= count) {
-        surroundings.err << fmt::format("There is no set {}: ActionSets has {}{}.\n", index_, count,
-                                        count == 0 ? "" : ", counted from 0");
+        environment.err << fmt::format("There is no set {}: ActionSets has {}{}.\n", index_, count,
+                                       count == 0 ? "" : ", counted from 0");
         return ExitStatus::refused;
     }
-    SetRehearsal rehearsal(configuration, index_, surroundings.in, surroundings.out);
+    SetRehearsal rehearsal(configuration, index_, environment.in, environment.out);
     for (const std::string &variable : variables_) {
         const auto [name, value] = assignmentOf(variable);
         rehearsal.setVariable(name, std::string(value));

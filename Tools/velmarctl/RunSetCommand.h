@@ -13,7 +13,7 @@ class RunSetCommand final : public Command {
 public:
     explicit RunSetCommand(CLI::App &commandLine);
 
-    [[nodiscard]] ExitStatus run(const Surroundings &surroundings) const override;
+    [[nodiscard]] ExitStatus run(const CommandEnvironment &environment) const override;
 
 private:
     std::string configuration_;

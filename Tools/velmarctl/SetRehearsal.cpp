@@ -1,11 +1,11 @@
 #include <SetRehearsal.h>
 
 #include <ReportedAction.h>
-#include <TerminalInterface.h>
+#include <TerminalServices.h>
 
 #include <Actions/Action.h>
+#include <Actions/ActionContext.h>
 #include <Actions/ActionDispatcher.h>
-#include <Actions/ActionSurroundings.h>
 #include <Actions/DispatchableItem.h>
 #include <Configuration/Configuration.h>
 #include <Dispatch/DispatchQueue.h>
@@ -56,11 +56,7 @@ public:
         : configuration_(std::move(configuration)),
           set_{UUID(), {configuration_, &configuration_->_actionSets()[set].set}},
           record_(std::make_shared<RehearsalRecord>(out)),
-          alerts_(record_->mainQueue, in, say_),
-          pasteboard_(say_),
-          sounds_(record_->mainQueue, say_),
-          windows_(say_),
-          notifications_(record_->mainQueue, say_) {
+          services_(record_->mainQueue, in, say_, contentManager_) {
         contentManager_->registerVariables(*configuration_);
         slides_->addObserver(slideObserver_);
     }
@@ -117,7 +113,7 @@ private:
     [[nodiscard]] std::shared_ptr<Dispatchable> reported(std::shared_ptr<const ActionItem> item) const {
         const auto number = item.get() - set_.item->_actions().data();
         auto name = fmt::format("{} {}", number, typeOf(*item));
-        return std::make_shared<ReportedAction>(velmar::dispatchable(std::move(item), surroundings_),
+        return std::make_shared<ReportedAction>(velmar::dispatchable(std::move(item), context_),
                                                 std::move(name), record_);
     }
 
@@ -125,24 +121,14 @@ private:
     ActionSet set_;
     std::shared_ptr<RehearsalRecord> record_;
     SayLine say_ = [record = record_](const std::string &line) { record->detail(line); };
-    TerminalAlertPresenter alerts_;
-    TerminalPasteboard pasteboard_;
-    TerminalSoundPlayer sounds_;
-    TerminalWindows windows_;
-    TerminalUserNotifications notifications_;
+    std::shared_ptr<ContentManager> contentManager_ = std::make_shared<ContentManager>();
+    TerminalServices services_;
     std::shared_ptr<TerminalSlides> slideObserver_ = std::make_shared<TerminalSlides>(say_);
     std::shared_ptr<SlidesActionManager> slides_ = std::make_shared<SlidesActionManager>();
-    std::shared_ptr<ContentManager> contentManager_ = std::make_shared<ContentManager>();
-    std::shared_ptr<const ActionSurroundings> surroundings_ = std::make_shared<const ActionSurroundings>(
-        ActionSurroundings{.mainQueue = record_->mainQueue,
-                           .alerts = alerts_,
-                           .pasteboard = pasteboard_,
-                           .sounds = sounds_,
-                           .windows = windows_,
-                           .notifications = notifications_,
-                           .terminateApp = [say = say_] { say("termination, not done here"); },
-                           .contentManager = contentManager_,
-                           .slides = slides_});
+    std::shared_ptr<const ActionContext> context_ = std::make_shared<const ActionContext>(
+        ActionContext{.services = services_.bundle(),
+                      .terminateApp = [say = say_] { say("termination, not done here"); },
+                      .slides = slides_});
     std::shared_ptr<ActionDispatcher> dispatcher_ = std::make_shared<ActionDispatcher>(
         [this](std::shared_ptr<const ActionItem> item) { return reported(std::move(item)); });
 };

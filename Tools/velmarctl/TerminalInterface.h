@@ -8,6 +8,8 @@
 #include <Interaction/UserNotifications.h>
 
 #include <Dispatch/MainQueue.h>
+#include <Dispatch/Timer.h>
+#include <System/RunningApplications.h>
 
 #include <functional>
 #include <istream>
@@ -83,6 +85,23 @@ public:
 private:
     MainQueue &mainQueue_;
     SayLine say_;
+};
+
+/// Timers that never fire: no action uses one.
+class NoTimers final : public TimerScheduler {
+public:
+    [[nodiscard]] std::unique_ptr<Timer> repeating(std::chrono::milliseconds interval,
+                                                   std::function<void()> function) override;
+    [[nodiscard]] std::unique_ptr<Timer> once(std::chrono::milliseconds delay,
+                                              std::function<void()> function) override;
+};
+
+/// Reports no application: sets of actions are run by the administrator, not by a trigger.
+class NoRunningApplications final : public RunningApplications {
+public:
+    [[nodiscard]] std::unique_ptr<Observation> observe(Observer /*observer*/) override {
+        return std::make_unique<Observation>();
+    }
 };
 
 /// Says which slide would be shown.

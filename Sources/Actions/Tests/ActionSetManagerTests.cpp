@@ -3,7 +3,7 @@
 #include <Configuration/Configuration.h>
 
 #include <Support/RecordedLog.h>
-#include <Testing/TestRunningApplications.h>
+#include <Support/TestServices.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -61,18 +61,16 @@ std::shared_ptr<const ActionSetItems> sets(const std::vector<std::vector<const c
 TEST(ActionSetManager, FiresTheSetsOfEachTrigger) {
     const RecordedLog log;
     NotificationCenter center;
-    TestRunningApplications applications;
+    TestServices services;
+    TestRunningApplications &applications = services.runningApplications;
+    const auto store = services.variables;
     const auto dispatcher = std::make_shared<Dispatcher>();
-    const auto store = std::make_shared<ContentManager>();
     const auto items = sets({{"NextButtonClick", "Update(V)", "NextButtonClick"},
                              {"PreviousButtonClick", "Custom(Go)"},
                              {"Custom(Go)", "Custom(Away)", "Launch", "Termination"},
                              {"AppLaunch(org\\..*)", "NextButtonClick"},
                              {"AppLaunch(Calc)", "AppLaunch(org\\..*)"}});
-    auto manager = ActionSetManager::make(items, {.runningApplications = applications,
-                                                  .center = center,
-                                                  .dispatcher = dispatcher,
-                                                  .contentManager = store});
+    auto manager = ActionSetManager::make(items, services.bundle, center, dispatcher);
     center.post(NavigationNotifications::willNavigateToNextSlide);
     EXPECT_EQ(dispatcher->take(), "a d ");
     store->updateVariable("V", "1", false);
@@ -103,11 +101,11 @@ TEST(ActionSetManager, FiresTheSetsOfEachTrigger) {
 }
 
 TEST(ActionSetManager, LooksAtRunningApplicationsOnlyForASetOfTheirs) {
-    TestRunningApplications applications;
+    TestServices services;
+    NotificationCenter center;
     const auto manager =
-        ActionSetManager::make(sets({{"Launch"}}), {.runningApplications = applications,
-                                                    .dispatcher = std::make_shared<Dispatcher>()});
-    EXPECT_EQ(applications.observations(), 0U);
+        ActionSetManager::make(sets({{"Launch"}}), services.bundle, center, std::make_shared<Dispatcher>());
+    EXPECT_EQ(services.runningApplications.observations(), 0U);
 }
 
 } // namespace

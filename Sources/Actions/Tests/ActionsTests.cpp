@@ -1,16 +1,11 @@
-#include <Actions/ActionSurroundings.h>
+#include <Actions/ActionContext.h>
 #include <Actions/Dispatchable.h>
 #include <Actions/DispatchableItem.h>
-#include <Actions/SlideWindowPresenter.h>
 #include <Configuration/Configuration.h>
 #include <Variables/ConditionEvaluator.h>
 
 #include <Support/RecordedLog.h>
-#include <Testing/TestAlertPresenter.h>
-#include <Testing/TestMainQueue.h>
-#include <Testing/TestPasteboard.h>
-#include <Testing/TestSoundPlayer.h>
-#include <Testing/TestUserNotifications.h>
+#include <Support/TestServices.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -55,47 +50,28 @@ public:
     std::string requests;
 };
 
-struct NoWindows final : SlideWindowPresenter {
-    void open(std::shared_ptr<const ActionItems::OpenWindow> /*item*/) override {}
-    void close() override {}
-};
-
 class ActionsTest : public testing::Test {
 protected:
     /// Starts an action and does what waits on the main thread.
     void run(const std::shared_ptr<const ActionItem> &item) {
         outcomes_.clear();
-        const auto started = dispatchable(item, surroundings_);
+        const auto started = dispatchable(item, context_);
         started->setSuccessCompletionBlock(
             [this](bool success) { outcomes_ += success ? "true " : "false "; });
         started->dispatch();
-        mainQueue_.runUntilEmpty();
+        services_.mainQueue.runUntilEmpty();
     }
     void run(std::string_view keys) { run(action(keys)); }
 
     RecordedLog log_;
-    TestMainQueue mainQueue_;
-    TestAlertPresenter alerts_;
-    TestPasteboard pasteboard_;
-    TestSoundPlayer sounds_;
-    NoWindows windows_;
-    TestUserNotifications notifications_;
+    TestServices services_;
     std::string outcomes_;
     int terminations_ = 0;
-    std::shared_ptr<ContentManager> store_ = std::make_shared<ContentManager>();
     std::shared_ptr<SlidesActionManager> slides_ = std::make_shared<SlidesActionManager>();
-    std::shared_ptr<ActionSurroundings> surroundings_ =
-        std::make_shared<ActionSurroundings>(ActionSurroundings{.mainQueue = mainQueue_,
-                                                                .alerts = alerts_,
-                                                                .pasteboard = pasteboard_,
-                                                                .sounds = sounds_,
-                                                                .windows = windows_,
-                                                                .notifications = notifications_,
-                                                                .terminateApp = [this] { ++terminations_; },
-                                                                .contentManager = store_,
-                                                                .slides = slides_});
+    std::shared_ptr<const ActionContext> context_ = std::make_shared<const ActionContext>(ActionContext{
+        .services = services_.bundle, .terminateApp = [this] { ++terminations_; }, .slides = slides_});
     Shared<ConditionEvaluator>::Scope evaluator_{
-        std::make_shared<ConditionEvaluator>(ConditionEvaluator::NamedConditions(), store_)};
+        std::make_shared<ConditionEvaluator>(ConditionEvaluator::NamedConditions(), services_.variables)};
 };
 
 TEST_F(ActionsTest, AreNotRunForAConditionThatFails) {
@@ -108,37 +84,37 @@ TEST_F(ActionsTest, AreNotRunForAConditionThatFails) {
 }
 
 TEST_F(ActionsTest, AnswerAnAlertWithTheTextOfItsButton) {
-    alerts_.readableIcons = {"/icon.png"};
+    services_.alerts.readableIcons = {"/icon.png"};
     run("<key>Type</key><string>DisplayAlert</string><key>Title</key><string>T</string>"
         "<key>Message</key><string>M</string><key>Style</key><string>Critical</string>"
         "<key>Variable</key><string>ANSWER</string><key>IconPath</key><string>/icon.png</string>"
         "<key>ButtonsText</key><array><string>Now</string><string>Later</string></array>");
-    EXPECT_EQ(alerts_.alerts.back().style, Alert::Style::critical);
-    EXPECT_THAT(alerts_.alerts.back().buttons, ElementsAre("Now", "Later"));
-    EXPECT_NE(alerts_.alerts.back().icon, nullptr);
+    EXPECT_EQ(services_.alerts.alerts.back().style, Alert::Style::critical);
+    EXPECT_THAT(services_.alerts.alerts.back().buttons, ElementsAre("Now", "Later"));
+    EXPECT_NE(services_.alerts.alerts.back().icon, nullptr);
     EXPECT_EQ(outcomes_, "");
-    alerts_.answer(1);
+    services_.alerts.answer(1);
     EXPECT_EQ(outcomes_, "true ");
-    EXPECT_EQ(store_->variables()->at("ANSWER"), "Later");
+    EXPECT_EQ(services_.variables->variables()->at("ANSWER"), "Later");
 }
 
 TEST_F(ActionsTest, ShowANotification) {
     for (const bool isShown : {true, false}) {
-        notifications_.outcome = {.isShown = isShown, .problem = isShown ? "" : "No."};
+        services_.notifications.outcome = {.isShown = isShown, .problem = isShown ? "" : "No."};
         run("<key>Type</key><string>DisplayNotification</string><key>Title</key><string>T</string>"
             "<key>SoundName</key><string>bell</string><key>Actions</key><array><dict><key>Title</key>"
             "<string>Go</string><key>Trigger</key><string>go</string></dict></array>");
         EXPECT_EQ(outcomes_, isShown ? "true " : "false ");
     }
     EXPECT_THAT(log_.takeLines(), ElementsAre(HasSubstr("No.")));
-    EXPECT_EQ(notifications_.notifications.back().soundName, "bell");
-    EXPECT_THAT(notifications_.notifications.back().actions,
+    EXPECT_EQ(services_.notifications.notifications.back().soundName, "bell");
+    EXPECT_THAT(services_.notifications.notifications.back().actions,
                 ElementsAre(UserNotification::Action{"go", "Go"}));
 }
 
 TEST_F(ActionsTest, PlayTheSoundOrElseTheOneOfTheProgram) {
-    sounds_.named.insert({"Bell", {"/theme/bell"}});
-    sounds_.files = {"file:///a.wav"};
+    services_.sounds.named.insert({"Bell", {"/theme/bell"}});
+    services_.sounds.files = {"file:///a.wav"};
     const struct {
         const char *name;
         const char *played;
@@ -150,10 +126,10 @@ TEST_F(ActionsTest, PlayTheSoundOrElseTheOneOfTheProgram) {
         run(fmt::format(
             "<key>Type</key><string>PlaySound</string><key>SoundNameOrFilePath</key><string>{}</string>",
             name));
-        EXPECT_EQ(sounds_.played().back(), played);
+        EXPECT_EQ(services_.sounds.played().back(), played);
         EXPECT_THAT(log_.takeLines(), testing::SizeIs(warns ? 1 : 0));
         EXPECT_EQ(outcomes_, "");
-        sounds_.end({.hasFinished = !warns, .problem = "Broken."});
+        services_.sounds.end({.hasFinished = !warns, .problem = "Broken."});
         EXPECT_EQ(outcomes_, warns ? "false " : "true ");
     }
     EXPECT_THAT(log_.takeLines(), ElementsAre(HasSubstr("Broken.")));
@@ -168,9 +144,9 @@ TEST_F(ActionsTest, CopyNavigateUpdateAndTerminate) {
     };
     EXPECT_EQ(runs("CopyToClipboard", "<key>Text</key><string>first</string>"), "true ");
     EXPECT_THAT(log_.takeLines(), ElementsAre(HasSubstr("first")));
-    pasteboard_.accepts = false;
+    services_.pasteboard.accepts = false;
     EXPECT_EQ(runs("CopyToClipboard", "<key>Text</key><string>x</string><key>Log</key><false/>"), "false ");
-    EXPECT_EQ(pasteboard_.content, "first");
+    EXPECT_EQ(services_.pasteboard.content, "first");
     EXPECT_THAT(log_.takeLines(), ElementsAre(HasSubstr("error: ")));
 
     EXPECT_EQ(runs("NavigateToSlide", "<key>Index</key><integer>1</integer>"), "true ");
@@ -180,7 +156,7 @@ TEST_F(ActionsTest, CopyNavigateUpdateAndTerminate) {
     EXPECT_EQ(runs("UpdateVariable",
                    "<key>Variable</key><string>${V}</string><key>NewValue</key><string>1</string>"),
               "true ");
-    EXPECT_EQ(store_->variables()->at("V"), "1");
+    EXPECT_EQ(services_.variables->variables()->at("V"), "1");
     ActionItem::UpdateVariable update;
     update._variable.set("${USER_NAME}");
     run(std::make_shared<const ActionItem>(ActionItem{update}));

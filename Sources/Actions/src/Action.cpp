@@ -1,7 +1,8 @@
 #include <Actions/Action.h>
 
-#include <Actions/ActionSurroundings.h>
+#include <Actions/ActionContext.h>
 #include <Base/LoggerExtensions.h>
+#include <Base/Services.h>
 #include <Dispatch/MainQueue.h>
 #include <Dispatch/UncaughtHandler.h>
 #include <Variables/Evaluatable.h>
@@ -24,8 +25,12 @@ void Action::dispatch() {
 }
 
 void Action::performOnMainThread(std::function<void()> work) {
-    surroundings_->mainQueue.async(
+    services().mainQueue.async(
         [self = shared_from_this(), work = std::move(work)] { self->performReportingFailure(work); });
+}
+
+const Services &Action::services() const noexcept {
+    return context_->services;
 }
 
 void Action::performReportingFailure(const std::function<void()> &work) noexcept {

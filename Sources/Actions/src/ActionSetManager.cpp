@@ -2,6 +2,7 @@
 
 #include <Base/LoggerExtensions.h>
 #include <Base/NavigationNotifications.h>
+#include <Base/Services.h>
 #include <Configuration/Configuration.h>
 
 #include <fmt/format.h>
@@ -55,17 +56,19 @@ Config<std::vector<TriggeredActionSetItem>> ActionSetManager::configuredActionSe
 
 std::shared_ptr<ActionSetManager>
 ActionSetManager::make(std::shared_ptr<const std::vector<TriggeredActionSetItem>> actionSets,
-                       Surroundings surroundings) {
+                       const Services &services, NotificationCenter &center,
+                       std::shared_ptr<ActionDispatcherProtocol> dispatcher) {
     std::shared_ptr<ActionSetManager> manager(
-        new ActionSetManager(std::move(actionSets), std::move(surroundings)));
+        new ActionSetManager(std::move(actionSets), services, std::move(dispatcher)));
     manager->_contentVariables.subscribe(manager);
-    manager->setupNotifications();
+    manager->setupNotifications(center, services.runningApplications);
     return manager;
 }
 
 ActionSetManager::ActionSetManager(std::shared_ptr<const std::vector<TriggeredActionSetItem>> actionSets,
-                                   Surroundings surroundings)
-    : surroundings_(std::move(surroundings)), _contentVariables(surroundings_.contentManager) {
+                                   const Services &services,
+                                   std::shared_ptr<ActionDispatcherProtocol> dispatcher)
+    : dispatcher_(std::move(dispatcher)), _contentVariables(services.variables) {
     for (const TriggeredActionSetItem &item : *actionSets) {
         Registration registration(setsForTrigger_, {UUID(), {actionSets, &item.set}});
         for (const ActionTrigger &trigger : item._triggers()) {
@@ -74,10 +77,12 @@ ActionSetManager::ActionSetManager(std::shared_ptr<const std::vector<TriggeredAc
     }
 }
 
-void ActionSetManager::setupNotifications() {
-    const auto fireOn = [this](std::string_view notification, const ActionSets SetsForTrigger::*sets) {
+void ActionSetManager::setupNotifications(NotificationCenter &center,
+                                          RunningApplications &runningApplications) {
+    const auto fireOn = [this, &center](std::string_view notification,
+                                        const ActionSets SetsForTrigger::*sets) {
         observers_.push_back(
-            surroundings_.center.addObserver(std::string(notification), [manager = weak_from_this(), sets] {
+            center.addObserver(std::string(notification), [manager = weak_from_this(), sets] {
                 if (const auto self = manager.lock()) {
                     self->dispatchSets(self->setsForTrigger_.*sets);
                 }
@@ -87,8 +92,8 @@ void ActionSetManager::setupNotifications() {
     fireOn(NavigationNotifications::willNavigateToPreviousSlide, &SetsForTrigger::previousButtonClick);
     // Nobody looks at what runs on the machine where nothing depends on it.
     if (!setsForTrigger_.appLaunch.empty()) {
-        observation_ = surroundings_.runningApplications.observe(
-            [manager = weak_from_this()](const RunningApplication &application) {
+        observation_ =
+            runningApplications.observe([manager = weak_from_this()](const RunningApplication &application) {
                 if (const auto self = manager.lock()) {
                     self->dispatchSetsFor(application);
                 }
@@ -98,7 +103,7 @@ void ActionSetManager::setupNotifications() {
 
 void ActionSetManager::dispatchSets(const ActionSets &sets) const {
     for (const ActionSet &set : sets) {
-        surroundings_.dispatcher->dispatch(set, nullptr);
+        dispatcher_->dispatch(set, nullptr);
     }
 }
 

@@ -12,7 +12,7 @@ namespace {
 /// Makes the runtime form of one item.
 struct Maker {
     std::shared_ptr<const ActionItem> item;
-    std::shared_ptr<const ActionSurroundings> surroundings;
+    std::shared_ptr<const ActionContext> context;
 
     using Result = std::shared_ptr<Dispatchable>;
     Result operator()(const ActionItem::Log &) const { return make<Actions::Log>(); }
@@ -37,15 +37,15 @@ struct Maker {
 private:
     template <class Action>
     [[nodiscard]] Result make() const {
-        return std::make_shared<Action>(item, surroundings);
+        return std::make_shared<Action>(item, context);
     }
 };
 
 } // namespace
 
 std::shared_ptr<Dispatchable> dispatchable(std::shared_ptr<const ActionItem> item,
-                                           const std::shared_ptr<const ActionSurroundings> &surroundings) {
-    const Maker maker{std::move(item), surroundings};
+                                           const std::shared_ptr<const ActionContext> &context) {
+    const Maker maker{std::move(item), context};
     return std::visit(maker, maker.item->value);
 }
 

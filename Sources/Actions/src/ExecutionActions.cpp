@@ -1,6 +1,6 @@
 #include <Actions/ExecutionActions.h>
 
-#include <Actions/ActionSurroundings.h>
+#include <Actions/ActionContext.h>
 #include <Base/LoggerExtensions.h>
 
 #include <fmt/format.h>
@@ -8,7 +8,7 @@
 namespace velmar::Actions {
 
 void TerminateApp::perform() {
-    surroundings().terminateApp();
+    context().terminateApp();
     complete(true);
 }
 

@@ -1,14 +1,16 @@
 #include <Actions/InteractionActions.h>
 
-#include <Actions/ActionSurroundings.h>
+#include <Actions/ActionContext.h>
 #include <Actions/SlideWindowPresenter.h>
 #include <Base/LoggerExtensions.h>
+#include <Base/Services.h>
 #include <Configuration/GeneralSection.h>
 #include <Dispatch/MainQueue.h>
 #include <Interaction/AlertPresenter.h>
 #include <Interaction/SimplePasteboard.h>
 #include <Interaction/SoundPlayer.h>
 #include <Interaction/UserNotifications.h>
+#include <Variables/ContentManager.h>
 
 #include <fmt/format.h>
 
@@ -55,18 +57,17 @@ void DisplayAlert::makeAlert() {
     if (const auto iconPath = item._iconPath()) {
         const bool isOnDisk = iconPath->isFileURL() || !iconPath->scheme();
         const std::string path = isOnDisk ? iconPath->path() : iconPath->text();
-        alert.icon = isOnDisk ? surroundings().alerts.icon(path) : nullptr;
+        alert.icon = isOnDisk ? services().alerts.icon(path) : nullptr;
         if (!alert.icon) {
             Logger::warning(
                 [&] { return fmt::format(". DisplayAlert: could not retrieve icon at {}", path); });
         }
     }
     auto buttonsText = alert.buttons;
-    surroundings().alerts.present(
-        std::move(alert),
-        [self = keepingAlive(this), buttonsText = std::move(buttonsText)](std::size_t button) {
-            self->alertCompletionHandler(firstButtonResponse + static_cast<int>(button), buttonsText);
-        });
+    services().alerts.present(std::move(alert), [self = keepingAlive(this),
+                                                 buttonsText = std::move(buttonsText)](std::size_t button) {
+        self->alertCompletionHandler(firstButtonResponse + static_cast<int>(button), buttonsText);
+    });
 }
 
 void DisplayAlert::alertCompletionHandler(int response, const std::vector<std::string> &buttonsText) {
@@ -74,7 +75,7 @@ void DisplayAlert::alertCompletionHandler(int response, const std::vector<std::s
         const auto button = static_cast<std::size_t>(response - firstButtonResponse);
         const std::string text =
             button < buttonsText.size() ? buttonsText[button] : std::string(textOfOnlyButton);
-        surroundings().contentManager->updateVariable(*variable, text, true);
+        services().variables->updateVariable(*variable, text, true);
     }
     complete(true);
 }
@@ -92,15 +93,15 @@ void DisplayNotification::show() {
     for (const auto &action : item._actions()) {
         notification.actions.push_back({.identifier = action._trigger(), .title = action._title()});
     }
-    surroundings().notifications.add(std::move(notification),
-                                     [self = keepingAlive(this)](const UserNotificationOutcome &outcome) {
-                                         if (!outcome.isShown) {
-                                             LoggerExtensions::error(LogSubject::actions, outcome.problem);
-                                         } else if (!outcome.problem.empty()) {
-                                             LoggerExtensions::warning(LogSubject::actions, outcome.problem);
-                                         }
-                                         self->complete(outcome.isShown);
-                                     });
+    services().notifications.add(std::move(notification),
+                                 [self = keepingAlive(this)](const UserNotificationOutcome &outcome) {
+                                     if (!outcome.isShown) {
+                                         LoggerExtensions::error(LogSubject::actions, outcome.problem);
+                                     } else if (!outcome.problem.empty()) {
+                                         LoggerExtensions::warning(LogSubject::actions, outcome.problem);
+                                     }
+                                     self->complete(outcome.isShown);
+                                 });
 }
 
 void PlaySound::perform() {
@@ -108,7 +109,7 @@ void PlaySound::perform() {
 }
 
 void PlaySound::play(const std::string &soundNameOrFilePath) {
-    SoundPlayer &sounds = surroundings().sounds;
+    SoundPlayer &sounds = services().sounds;
     auto sound = sounds.soundNamed(soundNameOrFilePath);
     if (!sound) {
         sound = sounds.soundAt(soundNameOrFilePath);
@@ -139,7 +140,7 @@ void CopyToClipboard::perform() {
 
 void CopyToClipboard::copy() {
     const std::string text = actionItem()._text();
-    const bool isCopied = surroundings().pasteboard.setString(text);
+    const bool isCopied = services().pasteboard.setString(text);
     if (!isCopied) {
         LoggerExtensions::error(LogSubject::actions, "The text could not be copied to the clipboard");
     }
@@ -152,14 +153,14 @@ void CopyToClipboard::copy() {
 
 void OpenWindow::perform() {
     performOnMainThread([this] {
-        surroundings().windows.open({shared_from_this(), &actionItem()});
+        services().windows.open({shared_from_this(), &actionItem()});
         complete(true);
     });
 }
 
 void CloseOpenedWindow::perform() {
     performOnMainThread([this] {
-        surroundings().windows.close();
+        services().windows.close();
         complete(true);
     });
 }
@@ -168,9 +169,9 @@ void NavigateToSlide::perform() {
     using Jump = ActionItem::NavigateToSlide::Jump;
     const Jump jump = actionItem().jump();
     if (const auto *const index = std::get_if<Jump::Index>(&jump.value)) {
-        surroundings().slides->navigateToIndex(index->index);
+        context().slides->navigateToIndex(index->index);
     } else {
-        surroundings().slides->navigateByOffset(std::get<Jump::Offset>(jump.value).offset);
+        context().slides->navigateByOffset(std::get<Jump::Offset>(jump.value).offset);
     }
     complete(true);
 }
@@ -183,7 +184,7 @@ void UpdateVariable::perform() {
         complete(false);
         return;
     }
-    surroundings().contentManager->updateVariable(name, actionItem()._newValue(), true);
+    services().variables->updateVariable(name, actionItem()._newValue(), true);
     complete(true);
 }
 

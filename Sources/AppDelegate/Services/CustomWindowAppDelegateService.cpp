@@ -46,8 +46,10 @@ void logUnequalFight(const std::string &application, bool asksForPassword) {
 
 } // namespace
 
-CustomWindowAppDelegateService::CustomWindowAppDelegateService(Surroundings surroundings)
-    : surroundings_(std::move(surroundings)) {
+CustomWindowAppDelegateService::CustomWindowAppDelegateService(const Services &services,
+                                                               VelmarViewController::Application application,
+                                                               Desktop desktop)
+    : services_(services), application_(std::move(application)), desktop_(std::move(desktop)) {
     standInLater_.setSingleShot(true);
     QObject::connect(&standInLater_, &QTimer::timeout, [this] { standInForStatusItem(); });
 }
@@ -68,7 +70,7 @@ void CustomWindowAppDelegateService::standInForStatusItem() {
     // to go yet.
     if (statusItem_ != nullptr &&
         (QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr ||
-         surroundings_.screens().frames.empty())) {
+         desktop_.screens().frames.empty())) {
         standInLater_.start(untilTriedAgain);
         return;
     }
@@ -94,16 +96,15 @@ void CustomWindowAppDelegateService::configureMenuBar() {
         statusItem_->setImage(std::move(*image));
     }
     statusItem_->show();
-    std::exchange(surroundings_.didPresent, [] {})();
+    std::exchange(desktop_.didPresent, [] {})();
 }
 
 void CustomWindowAppDelegateService::showApplicationViewController() {
     if (controller_ == nullptr) {
-        popover_ = std::make_unique<Popover>(surroundings_.mainMenu);
+        popover_ = std::make_unique<Popover>(desktop_.mainMenu);
         QObject::connect(&popover_->window(), &Window::firstPainted, popover_.get(),
-                         [this] { surroundings_.didPaint(); });
-        controller_ = new VelmarViewController(surroundings_.view, &popover_->window());
-        popover_->window().setContent(controller_);
+                         [this] { desktop_.didPaint(); });
+        buildController(popover_->window());
     }
     const auto admin = _admin.wrappedValue();
     popover_->toggle(statusItem_->frame(), pixels(_menuBarSize()),
@@ -113,8 +114,8 @@ void CustomWindowAppDelegateService::showApplicationViewController() {
 }
 
 void CustomWindowAppDelegateService::buildWindow() {
-    const auto presentation = WindowPresentation::of(*_windowConfig.wrappedValue(), surroundings_.screens());
-    window_ = std::make_unique<Window>(presentation.style, surroundings_.mainMenu);
+    const auto presentation = WindowPresentation::of(*_windowConfig.wrappedValue(), desktop_.screens());
+    window_ = std::make_unique<Window>(presentation.style, desktop_.mainMenu);
     if (popover_ != nullptr) {
         // Its session goes on, and something of its window may be under way still.
         window_->setContent(popover_->window().takeContent());
@@ -133,8 +134,8 @@ void CustomWindowAppDelegateService::buildWindow() {
         place();
     });
     QObject::connect(window_.get(), &Window::firstPainted, window_.get(), [this] {
-        surroundings_.didPaint();
-        std::exchange(surroundings_.didPresent, [] {})();
+        desktop_.didPaint();
+        std::exchange(desktop_.didPresent, [] {})();
     });
     screensObserver_ = std::make_unique<ScreensObserver>([this] { screensChanged(); });
     window_->show();
@@ -142,14 +143,18 @@ void CustomWindowAppDelegateService::buildWindow() {
     window_->activateWindow();
     if (controller_ == nullptr) {
         // While the desktop puts up the window, which it asks to be painted only after this event.
-        controller_ = new VelmarViewController(surroundings_.view, window_.get());
-        window_->setContent(controller_);
+        buildController(*window_);
     }
+}
+
+void CustomWindowAppDelegateService::buildController(Window &window) {
+    controller_ = new VelmarViewController(services_, desktop_.appearance, application_, &window);
+    window.setContent(controller_);
 }
 
 void CustomWindowAppDelegateService::reloadInterface(bool byResetingVariables) {
     if (controller_ == nullptr) {
-        surroundings_.view.reloadInterface(byResetingVariables);
+        application_.reloadInterface(byResetingVariables);
     } else if (byResetingVariables) {
         controller_->reloadInterfaceResetingVariables();
     } else {
@@ -190,11 +195,11 @@ void CustomWindowAppDelegateService::arrange(const WindowPresentation &presentat
 void CustomWindowAppDelegateService::place() {
     const auto section = _windowConfig.wrappedValue();
     WindowPlacement::place(*window_, section->_position(),
-                           WindowPlacement::chooseScreen(surroundings_.screens(), section->_screenIndex()));
+                           WindowPlacement::chooseScreen(desktop_.screens(), section->_screenIndex()));
 }
 
 void CustomWindowAppDelegateService::screensChanged() {
-    const Screens screens = surroundings_.screens();
+    const Screens screens = desktop_.screens();
     if (screens.frames.empty()) {
         return; // Until one comes back there is nowhere to go.
     }

@@ -28,17 +28,20 @@ struct WindowPresentation;
 /// with its popover, and keeps it until the application ends: the one service that lives over the events.
 class CustomWindowAppDelegateService final : public AppDelegateService {
 public:
-    struct Surroundings {
+    /// The desktop, and what is to be done when something appears on it. The references must outlive the
+    /// service.
+    struct Desktop {
         MainMenu &mainMenu;
-        std::function<Screens()> screens;
+        const DesktopAppearance &appearance;
         /// Called after each first paint of a window.
         std::function<void()> didPaint;
         /// Called once, when something is on the screen, for what would hold that up.
         std::function<void()> didPresent;
-        VelmarViewController::Surroundings view;
+        std::function<Screens()> screens = &Screens::current;
     };
 
-    explicit CustomWindowAppDelegateService(Surroundings surroundings);
+    CustomWindowAppDelegateService(const Services &services, VelmarViewController::Application application,
+                                   Desktop desktop);
     ~CustomWindowAppDelegateService() override;
 
     /// Throws VelmarError::InternalError where there is no screen. The status item comes when there is a
@@ -62,6 +65,8 @@ private:
     void configureMenuBar();
     void standInForStatusItem();
     void buildWindow();
+    /// Makes the session's views in a window, which has none yet.
+    void buildController(Window &window);
     void setTitle();
     /// Gives the window the size and the place that the present screens allow.
     void arrange(const WindowPresentation &presentation);
@@ -73,7 +78,9 @@ private:
     Config<SizeItem> _menuBarSize{
         [](const Configuration &c) -> decltype(auto) { return c._window()._menuBarSize(); }};
     Config<AdminSection> _admin{[](const Configuration &c) -> decltype(auto) { return c._admin(); }};
-    Surroundings surroundings_;
+    const Services &services_;
+    VelmarViewController::Application application_;
+    Desktop desktop_;
     std::unique_ptr<Window> window_;
     std::unique_ptr<ScreenCover> cover_;
     std::unique_ptr<ScreensObserver> screensObserver_;

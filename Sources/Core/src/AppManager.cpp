@@ -40,17 +40,17 @@ std::shared_ptr<ConfigurationSlot> admittedConfiguration(const URL &url, const I
 
 } // namespace
 
-AppManager::AppManager(const Surroundings &surroundings)
-    : configurationFileURL_(
-          surroundings.locator.findConfigurationFile(surroundings.locator.configurationName())),
-      configuration_(admittedConfiguration(configurationFileURL_, surroundings.identityAuthority)),
-      terminate_(surroundings.terminate),
-      contentManager_(surroundings.contentManager) {
+AppManager::AppManager(const ConfigurationLocator &locator, const IdentityAuthority &identityAuthority,
+                       ForceQuit forceQuit, std::shared_ptr<ContentManager> contentManager)
+    : configurationFileURL_(locator.findConfigurationFile(locator.configurationName())),
+      configuration_(admittedConfiguration(configurationFileURL_, identityAuthority)),
+      terminate_(std::move(forceQuit.terminate)),
+      contentManager_(std::move(contentManager)) {
     Logger::info("Successfully decoded configuration file");
 
     if (launchConfiguration()->_appTermination()._isForceQuitShortcutEnabled()) {
-        keyDownMonitor_ = surroundings.addKeyDownMonitor(
-            [this](const KeyEvent &event) { return keyDownEventHandler(event); });
+        keyDownMonitor_ =
+            forceQuit.addKeyDownMonitor([this](const KeyEvent &event) { return keyDownEventHandler(event); });
     }
 }
 

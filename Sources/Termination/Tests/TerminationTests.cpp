@@ -97,11 +97,7 @@ TEST(AppTerminationManager, LetsTheUserQuitWhenBothConditionsHold) {
                                                observe(userTriesToQuitWhenNotAllMonitoredFilesArePresent)};
         const auto termination = std::make_shared<Termination>();
         const auto store = std::make_shared<ContentManager>();
-        AppTerminationManager manager(
-            {.terminationService = termination,
-             .notificationCenter = center,
-             .contentManager = store,
-             .userCanQuitIfInstallationIsIncomplete = Config<bool>::always(userCanQuit)});
+        AppTerminationManager manager(termination, store, center, Config<bool>::always(userCanQuit));
         manager.setInstallationComplete(isComplete);
         manager.setMandatoryFilesPresent(arePresent);
         EXPECT_EQ(store->variables()->at("INSTALLATION_COMPLETE"), isComplete ? "true" : "false");

@@ -8,14 +8,15 @@
 
 namespace velmar {
 
-AppTerminationManager::AppTerminationManager(Surroundings surroundings)
-    : _userCanQuitIfInstallationIsIncomplete(std::move(surroundings.userCanQuitIfInstallationIsIncomplete)),
-      terminationService_(std::move(surroundings.terminationService)),
-      notificationCenter_(surroundings.notificationCenter),
-      _isInstallationComplete(true, GeneralSection::Placeholders::installationComplete,
-                              surroundings.contentManager),
-      _areMandatoryFilesPresent(true, GeneralSection::Placeholders::mandatoryFilesPresent,
-                                surroundings.contentManager) {}
+AppTerminationManager::AppTerminationManager(std::shared_ptr<AppTermination> terminationService,
+                                             const std::shared_ptr<ContentManagerProtocol> &variables,
+                                             NotificationCenter &notificationCenter,
+                                             Config<bool> userCanQuitIfInstallationIsIncomplete)
+    : _userCanQuitIfInstallationIsIncomplete(std::move(userCanQuitIfInstallationIsIncomplete)),
+      terminationService_(std::move(terminationService)),
+      notificationCenter_(notificationCenter),
+      _isInstallationComplete(true, GeneralSection::Placeholders::installationComplete, variables),
+      _areMandatoryFilesPresent(true, GeneralSection::Placeholders::mandatoryFilesPresent, variables) {}
 
 Config<bool> AppTerminationManager::configuredPermission() {
     return Config<bool>([](const Configuration &c) -> decltype(auto) {

@@ -28,11 +28,12 @@ QString label(const std::optional<std::string> &configured, const QString &stand
 
 } // namespace
 
-NavigationViewController::NavigationViewController(const NavigationSection &section,
-                                                   std::shared_ptr<const ContentViewModel> content,
+NavigationViewController::NavigationViewController(const NavigationSection &section, MainQueue &mainQueue,
+                                                   NotificationCenter &center,
                                                    const DesktopAppearance &appearance, QWidget *parent)
     : QWidget(parent),
-      center_(content->center()),
+      mainQueue_(mainQueue),
+      center_(center),
       appearance_(appearance),
       section_(section),
       //% "Previous"
@@ -43,7 +44,7 @@ NavigationViewController::NavigationViewController(const NavigationSection &sect
       quitLabel_(label(section._quitButtonText(), qtTrId("navigation.buttons.quit"))),
       previousButton_(new NavigationButton(false, this)),
       nextButton_(new NavigationButton(true, this)),
-      viewModel_(*this, std::move(content)) {
+      viewModel_(*this, center) {
     setFixedHeight(width);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::AlternateBase);
@@ -78,6 +79,12 @@ void NavigationViewController::nextPressed() {
         navigate(NavigationNotifications::willNavigateToNextSlide,
                  viewModel_.state().nextButtonMoves() ? previousButton_ : nullptr);
     }
+    if (viewModel_.isCurrentSlideValid() && !isSoleSlideReached_ && !isLastSlideReached_) {
+        previousButton_->setConcealed(false);
+    }
+    viewModel_.clearHideFlags();
+    center_.post(NavigationNotifications::willNavigateToNextSlide);
+    hideWhatTheSlideWantsHidden();
 }
 
 void NavigationViewController::previousPressed() {
@@ -85,6 +92,14 @@ void NavigationViewController::previousPressed() {
         navigate(NavigationNotifications::willNavigateToPreviousSlide,
                  viewModel_.state().isSlideValid ? nextButton_ : nullptr);
     }
+    if (viewModel_.isCurrentSlideValid()) {
+        nextButton_->setConcealed(false);
+    }
+    nextButton_->setLabel(nextLabel_);
+    isLastSlideReached_ = false;
+    viewModel_.clearHideFlags();
+    center_.post(NavigationNotifications::willNavigateToPreviousSlide);
+    hideWhatTheSlideWantsHidden();
 }
 
 void NavigationViewController::navigate(std::string_view notification, NavigationButton *revealed) {
@@ -112,15 +127,46 @@ void NavigationViewController::reachedSlide(const SlideArrival &arrival) {
     }
 }
 
-void NavigationViewController::apply(const NavigationState &state, int milliseconds) {
-    nextButton_->setLabel(state.nextButtonQuits() ? quitLabel_ : nextLabel_);
-    nextButton_->setConcealed(state.isNextButtonHidden(), milliseconds);
-    previousButton_->setConcealed(state.isPreviousButtonHidden(), milliseconds);
+void NavigationViewController::reachedLastSlide() {
+    isLastSlideReached_ = true;
+    laterUnlessGoneOn([this] { nextButton_->setLabel(quitLabel_); });
+    previousButton_->setConcealed(viewModel_.currentSlideHidePreviousButton(), animationDuration());
+    nextButton_->setConcealed(viewModel_.currentSlideHideNextButton(), animationDuration());
+    postAfterAnimation(NavigationNotifications::didReachLastSlide);
+}
+
+void NavigationViewController::reachedSoleSlide() {
+    isSoleSlideReached_ = true;
+    ++arrival_;
+    nextButton_->setConcealed(viewModel_.currentSlideHideNextButton(), animationDuration());
+    nextButton_->setLabel(quitLabel_);
+    postAfterAnimation(NavigationNotifications::didReachSoleSlide);
+}
+
+void NavigationViewController::reevaluateButtons() {
+    isLastSlideReached_ = false;
+    laterUnlessGoneOn([this] {
+        nextButton_->setLabel(nextLabel_);
+        previousButton_->setConcealed(viewModel_.currentSlideHidePreviousButton());
+        nextButton_->setConcealed(viewModel_.currentSlideHideNextButton());
+    });
+}
+
+void NavigationViewController::laterUnlessGoneOn(std::function<void()> function) {
+    mainQueue_.async([bar = QPointer(this), arrival = ++arrival_, function = std::move(function)] {
+        if (bar != nullptr && bar->arrival_ == arrival) {
+            function();
+        }
+    });
 }
 
 int NavigationViewController::animationDuration() const {
-    // The fade of an invisible bar would only delay the completion.
+    // Before the bar is on show there is nothing to watch.
     return appearance_.isAnimated() && isVisible() ? animationMilliseconds : 0;
+}
+
+void NavigationViewController::postAfterAnimation(std::string_view notification) {
+    QTimer::singleShot(animationDuration(), this, [this, notification] { center_.post(notification); });
 }
 
 void NavigationViewController::updateTextColors() {

@@ -34,9 +34,9 @@ protected:
     void show(const std::vector<ComponentItem> &components) {
         ContainerItem item;
         item._components.set(components);
-        view = std::make_unique<ContainerViewController>(
-            item, ContainerViewController::Kind::inSoleSlide, std::nullopt,
-            ContainerViewController::Surroundings{queue, appearance(), conditions}, nullptr);
+        view = std::make_unique<ContainerViewController>(item, ContainerViewController::Kind::inSoleSlide,
+                                                         std::nullopt, services.bundle, appearance(), nullptr,
+                                                         conditions);
         view->resize(500, 400);
         view->viewWillAppear();
         view->show();
@@ -75,7 +75,7 @@ protected:
     }
 
     RecordedLog log;
-    std::shared_ptr<ContentManager> manager = std::make_shared<ContentManager>();
+    std::shared_ptr<ContentManager> manager = services.variables;
     Shared<ContentManager>::Scope scope{manager};
     std::shared_ptr<ConditionEvaluator> conditions =
         std::make_shared<ConditionEvaluator>(ConditionEvaluator::NamedConditions(), manager);

@@ -3,7 +3,7 @@
 #include <Configuration/ComponentItem.h>
 #include <Desktop/DesktopAppearance.h>
 #include <Support/QtTest.h>
-#include <Testing/TestMainQueue.h>
+#include <Support/TestServices.h>
 #include <Views/CustomViews/StyleConfigurableTextView.h>
 #include <Views/CustomViews/Theme.h>
 
@@ -64,7 +64,8 @@ protected:
         return list;
     }
 
-    TestMainQueue queue;
+    TestServices services;
+    TestMainQueue &queue = services.mainQueue;
 
 private:
     static inline std::unique_ptr<DesktopAppearance> appearance_;

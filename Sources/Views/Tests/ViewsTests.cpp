@@ -40,8 +40,8 @@ protected:
 
     std::unique_ptr<SlideViewController> shown(const SlideItem &item, SlideViewController::Kind kind,
                                                int width) {
-        auto view = std::make_unique<SlideViewController>(
-            item, kind, center, ContainerViewController::Surroundings{queue, appearance()}, nullptr);
+        auto view =
+            std::make_unique<SlideViewController>(item, kind, center, services.bundle, appearance(), nullptr);
         view->resize(width, 400);
         view->show();
         settle();

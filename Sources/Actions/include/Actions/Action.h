@@ -11,14 +11,15 @@
 
 namespace velmar {
 
-struct ActionSurroundings;
+struct ActionContext;
+struct Services;
 
 /// What the actions have in common: the item, the condition that stands before the work, and how they end.
 /// Owned by shared pointers: what goes on after `dispatch` has returned keeps its action alive.
 class Action : public Dispatchable, public std::enable_shared_from_this<Action> {
 public:
-    Action(std::shared_ptr<const ActionItem> item, std::shared_ptr<const ActionSurroundings> surroundings)
-        : item_(std::move(item)), surroundings_(std::move(surroundings)) {}
+    Action(std::shared_ptr<const ActionItem> item, std::shared_ptr<const ActionContext> context)
+        : item_(std::move(item)), context_(std::move(context)) {}
 
     [[nodiscard]] const ActionItem &item() const final { return *item_; }
     [[nodiscard]] const SuccessCompletionBlock &successCompletionBlock() const final {
@@ -38,7 +39,8 @@ protected:
     /// Tells that the action has ended. Any thread.
     void complete(bool success);
 
-    [[nodiscard]] const ActionSurroundings &surroundings() const noexcept { return *surroundings_; }
+    [[nodiscard]] const ActionContext &context() const noexcept { return *context_; }
+    [[nodiscard]] const Services &services() const noexcept;
 
     /// The action itself, for what goes on after `dispatch` has returned: `keepingAlive(this)`.
     template <class Self>
@@ -53,7 +55,7 @@ private:
     void performReportingFailure(const std::function<void()> &work) noexcept;
 
     std::shared_ptr<const ActionItem> item_;
-    std::shared_ptr<const ActionSurroundings> surroundings_;
+    std::shared_ptr<const ActionContext> context_;
     SuccessCompletionBlock successCompletionBlock_;
 };
 

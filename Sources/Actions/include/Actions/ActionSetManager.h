@@ -20,6 +20,8 @@
 
 namespace velmar {
 
+struct Services;
+
 /// Sorts the sets of actions of the configuration by what triggers them, once, and fires them: on clicks on
 /// Next and Previous, changes of variables, starts of other applications and custom triggers. Those of the
 /// launch and of the termination are others' to fire. Owned by AppManager. Made on the main thread; destroyed
@@ -47,20 +49,14 @@ public:
         ActionSetsByName customNames;
     };
 
-    /// What the manager works with; the references must outlive it.
-    struct Surroundings {
-        RunningApplications &runningApplications;
-        NotificationCenter &center = NotificationCenter::defaultCenter();
-        std::shared_ptr<ActionDispatcherProtocol> dispatcher = ActionDispatcher::shared();
-        std::shared_ptr<ContentManagerProtocol> contentManager = ContentManager::shared();
-    };
-
     /// All sets of the configuration of the moment.
     [[nodiscard]] static Config<std::vector<TriggeredActionSetItem>> configuredActionSets();
 
-    /// Begins to follow the triggers at once.
+    /// Begins to follow the triggers at once. The centre must outlive the manager.
     [[nodiscard]] static std::shared_ptr<ActionSetManager>
-    make(std::shared_ptr<const std::vector<TriggeredActionSetItem>> actionSets, Surroundings surroundings);
+    make(std::shared_ptr<const std::vector<TriggeredActionSetItem>> actionSets, const Services &services,
+         NotificationCenter &center = NotificationCenter::defaultCenter(),
+         std::shared_ptr<ActionDispatcherProtocol> dispatcher = ActionDispatcher::shared());
 
     void dispatchSetsFor(std::string_view customTrigger) override;
 
@@ -69,13 +65,13 @@ public:
 
 private:
     ActionSetManager(std::shared_ptr<const std::vector<TriggeredActionSetItem>> actionSets,
-                     Surroundings surroundings);
+                     const Services &services, std::shared_ptr<ActionDispatcherProtocol> dispatcher);
 
-    void setupNotifications();
+    void setupNotifications(NotificationCenter &center, RunningApplications &runningApplications);
     void dispatchSets(const ActionSets &sets) const;
     void dispatchSetsFor(const RunningApplication &application) const;
 
-    Surroundings surroundings_;
+    std::shared_ptr<ActionDispatcherProtocol> dispatcher_;
     SetsForTrigger setsForTrigger_; // Never changes, so that any thread reads it.
     Content _contentVariables;
     std::vector<NotificationObserver> observers_;

@@ -45,24 +45,21 @@ public:
     /// A running monitor of key-down events; letting go of it removes it.
     using KeyDownMonitor = std::shared_ptr<void>;
 
-    /// What the manager needs of the place that it runs in.
-    struct Surroundings {
-        ConfigurationLocator locator;
-        /// Must outlive the making of the manager.
-        const IdentityAuthority &identityAuthority;
+    /// The functions behind the force quit shortcut.
+    struct ForceQuit {
         /// Starts a monitor whose handler sees each key-down event of the application before anything else
         /// does.
         std::function<KeyDownMonitor(KeyDownHandler)> addKeyDownMonitor;
         /// Ends the application by its regular way, past the conditions that hold a quit back.
         std::function<void()> terminate;
-        /// The store whose variables a reload resets.
-        std::shared_ptr<ContentManager> contentManager = ContentManager::shared();
     };
 
     /// Finds, admits and decodes the configuration, then starts the monitor of the force quit shortcut unless
-    /// the configuration switches it off. Throws whatever refuses the configuration: VelmarError,
-    /// ConfigurationError, PropertyListError.
-    explicit AppManager(const Surroundings &surroundings);
+    /// the configuration switches it off. A reload resets the variables of `contentManager`. Throws whatever
+    /// refuses the configuration: VelmarError, ConfigurationError, PropertyListError.
+    AppManager(const ConfigurationLocator &locator, const IdentityAuthority &identityAuthority,
+               ForceQuit forceQuit,
+               std::shared_ptr<ContentManager> contentManager = ContentManager::shared());
 
     /// Decodes a file that has been admitted elsewhere, for a process that only shows it: no shortcut ends
     /// the process. Throws what `ConfigurationFile::retrieveConfiguration` throws.

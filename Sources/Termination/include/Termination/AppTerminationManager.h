@@ -21,15 +21,11 @@ public:
 /// better. The application shares one. Main thread.
 class AppTerminationManager final : public AppTerminationManagerProtocol {
 public:
-    /// What the manager works with; the centre must outlive it.
-    struct Surroundings {
-        std::shared_ptr<AppTermination> terminationService;
-        NotificationCenter &notificationCenter = NotificationCenter::defaultCenter();
-        std::shared_ptr<ContentManagerProtocol> contentManager = ContentManager::shared();
-        Config<bool> userCanQuitIfInstallationIsIncomplete = configuredPermission();
-    };
-
-    explicit AppTerminationManager(Surroundings surroundings);
+    /// The centre must outlive the manager.
+    AppTerminationManager(std::shared_ptr<AppTermination> terminationService,
+                          const std::shared_ptr<ContentManagerProtocol> &variables,
+                          NotificationCenter &notificationCenter = NotificationCenter::defaultCenter(),
+                          Config<bool> userCanQuitIfInstallationIsIncomplete = configuredPermission());
 
     [[nodiscard]] static std::shared_ptr<AppTerminationManager> shared() {
         return Shared<AppTerminationManager>::instance();

@@ -1,5 +1,6 @@
 #include <Views/Content/Containers/ContainerViewController.h>
 
+#include <Base/Services.h>
 #include <Desktop/DesktopAppearance.h>
 #include <Views/Content/Components/Button.h>
 #include <Views/Content/Components/Spacer.h>
@@ -82,10 +83,13 @@ struct ViewMaker {
 
 ContainerViewController::ContainerViewController(const ContainerItem &item, Kind kind,
                                                  const std::optional<ColorItem> &slideBorderColor,
-                                                 Surroundings surroundings, QWidget *parent)
+                                                 const Services &services,
+                                                 const DesktopAppearance &appearance, QWidget *parent,
+                                                 const std::shared_ptr<ConditionEvaluator> &conditions)
     : QWidget(parent),
       kind_(kind),
-      surroundings_(std::move(surroundings)),
+      services_(services),
+      appearance_(appearance),
       viewModel_(std::make_shared<ContainerViewModel>()),
       borderColorItem_(item._borderColor() ? item._borderColor() : slideBorderColor),
       column_(new QWidget),
@@ -93,12 +97,12 @@ ContainerViewController::ContainerViewController(const ContainerItem &item, Kind
       scrollArea_(new ColumnScrollArea(column_, this)),
       keyboardFocus_(*this, *scrollArea_, *column_) {
     const std::vector<ComponentItem> &items = item._components();
-    const VariableNames conditions = componentsConditions(items, *surroundings_.conditions);
-    if (!conditions.empty()) {
-        variablesRefresh_.emplace(surroundings_.mainQueue, [this] { components_->reload(); });
-        variablesRefresh_->follow(conditions);
+    const VariableNames conditionVariables = componentsConditions(items, *conditions);
+    if (!conditionVariables.empty()) {
+        variablesRefresh_.emplace(services_.mainQueue, [this] { components_->reload(); });
+        variablesRefresh_->follow(conditionVariables);
     }
-    components_.emplace(items, surroundings_.conditions, *this);
+    components_.emplace(items, conditions, *this);
     layout_->setContentsMargins(ComponentViews::marginsOf(item._margins(), standardMargins(kind)));
     layout_->setSpacing(0);
     for (std::size_t position = 0; position < items.size(); ++position) {
@@ -131,7 +135,7 @@ bool ContainerViewController::scroll(int key) {
 
 ComponentView *ContainerViewController::makeView(std::size_t position) {
     ComponentView *view =
-        std::visit(ViewMaker{surroundings_.mainQueue, column_}, components_->items()[position].value);
+        std::visit(ViewMaker{services_.mainQueue, column_}, components_->items()[position].value);
     connect(view, &ComponentView::titleDidChange, this, &ContainerViewController::updateTitle);
     if (const auto element = view->mandatoryElement()) {
         element->setMandatorySupervisor(viewModel_);
@@ -161,7 +165,7 @@ void ContainerViewController::giveKeyboardFocusBack() {
 }
 
 void ContainerViewController::prepare(const ComponentsChange &change) {
-    const bool isAnimated = isOnShow_ && isVisible() && surroundings_.appearance.isAnimated();
+    const bool isAnimated = isOnShow_ && isVisible() && appearance_.isAnimated();
     // The former one may just be telling of its end.
     if (viewManagementAnimator_ != nullptr) {
         viewManagementAnimator_->deleteLater();

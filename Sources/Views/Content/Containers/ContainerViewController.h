@@ -1,7 +1,6 @@
 #pragma once
 
 #include <Configuration/ContainerItem.h>
-#include <Dispatch/MainQueue.h>
 #include <Views/Content/Containers/ComponentsViewModel.h>
 #include <Views/Content/Containers/ContainerKeyboardFocus.h>
 #include <Views/Content/VariablesRefresh.h>
@@ -23,6 +22,7 @@ class ComponentView;
 class ContainerViewManagementAnimator;
 class ContainerViewModel;
 class DesktopAppearance;
+struct Services;
 
 /// A column of components, of which those with conditions come and go; one that is too high scrolls. Main
 /// thread.
@@ -38,17 +38,12 @@ public:
         inSidebar,      ///< Beside all slides.
     };
 
-    /// What a container needs around it. The queue and the appearance must outlive the controller.
-    struct Surroundings {
-        MainQueue &mainQueue;
-        const DesktopAppearance &appearance;
-        std::shared_ptr<ConditionEvaluator> conditions = ConditionEvaluator::shared();
-    };
-
-    /// `slideBorderColor` is the border's colour unless the container has one of its own.
-    ContainerViewController(const ContainerItem &item, Kind kind,
-                            const std::optional<ColorItem> &slideBorderColor, Surroundings surroundings,
-                            QWidget *parent);
+    /// `slideBorderColor` is the border's colour unless the container has one of its own. The appearance must
+    /// outlive the controller.
+    ContainerViewController(
+        const ContainerItem &item, Kind kind, const std::optional<ColorItem> &slideBorderColor,
+        const Services &services, const DesktopAppearance &appearance, QWidget *parent,
+        const std::shared_ptr<ConditionEvaluator> &conditions = ConditionEvaluator::shared());
     ~ContainerViewController() override;
 
     [[nodiscard]] const std::shared_ptr<ContainerViewModel> &viewModel() const noexcept { return viewModel_; }
@@ -93,7 +88,8 @@ private:
     void updateBorderColor();
 
     Kind kind_;
-    Surroundings surroundings_;
+    const Services &services_;
+    const DesktopAppearance &appearance_;
     std::shared_ptr<ContainerViewModel> viewModel_;
     std::optional<ComponentsViewModel> components_;
     std::optional<ColorItem> borderColorItem_;

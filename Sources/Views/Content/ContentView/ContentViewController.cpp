@@ -15,8 +15,9 @@ constexpr int transitionDuration = 320; // Milliseconds.
 }
 
 ContentViewController::ContentViewController(std::shared_ptr<ContentViewModel> viewModel,
-                                             const DesktopAppearance &appearance, QWidget *parent)
-    : QWidget(parent), viewModel_(std::move(viewModel)), appearance_(appearance) {
+                                             const Services &services, const DesktopAppearance &appearance,
+                                             QWidget *parent)
+    : QWidget(parent), viewModel_(std::move(viewModel)), services_(services), appearance_(appearance) {
     viewModel_->setController(this);
     animation_.setStartValue(0.0);
     animation_.setEndValue(1.0);
@@ -62,7 +63,7 @@ SlideViewController *ContentViewController::slide(int index) {
     using Kind = SlideViewController::Kind;
     auto *view = new SlideViewController((*items)[static_cast<std::size_t>(index)],
                                          viewModel_->isMenuBarMode() ? Kind::inMenuBar : Kind::standard,
-                                         viewModel_->center(), {viewModel_->mainQueue(), appearance_}, this);
+                                         viewModel_->center(), services_, appearance_, this);
     view->hide();
     slides_.emplace(index, view);
     return view;

@@ -12,6 +12,7 @@ namespace velmar {
 
 class DesktopAppearance;
 class SlideViewController;
+struct Services;
 
 /// Shows the current slide, and moves from one to the next. Slides are made when they are first needed, so
 /// that the number of slides costs nothing at the start. Main thread.
@@ -19,8 +20,9 @@ class ContentViewController final : public QWidget, public ContentViewController
     Q_OBJECT
 
 public:
-    ContentViewController(std::shared_ptr<ContentViewModel> viewModel, const DesktopAppearance &appearance,
-                          QWidget *parent);
+    /// The appearance must outlive the controller.
+    ContentViewController(std::shared_ptr<ContentViewModel> viewModel, const Services &services,
+                          const DesktopAppearance &appearance, QWidget *parent);
     ~ContentViewController() override;
 
     /// Creates the current slide from the present configuration and shows it without a transition.
@@ -50,6 +52,7 @@ private:
     void finishTransition();
 
     std::shared_ptr<ContentViewModel> viewModel_;
+    const Services &services_;
     const DesktopAppearance &appearance_;
     std::map<int, SlideViewController *> slides_;
     int currentSlideIndex_ = 0;

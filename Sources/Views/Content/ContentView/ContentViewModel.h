@@ -73,7 +73,6 @@ public:
 
     /// Notification centre of the navigation and of the slides' validity.
     [[nodiscard]] NotificationCenter &center() const noexcept { return center_; }
-    [[nodiscard]] MainQueue &mainQueue() const noexcept { return mainQueue_; }
 
     /// Publishes the index and the validity, and registers for the notifications and the requests of actions.
     void setupNotifications();

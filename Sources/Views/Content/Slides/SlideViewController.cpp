@@ -24,7 +24,7 @@ ContainerViewController::Kind containerKind(SlideViewController::Kind kind, std:
 } // namespace
 
 SlideViewController::SlideViewController(const SlideItem &slide, Kind kind, NotificationCenter &center,
-                                         const ContainerViewController::Surroundings &surroundings,
+                                         const Services &services, const DesktopAppearance &appearance,
                                          QWidget *parent)
     : QWidget(parent),
       kind_(kind),
@@ -32,8 +32,9 @@ SlideViewController::SlideViewController(const SlideItem &slide, Kind kind, Noti
       composition_(slide.containersComposition()) {
     const auto &containers = slide._containers();
     for (const ContainerItem &item : containers) {
-        auto *container = new ContainerViewController(item, containerKind(kind, containers.size()),
-                                                      slide._containersBorderColor(), surroundings, this);
+        auto *container =
+            new ContainerViewController(item, containerKind(kind, containers.size()),
+                                        slide._containersBorderColor(), services, appearance, this);
         container->viewModel()->setMandatorySupervisor(viewModel_);
         connect(container, &ContainerViewController::titleDidChange, this,
                 &SlideViewController::titleDidChange);

@@ -23,9 +23,9 @@ public:
         inMenuBar, ///< Without the inset at the top.
     };
 
-    /// The slide's validity is told to the centre, which must outlive the controller.
+    /// The slide's validity is told to the centre, which must outlive the controller, as must the appearance.
     SlideViewController(const SlideItem &slide, Kind kind, NotificationCenter &center,
-                        const ContainerViewController::Surroundings &surroundings, QWidget *parent);
+                        const Services &services, const DesktopAppearance &appearance, QWidget *parent);
     ~SlideViewController() override;
 
     [[nodiscard]] const std::shared_ptr<SlideViewModel> &viewModel() const noexcept { return viewModel_; }

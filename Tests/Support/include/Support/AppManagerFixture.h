@@ -63,16 +63,17 @@ protected:
     }
 
     std::shared_ptr<AppManager> makeAppManager() {
-        return std::make_shared<AppManager>(AppManager::Surroundings{
-            ConfigurationLocator({"x", false}, defaults_, FileManager::defaultManager(),
-                                 {URL::file(directory_.path("Managed Preferences"), true), std::nullopt}),
-            authority_,
-            [this](AppManager::KeyDownHandler handler) {
-                keyDownHandler_ = std::move(handler);
-                return keyDownMonitor_ = std::make_shared<int>();
-            },
-            [this] { ++terminations_; },
-        });
+        const ConfigurationLocator locator(
+            {"x", false}, defaults_, FileManager::defaultManager(),
+            {URL::file(directory_.path("Managed Preferences"), true), std::nullopt});
+        return std::make_shared<AppManager>(
+            locator, authority_,
+            AppManager::ForceQuit{.addKeyDownMonitor =
+                                      [this](AppManager::KeyDownHandler handler) {
+                                          keyDownHandler_ = std::move(handler);
+                                          return keyDownMonitor_ = std::make_shared<int>();
+                                      },
+                                  .terminate = [this] { ++terminations_; }});
     }
 
     TemporaryDirectory directory_;
