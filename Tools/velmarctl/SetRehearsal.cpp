@@ -70,8 +70,7 @@ public:
 
     bool run() {
         const ScopedDestinations log({std::make_shared<LogLines>(record_)});
-        const auto plugin =
-            Plugins::registerPlugin(std::make_shared<const PopulatePlugin>(contentManager_));
+        const auto plugin = Plugins::registerPlugin(std::make_shared<const PopulatePlugin>(contentManager_));
         const Shared<ConditionEvaluator>::Scope evaluator(
             std::make_shared<ConditionEvaluator>(configuration_->_conditions(), contentManager_));
         const auto start = std::chrono::steady_clock::now();

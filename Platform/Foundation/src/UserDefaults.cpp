@@ -56,7 +56,7 @@ void putAside(const std::string &path) {
 
 // Locks out other processes until the descriptor is closed. The timeout keeps a stopped process that holds
 // the lock from blocking a start.
-Descriptor lock(const std::string &directory, const std::string &path) {
+Descriptor lockFile(const std::string &directory, const std::string &path) {
     Descriptor descriptor(open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!descriptor)
         throw FileError::fromErrno(path, "written", errno);
@@ -97,7 +97,7 @@ std::optional<std::string> UserDefaults::string(std::string_view key) const {
 void UserDefaults::set(std::string_view key, std::string_view value) {
     const FileManager &files = FileManager::defaultManager();
     files.createDirectory(directory_, directoryMode);
-    const Descriptor locked = lock(directory_, path_);
+    const Descriptor locked = lockFile(directory_, path_);
     Settings settings = settingsAt(path_);
     settings.values.set(key, value);
     const std::string text = textOf(path_, std::move(settings.values));

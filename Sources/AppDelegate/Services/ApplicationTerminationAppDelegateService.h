@@ -2,7 +2,7 @@
 
 #include <AppDelegate/AppDelegateService.h>
 #include <Configuration/Configuration.h>
-#include <Managers/Config.h>
+#include <Settings/Config.h>
 
 namespace velmar {
 

@@ -107,8 +107,7 @@ TEST_F(ContentTest, RegistersAndResetsWhatTheConfigurationHas) {
 TEST_F(ContentTest, PopulatesAllTextsOfAValueOrNone) {
     manager_->updateVariables({{"A", "${B}!"}, {"B", "x"}, {"C", "${D}"}, {"D", "${C}"}});
     static_cast<void>(log_.takeLines());
-    const auto registration =
-        Plugins::registerPlugin(std::make_shared<const PopulatePlugin>(manager_));
+    const auto registration = Plugins::registerPlugin(std::make_shared<const PopulatePlugin>(manager_));
     const struct {
         std::vector<std::string> value;
         std::vector<std::string> populated;

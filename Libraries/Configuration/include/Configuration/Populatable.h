@@ -18,8 +18,8 @@ namespace velmar {
 [[nodiscard]] VariableNames usedVariables(std::string_view text);
 
 /// The names on which the populated form of a text depends: those that it uses and, through the values that
-/// these have, all others; names without a value are among them. Circles end; of a text beyond the limits of `populated`, which is
-/// shown as it stands, the names may be incomplete.
+/// these have, all others; names without a value are among them. Circles end; of a text beyond the limits of
+/// `populated`, which is shown as it stands, the names may be incomplete.
 [[nodiscard]] VariableNames involvedVariables(std::string_view text, const Variables &variables);
 
 /// The text with each reference replaced by the populated value of its variable. Throws ExpressionError:

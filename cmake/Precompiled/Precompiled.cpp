@@ -1,0 +1,1 @@
+// A target needs a source to own a precompiled header.
