@@ -128,8 +128,8 @@ void VelmarViewController::buildSideContainer() {
 
 void VelmarViewController::buildNavigation() {
     delete navigationViewController_;
-    navigationViewController_ = new NavigationViewController(*_navigation.wrappedValue(), services_.mainQueue,
-                                                             application_.center, appearance_, this);
+    navigationViewController_ =
+        new NavigationViewController(*_navigation.wrappedValue(), contentViewModel_, appearance_, this);
     column_->addWidget(navigationViewController_);
 }
 

@@ -28,12 +28,11 @@ QString label(const std::optional<std::string> &configured, const QString &stand
 
 } // namespace
 
-NavigationViewController::NavigationViewController(const NavigationSection &section, MainQueue &mainQueue,
-                                                   NotificationCenter &center,
+NavigationViewController::NavigationViewController(const NavigationSection &section,
+                                                   std::shared_ptr<const ContentViewModel> content,
                                                    const DesktopAppearance &appearance, QWidget *parent)
     : QWidget(parent),
-      mainQueue_(mainQueue),
-      center_(center),
+      center_(content->center()),
       appearance_(appearance),
       section_(section),
       //% "Previous"
@@ -44,7 +43,7 @@ NavigationViewController::NavigationViewController(const NavigationSection &sect
       quitLabel_(label(section._quitButtonText(), qtTrId("navigation.buttons.quit"))),
       previousButton_(new NavigationButton(false, this)),
       nextButton_(new NavigationButton(true, this)),
-      viewModel_(*this, center) {
+      viewModel_(*this, std::move(content)) {
     setFixedHeight(width);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::AlternateBase);
@@ -79,12 +78,6 @@ void NavigationViewController::nextPressed() {
         navigate(NavigationNotifications::willNavigateToNextSlide,
                  viewModel_.state().nextButtonMoves() ? previousButton_ : nullptr);
     }
-    if (viewModel_.isCurrentSlideValid() && !isSoleSlideReached_ && !isLastSlideReached_) {
-        previousButton_->setConcealed(false);
-    }
-    viewModel_.clearHideFlags();
-    center_.post(NavigationNotifications::willNavigateToNextSlide);
-    hideWhatTheSlideWantsHidden();
 }
 
 void NavigationViewController::previousPressed() {
@@ -92,14 +85,6 @@ void NavigationViewController::previousPressed() {
         navigate(NavigationNotifications::willNavigateToPreviousSlide,
                  viewModel_.state().isSlideValid ? nextButton_ : nullptr);
     }
-    if (viewModel_.isCurrentSlideValid()) {
-        nextButton_->setConcealed(false);
-    }
-    nextButton_->setLabel(nextLabel_);
-    isLastSlideReached_ = false;
-    viewModel_.clearHideFlags();
-    center_.post(NavigationNotifications::willNavigateToPreviousSlide);
-    hideWhatTheSlideWantsHidden();
 }
 
 void NavigationViewController::navigate(std::string_view notification, NavigationButton *revealed) {
@@ -127,46 +112,15 @@ void NavigationViewController::reachedSlide(const SlideArrival &arrival) {
     }
 }
 
-void NavigationViewController::reachedLastSlide() {
-    isLastSlideReached_ = true;
-    laterUnlessGoneOn([this] { nextButton_->setLabel(quitLabel_); });
-    previousButton_->setConcealed(viewModel_.currentSlideHidePreviousButton(), animationDuration());
-    nextButton_->setConcealed(viewModel_.currentSlideHideNextButton(), animationDuration());
-    postAfterAnimation(NavigationNotifications::didReachLastSlide);
-}
-
-void NavigationViewController::reachedSoleSlide() {
-    isSoleSlideReached_ = true;
-    ++arrival_;
-    nextButton_->setConcealed(viewModel_.currentSlideHideNextButton(), animationDuration());
-    nextButton_->setLabel(quitLabel_);
-    postAfterAnimation(NavigationNotifications::didReachSoleSlide);
-}
-
-void NavigationViewController::reevaluateButtons() {
-    isLastSlideReached_ = false;
-    laterUnlessGoneOn([this] {
-        nextButton_->setLabel(nextLabel_);
-        previousButton_->setConcealed(viewModel_.currentSlideHidePreviousButton());
-        nextButton_->setConcealed(viewModel_.currentSlideHideNextButton());
-    });
-}
-
-void NavigationViewController::laterUnlessGoneOn(std::function<void()> function) {
-    mainQueue_.async([bar = QPointer(this), arrival = ++arrival_, function = std::move(function)] {
-        if (bar != nullptr && bar->arrival_ == arrival) {
-            function();
-        }
-    });
+void NavigationViewController::apply(const NavigationState &state, int milliseconds) {
+    nextButton_->setLabel(state.nextButtonQuits() ? quitLabel_ : nextLabel_);
+    nextButton_->setConcealed(state.isNextButtonHidden(), milliseconds);
+    previousButton_->setConcealed(state.isPreviousButtonHidden(), milliseconds);
 }
 
 int NavigationViewController::animationDuration() const {
-    // Before the bar is on show there is nothing to watch.
+    // The fade of an invisible bar would only delay the completion.
     return appearance_.isAnimated() && isVisible() ? animationMilliseconds : 0;
-}
-
-void NavigationViewController::postAfterAnimation(std::string_view notification) {
-    QTimer::singleShot(animationDuration(), this, [this, notification] { center_.post(notification); });
 }
 
 void NavigationViewController::updateTextColors() {

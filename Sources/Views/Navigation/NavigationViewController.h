@@ -21,10 +21,10 @@ public:
     /// Thickness of the bar, in points.
     static constexpr int width = 64;
 
-    /// The queue, the centre and the appearance must outlive the bar.
-    NavigationViewController(const NavigationSection &section, MainQueue &mainQueue,
-                             NotificationCenter &center, const DesktopAppearance &appearance,
-                             QWidget *parent);
+    /// The appearance must outlive the bar.
+    NavigationViewController(const NavigationSection &section,
+                             std::shared_ptr<const ContentViewModel> content,
+                             const DesktopAppearance &appearance, QWidget *parent);
 
     [[nodiscard]] NavigationButton &previousButton() const noexcept { return *previousButton_; }
     [[nodiscard]] NavigationButton &nextButton() const noexcept { return *nextButton_; }
@@ -50,7 +50,6 @@ private:
     /// Duration of the fades in milliseconds. 0 if the desktop disables animations.
     [[nodiscard]] int animationDuration() const;
 
-    MainQueue &mainQueue_;
     NotificationCenter &center_;
     const DesktopAppearance &appearance_;
     NavigationSection section_;
