@@ -29,6 +29,7 @@
 #include <QGuiApplication>
 
 #include <cstdlib>
+#include <functional>
 #include <utility>
 
 namespace velmar {
@@ -122,10 +123,7 @@ void AppDelegate::shareActionDispatcher() {
         .services = services_,
         // The service comes after the dispatcher, which it uses.
         .terminateApp = [this] { services_.mainQueue.async([this] { terminationService_->terminate(); }); }});
-    actionDispatcher_.emplace(
-        std::make_shared<ActionDispatcher>([context](std::shared_ptr<const ActionItem> item) {
-            return dispatchable(std::move(item), context);
-        }));
+    actionDispatcher_.emplace(std::make_shared<ActionDispatcher>(std::bind_front(&dispatchable, context)));
 }
 
 void AppDelegate::openedWindowDidClose() {

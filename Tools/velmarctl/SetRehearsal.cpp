@@ -112,7 +112,7 @@ private:
     [[nodiscard]] std::shared_ptr<Dispatchable> reported(std::shared_ptr<const ActionItem> item) const {
         const auto number = item.get() - set_.item->_actions().data();
         auto name = fmt::format("{} {}", number, typeOf(*item));
-        return std::make_shared<ReportedAction>(velmar::dispatchable(std::move(item), context_),
+        return std::make_shared<ReportedAction>(velmar::dispatchable(context_, std::move(item)),
                                                 std::move(name), record_);
     }
 

@@ -4,6 +4,7 @@
 #include <Configuration/Configuration.h>
 #include <Variables/ConditionEvaluator.h>
 
+#include <Support/FactoryTableTest.h>
 #include <Support/RecordedLog.h>
 #include <Support/TestServices.h>
 
@@ -55,7 +56,7 @@ protected:
     /// Starts an action and does what waits on the main thread.
     void run(const std::shared_ptr<const ActionItem> &item) {
         outcomes_.clear();
-        const auto started = dispatchable(item, context_);
+        const auto started = dispatchable(context_, item);
         started->setSuccessCompletionBlock(
             [this](bool success) { outcomes_ += success ? "true " : "false "; });
         started->dispatch();
@@ -73,6 +74,17 @@ protected:
     Shared<ConditionEvaluator>::Scope evaluator_{
         std::make_shared<ConditionEvaluator>(ConditionEvaluator::NamedConditions(), services_.variables)};
 };
+
+TEST_F(ActionsTest, HaveARuntimeFormOrAreNamedAsNotBuilt) {
+    expectEachTypeOnce(actionTable());
+}
+
+TEST_F(ActionsTest, OfATypeThatIsNotBuiltSaySoAndFail) {
+    run("<key>Type</key><string>LogoutUser</string>");
+    EXPECT_EQ(outcomes_, "false ");
+    EXPECT_THAT(log_.takeLines(),
+                ElementsAre(HasSubstr("Actions of the type 'LogoutUser' cannot be run yet")));
+}
 
 TEST_F(ActionsTest, AreNotRunForAConditionThatFails) {
     ActionItem::Log log;
@@ -135,7 +147,7 @@ TEST_F(ActionsTest, PlayTheSoundOrElseTheOneOfTheProgram) {
     EXPECT_THAT(log_.takeLines(), ElementsAre(HasSubstr("Broken.")));
 }
 
-TEST_F(ActionsTest, CopyNavigateUpdateAndTerminate) {
+TEST_F(ActionsTest, CopyNavigateUpdateOpenCloseAndTerminate) {
     const auto navigator = std::make_shared<Navigator>();
     slides_->addObserver(navigator);
     const auto runs = [this](std::string_view type, std::string_view keys) {
@@ -163,6 +175,16 @@ TEST_F(ActionsTest, CopyNavigateUpdateAndTerminate) {
     EXPECT_EQ(outcomes_, "false ");
     EXPECT_THAT(log_.takeLines(),
                 Contains(HasSubstr("Updating placeholders with the 'UpdateVariable' action is not allowed")));
+
+    EXPECT_EQ(runs("OpenWindow", fmt::format("<key>Slide</key>{}<key>Size</key><dict><key>Width</key>"
+                                             "<integer>300</integer><key>Height</key><integer>200</integer>"
+                                             "</dict>",
+                                             slide)),
+              "true ");
+    ASSERT_NE(services_.windows.openItem, nullptr);
+    EXPECT_EQ(services_.windows.openItem->_size()._width(), 300);
+    EXPECT_EQ(runs("CloseOpenedWindow", ""), "true ");
+    EXPECT_EQ(services_.windows.openItem, nullptr);
 
     EXPECT_EQ(runs("TerminateApp", ""), "true ");
     EXPECT_EQ(terminations_, 1);

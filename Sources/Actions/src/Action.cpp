@@ -1,6 +1,7 @@
 #include <Actions/Action.h>
 
 #include <Actions/ActionContext.h>
+#include <Base/FactoryTable.h>
 #include <Base/LoggerExtensions.h>
 #include <Base/Services.h>
 #include <Dispatch/MainQueue.h>
@@ -8,7 +9,6 @@
 #include <Variables/Evaluatable.h>
 
 #include <exception>
-#include <type_traits>
 
 namespace velmar {
 
@@ -21,31 +21,34 @@ void Action::dispatch() {
         LoggerExtensions::error(LogSubject::actions, textOf(std::current_exception()));
         return;
     }
-    performReportingFailure([this] { perform(); });
+    try {
+        perform();
+    } catch (...) {
+        fail(std::current_exception());
+    }
 }
 
 void Action::performOnMainThread(std::function<void()> work) {
-    services().mainQueue.async(
-        [self = shared_from_this(), work = std::move(work)] { self->performReportingFailure(work); });
+    services().mainQueue.async([self = shared_from_this(), work = std::move(work)] {
+        try {
+            work();
+        } catch (...) {
+            self->fail(std::current_exception());
+        }
+    });
 }
 
 const Services &Action::services() const noexcept {
     return context_->services;
 }
 
-void Action::performReportingFailure(const std::function<void()> &work) noexcept {
-    try {
-        work();
-    } catch (...) {
-        LoggerExtensions::error(LogSubject::actions, textOf(std::current_exception()));
-        runReportingUncaught("Action", [this] { complete(false); });
-    }
+void Action::fail(const std::exception_ptr &error) noexcept {
+    LoggerExtensions::error(LogSubject::actions, textOf(error));
+    runReportingUncaught("Action", [this] { complete(false); });
 }
 
 std::string_view typeOf(const ActionItem &item) {
-    return rawString(
-        std::visit([](const auto &action) { return std::remove_cvref_t<decltype(action)>::typeIdentifier; },
-                   item.value));
+    return rawString(typeIdentifierOf(item));
 }
 
 void Action::complete(bool success) {

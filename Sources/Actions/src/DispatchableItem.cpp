@@ -3,50 +3,56 @@
 #include <Actions/ExecutionActions.h>
 #include <Actions/InteractionActions.h>
 
+#include <array>
 #include <utility>
 
 namespace velmar {
 
 namespace {
 
-/// Makes the runtime form of one item.
-struct Maker {
-    std::shared_ptr<const ActionItem> item;
-    std::shared_ptr<const ActionContext> context;
+using ActionTable = FactoryTable<ActionItem, ActionFactory>;
+using Type = ActionTable::Type;
 
-    using Result = std::shared_ptr<Dispatchable>;
-    Result operator()(const ActionItem::Log &) const { return make<Actions::Log>(); }
-    Result operator()(const ActionItem::DisplayAlert &) const { return make<Actions::DisplayAlert>(); }
-    Result operator()(const ActionItem::DisplayNotification &) const {
-        return make<Actions::DisplayNotification>();
-    }
-    Result operator()(const ActionItem::PlaySound &) const { return make<Actions::PlaySound>(); }
-    Result operator()(const ActionItem::TerminateApp &) const { return make<Actions::TerminateApp>(); }
-    Result operator()(const ActionItem::CopyToClipboard &) const { return make<Actions::CopyToClipboard>(); }
-    Result operator()(const ActionItem::OpenWindow &) const { return make<Actions::OpenWindow>(); }
-    Result operator()(const ActionItem::CloseOpenedWindow &) const {
-        return make<Actions::CloseOpenedWindow>();
-    }
-    Result operator()(const ActionItem::NavigateToSlide &) const { return make<Actions::NavigateToSlide>(); }
-    Result operator()(const ActionItem::UpdateVariable &) const { return make<Actions::UpdateVariable>(); }
-    template <class Other>
-    Result operator()(const Other &) const {
-        return make<Actions::Unavailable>();
-    }
+template <class Runtime>
+std::shared_ptr<Dispatchable> make(std::shared_ptr<const ActionContext> context,
+                                   std::shared_ptr<const ActionItem> item) {
+    return std::make_shared<Runtime>(std::move(item), std::move(context));
+}
 
-private:
-    template <class Action>
-    [[nodiscard]] Result make() const {
-        return std::make_shared<Action>(item, context);
-    }
+template <class Runtime>
+constexpr ActionTable::Registration action{Runtime::ItemType::typeIdentifier, &make<Runtime>};
+
+constexpr std::array registrations{
+    action<Actions::Log>,
+    action<Actions::DisplayAlert>,
+    action<Actions::DisplayNotification>,
+    action<Actions::PlaySound>,
+    action<Actions::TerminateApp>,
+    action<Actions::CopyToClipboard>,
+    action<Actions::OpenWindow>,
+    action<Actions::CloseOpenedWindow>,
+    action<Actions::NavigateToSlide>,
+    action<Actions::UpdateVariable>,
 };
+
+constexpr std::array notBuilt{
+    Type::saveInput,        Type::sendRequest,       Type::executeCommand,
+    Type::executeScript,    Type::executeJamfPolicy, Type::restartComputer,
+    Type::shutdownComputer, Type::asleepComputer,    Type::logoutUser,
+};
+
+constexpr ActionTable table{registrations, notBuilt, &make<Actions::Unavailable>};
 
 } // namespace
 
-std::shared_ptr<Dispatchable> dispatchable(std::shared_ptr<const ActionItem> item,
-                                           const std::shared_ptr<const ActionContext> &context) {
-    const Maker maker{std::move(item), context};
-    return std::visit(maker, maker.item->value);
+const ActionTable &actionTable() {
+    return table;
+}
+
+std::shared_ptr<Dispatchable> dispatchable(std::shared_ptr<const ActionContext> context,
+                                           std::shared_ptr<const ActionItem> item) {
+    const ActionFactory make = table.factoryFor(*item);
+    return make(std::move(context), std::move(item));
 }
 
 } // namespace velmar

@@ -2,12 +2,14 @@
 
 #include <Foundation/NotificationCenter.h>
 #include <Views/Content/Components/Button.h>
+#include <Views/Content/Components/ComponentTable.h>
 #include <Views/Content/Slides/SlideViewController.h>
 #include <Views/CustomViews/Colors.h>
 #include <Views/CustomViews/Font.h>
 #include <Views/CustomViews/StyleConfigurableButton.h>
 #include <Views/Navigation/NavigationButton.h>
 
+#include <Support/FactoryTableTest.h>
 #include <Support/RecordedLog.h>
 
 #include <QKeyEvent>
@@ -50,6 +52,20 @@ protected:
 
     NotificationCenter center;
 };
+
+TEST_F(Views, AComponentOfEachTypeHasAViewOrIsNamedAsNotBuilt) {
+    expectEachTypeOnce(componentTable());
+}
+
+TEST_F(Views, AComponentOfATypeThatIsNotBuiltLeavesItsPlaceEmpty) {
+    const RecordedLog log;
+    const auto view =
+        shown(slide({{{ComponentItem::Image()}, text("Behind")}}), SlideViewController::Kind::standard, 600);
+    const auto alone = shown(slide({{text("Behind")}}), SlideViewController::Kind::standard, 600);
+    EXPECT_EQ(placedTexts(*view), placedTexts(*alone));
+    EXPECT_EQ(log.lines(),
+              std::vector<std::string>{"warning: Components of the type 'Image' cannot be shown yet"});
+}
 
 TEST_F(Views, ATextIsAsHighAsItsWidthAsksForAndNeverWiderThanItsPlace) {
     StyleConfigurableTextView view;

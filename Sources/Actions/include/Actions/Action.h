@@ -3,6 +3,7 @@
 #include <Actions/Dispatchable.h>
 #include <Configuration/ActionItem.h>
 
+#include <exception>
 #include <functional>
 #include <memory>
 #include <string_view>
@@ -52,7 +53,7 @@ protected:
     void performOnMainThread(std::function<void()> work);
 
 private:
-    void performReportingFailure(const std::function<void()> &work) noexcept;
+    void fail(const std::exception_ptr &error) noexcept;
 
     std::shared_ptr<const ActionItem> item_;
     std::shared_ptr<const ActionContext> context_;
@@ -66,6 +67,7 @@ private:
 template <class Item>
 class ActionOf : public Action {
 public:
+    using ItemType = Item;
     using Action::Action;
 
 protected:

@@ -40,6 +40,8 @@ namespace ComponentViews {
 template <class Item>
 class Base : public ComponentView {
 public:
+    using ItemType = Item;
+
     /// The queue must outlive the view.
     Base(Item item, QMargins standardMargins, MainQueue &mainQueue, QWidget *parent);
 

@@ -2,17 +2,13 @@
 
 #include <Base/Services.h>
 #include <Desktop/DesktopAppearance.h>
-#include <Views/Content/Components/Button.h>
-#include <Views/Content/Components/Spacer.h>
-#include <Views/Content/Components/Text.h>
+#include <Views/Content/Components/Base.h>
+#include <Views/Content/Components/ComponentTable.h>
 #include <Views/Content/Containers/ContainerViewManagementAnimator.h>
 #include <Views/Content/Containers/ContainerViewModel.h>
 #include <Views/CustomViews/Colors.h>
 #include <Views/CustomViews/ColumnScrollArea.h>
 #include <Views/CustomViews/Theme.h>
-
-#include <fmt/core.h>
-#include <logger/Logger.h>
 
 #include <QEvent>
 #include <QPainter>
@@ -51,33 +47,6 @@ QMargins standardMargins(ContainerViewController::Kind kind) {
     }
     return {32, 40, 32, 40};
 }
-
-/// Makes the view of a component.
-struct ViewMaker {
-    MainQueue &mainQueue;
-    QWidget *parent;
-
-    ComponentView *operator()(const ComponentItem::Text &text) const {
-        return new ComponentViews::Text(text, mainQueue, parent);
-    }
-    ComponentView *operator()(const ComponentItem::Button &button) const {
-        return new ComponentViews::Button(button, mainQueue, parent);
-    }
-    ComponentView *operator()(const ComponentItem::Spacer &spacer) const {
-        return new ComponentViews::Spacer(spacer, mainQueue, parent);
-    }
-    /// Kinds without a view leave their place empty.
-    template <class Item>
-    ComponentView *operator()(const Item & /*other*/) const {
-        Logger::warning([] {
-            return fmt::format("Components of the type '{}' cannot be shown yet",
-                               rawString(Item::typeIdentifier));
-        });
-        ComponentItem::Spacer nothing;
-        nothing._height.set(0);
-        return new ComponentViews::Spacer(std::move(nothing), mainQueue, parent);
-    }
-};
 
 } // namespace
 
@@ -134,8 +103,8 @@ bool ContainerViewController::scroll(int key) {
 }
 
 ComponentView *ContainerViewController::makeView(std::size_t position) {
-    ComponentView *view =
-        std::visit(ViewMaker{services_.mainQueue, column_}, components_->items()[position].value);
+    const ComponentItem &item = components_->items()[position];
+    ComponentView *view = componentTable().factoryFor(item)(item, services_, column_);
     connect(view, &ComponentView::titleDidChange, this, &ContainerViewController::updateTitle);
     if (const auto element = view->mandatoryElement()) {
         element->setMandatorySupervisor(viewModel_);
