@@ -20,10 +20,6 @@ bool isReadableFile(const std::string &path) {
     return std::filesystem::is_regular_file(path, ignored) && ::access(path.c_str(), R_OK) == 0;
 }
 
-struct NoTimer final : Timer {
-    void fire() override {}
-};
-
 } // namespace
 
 TerminalAlertPresenter::TerminalAlertPresenter(MainQueue &mainQueue, std::istream &in, SayLine say)
@@ -100,16 +96,6 @@ void TerminalUserNotifications::add(UserNotification notification, Completion co
         say_(fmt::format("       {}: triggers {}", action.title, action.identifier));
     }
     mainQueue_.async([completion = std::move(completion)] { completion({.isShown = true, .problem = {}}); });
-}
-
-std::unique_ptr<Timer> NoTimers::repeating(std::chrono::milliseconds /*interval*/,
-                                           std::function<void()> /*function*/) {
-    return std::make_unique<NoTimer>();
-}
-
-std::unique_ptr<Timer> NoTimers::once(std::chrono::milliseconds /*delay*/,
-                                      std::function<void()> /*function*/) {
-    return std::make_unique<NoTimer>();
 }
 
 void TerminalSlides::navigateToIndex(std::int64_t index) {

@@ -8,7 +8,6 @@
 #include <Interaction/UserNotifications.h>
 
 #include <Dispatch/MainQueue.h>
-#include <Dispatch/Timer.h>
 #include <System/RunningApplications.h>
 
 #include <functional>
@@ -85,15 +84,6 @@ public:
 private:
     MainQueue &mainQueue_;
     SayLine say_;
-};
-
-/// Timers that never fire: no action uses one.
-class NoTimers final : public TimerScheduler {
-public:
-    [[nodiscard]] std::unique_ptr<Timer> repeating(std::chrono::milliseconds interval,
-                                                   std::function<void()> function) override;
-    [[nodiscard]] std::unique_ptr<Timer> once(std::chrono::milliseconds delay,
-                                              std::function<void()> function) override;
 };
 
 /// Reports no application: sets of actions are run by the administrator, not by a trigger.

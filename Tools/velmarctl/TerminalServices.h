@@ -3,6 +3,7 @@
 #include <TerminalInterface.h>
 
 #include <Base/Services.h>
+#include <Dispatch/DispatchTimerScheduler.h>
 
 #include <istream>
 #include <memory>
@@ -10,8 +11,8 @@
 
 namespace velmar {
 
-/// The services of a process without the interface, which say each request in a line instead of carrying it
-/// out.
+/// The services of a process without the interface. A request to the desktop becomes a line that says so
+/// instead.
 class TerminalServices {
 public:
     /// The queue and the input must outlive the services.
@@ -37,7 +38,7 @@ public:
     [[nodiscard]] const Services &bundle() const noexcept { return bundle_; }
 
 private:
-    NoTimers timers_;
+    DispatchTimerScheduler timers_;
     TerminalAlertPresenter alerts_;
     TerminalPasteboard pasteboard_;
     TerminalSoundPlayer sounds_;
