@@ -4,7 +4,6 @@
 #include <Support/AppManagerFixture.h>
 
 #include <Base/NavigationNotifications.h>
-#include <Testing/TestAlertPresenter.h>
 #include <Views/Content/ContentView/ContentViewController.h>
 #include <Views/Navigation/NavigationViewController.h>
 #include <Views/VelmarViewController.h>
@@ -42,8 +41,9 @@ protected:
         write("Simple", slideOf(lines) + slideOf(textComponent("Second")) + slideOf(textComponent("Third")));
         shared_ = std::make_unique<AppManager::Scope>(makeAppManager());
         view = std::make_unique<VelmarViewController>(
-            VelmarViewController::Surroundings{
-                queue, quits, appearance(), alerts,
+            services.bundle, appearance(),
+            VelmarViewController::Application{
+                quits,
                 [](bool byResetingVariables) { AppManager::shared()->reloadInterface(byResetingVariables); },
                 center},
             &window);
@@ -94,7 +94,6 @@ protected:
     NotificationCenter center;
     std::vector<std::string_view> posted;
     QuitAttempts quits;
-    TestAlertPresenter alerts;
     QWidget window;
     std::unique_ptr<VelmarViewController> view;
     ContentViewController *content = nullptr;

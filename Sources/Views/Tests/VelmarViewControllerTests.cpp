@@ -17,64 +17,6 @@
 namespace velmar {
 namespace {
 
-class QuitAttempts final : public AppTerminationManagerProtocol {
-public:
-    void tryToQuitApplication() override { ++count; }
-    int count = 0;
-};
-
-/// The whole of the views, of a configuration whose slides are one that scrolls and two that don't.
-class VelmarView : public ViewTest<AppManagerFixture> {
-protected:
-    VelmarView() {
-        std::string lines;
-        for (int index = 0; index < 60; ++index) {
-            lines += textComponent(fmt::format("Line {}", index));
-        }
-        write("Simple", slideOf(lines) + slideOf(textComponent("Second")) + slideOf(textComponent("Third")));
-        shared_ = std::make_unique<AppManager::Scope>(makeAppManager());
-        view = std::make_unique<VelmarViewController>(
-            services.bundle, appearance(),
-            VelmarViewController::Application{
-                quits,
-                [](bool byResetingVariables) { AppManager::shared()->reloadInterface(byResetingVariables); },
-                center},
-            &window);
-        (new QVBoxLayout(&window))->addWidget(view.get());
-        content = view->findChild<ContentViewController *>();
-        bar = view->findChild<NavigationViewController *>();
-        window.resize(600, 400);
-        window.show();
-        window.activateWindow();
-        settle();
-    }
-
-    void write(std::string_view mode, const std::string &slides) {
-        writeConfiguration(fmt::format("<key>Window</key><dict><key>OnScreen</key><string>{}</string></dict>"
-                                       "<key>MenuBarSlide</key>{}"
-                                       "<key>Navigation</key><dict><key>InstallationIncompleteQuitText</key>"
-                                       "<string>Not before all is installed</string></dict>",
-                                       mode, slideOf(textComponent("Below the menu bar"))),
-                           0644, slides);
-    }
-
-    void press(int key, bool repeats = false) {
-        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, {}, repeats);
-        QCoreApplication::sendEvent(view.get(), &event);
-        settle();
-    }
-
-    NotificationCenter center;
-    QuitAttempts quits;
-    QWidget window;
-    std::unique_ptr<VelmarViewController> view;
-    ContentViewController *content = nullptr;
-    NavigationViewController *bar = nullptr;
-
-private:
-    std::unique_ptr<AppManager::Scope> shared_;
-};
-
 TEST_F(VelmarView, TakesTheKeysThatScrollAndLeavesTheOthersAlone) {
     const QScrollBar &scroller = *content->findChild<QScrollArea *>()->verticalScrollBar();
     ASSERT_GT(scroller.maximum(), scroller.pageStep());
