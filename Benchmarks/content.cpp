@@ -8,6 +8,8 @@
 #include <chrono>
 #include <cstdio>
 #include <functional>
+#include <map>
+#include <memory>
 #include <mutex>
 #include <string>
 #include <thread>
@@ -118,15 +120,27 @@ public:
     std::size_t length = 0;
 };
 
-void notice() {
+// A store with 1,000 observers: each observes a name of its own and the name "ALL".
+struct Observed {
+    Observed() {
+        for (std::size_t i = 0; i < observers.size(); ++i) {
+            observers[i] = std::make_shared<Observer>();
+            manager.addObserver(identities[i], observers[i], VariableNames{own[i], "ALL"});
+        }
+    }
+
     ContentManager manager;
-    std::vector<std::shared_ptr<Observer>> observers(1000);
+    std::vector<UUID> identities = std::vector<UUID>(1000);
+    std::vector<std::string> own = names(1000);
+    std::vector<std::shared_ptr<Observer>> observers = std::vector<std::shared_ptr<Observer>>(1000);
+};
+
+void notice() {
+    Observed observed;
     using Function =
         std::function<void(std::string_view, const std::optional<std::string> &, const std::string &)>;
     std::vector<Function> functions;
-    for (auto &observer : observers) {
-        observer = std::make_shared<Observer>();
-        manager.addObserver(UUID(), observer);
+    for (std::size_t i = 0; i < observed.observers.size(); ++i) {
         functions.emplace_back(
             [length = std::size_t{0}](std::string_view name, const auto &, const auto &) mutable {
                 length += name.size();
@@ -135,13 +149,65 @@ void notice() {
     }
     const std::optional<std::string> former("former");
     const std::string value("value");
+    const auto reference = [&](int) {
+        for (const Function &function : functions) {
+            function("A", former, value);
+        }
+    };
+    const auto writeOf = [&](std::string_view name) {
+        return [&observed, name](int call) {
+            observed.manager.updateVariable(name, call % 2 == 0 ? "even" : "odd", false);
+        };
+    };
+    compare("variable_notice_1_of_1000_observers", 100, writeOf(observed.own[500]), reference, "<2");
+    compare("variable_notice_1000_observers", 100, writeOf("ALL"), reference, "<10");
+}
+
+// The reference is a copy of a table of all observers.
+void replacement() {
+    Observed observed;
+    std::vector<ObserversByName::Entry> table;
+    for (std::size_t i = 0; i < observed.observers.size(); ++i) {
+        table.push_back({observed.identities[i], observed.observers[i]});
+    }
+    const auto reference = [&](int) {
+        const std::vector<ObserversByName::Entry> copy = table;
+        benchmark::DoNotOptimize(copy.data());
+    };
     compare(
-        "variable_notice_1000_observers", 100,
-        [&](int call) { manager.updateVariable("A", call % 2 == 0 ? "even" : "odd", false); },
+        "variable_names_replaced_of_1_of_1000_observers", 100,
+        [&](int call) {
+            const std::size_t i = static_cast<std::size_t>(call / 2 * 37) % observed.own.size();
+            const std::string name = call % 2 == 0 ? "OTHER" : observed.own[i];
+            observed.manager.setObservedNames(observed.identities[i], VariableNames{name, "ALL"});
+        },
+        reference, "<=1");
+}
+
+// A slide with 500 components. The reference keeps the same observers by name in a map without a lock.
+void slide() {
+    ContentManager manager;
+    std::vector<UUID> identities(500);
+    const std::vector<std::string> own = names(500);
+    const auto observer = std::make_shared<Observer>();
+    compare(
+        "variable_observers_500_come_and_go", 1,
         [&](int) {
-            for (const Function &function : functions) {
-                function("A", former, value);
+            for (std::size_t i = 0; i < identities.size(); ++i) {
+                manager.addObserver(identities[i], observer, VariableNames{});
+                manager.setObservedNames(identities[i], VariableNames{own[i], "ALL"});
             }
+            for (const UUID &identity : identities) {
+                manager.removeObserver(identity);
+            }
+        },
+        [&](int) {
+            std::multimap<std::string, std::weak_ptr<Observer>> byName;
+            for (const std::string &name : own) {
+                byName.emplace(name, observer);
+                byName.emplace("ALL", observer);
+            }
+            benchmark::DoNotOptimize(byName.size());
         },
         "<=10");
 }
@@ -154,4 +220,6 @@ int main() {
     write();
     snapshot();
     notice();
+    replacement();
+    slide();
 }

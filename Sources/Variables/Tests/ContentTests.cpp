@@ -1,6 +1,7 @@
 #include <Configuration/Configuration.h>
 #include <Variables/Content.h>
 #include <Variables/ContentUpdater.h>
+#include <Variables/ObservableContent.h>
 #include <Variables/PopulatePlugin.h>
 
 #include <Support/RecordedLog.h>
@@ -8,8 +9,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <atomic>
+#include <barrier>
 #include <functional>
 #include <stdexcept>
+#include <string>
+#include <thread>
 #include <vector>
 
 namespace velmar {
@@ -21,9 +27,10 @@ class Observer final : public ContentObserver {
 public:
     explicit Observer(const std::shared_ptr<ContentManager> &manager) : content_(manager) {}
 
-    static std::shared_ptr<Observer> of(const std::shared_ptr<ContentManager> &manager) {
+    static std::shared_ptr<Observer> of(const std::shared_ptr<ContentManager> &manager,
+                                        ObservedNames names = std::nullopt) {
         auto observer = std::make_shared<Observer>(manager);
-        observer->content_.subscribe(observer);
+        observer->content_.subscribe(observer, std::move(names));
         return observer;
     }
 
@@ -150,7 +157,7 @@ TEST_F(ContentTest, TellsWhoIsThereAndSubscribed) {
     twice->content_.subscribe(silent);
     const auto removed = Observer::of(manager_);
     manager_->removeObserver(removed->content_.contentManagerObserverId());
-    manager_->addObserver(UUID(), std::weak_ptr<ContentManagerObserver>(gone));
+    manager_->addObserver(UUID(), std::weak_ptr<ContentManagerObserver>(gone), std::nullopt);
     gone.reset();
     const auto throwing = Observer::of(manager_);
     throwing->reaction = [](const std::string &) { throw std::runtime_error("on purpose"); };
@@ -176,6 +183,127 @@ TEST_F(ContentTest, LetsObserversWriteAndLeaveDuringANotice) {
     EXPECT_EQ(writer->notices, "A:->1 A:1>1+ A:1+>1++ ");
     EXPECT_THAT(leaving, testing::Each(nullptr));
     EXPECT_EQ(manager_->variables()->at("A"), "1++");
+}
+
+TEST_F(ContentTest, NotifiesTheObserversOfAName) {
+    const auto ofAll = Observer::of(manager_);
+    const auto others = Observer::of(manager_, VariableNames{"A", "B", "é"});
+    const auto observer = Observer::of(manager_, VariableNames{});
+    const struct {
+        ObservedNames names;
+        std::vector<const char *> notified;
+        std::vector<const char *> silent;
+    } cases[] = {
+        {VariableNames{}, {}, {"A", "B", ""}},
+        {VariableNames{"A"}, {"A", "${A}"}, {"B", "a", "AA"}},
+        {VariableNames{"A", "B"}, {"A", "B"}, {"C"}},
+        {VariableNames{"B", "C"}, {"B", "C"}, {"A"}},
+        {VariableNames{"é", "e\u0301"}, {"é", "e\u0301"}, {"e", "B"}},
+        {VariableNames{"e\u0301"}, {"é", "e\u0301"}, {"C"}},
+        {VariableNames{""}, {"${}"}, {"é"}},
+        {std::nullopt, {"A", "é", ""}, {}},
+        {VariableNames{"C"}, {"C"}, {"A", "é"}},
+        {VariableNames{}, {}, {"A", "C", "é"}},
+    };
+    int value = 0;
+    int writes = 0;
+    const auto notices = [&](const char *name) {
+        observer->notices.clear();
+        manager_->updateVariable(name, std::to_string(++value), false);
+        ++writes;
+        return std::ranges::count(observer->notices, ' ');
+    };
+    for (const auto &[names, notified, silent] : cases) {
+        observer->content_.setObservedNames(names);
+        observer->content_.setObservedNames(names);
+        for (const char *const name : notified) {
+            EXPECT_EQ(notices(name), 1) << name << " in case " << &names - &cases[0].names;
+        }
+        for (const char *const name : silent) {
+            EXPECT_EQ(notices(name), 0) << name;
+        }
+    }
+    EXPECT_EQ(std::ranges::count(ofAll->notices, ' '), writes);
+    others->notices.clear();
+    manager_->addObserver(others->content_.contentManagerObserverId(), others, VariableNames{"C"});
+    manager_->updateVariables({{"A", "last"}, {"C", "last"}});
+    EXPECT_THAT(others->notices, testing::AllOf(testing::StartsWith("C:"), testing::EndsWith(">last ")));
+}
+
+TEST_F(ContentTest, LetsObserversReplaceNamesDuringANotice) {
+    std::vector<std::shared_ptr<Observer>> observers(10);
+    for (auto &observer : observers) {
+        observer = Observer::of(manager_, VariableNames{"A"});
+        observer->reaction = [&](const std::string & /*value*/) {
+            for (const auto &each : observers) {
+                each->content_.setObservedNames(VariableNames{"B"});
+            }
+        };
+    }
+    manager_->updateVariables({{"A", "1"}, {"B", "1"}});
+    manager_->updateVariable("A", "2", false);
+    for (const auto &observer : observers) {
+        EXPECT_EQ(observer->notices, "A:->1 B:->1 ") << "a notice that has begun goes on";
+    }
+}
+
+/// Counts the notices of values that begin with "own".
+class Counter final : public ObservableContent {
+public:
+    using ObservableContent::ObservableContent;
+    void variableDidChange(std::string_view /*name*/, const std::optional<std::string> & /*former*/,
+                           const std::string &value) override {
+        notices += value.starts_with("own") ? 1 : 0;
+    }
+    std::atomic<int> notices = 0;
+};
+
+TEST_F(ContentTest, LosesNoWriteAfterNamesWereReplaced) {
+    constexpr int rounds = 300;
+    const auto nameOf = [](int round) { return "X" + std::to_string(round % 3); };
+    const auto counter = std::make_shared<Counter>(manager_);
+    counter->contentVariables().subscribe(counter, VariableNames{});
+    std::atomic<bool> isOver = false;
+    std::vector<std::thread> disturbing;
+    for (int number = 0; number < 2; ++number) {
+        disturbing.emplace_back([&, number] {
+            for (int round = number; !isOver; ++round) {
+                const auto passing = std::make_shared<Counter>(manager_);
+                passing->contentVariables().subscribe(passing, VariableNames{nameOf(round)});
+                passing->setConcerningVariables({nameOf(round + 1), "other"});
+                manager_->updateVariable(nameOf(round + 1), std::to_string(number), false);
+            }
+        });
+    }
+    // The replacement happens before the write of the second phase and is concurrent with that of the first.
+    std::barrier phase(2);
+    std::thread writer([&] {
+        for (int round = 0; round < rounds; ++round) {
+            phase.arrive_and_wait();
+            manager_->updateVariable("SEEN", fmt::format("own {}", round), false);
+            phase.arrive_and_wait();
+            manager_->updateVariable(nameOf(round), fmt::format("own {}", round), false);
+            phase.arrive_and_wait();
+        }
+    });
+    for (int round = 0; round < rounds; ++round) {
+        counter->setConcerningVariables({});
+        counter->notices = 0;
+        phase.arrive_and_wait();
+        counter->setConcerningVariables({nameOf(round), "SEEN"});
+        const VariablesSnapshot variables = manager_->variables();
+        const auto seen = variables->find("SEEN");
+        const bool isRead = seen != variables->end() && seen->second == fmt::format("own {}", round);
+        phase.arrive_and_wait();
+        phase.arrive_and_wait();
+        const int notices = counter->notices;
+        EXPECT_TRUE(notices == 2 || (notices == 1 && isRead)) << notices << " in round " << round;
+    }
+    isOver = true;
+    writer.join();
+    for (std::thread &thread : disturbing) {
+        thread.join();
+    }
 }
 
 } // namespace

@@ -87,7 +87,8 @@ public:
     void updateVariable(std::string_view, std::string, bool) override {}
     void updateVariables(const std::map<std::string, std::string> &) override {}
     void updatePlaceholder(GeneralSection::Placeholders, std::string) override {}
-    void addObserver(const UUID &, std::weak_ptr<ContentManagerObserver>) override {}
+    void addObserver(const UUID &, std::weak_ptr<ContentManagerObserver>, ObservedNames) override {}
+    void setObservedNames(const UUID &, ObservedNames) override {}
     void removeObserver(const UUID &) override {}
 
 private:

@@ -13,10 +13,14 @@ Content::~Content() {
     }
 }
 
-void Content::subscribe(std::weak_ptr<ContentObserver> observer) {
+void Content::subscribe(std::weak_ptr<ContentObserver> observer, ObservedNames names) {
     if (!subscribed_.exchange(true)) {
-        contentManager_->addObserver(contentManagerObserverId_, std::move(observer));
+        contentManager_->addObserver(contentManagerObserverId_, std::move(observer), std::move(names));
     }
+}
+
+void Content::setObservedNames(ObservedNames names) {
+    contentManager_->setObservedNames(contentManagerObserverId_, std::move(names));
 }
 
 void Content::updateVariable(std::string_view name, std::string value, bool log) const {

@@ -43,7 +43,7 @@ void ContentManager::updateVariable(std::string_view name, std::string value, bo
                        : fmt::format("Successfully added a new variable [ {}: '{}' ]", bare, value);
         });
     }
-    tellObservers(bare, *change, value);
+    notifyObservers(bare, *change, value);
 }
 
 void ContentManager::updateVariables(const std::map<std::string, std::string> &variables) {
@@ -60,7 +60,7 @@ void ContentManager::registerVariables(const Configuration &configuration) {
     updateVariables(configuration._general()._variables().models());
     for (const std::string &name : configuration.declaredVariables) {
         if (const auto change = store(name, {}, Present::stays)) {
-            tellObservers(name, *change, {});
+            notifyObservers(name, *change, {});
         }
     }
 }
@@ -99,17 +99,20 @@ std::optional<ContentManager::Change> ContentManager::store(std::string_view nam
     });
 }
 
-void ContentManager::tellObservers(std::string_view name, const Change &change,
-                                   const std::string &value) const {
+void ContentManager::notifyObservers(std::string_view name, const Change &change,
+                                     const std::string &value) const {
     if (!hasObservers_.load(std::memory_order_relaxed)) {
         return;
     }
-    // Taken after the write: who is added from here on reads the new value.
-    const CopyOnWrite<Observers> observers = observers_.value();
-    for (const auto &[identity, entry] : *observers) {
-        if (const auto observer = entry.lock()) {
-            runReportingUncaught(observers_.label(),
-                                 [&] { observer->variableDidChange(name, change.former, value); });
+    // Taken after the write: an observer filed under the name from here on reads the new value.
+    const ObserversByName::Snapshot observers =
+        observers_.withValue([name](const ObserversByName &table) { return table.observersOf(name); });
+    for (const ObserversByName::Entries *const entries : {&observers.byName, &observers.ofEveryVariable}) {
+        for (const auto &[identity, entry] : **entries) {
+            if (const auto observer = entry.lock()) {
+                runReportingUncaught(observers_.label(),
+                                     [&] { observer->variableDidChange(name, change.former, value); });
+            }
         }
     }
 }
@@ -118,17 +121,22 @@ VariablesSnapshot ContentManager::variables() const {
     return VariablesSnapshot(variables_.value());
 }
 
-void ContentManager::addObserver(const UUID &identity, std::weak_ptr<ContentManagerObserver> observer) {
-    observers_.mutate([&](CopyOnWrite<Observers> &table) {
-        table.unshared().insert_or_assign(identity, std::move(observer));
+void ContentManager::addObserver(const UUID &identity, std::weak_ptr<ContentManagerObserver> observer,
+                                 ObservedNames names) {
+    observers_.mutate([&](ObserversByName &table) {
+        table.add(identity, std::move(observer), std::move(names));
         hasObservers_ = true;
     });
 }
 
+void ContentManager::setObservedNames(const UUID &identity, ObservedNames names) {
+    observers_.mutate([&](ObserversByName &table) { table.setNames(identity, std::move(names)); });
+}
+
 void ContentManager::removeObserver(const UUID &identity) {
-    observers_.mutate([&](CopyOnWrite<Observers> &table) {
-        table.unshared().erase(identity);
-        hasObservers_ = !table->empty();
+    observers_.mutate([&](ObserversByName &table) {
+        table.remove(identity);
+        hasObservers_ = !table.isEmpty();
     });
 }
 

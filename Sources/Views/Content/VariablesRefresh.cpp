@@ -17,6 +17,11 @@ public:
 
     void letGo() { refresh_ = nullptr; }
 
+    void variableDidChange(std::string_view /*name*/, const std::optional<std::string> & /*former*/,
+                           const std::string & /*value*/) override {
+        request();
+    }
+
     /// Any thread.
     void request() {
         if (isPending_.exchange(true)) {
@@ -24,27 +29,17 @@ public:
         }
         mainQueue_.async([observer = weak_from_this()] {
             if (const auto self = observer.lock()) {
-                self->refresh();
+                // First: the refresh may not see later changes.
+                self->isPending_ = false;
+                // A copy: the function may destroy its owner.
+                if (const auto function = self->refresh_) {
+                    function();
+                }
             }
         });
     }
 
-protected:
-    void concerningVariableDidChange(std::string_view /*name*/, const std::optional<std::string> & /*former*/,
-                                     const std::string & /*value*/) override {
-        request();
-    }
-
 private:
-    void refresh() {
-        // What changes from here on may not be seen any more.
-        isPending_ = false;
-        // The function may end its owner.
-        if (const auto function = refresh_) {
-            function();
-        }
-    }
-
     MainQueue &mainQueue_;
     std::function<void()> refresh_; // Main thread.
     std::atomic<bool> isPending_ = false;
@@ -52,7 +47,7 @@ private:
 
 VariablesRefresh::VariablesRefresh(MainQueue &mainQueue, std::function<void()> refresh)
     : observer_(std::make_shared<Observer>(mainQueue, std::move(refresh))) {
-    observer_->contentVariables().subscribe(observer_);
+    observer_->contentVariables().subscribe(observer_, VariableNames());
 }
 
 VariablesRefresh::~VariablesRefresh() {

@@ -6,9 +6,9 @@
 
 namespace velmar {
 
-/// An object's handle on the store of variables, usually its member `_contentVariables`: reads, writes and,
-/// once subscribed, has the object told of changes until the handle is destroyed. Any thread; what a handle
-/// is destroyed with must be done with it.
+/// An object's handle on the store of variables, usually its member `_contentVariables`: reads and writes
+/// variables and, once subscribed, keeps an observer registered until the handle is destroyed. Thread-safe
+/// except for its destruction.
 class Content {
 public:
     explicit Content(std::shared_ptr<ContentManagerProtocol> contentManager = ContentManager::shared());
@@ -18,9 +18,13 @@ public:
 
     [[nodiscard]] const UUID &contentManagerObserverId() const noexcept { return contentManagerObserverId_; }
 
-    /// Has the observer told of every change from now on; it is held weakly. The first call counts, later
-    /// ones do nothing.
-    void subscribe(std::weak_ptr<ContentObserver> observer);
+    /// Registers the observer, which is held weakly, for changes of the variables with these names, by
+    /// default of every variable. Only the first call has an effect.
+    void subscribe(std::weak_ptr<ContentObserver> observer, ObservedNames names = std::nullopt);
+
+    /// Replaces the observed names. The observer is notified of every later write that changes a variable of
+    /// the new names. Does nothing before the subscription.
+    void setObservedNames(ObservedNames names);
 
     void updateVariable(std::string_view name, std::string value, bool log) const;
     void updateVariables(const std::map<std::string, std::string> &variables) const;

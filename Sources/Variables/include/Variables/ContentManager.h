@@ -5,13 +5,10 @@
 #include <Configuration/GeneralSection.h>
 #include <Dispatch/ThreadSafe.h>
 #include <Foundation/UUID.h>
-#include <Variables/ContentObserver.h>
+#include <Variables/ObserversByName.h>
 #include <Variables/VariablesSnapshot.h>
 
-#include <boost/unordered/unordered_flat_map.hpp>
-
 #include <atomic>
-#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -22,13 +19,13 @@ namespace velmar {
 
 struct Configuration;
 
-/// What the store of variables offers to whoever holds a Content. Any thread.
+/// Interface of the store of variables to Content. Thread-safe.
 class ContentManagerProtocol {
 public:
     virtual ~ContentManagerProtocol() = default;
 
-    /// Gives a variable a value and tells every observer if that changed it: an equal value (by canonical
-    /// equivalence) is taken over in silence. The name is given bare or as "${NAME}"; a leading "${" and a
+    /// Gives a variable a value and notifies its observers of the change. An equal value (by canonical
+    /// equivalence) is stored without a notice. The name is given bare or as "${NAME}"; a leading "${" and a
     /// trailing "}" are stripped, each by itself. `log`: a change is logged, at information level.
     virtual void updateVariable(std::string_view name, std::string value, bool log) = 0;
 
@@ -41,9 +38,15 @@ public:
     /// The variables of this moment.
     [[nodiscard]] virtual VariablesSnapshot variables() const = 0;
 
-    /// Has the observer told of every change from now on, until it is removed or gone. An identity stands
-    /// for one observer: the last one added under it.
-    virtual void addObserver(const UUID &identity, std::weak_ptr<ContentManagerObserver> observer) = 0;
+    /// Registers an observer for changes of the variables with these names until it is removed or destroyed.
+    /// Replaces the observer of that identity, if there is one.
+    virtual void addObserver(const UUID &identity, std::weak_ptr<ContentManagerObserver> observer,
+                             ObservedNames names) = 0;
+
+    /// Replaces the names of an observer in one step. The observer is notified of every write that begins
+    /// afterwards and changes a variable of the new names; names in both sets miss no write. Does nothing if
+    /// there is no observer of that identity.
+    virtual void setObservedNames(const UUID &identity, ObservedNames names) = 0;
     virtual void removeObserver(const UUID &identity) = 0;
 };
 
@@ -61,7 +64,9 @@ public:
     void updateVariables(const std::map<std::string, std::string> &variables) override;
     void updatePlaceholder(GeneralSection::Placeholders placeholder, std::string value) override;
     [[nodiscard]] VariablesSnapshot variables() const override;
-    void addObserver(const UUID &identity, std::weak_ptr<ContentManagerObserver> observer) override;
+    void addObserver(const UUID &identity, std::weak_ptr<ContentManagerObserver> observer,
+                     ObservedNames names) override;
+    void setObservedNames(const UUID &identity, ObservedNames names) override;
     void removeObserver(const UUID &identity) override;
 
     /// At the start: gives the variables of General.Variables their values, logged, then every name that keys
@@ -73,7 +78,6 @@ public:
     void resetVariables(const VariableNames &names, const ExpressionsBook<std::string> &book);
 
 private:
-    using Observers = boost::unordered_flat_map<UUID, std::weak_ptr<ContentManagerObserver>, std::hash<UUID>>;
     struct Change {
         std::optional<std::string> former;
     };
@@ -83,12 +87,12 @@ private:
 
     // The change that storing the value made, none if the variable had an equal one.
     std::optional<Change> store(std::string_view name, const std::string &value, Present present);
-    void tellObservers(std::string_view name, const Change &change, const std::string &value) const;
+    void notifyObservers(std::string_view name, const Change &change, const std::string &value) const;
 
     ThreadSafe<CopyOnWrite<NumberedVariables>> variables_;
-    ThreadSafe<CopyOnWrite<Observers>> observers_;
-    // Spares a write the second lock. Who is added after a write that missed it reads what was written: both
-    // the write and the reading hold the lock of the variables.
+    ThreadSafe<ObserversByName> observers_;
+    // Lets writes skip the observers' lock when there are none. An observer added concurrently may miss the
+    // notice but will read the new value, since write and read hold the variables' lock.
     std::atomic<bool> hasObservers_{false};
 };
 

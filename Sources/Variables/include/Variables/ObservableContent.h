@@ -1,41 +1,29 @@
 #pragma once
 
-#include <Dispatch/ThreadSafe.h>
 #include <Variables/Content.h>
 
-#include <boost/unordered/unordered_flat_set.hpp>
+#include <memory>
+#include <utility>
 
 namespace velmar {
 
-/// An object with a handle on the store of variables, and those of them that concern it: it hears of their
-/// changes only. It is owned by a shared_ptr; whoever makes it subscribes the handle to it:
+/// Observer with its own handle on the store, registered under the names of the variables that concern it. It
+/// must be owned by a shared_ptr, and its maker subscribes it:
 ///
 ///     auto label = std::make_shared<Label>(...);
-///     label->contentVariables().subscribe(label);
+///     label->contentVariables().subscribe(label, label->names());
 class ObservableContent : public ContentObserver {
 public:
     explicit ObservableContent(
-        std::shared_ptr<ContentManagerProtocol> contentManager = ContentManager::shared());
+        std::shared_ptr<ContentManagerProtocol> contentManager = ContentManager::shared())
+        : _contentVariables(std::move(contentManager)) {}
 
     [[nodiscard]] Content &contentVariables() noexcept { return _contentVariables; }
 
-    /// The variables that concern the object from now on, in place of those before. Any thread.
-    void setConcerningVariables(const VariableNames &names);
-    [[nodiscard]] bool isConcernedBy(std::string_view variable) const;
-
-    /// Passes on what concerns the object.
-    void variableDidChange(std::string_view name, const std::optional<std::string> &former,
-                           const std::string &value) final;
-
-protected:
-    /// A variable that concerns the object changed; as ContentManagerObserver::variableDidChange.
-    virtual void concerningVariableDidChange(std::string_view name, const std::optional<std::string> &former,
-                                             const std::string &value) = 0;
+    /// Replaces the variables that concern the object; see Content::setObservedNames.
+    void setConcerningVariables(VariableNames names) { _contentVariables.setObservedNames(std::move(names)); }
 
 private:
-    using Names = boost::unordered_flat_set<std::string, VariableNameHash, VariableNameEqual>;
-
-    ThreadSafe<Names> names_;
     Content _contentVariables;
 };
 
