@@ -59,13 +59,13 @@ ActionSetManager::make(std::shared_ptr<const std::vector<TriggeredActionSetItem>
                        const Services &services, NotificationCenter &center,
                        std::shared_ptr<ActionDispatcherProtocol> dispatcher) {
     std::shared_ptr<ActionSetManager> manager(
-        new ActionSetManager(std::move(actionSets), std::move(surroundings)));
+        new ActionSetManager(std::move(actionSets), services, std::move(dispatcher)));
     VariableNames names;
     for (const auto &[name, sets] : manager->setsForTrigger_.variableUpdate) {
         names.insert(name);
     }
     manager->_contentVariables.subscribe(manager, std::move(names));
-    manager->setupNotifications();
+    manager->setupNotifications(center, services.runningApplications);
     return manager;
 }
 
