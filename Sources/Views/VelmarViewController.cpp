@@ -16,7 +16,9 @@
 #include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QVBoxLayout>
+#include <QVariantAnimation>
 
+#include <algorithm>
 #include <utility>
 
 namespace velmar {
@@ -24,7 +26,8 @@ namespace velmar {
 namespace {
 
 /// What readers of the screen find where the focus is on nothing in particular: a group that is called like
-/// the first container of the slide on show.
+/// the first container of the slide on show. It is busy while an animation moves, shows or hides a part of
+/// it.
 class AccessibleContent final : public QAccessibleWidget {
 public:
     explicit AccessibleContent(QWidget *widget) : QAccessibleWidget(widget, QAccessible::Grouping) {}
@@ -35,6 +38,16 @@ public:
         const auto *container = slide == nullptr ? nullptr : slide->findChild<ColumnScrollArea *>();
         return kind == QAccessible::Name && container != nullptr ? container->accessibleName()
                                                                  : QAccessibleWidget::text(kind);
+    }
+
+    [[nodiscard]] QAccessible::State state() const override {
+        // Animations of the style are of other classes: an indicator of progress may turn for ever.
+        QAccessible::State state = QAccessibleWidget::state();
+        const auto animations = widget()->findChildren<QVariantAnimation *>();
+        state.busy = std::ranges::any_of(animations, [](const QVariantAnimation *animation) {
+            return animation->state() == QVariantAnimation::Running;
+        });
+        return state;
     }
 };
 

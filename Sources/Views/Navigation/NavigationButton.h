@@ -35,7 +35,7 @@ protected:
 private:
     bool isPrimary_;
     bool isConcealed_ = false;
-    QVariantAnimation opacity_;
+    QVariantAnimation opacity_{this};
 };
 
 } // namespace velmar

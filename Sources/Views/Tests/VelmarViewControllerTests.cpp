@@ -10,6 +10,8 @@
 #include <QKeyEvent>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QVBoxLayout>
+#include <QVariantAnimation>
 
 #include <string>
 #include <vector>
@@ -182,6 +184,45 @@ TEST_F(VelmarView, IsCalledLikeItsSlideByReadersOfTheScreen) {
         EXPECT_EQ(interface->role(), QAccessible::Grouping);
         press(Qt::Key_Right);
     }
+}
+
+TEST_F(VelmarView, IsBusyForReadersOfTheScreenAsLongAsAnythingMoves) {
+    const auto isBusy = [this] {
+        return QAccessible::queryAccessibleInterface(view.get())->state().busy != 0;
+    };
+    const auto end = [](const QObject &part) {
+        for (auto *animation : part.findChildren<QVariantAnimation *>()) {
+            animation->setCurrentTime(animation->totalDuration());
+        }
+    };
+    // Without the event loop, no animation goes on by itself.
+    appearance().setAnimated(true);
+    EXPECT_FALSE(isBusy());
+    bar->pressNext();
+    queue.runUntilEmpty();
+    EXPECT_TRUE(isBusy()) << "the slides move";
+    end(*content);
+    EXPECT_FALSE(isBusy());
+    bar->pressPrevious();
+    queue.runUntilEmpty();
+    end(*content);
+    EXPECT_TRUE(isBusy()) << "the button that led back fades out longer than the slides move";
+    end(*bar);
+    EXPECT_FALSE(isBusy());
+}
+
+TEST_F(VelmarView, TellsWhenTheAnimationOfAnEndIsOver) {
+    std::vector<std::string> reached;
+    std::vector<NotificationObserver> tokens;
+    for (const auto name :
+         {NavigationNotifications::didReachFirstSlide, NavigationNotifications::didReachLastSlide}) {
+        tokens.push_back(center.addObserver(std::string(name), [&, name] { reached.emplace_back(name); }));
+    }
+    for (const int key : {Qt::Key_Right, Qt::Key_Right, Qt::Key_Left, Qt::Key_Left}) {
+        press(key);
+    }
+    EXPECT_EQ(reached,
+              (std::vector<std::string>{"didReachLastSlideNotification", "didReachFirstSlideNotification"}));
 }
 
 TEST_F(VelmarView, KeepsTheButtonsAsTheLatestArrivalLeftThemAndTakesNoPressOfOneThatIsGoing) {

@@ -57,7 +57,7 @@ private:
     std::map<int, SlideViewController *> slides_;
     int currentSlideIndex_ = 0;
     int previousSlideIndex_ = 0; // While a transition runs.
-    QVariantAnimation animation_;
+    QVariantAnimation animation_{this};
 };
 
 } // namespace velmar
