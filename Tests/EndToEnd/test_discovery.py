@@ -10,7 +10,7 @@ class Discovery(Scenario):
         managed = self.install(configuration(slide("Delivered")), place=machine.MANAGED)
         _, screen = self.velmar()
         screen.wait_for_text("Delivered")
-        self.assertIn(f"Found configuration file at {managed}", self.messages())
+        self.wait_for_message(f"Found configuration file at {managed}")
 
     def test_a_dangling_link_in_the_first_place_counts_as_not_there(self):
         (machine.MANAGED / "Velmar.plist").symlink_to("/nowhere")

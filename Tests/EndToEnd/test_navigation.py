@@ -1,14 +1,13 @@
 """The window, its slides and the way through them."""
 
 import plistlib
-import subprocess
-
 import signal
+import subprocess
 
 from harness import machine
 from harness.scenario import Scenario, configuration, slide
-from harness.screen import SIZE as SCREEN
 from harness.waiting import until
+from harness.xserver import SIZE as SCREEN
 
 EXAMPLE = machine.SOURCES / "Examples" / "welcome.plist"
 THREE = configuration(slide("First text", "Below it"), slide("Second text"), slide("Third text"),
@@ -21,8 +20,7 @@ class Navigation(Scenario):
         self.install(THREE)
         _, screen = self.velmar()
         screen.wait_for_title("A new computer")
-        screen.wait_for_text("First text")
-        screen.wait_for_text("Below it")
+        screen.wait_for_text("First text", "Below it")
         screen.wait_for_buttons("On")
         self.assertNotIn("Second text", screen.texts())
 
@@ -35,14 +33,15 @@ class Navigation(Scenario):
                 self.install(configuration(slide("Text"), Window=window))
                 process, screen = self.velmar()
                 screen.wait_for_text("Text")
-                _, _, width, height = screen.frame()
-                self.assertEqual(minimum, screen.content()[2:])
-                left = {"Left": padding, "Center": (SCREEN[0] - width) // 2, "Right": SCREEN[0] - width - padding}
-                top = {"Top": padding + menu_bar, "Center": (SCREEN[1] - height) // 2,
-                       "Bottom": SCREEN[1] - height - padding}
-                until(lambda: f"{horizontal}, {vertical}: {screen.frame()}",
-                      lambda: abs(screen.frame()[0] - left[horizontal]) <= 1 and
-                      abs(screen.frame()[1] - top[vertical]) <= 1)
+
+                def is_in_its_place():
+                    x, y, width, height = screen.frame() or (0, 0, 0, 0)
+                    left = {"Left": padding, "Center": (SCREEN[0] - width) // 2, "Right": SCREEN[0] - width - padding}
+                    top = {"Top": padding + menu_bar, "Center": (SCREEN[1] - height) // 2,
+                           "Bottom": SCREEN[1] - height - padding}
+                    return screen.content()[2:] == minimum and abs(x - left[horizontal]) <= 1 and \
+                        abs(y - top[vertical]) <= 1
+                until(lambda: f"{horizontal}, {vertical}: {screen.content()} in {screen.frame()}", is_in_its_place)
                 process.close()
 
     def test_goes_on_and_back_by_the_buttons(self):
@@ -53,7 +52,7 @@ class Navigation(Scenario):
                                       ("On", "Second text", ("Back", "On")), ("On", "Third text", ("Back", "Done")),
                                       ("Back", "Second text", ("Back", "On"))]:
             with self.subTest(button=button, text=text):
-                screen.button(button).click()
+                screen.click(button)
                 screen.wait_for_text(text)
                 screen.wait_for_buttons(*buttons)
         self.assertFalse(process.ended())
@@ -66,6 +65,7 @@ class Navigation(Scenario):
             screen.key("Return")
             screen.wait_for_text(text)
             self.wait_for_message(f"Successfully operated the slide transition {move}")
+            self.assertEqual([text], screen.labels())
         screen.key("Return")
         self.assertEqual(0, process.wait(), process.story())
 
@@ -74,7 +74,7 @@ class Navigation(Scenario):
         process, screen = self.velmar()
         screen.wait_for_text("Alone")
         screen.wait_for_buttons("Done")
-        screen.button("Done").click()
+        screen.click("Done")
         self.assertEqual(0, process.wait(), process.story())
 
     def test_hides_the_buttons_that_a_slide_does_not_want(self):
@@ -83,7 +83,7 @@ class Navigation(Scenario):
                                    Navigation={"PreviousButtonText": "Back", "NextButtonText": "On"}))
         _, screen = self.velmar()
         screen.wait_for_text("First text")
-        screen.button("On").click()
+        screen.click("On")
         screen.wait_for_text("Second text")
         screen.wait_for_buttons("On")
 
@@ -92,10 +92,9 @@ class Navigation(Scenario):
         slides = plistlib.loads(EXAMPLE.read_bytes())["Slides"]
         process, screen = self.velmar()
         for shown in slides:
-            texts = [component["Text"] for container in shown["Containers"] for component in container["Components"]
-                     if component["Type"] == "Text"]
-            for text in texts:
-                screen.wait_for_text(text)
+            texts = {component["Text"] for container in shown["Containers"] for component in container["Components"]
+                     if component["Type"] == "Text"}
+            screen.wait_for_text(*texts)
             screen.key("Return")
         self.assertEqual(0, process.wait(), process.story())
 
@@ -124,12 +123,15 @@ class Navigation(Scenario):
                                    Navigation={"NextButtonText": "On", "PreviousButtonText": "Back"}))
         process, screen = self.velmar()
         screen.wait_for_text("Line 0")
-        left, top, width, height = screen.content()
-        self.assertEqual((300, 200), (width, height))
-        x, y, button_width, button_height = screen.button("On").position()
-        self.assertTrue(left <= x and x + button_width <= left + width and y + button_height <= top + height)
+
+        def is_inside():
+            left, top, width, height = screen.content()
+            x, y, button_width, button_height = screen.button("On").position()
+            return (width, height) == (300, 200) and left <= x and x + button_width <= left + width and \
+                y + button_height <= top + height
+        until(lambda: f"{screen.button('On').position()} inside of {screen.content()}", is_inside)
         for index in range(1, 4):
-            screen.button("On").click()
+            screen.click("On")
             screen.wait_for_text(f"Slide {index}")
         process.send(signal.SIGTERM)
         self.assertEqual(0, process.wait())

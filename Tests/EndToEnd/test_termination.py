@@ -8,12 +8,22 @@ from harness.scenario import Scenario, configuration, slide
 from harness.waiting import until
 
 MARK = Path("/tmp/velmar-e2e-mark")
+# A script that reads from it goes on when the scenario writes to it.
+GATE = Path("/tmp/velmar-e2e-gate")
 
 
 class Termination(Scenario):
     def setUp(self):
         super().setUp()
         MARK.unlink(missing_ok=True)
+        GATE.unlink(missing_ok=True)
+        os.mkfifo(GATE)
+        # Open for both, so that neither this nor the script's opening it blocks.
+        self.gate = os.open(GATE, os.O_RDWR)
+        self.addCleanup(os.close, self.gate)
+
+    def open_gate(self):
+        os.write(self.gate, b"\n")
 
     def script(self, text, mode=0o755):
         path = Path("/Library/end.sh")
@@ -31,7 +41,7 @@ class Termination(Scenario):
         return self.messages()
 
     def test_the_end_waits_for_the_script(self):
-        # What it leaves running is not waited for.
+        # What it leaves running is not waited for. A program that did not wait would end within the half second.
         path = self.script(f"#!/bin/sh\nsleep 60 &\nsleep 0.5\ntouch {MARK}\necho written\n")
         messages = self.quit(CompleteInstallationScriptPath=path, WaitForTerminationScriptExecution=True)
         self.assertTrue(MARK.exists())
@@ -42,11 +52,12 @@ class Termination(Scenario):
 
     def test_a_script_that_is_not_waited_for_outlives_the_program(self):
         # What it prints has no reader any more.
-        path = self.script(f"#!/bin/bash\nset -e -o pipefail\nsleep 1.5\necho line\nprintf 'a\\nb' | head -1\n"
-                           f"touch {MARK}\n")
+        path = self.script(f"#!/bin/bash\nset -e -o pipefail\nread -r line <{GATE}\necho line\n"
+                           f"printf 'a\\nb' | head -1\ntouch {MARK}\n")
         messages = self.quit(CompleteInstallationScriptPath=path)
         self.assertFalse(MARK.exists())
         self.assertNotIn("Waiting for script to complete...", "\n".join(messages))
+        self.open_gate()
         until("the end of the script", MARK.exists)
 
     def test_a_script_that_cannot_be_run_holds_nothing_up(self):
@@ -85,7 +96,7 @@ class Termination(Scenario):
         self.assertTrue(MARK.exists())
 
     def test_the_force_quit_waits_for_the_script_and_a_signal_ends_the_wait(self):
-        path = self.script(f"#!/bin/sh\nsleep 2\ntouch {MARK}\n")
+        path = self.script(f"#!/bin/sh\nread -r line <{GATE}\ntouch {MARK}\n")
         self.install(configuration(slide("Hello"), AppTermination={"CompleteInstallationScriptPath": path,
                                                                    "WaitForTerminationScriptExecution": True}))
         for is_urged in [False, True]:
@@ -98,7 +109,10 @@ class Termination(Scenario):
                 self.wait_for_message("🚪 Waiting for script to complete...")
                 if is_urged:
                     process.send(signal.SIGTERM)
+                else:
+                    self.open_gate()
                 self.assertEqual(0, process.wait(), process.story())
                 self.assertEqual(not is_urged, MARK.exists())
                 self.assertEqual("-", self.messages()[-1])
+        self.open_gate()
         until("the end of the script", MARK.exists)

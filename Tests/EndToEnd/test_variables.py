@@ -29,12 +29,10 @@ class Variables(Scenario):
         at_first = ["Good morning, Ada Byron", "For the early", "Below"]
         screen.wait_for_text(at_first[0])
         self.assertEqual(at_first, screen.labels(), process.story())
-        self.assertIn("Successfully added a new variable [ TIME: 'morning' ]", self.messages())
+        self.wait_for_message("Successfully added a new variable [ TIME: 'morning' ]")
         self.install(content(evening))
-        lines = len(self.messages())
         screen.menu_item("Reload interface (saving variables)").press()
-        until(lambda: f"a second decoding in {self.messages()[lines:]}",
-              lambda: "Decoding configuration file..." in self.messages()[lines:])
+        self.wait_for_message("Decoding configuration file...", times=2)
         screen.wait_for_text(at_first[0])
         self.assertEqual(at_first, screen.labels(), process.story())
         for variables, shown in [(evening, ["Good evening, Anne Byron", "For two or more", "Below"]),
@@ -59,7 +57,7 @@ class Variables(Scenario):
         for press, shown in [(None, ["At 0", "Always"]),
                              (lambda: screen.key("space"), ["At 1", "Begun", "Halfway", "Always"]),
                              (lambda: screen.key("space"), ["At 2", "Begun", "Nearly done", "Always"]),
-                             (lambda: screen.button("Back").click(), ["At 1", "Begun", "Halfway", "Always"]),
+                             (lambda: screen.click("Back"), ["At 1", "Begun", "Halfway", "Always"]),
                              (lambda: screen.key("space"), ["At 0", "Always"])]:
             with self.subTest(shown=shown):
                 if press:

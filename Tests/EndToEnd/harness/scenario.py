@@ -3,6 +3,7 @@
 import os
 import plistlib
 import re
+import signal
 import unittest
 from pathlib import Path
 
@@ -60,11 +61,17 @@ class Scenario(unittest.TestCase):
         screen.button("Quit").press()
         self.assertEqual(0, process.wait(), process.story())
 
+    def end(self, process):
+        """Ends the program in order, after which its log is complete."""
+        process.send(signal.SIGTERM)
+        self.assertEqual(0, process.wait(), process.story())
+
     def log_path(self, user="root"):
         return Path(f"/tmp/{user}-velmar.log")
 
     def log(self, user="root"):
-        """The lines of the log so far."""
+        """The lines of the log so far. A line may come later than what it tells of: as long as the program runs, lines
+        are to be waited for, and that there are no more of them is known only at its end."""
         path = self.log_path(user)
         return path.read_text(encoding="utf-8").split("\n")[:-1] if path.exists() else []
 
@@ -72,5 +79,10 @@ class Scenario(unittest.TestCase):
         """The messages of the log without name, time, level and trailing blank; a line of its own each."""
         return [re.sub(r"^\[.*?\] \d\d:\d\d:\d\d \S+ > ", "", line).rstrip(" ") for line in self.log(user)]
 
-    def wait_for_message(self, message, user="root"):
-        until(lambda: f"the message '{message}' in {self.log(user)}", lambda: message in self.messages(user))
+    def wait_for_message(self, message, user="root", times=1):
+        until(lambda: f"the message '{message}', {times} times, in {self.log(user)}",
+              lambda: self.messages(user).count(message) >= times)
+
+    def wait_for_line(self, fragment):
+        """Waits for a line of the log in which the fragment stands."""
+        until(lambda: f"'{fragment}' in {self.log()}", lambda: any(fragment in line for line in self.log()))

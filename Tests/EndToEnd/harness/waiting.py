@@ -2,7 +2,8 @@
 
 import time
 
-DEADLINE = 15.0
+# Seconds. A condition that comes true ends the wait at once, so that only a failure costs them.
+DEADLINE = 40.0
 
 
 class TooLate(AssertionError):
