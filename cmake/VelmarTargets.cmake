@@ -139,6 +139,9 @@ function(velmar_add_executable name)
     _velmar_check_layers(${name} ${ARG_DEPS})
 endfunction()
 
+# Builds the programs that tests run and nothing else; the end-to-end tests run more.
+add_custom_target(tested)
+
 # A test program of GoogleTest cases, run whole by CTest. QT marks one that needs Qt: it gets the offscreen platform and
 # is left out where Qt code is (the thread sanitizer).
 function(velmar_add_test name)
@@ -152,6 +155,7 @@ function(velmar_add_test name)
     target_link_libraries(${target} PRIVATE velmar_options ${ARG_DEPS} GTest::gmock GTest::gtest_main)
     _velmar_precompile(${target} Tests)
     add_test(NAME ${name} COMMAND ${target})
+    add_dependencies(tested ${target})
     # No test reaches a bus, a display or a home directory of the machine by accident.
     set(environment "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nonexistent" "DBUS_SESSION_BUS_ADDRESS=unix:path=/nonexistent"
                     ${ARG_ENVIRONMENT})
@@ -186,6 +190,7 @@ function(velmar_add_fuzzer name)
         set_target_properties(replay_${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
         target_link_libraries(replay_${name} PRIVATE velmar_options ${ARG_DEPS})
         add_test(NAME replay_${name} COMMAND replay_${name} ${CMAKE_SOURCE_DIR}/Fuzzers/corpus/${name})
+        add_dependencies(tested replay_${name})
         set_tests_properties(replay_${name} PROPERTIES TIMEOUT 120 LABELS unit)
     endif()
 endfunction()
