@@ -2,6 +2,7 @@
 // declarations.
 #include "Support.h"
 
+#include <Configuration/VisitedValue.h>
 #include <Support/GeneratedConfiguration.h>
 
 #include <gmock/gmock.h>
@@ -144,6 +145,75 @@ TEST(Declarations, EveryKeyIsTakenAndWrittenBack) {
             const PropertyList written = Configuration::decode(file)->encode();
             EXPECT_EQ(written, file);
         });
+}
+
+/// The values of the file by their paths.
+struct VisitedPlaces final : ValueVisitor {
+    void visit(const VisitedValue &value) override {
+        values.emplace(value.place().path.text(), &value.place().value);
+    }
+
+    std::map<std::string, const PropertyListValue *> values;
+};
+
+TEST(Declarations, EveryKeyIsVisitedAtItsPlace) {
+    forEveryKey(
+        [](Places &places, const std::string &typeName, const KeyDescription &key, PropertyList item) {
+            if (key.name == "IsLarge" || key.name == "WidthRatio") {
+                return; // As above.
+            }
+            const Places::Place place = places.with(typeName, std::move(item));
+            const PropertyListDocument document = PropertyListDocument::of(place.file);
+            VisitedPlaces visited;
+            Configuration::decode(document.root())->visitValues(document.root(), visited);
+            const std::string path = pathOf(place, key.name);
+            ASSERT_TRUE(visited.values.contains(place.path)) << place.path;
+            ASSERT_TRUE(visited.values.contains(path)) << path;
+            EXPECT_EQ(visited.values.at(path), visited.values.at(place.path)->find(key.name)) << path;
+        });
+}
+
+struct VisitedItems final : ValueVisitor {
+    void visit(const VisitedValue &value) override {
+        const std::string path = value.place().path.text();
+        if (value.as<ColorItem>() != nullptr) {
+            found.push_back("color " + path);
+        } else if (const auto *const list = value.as<ComponentItem::Input::List>()) {
+            found.push_back("list of " + list->_items.rawValue().at(0) + " " + path);
+        } else if (value.as<APIRequestItem>() != nullptr) {
+            found.push_back("request " + path);
+        } else if (value.as<BodyItem>() != nullptr) {
+            found.push_back("body " + path);
+        } else if (const auto *const custom = value.as<ActionTrigger::Custom>()) {
+            found.push_back(custom->name + " " + path);
+        }
+    }
+
+    std::vector<std::string> found;
+};
+
+TEST(Declarations, ValuesAreVisitedInTheOrderOfTheKeysAsWhatTheyAre) {
+    const PropertyList file = validFileWith(
+        "<key>ActionSets</key><array><dict><key>Type</key><string>Parallel</string><key>Triggers</key><array>"
+        "<string>Custom(go)</string></array><key>Actions</key><array><dict><key>Type</key><string>"
+        "SendRequest</string><key>Request</key><string>R</string></dict></array></dict></array>"
+        "<key>MenuBarSlide</key><dict><key>ContainersBorderColor</key><string>Red</string>"
+        "<key>Containers</key><array><dict><key>Components</key><array><dict><key>Type</key><string>Input"
+        "</string><key>InputType</key><string>List</string><key>Variable</key><string>V</string><key>Items"
+        "</key><array><string>a</string></array></dict></array></dict></array></dict>"
+        "<key>APIRequests</key><dict><key>Models</key><dict><key>R</key><dict><key>Body</key><array>"
+        "<dict><key>x</key><true/></dict></array></dict></dict></dict>"
+        "<key>ColorStyles</key><dict><key>Red</key><dict><key>DarkMode</key><string>#FF0000</string>"
+        "<key>LightMode</key><string>#FF0000</string></dict></dict>");
+    const PropertyListDocument document = PropertyListDocument::of(file);
+    VisitedItems visited;
+    Configuration::decode(document.root())->visitValues(document.root(), visited);
+    EXPECT_EQ(visited.found, (std::vector<std::string>{
+                                 "color ColorStyles.Red", "list of a MenuBarSlide.Containers.0.Components.0",
+                                 "color MenuBarSlide.ContainersBorderColor", "request APIRequests.Models.R",
+                                 "body APIRequests.Models.R.Body", "body APIRequests.Models.R.Body.0",
+                                 "body APIRequests.Models.R.Body.0.x",
+                                 "request ActionSets.0.Actions.0.Request", "go ActionSets.0.Triggers.0"}));
 }
 
 TEST(Declarations, EveryKeyRefusesAnotherKindOfValue) {

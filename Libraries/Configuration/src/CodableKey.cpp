@@ -113,6 +113,15 @@ PropertyList encodeKeys(const void *item, const KeyList &keys) {
     return PropertyList(std::move(dictionary));
 }
 
+void visitKeys(const void *item, const KeyList &keys, const ValuePlace &place, ValueVisitor &visitor) {
+    for (const CodableKey &key : keys) {
+        if (const PropertyListValue *const value = place.value.find(key.name())) {
+            const CodingPath path(place.path, key.name().text());
+            key.visitValues(item, {*value, path}, visitor);
+        }
+    }
+}
+
 std::string itemTypeText(std::string_view typeName) {
     return fmt::format("dictionary ({})", typeName);
 }

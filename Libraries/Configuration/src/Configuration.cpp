@@ -4,6 +4,7 @@
 
 #include <Configuration/ItemGroups.h>
 #include <Configuration/Library.h>
+#include <Configuration/VisitedValue.h>
 #include <Foundation/PropertyListDocument.h>
 
 #include <fmt/format.h>
@@ -95,6 +96,11 @@ std::shared_ptr<const Configuration> Configuration::decode(const PropertyList &f
 
 PropertyList Configuration::encode() const {
     return *Decodable<Configuration>::encode(*this);
+}
+
+void Configuration::visitValues(const PropertyListValue &file, ValueVisitor &visitor) const {
+    const CodingPath root;
+    velmar::visitValues(*this, {file, root}, visitor);
 }
 
 Descriptions Configuration::describe() {

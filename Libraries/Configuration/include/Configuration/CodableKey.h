@@ -3,6 +3,7 @@
 #include <Configuration/DecodingContext.h>
 #include <Configuration/Description.h>
 #include <Configuration/Requirement.h>
+#include <Configuration/VisitedValue.h>
 #include <Foundation/PropertyList.h>
 #include <Foundation/PropertyListValue.h>
 #include <expressions/Variables.h>
@@ -17,6 +18,9 @@ namespace velmar {
 // In ItemCoding.h.
 template <class T>
 VariableNames usedVariables(const T &value);
+// In VisitValues.h.
+template <class T>
+void visitValues(const T &value, const ValuePlace &place, ValueVisitor &visitor);
 
 /// One key of the items of a type, whatever its value is: where in an item its holder stands, and what the
 /// shared routines need of it. It stands once for all items of the type. An item is passed by its address.
@@ -45,6 +49,10 @@ public:
     [[nodiscard]] VariableNames usedVariables(const void *item) const {
         return operations_->usedVariables(in(item));
     }
+    /// Visits the value of the key, which the file gives at `place`, and every value within it.
+    void visitValues(const void *item, const ValuePlace &place, ValueVisitor &visitor) const {
+        operations_->visitValues(in(item), place, visitor);
+    }
     void decode(void *item, const PropertyListValue &value, const CodingPath &itemPath,
                 DecodingContext &context) const {
         operations_->decode(in(item), value, itemPath, context);
@@ -58,6 +66,7 @@ private:
         void (*encode)(const void *holder, PropertyList::Dictionary &item);
         KeyDescription (*describe)(const void *holder, Descriptions &items);
         VariableNames (*usedVariables)(const void *holder);
+        void (*visitValues)(const void *holder, const ValuePlace &place, ValueVisitor &visitor);
         void (*decode)(void *holder, const PropertyListValue &value, const CodingPath &itemPath,
                        DecodingContext &context);
         void (*inherit)(void *holder, const void *parent);
@@ -74,6 +83,9 @@ private:
         [](const void *holder, PropertyList::Dictionary &item) { as<Key>(holder).encode(item); },
         [](const void *holder, Descriptions &items) { return as<Key>(holder).describe(items); },
         [](const void *holder) { return velmar::usedVariables(as<Key>(holder).rawValue()); },
+        [](const void *holder, const ValuePlace &place, ValueVisitor &visitor) {
+            velmar::visitValues(as<Key>(holder).rawValue(), place, visitor);
+        },
         [](void *holder, const PropertyListValue &value, const CodingPath &itemPath,
            DecodingContext &context) { static_cast<Key *>(holder)->decode(value, itemPath, context); },
         [](void *holder, const void *parent) { static_cast<Key *>(holder)->inherit(as<Key>(parent)); }};
@@ -119,6 +131,9 @@ private:
 void decodeKeys(void *item, const KeyList &keys, std::string_view typeName, const Decoding &decoding);
 
 [[nodiscard]] PropertyList encodeKeys(const void *item, const KeyList &keys);
+
+/// Visits the values of the keys that the file gives for an item at `place`.
+void visitKeys(const void *item, const KeyList &keys, const ValuePlace &place, ValueVisitor &visitor);
 
 /// The type of an item for messages.
 [[nodiscard]] std::string itemTypeText(std::string_view typeName);

@@ -23,6 +23,8 @@
 
 namespace velmar {
 
+class ValueVisitor;
+
 /// The root of a configuration file. Its keys are decoded in the order of the members: the first fault is the
 /// one that is told.
 struct Configuration {
@@ -61,6 +63,10 @@ struct Configuration {
 
     /// The mirror of decoding: what was given, set by code or is required.
     [[nodiscard]] PropertyList encode() const;
+
+    /// Visits every value that `file` gives, from the root down, each before those within it and the keys of
+    /// an item in the order of declaration. `file` must be what this was decoded from.
+    void visitValues(const PropertyListValue &file, ValueVisitor &visitor) const;
 
     /// All that a file may hold, from the root "Configuration" down.
     [[nodiscard]] static Descriptions describe();

@@ -8,6 +8,7 @@
 #include <Configuration/Decodable.h>
 #include <Configuration/InheritableKeyWrapper.h>
 #include <Configuration/KeyWrapper.h>
+#include <Configuration/VisitValues.h>
 
 #include <boost/pfr.hpp>
 
@@ -162,6 +163,10 @@ struct ItemCoding {
         }
         return names;
     }
+
+    static void visitWithin(const T &item, const ValuePlace &place, ValueVisitor &visitor) {
+        visitKeys(&item, keysOf<T>(), place, visitor);
+    }
 };
 
 /// The coding of an item of several kinds.
@@ -206,6 +211,10 @@ struct TaggedItemCoding {
                 return Decodable<std::remove_cvref_t<decltype(alternative)>>::usedVariables(alternative);
             },
             item.value);
+    }
+
+    static void visitWithin(const T &item, const ValuePlace &place, ValueVisitor &visitor) {
+        std::visit([&](const auto &alternative) { visitValues(alternative, place, visitor); }, item.value);
     }
 
 private:
