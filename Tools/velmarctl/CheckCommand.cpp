@@ -1,11 +1,15 @@
 #include <CheckCommand.h>
 
+#include <Checks/Check.h>
 #include <ConfigurationCheck.h>
 
 #include <CLI/CLI.hpp>
+#include <fmt/format.h>
+#include <fmt/ranges.h>
 
 #include <algorithm>
 #include <iterator>
+#include <string_view>
 
 namespace velmar {
 
@@ -15,6 +19,9 @@ CheckCommand::CheckCommand(CLI::App &commandLine)
     options().add_flag("--no-admission", noAdmission_, "Leave the owner and the permissions out");
     options().add_flag("--json", json_, "Print one JSON list of objects");
     options().add_flag("--strict", strict_, "Count warnings as errors");
+    std::vector<std::string_view> names;
+    std::ranges::transform(allChecks(), std::back_inserter(names), &Check::name);
+    options().footer(fmt::format("Warns of unknown and repeated keys, {}.", fmt::join(names, ", ")));
 }
 
 ExitStatus CheckCommand::run(const CommandEnvironment &environment) const {

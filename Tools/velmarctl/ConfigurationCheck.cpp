@@ -1,10 +1,6 @@
 #include <ConfigurationCheck.h>
 
-#include <DoubtfulConditions.h>
-#include <DoubtfulPaths.h>
-#include <IneffectiveParts.h>
-#include <UnreachableSlides.h>
-#include <UnusedNames.h>
+#include <Checks/Check.h>
 
 #include <Admission/ConfigurationFile.h>
 #include <Base/VelmarError.h>
@@ -38,7 +34,8 @@ constexpr std::size_t mostWarnings = 1000;
 // What the application would log beside refusing the file, such as the owner that it found.
 class RecordingDestination final : public BaseDestination {
 public:
-    RecordingDestination() : BaseDestination(synchronous()) {}
+    RecordingDestination()
+        : BaseDestination(DestinationSettings{.asynchronously = false, .minLevel = LogLevel::warning}) {}
 
     void write(std::span<const LogRecord> records) override {
         for (const LogRecord &record : records) {
@@ -48,14 +45,6 @@ public:
     }
 
     std::vector<std::string> lines;
-
-private:
-    static DestinationSettings synchronous() {
-        DestinationSettings settings;
-        settings.asynchronously = false;
-        settings.minLevel = LogLevel::warning;
-        return settings;
-    }
 };
 
 void admit(const ConfigurationFile &file, const std::string &path, const ConfigurationCheck::Options &options,
@@ -112,13 +101,11 @@ std::shared_ptr<const Configuration> decode(const ConfigurationFile &file, const
         refusal = error.errorDescription();
     }
     if (configuration) {
-        for (auto &found :
-             {unusedNames(document->root(), *configuration, notes), doubtfulConditions(*configuration, notes),
-              doubtfulPaths(document->root(), *configuration, authority),
-              ineffectiveParts(document->root(), *configuration),
-              unreachableSlides(document->root(), *configuration)}) {
-            for (const UsageWarning &warning : found) {
-                add(Severity::warning, warning.keyPath, warning.offset, warning.message);
+        const CheckedFile checked{document->root(), *configuration, notes, authority};
+        for (const Check &check : allChecks()) {
+            for (UsageWarning &warning : check.warnings(checked)) {
+                add(Severity::warning, std::move(warning.keyPath), warning.offset,
+                    std::move(warning.message));
             }
         }
     }

@@ -151,7 +151,9 @@ TEST_F(CommandLineTest, FailsWhenTheOutputCannotBeWritten) {
 
 TEST_F(CommandLineTest, ExplainsItsUse) {
     EXPECT_THAT(run({"--help"}, ExitStatus::succeeded), HasSubstr("check"));
-    EXPECT_THAT(run({"check", "--help"}, ExitStatus::succeeded), HasSubstr("--no-admission"));
+    const std::string help = run({"check", "--help"}, ExitStatus::succeeded);
+    EXPECT_THAT(help, HasSubstr("--no-admission"));
+    EXPECT_THAT(help, HasSubstr("unused names, doubtful conditions, doubtful paths, ineffective parts"));
     EXPECT_THAT(run({"--version"}, ExitStatus::succeeded),
                 MatchesRegex("velmarctl [0-9.]+ \\(configuration Velmar-[0-9.]+\\)\n"));
     const std::vector<std::string> wrongUses[] = {{},

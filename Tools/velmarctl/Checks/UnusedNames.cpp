@@ -1,4 +1,4 @@
-#include <UnusedNames.h>
+#include <Checks/UnusedNames.h>
 
 #include <Configuration/Configuration.h>
 #include <Configuration/DecodingNotes.h>
@@ -11,30 +11,34 @@
 #include <algorithm>
 #include <string_view>
 #include <utility>
-#include <variant>
 
 namespace velmar {
 
 namespace {
 
-class NamesInUse {
+class NamesInUse final : private ValueVisitor {
 public:
-    NamesInUse(const Configuration &configuration, const DecodingNotes &notes) {
-        names_.insert(configuration.declaredVariables.begin(), configuration.declaredVariables.end());
-        for (const auto &record : notes.variables.records) {
+    explicit NamesInUse(const CheckedFile &file) {
+        const VariableNames &declared = file.configuration.declaredVariables;
+        names_.insert(declared.begin(), declared.end());
+        for (const auto &record : file.notes.variables.records) {
             names_.insert(record.variables.begin(), record.variables.end());
         }
-        for (const TriggeredActionSetItem &set : configuration._actionSets.rawValue()) {
-            for (const ActionTrigger &trigger : set._triggers.rawValue()) {
-                if (const auto *const update = std::get_if<ActionTrigger::VariableUpdate>(&trigger.value)) {
-                    names_.insert(update->variable);
-                }
-            }
-        }
-        for (const auto &note : notes.notes) {
+        file.configuration.visitValues(file.root, *this);
+        for (const auto &note : file.notes.notes) {
             if (note.kind == DecodingNotes::Kind::unknownKey) {
                 unknownKeys_.insert(note.offset);
             }
+        }
+        collect(file.root, true);
+    }
+
+    [[nodiscard]] bool contains(std::string_view name) const { return names_.contains(name); }
+
+private:
+    void visit(const VisitedValue &value) override {
+        if (const auto *const update = value.as<ActionTrigger::VariableUpdate>()) {
+            names_.insert(update->variable);
         }
     }
 
@@ -56,9 +60,6 @@ public:
         }
     }
 
-    [[nodiscard]] bool contains(std::string_view name) const { return names_.contains(name); }
-
-private:
     void addReferences(std::string_view text) {
         VariableNames names = usedVariables(text);
         names_.insert(names.begin(), names.end());
@@ -85,10 +86,8 @@ private:
 
 } // namespace
 
-std::vector<UsageWarning> unusedNames(const PropertyListValue &file, const Configuration &configuration,
-                                      const DecodingNotes &notes) {
-    NamesInUse names(configuration, notes);
-    names.collect(file, true);
+std::vector<UsageWarning> unusedNames(const CheckedFile &file) {
+    const NamesInUse names(file);
     std::vector<UsageWarning> warnings;
     const auto warn = [&](const PropertyListValue *book, std::string_view path, std::string_view kind) {
         if (book == nullptr) {
@@ -101,10 +100,10 @@ std::vector<UsageWarning> unusedNames(const PropertyListValue &file, const Confi
             }
         }
     };
-    if (const PropertyListValue *general = file.find("General")) {
+    if (const PropertyListValue *general = file.root.find("General")) {
         warn(general->find("Variables"), "General.Variables", "variable");
     }
-    warn(file.find("Conditions"), "Conditions", "condition");
+    warn(file.root.find("Conditions"), "Conditions", "condition");
     return warnings;
 }
 

@@ -1,6 +1,6 @@
-#include <DoubtfulConditions.h>
+#include <Checks/DoubtfulConditions.h>
 
-#include <DefinedVariables.h>
+#include <Checks/DefinedVariables.h>
 #include <ExpressionParts.h>
 #include <PrintableText.h>
 
@@ -156,8 +156,8 @@ private:
 
 } // namespace
 
-std::vector<UsageWarning> doubtfulConditions(const Configuration &configuration, const DecodingNotes &notes) {
-    return Doubts(configuration, notes).warnings();
+std::vector<UsageWarning> doubtfulConditions(const CheckedFile &file) {
+    return Doubts(file.configuration, file.notes).warnings();
 }
 
 } // namespace velmar

@@ -1,4 +1,4 @@
-#include <GuardedPaths.h>
+#include <Checks/GuardedPaths.h>
 
 #include <Foundation/FileManager.h>
 #include <System/IdentityAuthority.h>

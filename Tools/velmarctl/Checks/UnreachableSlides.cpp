@@ -1,6 +1,6 @@
-#include <UnreachableSlides.h>
+#include <Checks/UnreachableSlides.h>
 
-#include <ItemVisitor.h>
+#include <Configuration/Configuration.h>
 
 #include <fmt/format.h>
 
@@ -15,10 +15,13 @@ namespace velmar {
 namespace {
 
 // Where the actions of a file lead.
-class JumpsVisitor final : public ItemVisitor {
-public:
-    void visitAction(const ActionItem &action, const ItemPlace & /*place*/) override {
-        if (const auto *const navigation = std::get_if<ActionItem::NavigateToSlide>(&action.value)) {
+struct Jumps final : ValueVisitor {
+    std::set<std::size_t> targets;
+    bool areAnywhere = false;
+    bool endSession = false;
+
+    void visit(const VisitedValue &value) override {
+        if (const auto *const navigation = value.as<ActionItem::NavigateToSlide>()) {
             using Jump = ActionItem::NavigateToSlide::Jump;
             const Jump jump = navigation->jump();
             if (const auto *const index = std::get_if<Jump::Index>(&jump.value)) {
@@ -27,15 +30,11 @@ public:
                 areAnywhere = true;
             }
         }
-        endSession = endSession || std::holds_alternative<ActionItem::TerminateApp>(action.value) ||
-                     std::holds_alternative<ActionItem::RestartComputer>(action.value) ||
-                     std::holds_alternative<ActionItem::ShutdownComputer>(action.value) ||
-                     std::holds_alternative<ActionItem::LogoutUser>(action.value);
+        endSession = endSession || value.as<ActionItem::TerminateApp>() != nullptr ||
+                     value.as<ActionItem::RestartComputer>() != nullptr ||
+                     value.as<ActionItem::ShutdownComputer>() != nullptr ||
+                     value.as<ActionItem::LogoutUser>() != nullptr;
     }
-
-    std::set<std::size_t> targets;
-    bool areAnywhere = false;
-    bool endSession = false;
 };
 
 class Ways {
@@ -84,23 +83,23 @@ private:
 
 } // namespace
 
-std::vector<UsageWarning> unreachableSlides(const PropertyListValue &file,
-                                            const Configuration &configuration) {
+std::vector<UsageWarning> unreachableSlides(const CheckedFile &file) {
+    const Configuration &configuration = file.configuration;
     const std::size_t count = configuration._slides.rawValue().size();
-    JumpsVisitor jumps;
-    visitItems(configuration, file, jumps);
+    Jumps jumps;
+    configuration.visitValues(file.root, jumps);
     if (jumps.areAnywhere || count == 0 ||
         configuration._window.rawValue()._onScreen.rawValue() == WindowSection::OnScreen::menuBar) {
         return {};
     }
     const CodingPath root;
     const CodingPath slides(root, configuration._slides.name().stringValue);
-    const auto places = file.find(slides.lastKey())->elements();
+    const auto places = file.root.find(slides.lastKey())->elements();
     const Ways ways(configuration, jumps.targets);
     std::vector<UsageWarning> warnings;
     const auto warn = [&](std::size_t slide, std::string message) {
         const CodingPath path(slides, slide);
-        warnings.push_back(ItemPlace{places[slide], path}.warning(std::move(message)));
+        warnings.push_back(warningAt({places[slide], path}, std::move(message)));
     };
     for (std::size_t slide = 0; slide < count; ++slide) {
         if (!ways.isReached(slide)) {
