@@ -15,7 +15,9 @@ namespace velmar {
 /// those of `velmarctl check`.
 class WarningLines final : public BaseDestination {
 public:
-    explicit WarningLines(std::string file) : BaseDestination(settings()), file_(std::move(file)) {}
+    explicit WarningLines(std::string file)
+        : BaseDestination(DestinationSettings{.asynchronously = false, .minLevel = LogLevel::warning}),
+          file_(std::move(file)) {}
 
     void write(std::span<const LogRecord> records) override {
         for (const LogRecord &record : records) {
@@ -31,13 +33,6 @@ public:
     }
 
 private:
-    static DestinationSettings settings() {
-        DestinationSettings settings;
-        settings.asynchronously = false;
-        settings.minLevel = LogLevel::warning;
-        return settings;
-    }
-
     std::string file_;
     std::set<std::string> told_;
 };

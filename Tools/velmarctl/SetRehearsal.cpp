@@ -28,7 +28,8 @@ namespace {
 class LogLines final : public BaseDestination {
 public:
     explicit LogLines(std::shared_ptr<RehearsalRecord> record)
-        : BaseDestination(settings()), record_(std::move(record)) {}
+        : BaseDestination(DestinationSettings{.asynchronously = false, .minLevel = LogLevel::info}),
+          record_(std::move(record)) {}
 
     void write(std::span<const LogRecord> records) override {
         for (const LogRecord &record : records) {
@@ -37,13 +38,6 @@ public:
     }
 
 private:
-    static DestinationSettings settings() {
-        DestinationSettings settings;
-        settings.asynchronously = false;
-        settings.minLevel = LogLevel::info;
-        return settings;
-    }
-
     std::shared_ptr<RehearsalRecord> record_;
 };
 
