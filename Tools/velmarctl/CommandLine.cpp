@@ -1,35 +1,57 @@
 #include <CommandLine.h>
 
 #include <CheckCommand.h>
-#include <Configuration/ConfigurationVersion.h>
 #include <ConfigurationSchema.h>
 #include <DescriptionCommand.h>
 #include <EvalCommand.h>
 #include <RenderCommand.h>
 #include <RunSetCommand.h>
 
+#include <Configuration/ConfigurationVersion.h>
+
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace velmar {
 
 namespace {
 
+using MakeCommand = std::unique_ptr<Command> (*)(CLI::App &commandLine);
+
+template <class Made>
+std::unique_ptr<Command> make(CLI::App &commandLine) {
+    return std::make_unique<Made>(commandLine);
+}
+
+// In the order of the help.
+constexpr MakeCommand allCommands[] = {
+    &make<CheckCommand>,
+    &make<EvalCommand>,
+    &make<RunSetCommand>,
+    &make<RenderCommand>,
+    [](CLI::App &commandLine) -> std::unique_ptr<Command> {
+        return std::make_unique<DescriptionCommand>(commandLine, "schema",
+                                                    "Print the JSON Schema of a configuration", &writeSchema);
+    },
+    [](CLI::App &commandLine) -> std::unique_ptr<Command> {
+        return std::make_unique<DescriptionCommand>(
+            commandLine, "reference", "Print the keys of a configuration as Markdown", &writeReference);
+    },
+};
+
 ExitStatus run(std::vector<std::string> arguments, const CommandEnvironment &environment) {
     CLI::App app("The administrator's tool for Velmar.", "velmarctl");
     app.set_version_flag("--version", fmt::format("velmarctl {} (configuration {})", VELMAR_VERSION,
                                                   ConfigurationVersion::version));
     app.require_subcommand(1);
-    const CheckCommand check(app);
-    const EvalCommand eval(app);
-    const RunSetCommand runSet(app);
-    const RenderCommand render(app);
-    const DescriptionCommand schema(app, "schema", "Print the JSON Schema of a configuration", &writeSchema);
-    const DescriptionCommand reference(app, "reference", "Print the keys of a configuration as Markdown",
-                                       &writeReference);
+    std::vector<std::unique_ptr<const Command>> commands;
+    for (const MakeCommand makeCommand : allCommands) {
+        commands.push_back(makeCommand(app));
+    }
 
     try {
         std::ranges::reverse(arguments); // CLI11 takes them from the back.
@@ -38,9 +60,9 @@ ExitStatus run(std::vector<std::string> arguments, const CommandEnvironment &env
         return app.exit(error, environment.out, environment.err) == 0 ? ExitStatus::succeeded
                                                                       : ExitStatus::failed;
     }
-    // The parser has seen to it that there is one.
-    const Command *const commands[] = {&check, &eval, &runSet, &render, &schema, &reference};
-    return (*std::ranges::find_if(commands, &Command::isNamed))->run(environment);
+    // The parser requires one.
+    return (*std::ranges::find_if(commands, [](const auto &command) { return command->isNamed(); }))
+        ->run(environment);
 }
 
 } // namespace
