@@ -1,6 +1,7 @@
 #include <CommandLine.h>
 
 #include <CheckCommand.h>
+#include <ConfigurationReference.h>
 #include <ConfigurationSchema.h>
 #include <DescriptionCommand.h>
 #include <EvalCommand.h>

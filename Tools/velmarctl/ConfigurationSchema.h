@@ -9,7 +9,4 @@ namespace velmar {
 /// of the ratios of a slide, and references between the parts of the file are beyond it.
 void writeSchema(std::ostream &out);
 
-/// The same in Markdown for people: a table for each item.
-void writeReference(std::ostream &out);
-
 } // namespace velmar
