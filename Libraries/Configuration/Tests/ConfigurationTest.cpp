@@ -36,6 +36,29 @@ TEST(Configuration, IsAdmittedOrRefusedAsAWhole) {
     EXPECT_EQ(outcomeOf(PropertyList("text")), "The root of the configuration is 'text', not a dictionary.");
 }
 
+TEST(Configuration, HandsOutTheAlternativesOfComponentsAndActions) {
+    const auto configuration = Configuration::decode(
+        validFileWith("<key>SideContainer</key><dict><key>Container</key><dict><key>Components</key><array>"
+                      "<dict><key>Type</key><string>Spacer</string></dict>"
+                      "<dict><key>Type</key><string>Input</string><key>InputType</key><string>Text</string>"
+                      "<key>Variable</key><string>V</string></dict></array></dict></dict>"
+                      "<key>ActionSets</key><array><dict><key>Type</key><string>Parallel</"
+                      "string><key>Triggers</key><array/>"
+                      "<key>Actions</key><array><dict><key>Type</key><string>Log</string><key>Message</"
+                      "key><string>m</string>"
+                      "<key>Condition</key><string>V</string></dict></array></dict></array>"));
+    const auto &components = configuration->_sideContainer()->_container()._components();
+    EXPECT_EQ(typeIdentifierOf(components[0]), ComponentItems::TypeIdentifier::spacer);
+    EXPECT_EQ(typeIdentifierOf(components[1]), ComponentItems::TypeIdentifier::input);
+    EXPECT_NE(itemOf<ComponentItems::Spacer>(components[0]), nullptr);
+    EXPECT_EQ(itemOf<ComponentItems::Spacer>(components[1]), nullptr);
+    const ActionItem &action = configuration->_actionSets().front().set._actions().front();
+    EXPECT_EQ(typeIdentifierOf(action), ActionItems::TypeIdentifier::log);
+    EXPECT_EQ(itemOf<ActionItems::Log>(action)->_message(), "m");
+    EXPECT_EQ(itemOf<ActionItems::SaveInputs>(action), nullptr);
+    EXPECT_EQ(conditionOf(action)->source(), "V");
+}
+
 TEST(Configuration, TakesEmptySectionsThatRequireNothingAndKeysThatItDoesNotKnow) {
     EXPECT_EQ(outcomeOf(validFileWith("<key>Navigation</key><dict/><key>AppTermination</key><dict/>"
                                       "<key>Monitoring</key><dict/><key>APIRequests</key><dict/>"

@@ -1,41 +1,48 @@
 #include <Configuration/ActionItem.h>
 
-#include <Configuration/GeneralSection.h>
-#include <Configuration/ItemGroups.h>
-
-#include <fmt/format.h>
+#include <Configuration/ItemCoding.h>
+#include <expressions/Expression.h>
 
 namespace velmar {
 
-ActionItem::NavigateToSlide::Jump ActionItem::NavigateToSlide::jump() const {
-    if (const auto index = _index()) {
-        return {Jump::Index{*index}};
-    }
-    return {Jump::Offset{_offset().value_or(0)}};
+ActionItems::TypeIdentifier typeIdentifierOf(const ActionItem &action) {
+    return std::visit([](const auto &alternative) { return alternative.typeIdentifier; }, action.value);
 }
 
-void ActionItem::NavigateToSlide::validateReferences(const Library &library) const {
-    const auto count = static_cast<std::int64_t>(library.slides->size());
-    if (const auto index = _index(); index && (*index < 0 || *index >= count)) {
-        throw ConfigurationError(ConfigurationErrors::UnexpectedError{fmt::format(
-            "When specified, the index ({}) should be greater than or equal to 0 and lesser than the "
-            "slides count ({}).",
-            *index, count)});
-    }
+const std::optional<Expression> &ActionItem::condition() const {
+    return std::visit(
+        [](const auto &action) -> decltype(auto) { return action.common._condition.rawValue(); }, value);
 }
 
-void ActionItem::UpdateVariable::validate(const CodingPath &path) const {
-    const std::string &name = _variable.rawValue();
-    if (enumValue<GeneralSection::Placeholders>(bareVariableName(name))) {
-        throw ConfigurationError(ConfigurationErrors::Custom{
-            path.text(),
-            fmt::format("Updating a placeholder ({}) with the 'UpdateVariable' action is not allowed",
-                        name)});
-    }
+const std::optional<Expression> &conditionOf(const ActionItem &action) {
+    return action.condition();
 }
+
+template <class Item>
+const Item *itemOf(const ActionItem &action) {
+    return std::get_if<Item>(&action.value);
+}
+
+template const ActionItems::AsleepComputer *itemOf(const ActionItem &);
+template const ActionItems::CloseOpenedWindow *itemOf(const ActionItem &);
+template const ActionItems::CopyToClipboard *itemOf(const ActionItem &);
+template const ActionItems::DisplayAlert *itemOf(const ActionItem &);
+template const ActionItems::DisplayNotification *itemOf(const ActionItem &);
+template const ActionItems::ExecuteCommand *itemOf(const ActionItem &);
+template const ActionItems::ExecuteJamfPolicy *itemOf(const ActionItem &);
+template const ActionItems::ExecuteScript *itemOf(const ActionItem &);
+template const ActionItems::Log *itemOf(const ActionItem &);
+template const ActionItems::LogoutUser *itemOf(const ActionItem &);
+template const ActionItems::NavigateToSlide *itemOf(const ActionItem &);
+template const ActionItems::OpenWindow *itemOf(const ActionItem &);
+template const ActionItems::PlaySound *itemOf(const ActionItem &);
+template const ActionItems::RestartComputer *itemOf(const ActionItem &);
+template const ActionItems::SaveInputs *itemOf(const ActionItem &);
+template const ActionItems::SendRequest *itemOf(const ActionItem &);
+template const ActionItems::ShutdownComputer *itemOf(const ActionItem &);
+template const ActionItems::TerminateApp *itemOf(const ActionItem &);
+template const ActionItems::UpdateVariable *itemOf(const ActionItem &);
 
 template struct TaggedItemCoding<ActionItem>;
-template struct ItemCoding<ActionSetItem>;
-template struct ItemCoding<TriggeredActionSetItem>;
 
 } // namespace velmar

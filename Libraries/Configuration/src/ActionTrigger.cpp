@@ -1,5 +1,6 @@
 #include <Configuration/ActionTrigger.h>
 
+#include <Configuration/ActionTriggerCoding.h>
 #include <Configuration/RegularExpressionCoding.h>
 #include <Configuration/Texts.h>
 

@@ -1,5 +1,7 @@
 #include <Configuration/BodyItem.h>
 
+#include <Configuration/BodyItemCoding.h>
+
 #include <cmath>
 #include <type_traits>
 #include <utility>
@@ -8,8 +10,10 @@ namespace velmar {
 
 namespace {
 
+using GroupKind = ConfigurationErrors::RequestBodyGroup::Group;
+
 template <class Group>
-Group &groupOf(BodyItem &item, BodyItem::Group kind) {
+Group &groupOf(BodyItem &item, GroupKind kind) {
     if (auto *const group = std::get_if<Group>(&item.value)) {
         return *group;
     }
@@ -19,11 +23,11 @@ Group &groupOf(BodyItem &item, BodyItem::Group kind) {
 } // namespace
 
 void BodyItem::add(BodyItem item, std::string key) {
-    groupOf<Dictionary>(*this, Group::dictionary).insert_or_assign(std::move(key), std::move(item));
+    groupOf<Dictionary>(*this, GroupKind::dictionary).insert_or_assign(std::move(key), std::move(item));
 }
 
 void BodyItem::append(BodyItem item) {
-    groupOf<Array>(*this, Group::array).push_back(std::move(item));
+    groupOf<Array>(*this, GroupKind::array).push_back(std::move(item));
 }
 
 BodyItem Decodable<BodyItem>::decode(const Decoding &decoding) {

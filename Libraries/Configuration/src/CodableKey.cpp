@@ -1,7 +1,7 @@
 #include <Configuration/CodableKey.h>
 
+#include <Configuration/ConfigurationError.h>
 #include <Configuration/Decodable.h>
-#include <Configuration/ItemCoding.h>
 
 #include <fmt/format.h>
 
@@ -50,7 +50,7 @@ void validateKeys(const void *item, const KeyList &keys, const Decoding &decodin
             validate(name, rule.key->wasGiven(item), given, rule.key->requirement());
         } catch (const ConfigurationError &) {
             const std::string path = CodingPath(decoding.path, name).text();
-            decoding.context.noteFailure(path, detail::offsetWithin(decoding, path));
+            decoding.context.noteFailure(path, offsetWithin(decoding, path));
             throw;
         }
     }
@@ -58,7 +58,7 @@ void validateKeys(const void *item, const KeyList &keys, const Decoding &decodin
 
 } // namespace
 
-std::uint32_t detail::offsetWithin(const Decoding &item, std::string_view path) {
+std::uint32_t offsetWithin(const Decoding &item, std::string_view path) {
     for (const auto &entry : item.value.entries()) {
         if (path.ends_with(entry.key.text()) && CodingPath(item.path, entry.key.text()).text() == path) {
             return entry.value.offset();
@@ -120,6 +120,22 @@ void visitKeys(const void *item, const KeyList &keys, const ValuePlace &place, V
             key.visitValues(item, {*value, path}, visitor);
         }
     }
+}
+
+void describeKeys(std::string_view typeName, const void *defaults, const KeyList &keys, Descriptions &items) {
+    if (ItemDescription *const item = items.add(typeName)) {
+        for (const CodableKey &key : keys) {
+            item->keys.push_back(key.describe(defaults, items));
+        }
+    }
+}
+
+VariableNames usedVariables(const void *item, const KeyList &keys) {
+    VariableNames names;
+    for (const CodableKey &key : keys) {
+        names.merge(key.usedVariables(item));
+    }
+    return names;
 }
 
 std::string itemTypeText(std::string_view typeName) {

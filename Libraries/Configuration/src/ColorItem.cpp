@@ -1,5 +1,7 @@
 #include <Configuration/ColorItem.h>
 
+#include <Configuration/ColorCoding.h>
+
 #include <fmt/format.h>
 
 #include <algorithm>

@@ -1,17 +1,11 @@
 #include <Configuration/ComponentItem.h>
 
-#include <Configuration/ItemGroups.h>
-
-#include <fmt/format.h>
+#include <Configuration/ItemCoding.h>
 
 namespace velmar {
 
-void ComponentItem::Input::Checkboxes::declareVariables(
-    const std::function<void(std::string)> &declare) const {
-    const std::string_view name = bareVariableName(input._variable.rawValue());
-    for (std::size_t index = 0; index < _items.rawValue().size(); ++index) {
-        declare(fmt::format("{}-{}", name, index));
-    }
+ComponentItems::TypeIdentifier typeIdentifierOf(const ComponentItem &component) {
+    return std::visit([](const auto &alternative) { return alternative.typeIdentifier; }, component.value);
 }
 
 const ComponentItem::ComponentItemProtocol &ComponentItem::common() const {
@@ -28,10 +22,23 @@ const ComponentItem::ComponentItemProtocol &ComponentItem::common() const {
         value);
 }
 
-VariableNames usedVariables(const ComponentItem &component) {
-    return usedVariables<ComponentItem>(component);
+template <class Item>
+const Item *itemOf(const ComponentItem &component) {
+    return std::get_if<Item>(&component.value);
 }
 
+template const ComponentItems::AppMonitor *itemOf(const ComponentItem &);
+template const ComponentItems::Button *itemOf(const ComponentItem &);
+template const ComponentItems::Image *itemOf(const ComponentItem &);
+template const ComponentItems::Input *itemOf(const ComponentItem &);
+template const ComponentItems::PDF *itemOf(const ComponentItem &);
+template const ComponentItems::Spacer *itemOf(const ComponentItem &);
+template const ComponentItems::Text *itemOf(const ComponentItem &);
+template const ComponentItems::Video *itemOf(const ComponentItem &);
+template const ComponentItems::Web *itemOf(const ComponentItem &);
+
 template struct TaggedItemCoding<ComponentItem>;
+
+template VariableNames usedVariables(const ComponentItem &);
 
 } // namespace velmar

@@ -2,9 +2,32 @@
 
 #include "VariablesCheck.h"
 
-#include <Configuration/ItemGroups.h>
+#include <Configuration/APIRequestItem.h>
+#include <Configuration/APIRequestsSection.h>
+#include <Configuration/ActionItem.h>
+#include <Configuration/ActionSetItem.h>
+#include <Configuration/ActionTrigger.h>
+#include <Configuration/AdminSection.h>
+#include <Configuration/AppTerminationSection.h>
+#include <Configuration/ColorItem.h>
+#include <Configuration/ConditionCoding.h>
+#include <Configuration/ContainerItem.h>
+#include <Configuration/DecodingNotes.h>
+#include <Configuration/ExpressionsBookCoding.h>
+#include <Configuration/FontItem.h>
+#include <Configuration/GeneralSection.h>
+#include <Configuration/InputSection.h>
+#include <Configuration/ItemCoding.h>
 #include <Configuration/Library.h>
+#include <Configuration/MonitorItem.h>
+#include <Configuration/MonitoringSection.h>
+#include <Configuration/NavigationSection.h>
+#include <Configuration/SideContainerSection.h>
+#include <Configuration/SlideItem.h>
+#include <Configuration/Texts.h>
 #include <Configuration/VisitedValue.h>
+#include <Configuration/WindowPositionItem.h>
+#include <Configuration/WindowSection.h>
 #include <Foundation/PropertyListDocument.h>
 
 #include <fmt/format.h>
@@ -121,8 +144,8 @@ bool Configuration::hasSameWindow(const Configuration &other) const {
     return withoutPopover(_window.rawValue()) == withoutPopover(other._window.rawValue());
 }
 
-void Configuration::requireSlidesFor(WindowSection::OnScreen mode) const {
-    if (mode == WindowSection::OnScreen::menuBar) {
+void Configuration::requireSlidesFor(OnScreen mode) const {
+    if (mode == OnScreen::menuBar) {
         if (!menuBarSlideWasSpecified()) {
             throw ConfigurationError(ConfigurationErrors::Custom{
                 "MenuBarSlide",

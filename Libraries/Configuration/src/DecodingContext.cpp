@@ -122,7 +122,7 @@ void DecodingContext::settleReferences(const Library &library, const PropertyLis
     references_.clear();
 }
 
-std::shared_ptr<void> &DecodingContext::valueOfName(std::string_view typeName, std::string_view name) {
+SharedValuePointer &DecodingContext::valueOfName(std::string_view typeName, std::string_view name) {
     return valuesOfNames_[{typeName, name}];
 }
 

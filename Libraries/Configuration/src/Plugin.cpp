@@ -1,4 +1,5 @@
 #include <Configuration/Plugin.h>
+#include <Configuration/PopulatableValue.h>
 
 #include <algorithm>
 #include <atomic>
@@ -45,7 +46,7 @@ Plugins::Registration::~Registration() {
     }
 }
 
-void Plugins::apply(std::span<std::string *const> texts) {
+void applyPlugins(std::span<std::string *const> texts) {
     if (texts.empty() || state().isEmpty) {
         return;
     }

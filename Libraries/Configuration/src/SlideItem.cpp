@@ -1,6 +1,10 @@
 #include <Configuration/SlideItem.h>
 
-#include <Configuration/ItemGroups.h>
+#include <Configuration/ColorItem.h>
+#include <Configuration/ComponentItem.h>
+#include <Configuration/ContainersComposition.h>
+#include <Configuration/ItemCoding.h>
+#include <Configuration/MarginsItem.h>
 
 #include <fmt/format.h>
 
@@ -103,6 +107,7 @@ SlideItem::ContainersComposition SlideItem::containersComposition() const {
     return {std::move(composition)};
 }
 
+template struct ItemCoding<ContainerItem>;
 template struct ItemCoding<SlideItem>;
 
 } // namespace velmar

@@ -1,4 +1,10 @@
-#include <Configuration/ItemGroups.h>
+#include <Configuration/BorderItem.h>
+#include <Configuration/ColorCoding.h>
+#include <Configuration/FontItem.h>
+#include <Configuration/ItemCoding.h>
+#include <Configuration/MarginsItem.h>
+#include <Configuration/SizeItem.h>
+#include <Configuration/WindowPositionItem.h>
 
 namespace velmar {
 

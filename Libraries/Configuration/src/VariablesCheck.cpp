@@ -2,12 +2,22 @@
 
 #include "VariableReferences.h"
 
+#include <Configuration/Configuration.h>
+#include <Configuration/ConfigurationError.h>
+#include <Configuration/DecodingContext.h>
 #include <Configuration/ExpressionError.h>
+#include <Configuration/ExpressionsBook.h>
+#include <Configuration/GeneralSection.h>
+#include <Configuration/Populatable.h>
 
 #include <boost/unordered/unordered_flat_map.hpp>
 #include <boost/unordered/unordered_flat_set.hpp>
 
+#include <optional>
+#include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 namespace velmar {
 
@@ -165,7 +175,7 @@ void checkVariables(const Configuration &configuration, const PropertyListValue 
                     DecodingContext &context) {
     context.declareByPopulatedTexts(configuration._general()._variables.rawValue().models());
     Names defined;
-    for (const auto &placeholder : enumCases<GeneralSection::Placeholders>) {
+    for (const auto &placeholder : enumCases<Placeholders>) {
         defined.insert(placeholder.rawString);
     }
     defined.insert(context.declaredVariables().begin(), context.declaredVariables().end());

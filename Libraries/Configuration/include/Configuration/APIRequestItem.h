@@ -1,14 +1,16 @@
 #pragma once
 
 #include <Configuration/BodyKeyWrapper.h>
-#include <Configuration/KeyWrapper.h>
+#include <Configuration/ConfigurationEnum.h>
 #include <Configuration/MDMApi.h>
 #include <Configuration/VariableKeyWrapper.h>
 #include <Foundation/UUID.h>
 
+#include <array>
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace velmar {
 
@@ -43,3 +45,7 @@ struct APIRequestItem {
 };
 
 } // namespace velmar
+
+#ifndef VELMAR_CONFIGURATION_NARROW
+#include <Configuration/Whole.h>
+#endif

@@ -1,9 +1,17 @@
 #pragma once
 
-#include <Configuration/APIRequestItem.h>
-#include <Configuration/Book.h>
+#include <Configuration/KeyWrapper.h>
+#include <Configuration/MDMApi.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
 
 namespace velmar {
+
+struct APIRequestItem;
+template <class T>
+class Book;
 
 /// The device management servers, and the requests to them that actions name.
 struct APIRequestsSection {
@@ -17,3 +25,7 @@ struct APIRequestsSection {
 };
 
 } // namespace velmar
+
+#ifndef VELMAR_CONFIGURATION_NARROW
+#include <Configuration/Whole.h>
+#endif

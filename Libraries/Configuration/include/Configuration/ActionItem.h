@@ -1,13 +1,33 @@
 #pragma once
 
-#include <Configuration/ExecutionActionItems.h>
-#include <Configuration/InteractionActionItems.h>
+#include <Configuration/Actions/AsleepComputer.h>
+#include <Configuration/Actions/CloseOpenedWindow.h>
+#include <Configuration/Actions/CopyToClipboard.h>
+#include <Configuration/Actions/DisplayAlert.h>
+#include <Configuration/Actions/DisplayNotification.h>
+#include <Configuration/Actions/ExecuteCommand.h>
+#include <Configuration/Actions/ExecuteJamfPolicy.h>
+#include <Configuration/Actions/ExecuteScript.h>
+#include <Configuration/Actions/Log.h>
+#include <Configuration/Actions/LogoutUser.h>
+#include <Configuration/Actions/NavigateToSlide.h>
+#include <Configuration/Actions/OpenWindow.h>
+#include <Configuration/Actions/PlaySound.h>
+#include <Configuration/Actions/RestartComputer.h>
+#include <Configuration/Actions/SaveInputs.h>
+#include <Configuration/Actions/SendRequest.h>
+#include <Configuration/Actions/ShutdownComputer.h>
+#include <Configuration/Actions/TerminateApp.h>
+#include <Configuration/Actions/UpdateVariable.h>
 
+#include <optional>
+#include <string_view>
 #include <variant>
 
 namespace velmar {
 
-/// One thing to do.
+/// One thing to do. Include this header to visit all alternatives. For one of them, the functions of
+/// ActionItemProtocol.h suffice.
 struct ActionItem {
     static constexpr std::string_view typeName = "ActionItem";
     static constexpr std::string_view typeKey = "Type";
@@ -41,10 +61,11 @@ struct ActionItem {
         value;
 
     /// The condition of whichever action it is.
-    [[nodiscard]] const std::optional<Expression> &condition() const {
-        return std::visit(
-            [](const auto &action) -> decltype(auto) { return action.common._condition.rawValue(); }, value);
-    }
+    [[nodiscard]] const std::optional<Expression> &condition() const;
 };
 
 } // namespace velmar
+
+#ifndef VELMAR_CONFIGURATION_NARROW
+#include <Configuration/Whole.h>
+#endif

@@ -1,10 +1,18 @@
 #pragma once
 
 #include <Configuration/ConditionKeyWrapper.h>
+#include <Configuration/ConfigurationEnum.h>
 
-namespace velmar::ActionItems {
+#include <array>
+#include <optional>
 
-/// The kinds of actions; the names to use are those within ActionItem.
+namespace velmar {
+
+struct ActionItem;
+
+namespace ActionItems {
+
+/// The kinds of actions. They stand outside of ActionItem because its variant needs them complete.
 enum class TypeIdentifier {
     log,
     saveInput,
@@ -57,4 +65,16 @@ struct ActionItemProtocol {
     ConditionKeyWrapper _condition{"Condition", optional}; ///< Absent: always run.
 };
 
-} // namespace velmar::ActionItems
+} // namespace ActionItems
+
+// Access to an action for sources that don't need all its alternatives.
+
+[[nodiscard]] ActionItems::TypeIdentifier typeIdentifierOf(const ActionItem &action);
+
+[[nodiscard]] const std::optional<Expression> &conditionOf(const ActionItem &action);
+
+/// Returns the alternative, or nullptr if the action is another one.
+template <class Item>
+[[nodiscard]] const Item *itemOf(const ActionItem &action);
+
+} // namespace velmar

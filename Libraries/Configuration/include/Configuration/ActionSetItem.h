@@ -1,13 +1,16 @@
 #pragma once
 
-#include <Configuration/ActionTrigger.h>
 #include <Configuration/ConditionKeyWrapper.h>
+#include <Configuration/ConfigurationEnum.h>
 
+#include <array>
+#include <string_view>
 #include <vector>
 
 namespace velmar {
 
 struct ActionItem;
+struct ActionTrigger;
 
 namespace ActionItems {
 
@@ -54,5 +57,6 @@ struct TriggeredActionSetItem {
 
 } // namespace velmar
 
-// Whole wherever a set is used.
-#include <Configuration/ActionItem.h>
+#ifndef VELMAR_CONFIGURATION_NARROW
+#include <Configuration/Whole.h>
+#endif

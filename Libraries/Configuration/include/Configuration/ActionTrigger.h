@@ -1,6 +1,5 @@
 #pragma once
 
-#include <Configuration/Decodable.h>
 #include <Foundation/RegularExpression.h>
 
 #include <string>
@@ -42,16 +41,6 @@ struct ActionTrigger {
     [[nodiscard]] std::string text() const;
 
     bool operator==(const ActionTrigger &) const = default;
-};
-
-template <>
-struct Decodable<ActionTrigger> {
-    static ActionTrigger decode(const Decoding &decoding);
-    static std::optional<PropertyList> encode(const ActionTrigger &trigger) {
-        return PropertyList(trigger.text());
-    }
-    static std::string plistType();
-    static ValueDescription describe(Descriptions &items);
 };
 
 } // namespace velmar

@@ -2,6 +2,8 @@
 
 #include <Configuration/KeyWrapper.h>
 
+#include <string_view>
+
 namespace velmar {
 
 /// What the person who sets the session up may do beside its user.

@@ -2,6 +2,10 @@
 
 #include <Configuration/KeyWrapper.h>
 
+#include <optional>
+#include <string>
+#include <string_view>
+
 namespace velmar {
 
 /// How the session ends.

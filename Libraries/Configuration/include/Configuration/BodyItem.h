@@ -1,11 +1,11 @@
 #pragma once
 
-#include <Configuration/Decodable.h>
-#include <Configuration/Populatable.h>
+#include <Configuration/PopulatableBody.h>
 
 #include <cstdint>
 #include <map>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <variant>
 #include <vector>
@@ -15,9 +15,6 @@ namespace velmar {
 /// The body of a request: a value, or values in lists and dictionaries.
 struct BodyItem {
     static constexpr std::string_view typeName = "BodyItem";
-
-    /// The two that hold others.
-    using Group = ConfigurationErrors::RequestBodyGroup::Group;
 
     using Array = std::vector<BodyItem>;
     using Dictionary = std::map<std::string, BodyItem>;
@@ -61,18 +58,5 @@ private:
             body.value);
     }
 };
-
-/// Texts, truth values, whole numbers, numbers, arrays and dictionaries, tried in this order; a number has
-/// the kind that the file gives it, so that a 1.0 is sent as one.
-template <>
-struct Decodable<BodyItem> {
-    static BodyItem decode(const Decoding &decoding);
-    static std::optional<PropertyList> encode(const BodyItem &body);
-    static std::string plistType() { return "string, boolean, number, array or dictionary"; }
-    static ValueDescription describe(Descriptions &items);
-};
-
-template <>
-struct IsPopulatable<BodyItem> : std::true_type {};
 
 } // namespace velmar

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <Configuration/BodyItem.h>
 #include <Configuration/KeyWrapper.h>
+#include <Configuration/PopulatableBody.h>
 
 #include <optional>
 #include <string>
@@ -19,17 +19,14 @@ public:
     /// As CodingPath::text(); empty for a body that the file doesn't give.
     [[nodiscard]] const std::string &codingPath() const { return codingPath_; }
 
-    void decode(const PropertyListValue &value, const CodingPath &itemPath, DecodingContext &context) {
-        Base::decode(value, itemPath, context);
-        codingPath_ = CodingPath(itemPath, name().stringValue).text();
-    }
-
     void inherit(const BodyKeyWrapper &parent) {
         Base::inherit(parent);
         codingPath_ = parent.codingPath_;
     }
 
 private:
+    friend struct KeyCoding<BodyKeyWrapper>;
+
     std::string codingPath_;
 };
 

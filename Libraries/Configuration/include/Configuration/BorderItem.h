@@ -1,9 +1,15 @@
 #pragma once
 
-#include <Configuration/ColorItem.h>
+#include <Configuration/ConfigurationEnum.h>
 #include <Configuration/InheritableKeyWrapper.h>
 
+#include <array>
+#include <optional>
+#include <string_view>
+
 namespace velmar {
+
+struct ColorItem;
 
 /// A line above or below a component.
 struct BorderItem {
@@ -21,3 +27,7 @@ struct BorderItem {
 };
 
 } // namespace velmar
+
+#ifndef VELMAR_CONFIGURATION_NARROW
+#include <Configuration/Whole.h>
+#endif

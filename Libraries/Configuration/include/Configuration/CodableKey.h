@@ -2,11 +2,12 @@
 
 #include <Configuration/DecodingContext.h>
 #include <Configuration/Description.h>
+#include <Configuration/KeyCoding.h>
 #include <Configuration/Requirement.h>
 #include <Configuration/VisitedValue.h>
 #include <Foundation/PropertyList.h>
 #include <Foundation/PropertyListValue.h>
-#include <expressions/Variables.h>
+#include <expressions/VariableNames.h>
 
 #include <cstddef>
 #include <span>
@@ -15,9 +16,6 @@
 
 namespace velmar {
 
-// In ItemCoding.h.
-template <class T>
-VariableNames usedVariables(const T &value);
 // In VisitValues.h.
 template <class T>
 void visitValues(const T &value, const ValuePlace &place, ValueVisitor &visitor);
@@ -80,14 +78,20 @@ private:
     template <class Key>
     static constexpr Operations operationsOf{
         [](const void *holder) { return as<Key>(holder).wasGivenValueWhileDecoding(); },
-        [](const void *holder, PropertyList::Dictionary &item) { as<Key>(holder).encode(item); },
-        [](const void *holder, Descriptions &items) { return as<Key>(holder).describe(items); },
-        [](const void *holder) { return velmar::usedVariables(as<Key>(holder).rawValue()); },
+        [](const void *holder, PropertyList::Dictionary &item) {
+            KeyCoding<Key>::encode(as<Key>(holder), item);
+        },
+        [](const void *holder, Descriptions &items) {
+            return KeyCoding<Key>::describe(as<Key>(holder), items);
+        },
+        [](const void *holder) { return KeyCoding<Key>::usedVariables(as<Key>(holder)); },
         [](const void *holder, const ValuePlace &place, ValueVisitor &visitor) {
             velmar::visitValues(as<Key>(holder).rawValue(), place, visitor);
         },
         [](void *holder, const PropertyListValue &value, const CodingPath &itemPath,
-           DecodingContext &context) { static_cast<Key *>(holder)->decode(value, itemPath, context); },
+           DecodingContext &context) {
+            KeyCoding<Key>::decode(*static_cast<Key *>(holder), value, itemPath, context);
+        },
         [](void *holder, const void *parent) { static_cast<Key *>(holder)->inherit(as<Key>(parent)); }};
 
     [[nodiscard]] void *in(void *item) const { return static_cast<std::byte *>(item) + offset_; }
@@ -134,6 +138,15 @@ void decodeKeys(void *item, const KeyList &keys, std::string_view typeName, cons
 
 /// Visits the values of the keys that the file gives for an item at `place`.
 void visitKeys(const void *item, const KeyList &keys, const ValuePlace &place, ValueVisitor &visitor);
+
+/// Adds the description of the items of a type, unless `items` has it. `defaults` is their default instance.
+void describeKeys(std::string_view typeName, const void *defaults, const KeyList &keys, Descriptions &items);
+
+/// The variables that the texts of all keys of an item use.
+[[nodiscard]] VariableNames usedVariables(const void *item, const KeyList &keys);
+
+/// The offset of the key of `item` whose path an error has; that of the item for any other path.
+[[nodiscard]] std::uint32_t offsetWithin(const Decoding &item, std::string_view path);
 
 /// The type of an item for messages.
 [[nodiscard]] std::string itemTypeText(std::string_view typeName);

@@ -2,6 +2,10 @@
 
 #include <Configuration/KeyWrapper.h>
 
+#include <optional>
+#include <string>
+#include <string_view>
+
 namespace velmar {
 
 /// A colour with a form for the dark and one for the light appearance; it can be a model of the book
@@ -31,18 +35,8 @@ struct ColorItem {
     KeyWrapper<double> _alphaLight{1.0, "AlphaLight", optional, {0, 1}};
 };
 
-template <>
-struct Decodable<ColorItem::Specification> {
-    static ColorItem::Specification decode(const Decoding &decoding);
-    static std::optional<PropertyList> encode(const ColorItem::Specification &value) {
-        return PropertyList(value.text());
-    }
-    /// As people write it, in contrast to the encoding with its digits left out.
-    static PropertyList asWritten(const ColorItem::Specification &value);
-    static std::string plistType() { return "string (#RRGGBB)"; }
-    static ValueDescription describe(Descriptions & /*items*/) {
-        return ValueDescription::text("colour, #RRGGBB or #RRGGBBAA", "#([0-9A-Fa-f]{6}|[0-9A-Fa-f]{8})");
-    }
-};
-
 } // namespace velmar
+
+#ifndef VELMAR_CONFIGURATION_NARROW
+#include <Configuration/Whole.h>
+#endif

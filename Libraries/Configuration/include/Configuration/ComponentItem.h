@@ -1,14 +1,22 @@
 #pragma once
 
-#include <Configuration/ButtonComponentItem.h>
-#include <Configuration/DisplayComponentItems.h>
-#include <Configuration/InputComponentItem.h>
+#include <Configuration/Components/AppMonitor.h>
+#include <Configuration/Components/Button.h>
+#include <Configuration/Components/Image.h>
+#include <Configuration/Components/Input.h>
+#include <Configuration/Components/PDF.h>
+#include <Configuration/Components/Spacer.h>
+#include <Configuration/Components/Text.h>
+#include <Configuration/Components/Video.h>
+#include <Configuration/Components/Web.h>
 
+#include <string_view>
 #include <variant>
 
 namespace velmar {
 
-/// One piece of a container's content.
+/// One piece of a container's content. Include this header to visit all alternatives. For one of them, the
+/// functions of ComponentItemProtocol.h suffice.
 struct ComponentItem {
     static constexpr std::string_view typeName = "ComponentItem";
     static constexpr std::string_view typeKey = "Type";
@@ -31,8 +39,8 @@ struct ComponentItem {
     [[nodiscard]] const ComponentItemProtocol &common() const;
 };
 
-/// The variables that the texts of a component use, those of its nested items included. Its condition is no
-/// text.
-[[nodiscard]] VariableNames usedVariables(const ComponentItem &component);
-
 } // namespace velmar
+
+#ifndef VELMAR_CONFIGURATION_NARROW
+#include <Configuration/Whole.h>
+#endif

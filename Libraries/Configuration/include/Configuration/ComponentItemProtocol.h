@@ -1,13 +1,18 @@
 #pragma once
 
-#include <Configuration/BorderItem.h>
 #include <Configuration/ConditionKeyWrapper.h>
-#include <Configuration/MarginsItem.h>
+#include <Configuration/ConfigurationEnum.h>
+
+#include <array>
+#include <optional>
 
 namespace velmar {
 
-/// The kinds of components; the names to use are those within ComponentItem. They stand outside of it because
-/// a variant wants its alternatives whole.
+struct BorderItem;
+struct ComponentItem;
+struct MarginsItem;
+
+/// The kinds of components. They stand outside of ComponentItem because its variant needs them complete.
 namespace ComponentItems {
 
 enum class TypeIdentifier { text, image, button, web, spacer, appMonitor, pdf, video, input };
@@ -34,5 +39,13 @@ struct ComponentItemProtocol {
 };
 
 } // namespace ComponentItems
+
+// Access to a component for sources that don't need all its alternatives.
+
+[[nodiscard]] ComponentItems::TypeIdentifier typeIdentifierOf(const ComponentItem &component);
+
+/// Returns the alternative, or nullptr if the component is another one.
+template <class Item>
+[[nodiscard]] const Item *itemOf(const ComponentItem &component);
 
 } // namespace velmar

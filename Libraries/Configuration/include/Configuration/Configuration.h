@@ -1,32 +1,44 @@
 #pragma once
 
-#include <Configuration/APIRequestsSection.h>
-#include <Configuration/ActionSetItem.h>
-#include <Configuration/AdminSection.h>
-#include <Configuration/AppTerminationSection.h>
-#include <Configuration/Book.h>
-#include <Configuration/ColorItem.h>
 #include <Configuration/ConditionKeyWrapper.h>
-#include <Configuration/DecodingNotes.h>
-#include <Configuration/FontItem.h>
-#include <Configuration/GeneralSection.h>
-#include <Configuration/InputSection.h>
-#include <Configuration/MonitoringSection.h>
-#include <Configuration/NavigationSection.h>
-#include <Configuration/SideContainerSection.h>
-#include <Configuration/SlideItem.h>
-#include <Configuration/WindowSection.h>
+#include <Configuration/KeyWrapper.h>
+#include <expressions/VariableNames.h>
 
 #include <memory>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace velmar {
 
 class ValueVisitor;
+class CodingPath;
+class Descriptions;
+class PropertyList;
+class PropertyListValue;
+struct DecodingNotes;
+
+struct AdminSection;
+struct APIRequestsSection;
+struct AppTerminationSection;
+template <class T>
+class Book;
+struct ColorItem;
+template <class T>
+class ExpressionsBook;
+struct FontItem;
+struct GeneralSection;
+struct InputSection;
+struct MonitoringSection;
+struct NavigationSection;
+enum class OnScreen;
+struct SideContainerSection;
+struct SlideItem;
+struct TriggeredActionSetItem;
+struct WindowSection;
 
 /// The root of a configuration file. Its keys are decoded in the order of the members: the first fault is the
-/// one that is told.
+/// one that is reported. A source that reads a key includes the header of its section.
 struct Configuration {
     static constexpr std::string_view typeName = "Configuration";
 
@@ -75,10 +87,14 @@ struct Configuration {
     void validate(const CodingPath &path) const;
 
     /// There is something to show in that mode. Throws ConfigurationError.
-    void requireSlidesFor(WindowSection::OnScreen mode) const;
+    void requireSlidesFor(OnScreen mode) const;
 
     /// Whether the section of the window says the same, but for the size of the popover.
     [[nodiscard]] bool hasSameWindow(const Configuration &other) const;
 };
 
 } // namespace velmar
+
+#ifndef VELMAR_CONFIGURATION_NARROW
+#include <Configuration/Whole.h>
+#endif

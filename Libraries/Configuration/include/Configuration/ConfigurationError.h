@@ -1,5 +1,6 @@
 #pragma once
 
+#include <Configuration/ClosedRange.h>
 #include <Foundation/LocalizedError.h>
 
 #include <optional>
@@ -11,13 +12,6 @@ namespace velmar {
 class KeyValidationError final : public LocalizedError {
 public:
     explicit KeyValidationError(std::string description) : LocalizedError(std::move(description)) {}
-};
-
-/// An interval with both its bounds.
-struct ClosedRange {
-    double lower = 0;
-    double upper = 0;
-    [[nodiscard]] bool contains(double value) const { return value >= lower && value <= upper; }
 };
 
 namespace ConfigurationErrors {

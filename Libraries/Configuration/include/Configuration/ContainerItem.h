@@ -1,15 +1,17 @@
 #pragma once
 
-#include <Configuration/ColorItem.h>
 #include <Configuration/InheritableKeyWrapper.h>
 #include <Configuration/InputDistribution.h>
-#include <Configuration/MarginsItem.h>
 
+#include <optional>
+#include <string_view>
 #include <vector>
 
 namespace velmar {
 
+struct ColorItem;
 struct ComponentItem;
+struct MarginsItem;
 
 /// A column of components, one under the other.
 struct ContainerItem {
@@ -28,5 +30,6 @@ struct ContainerItem {
 
 } // namespace velmar
 
-// Whole wherever a container is used; a button refers back to slides.
-#include <Configuration/ComponentItem.h>
+#ifndef VELMAR_CONFIGURATION_NARROW
+#include <Configuration/Whole.h>
+#endif

@@ -4,6 +4,7 @@
 #include <Configuration/ConfigurationError.h>
 #include <Configuration/DecodingContext.h>
 #include <Configuration/Description.h>
+#include <Configuration/InPlace.h>
 #include <Configuration/Texts.h>
 #include <Foundation/PropertyList.h>
 
@@ -40,7 +41,7 @@ concept KeysCodableItem = std::is_aggregate_v<T> && !TaggedItem<T> && requires {
 
 template <class T>
 struct EnumCoding;
-// In ItemCoding.h.
+// In ItemCodingTemplates.h.
 template <class T>
 struct ItemCoding;
 template <class T>
@@ -72,18 +73,6 @@ consteval auto codingOf() {
 /// local to each object file, so that no two share them.
 template <class T>
 struct Decodable : decltype(detail::codingOf<T>())::type {};
-
-/// Makes a value right where it is to stand: what constructs its content from this, such as an optional or an
-/// element of a vector, moves nothing. Items are large.
-template <class Make>
-struct InPlace {
-    Make make;
-    operator std::invoke_result_t<const Make &>() const { // NOLINT(google-explicit-constructor)
-        return make();
-    }
-};
-template <class Make>
-InPlace(Make) -> InPlace<Make>;
 
 /// Throws the ConfigurationError of a value that is not of the expected type.
 [[noreturn]] void throwWrongType(const Decoding &decoding, const std::string &expectedType);

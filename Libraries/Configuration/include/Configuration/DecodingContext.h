@@ -2,6 +2,7 @@
 
 #include <Configuration/CodingPath.h>
 #include <Configuration/DecodingNotes.h>
+#include <Configuration/KeyHolder.h>
 #include <Foundation/PropertyListValue.h>
 #include <Foundation/RegularExpression.h>
 #include <expressions/Expression.h>
@@ -9,7 +10,6 @@
 
 #include <functional>
 #include <map>
-#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -43,9 +43,9 @@ public:
     /// the path of the reference in `file`, the root of what was decoded.
     void settleReferences(const Library &library, const PropertyListValue &file);
 
-    /// What keys that name a model have in common: one value for each type and name, made by the first of
-    /// them. Null before that. The name is a text of the file.
-    [[nodiscard]] std::shared_ptr<void> &valueOfName(std::string_view typeName, std::string_view name);
+    /// Slot of a cache shared by all keys naming the same model (type, name). Null until first filled. The
+    /// name is a text of the file.
+    [[nodiscard]] SharedValuePointer &valueOfName(std::string_view typeName, std::string_view name);
 
     /// The parsed form of a text of the file, which equal ones share. Throws what parsing throws.
     [[nodiscard]] const expressions::Expression &expression(std::string_view line);
@@ -96,7 +96,7 @@ private:
     std::size_t bytesSpent_ = 0; ///< On names and paths that are kept.
     std::vector<Reference> references_;
     // The keys are texts of the file. Sorted and not hashed: nobody can choose texts that make it slow.
-    std::map<std::pair<std::string_view, std::string_view>, std::shared_ptr<void>> valuesOfNames_;
+    std::map<std::pair<std::string_view, std::string_view>, SharedValuePointer> valuesOfNames_;
     std::map<std::string_view, expressions::Expression> expressions_;
     std::map<std::string_view, RegularExpression> regularExpressions_;
     std::vector<VariablesUse> uses_;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Configuration/ConfigurationError.h>
+#include <Configuration/ClosedRange.h>
 #include <Configuration/Requirement.h>
 #include <Foundation/PropertyList.h>
 

@@ -2,6 +2,8 @@
 
 #include <Configuration/ConfigurationEnum.h>
 
+#include <array>
+
 namespace velmar {
 
 /// A side of something on screen.

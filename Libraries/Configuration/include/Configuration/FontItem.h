@@ -1,22 +1,23 @@
 #pragma once
 
-#include <Configuration/ColorItem.h>
+#include <Configuration/ConfigurationEnum.h>
 #include <Configuration/InheritableKeyWrapper.h>
+#include <Configuration/TextAlignment.h>
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
 
 namespace velmar {
+
+struct ColorItem;
 
 /// How a text looks; it can be a model of the book "FontStyles".
 struct FontItem {
     static constexpr std::string_view typeName = "FontItem";
 
-    enum class TextAlignment { left, center, right, justified, natural };
-    friend constexpr auto casesOf(TextAlignment) {
-        return std::to_array<EnumCase<TextAlignment>>({{TextAlignment::left, "Left"},
-                                                       {TextAlignment::center, "Center"},
-                                                       {TextAlignment::right, "Right"},
-                                                       {TextAlignment::justified, "Justified"},
-                                                       {TextAlignment::natural, "Natural"}});
-    }
+    using TextAlignment = velmar::TextAlignment;
 
     enum class SystemFontWeight { heavy, black, bold, semibold, medium, regular, thin, light, ultralight };
     friend constexpr auto casesOf(SystemFontWeight) {
@@ -43,3 +44,7 @@ struct FontItem {
 };
 
 } // namespace velmar
+
+#ifndef VELMAR_CONFIGURATION_NARROW
+#include <Configuration/Whole.h>
+#endif

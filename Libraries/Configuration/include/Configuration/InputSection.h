@@ -1,6 +1,12 @@
 #pragma once
 
+#include <Configuration/ConfigurationEnum.h>
 #include <Configuration/KeyWrapper.h>
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
 
 namespace velmar {
 

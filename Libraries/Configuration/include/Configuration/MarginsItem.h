@@ -2,6 +2,9 @@
 
 #include <Configuration/KeyWrapper.h>
 
+#include <optional>
+#include <string_view>
+
 namespace velmar {
 
 /// Empty space around something, in points; an absent side is the reader's to choose.

@@ -1,11 +1,15 @@
 #pragma once
 
 #include <Configuration/KeyWrapper.h>
-#include <Configuration/MonitorItem.h>
 
+#include <optional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace velmar {
+
+struct MonitorItem;
 
 /// The logs of the management agents, and what is heard when all is installed.
 struct MonitoringSection {
@@ -21,3 +25,7 @@ struct MonitoringSection {
 };
 
 } // namespace velmar
+
+#ifndef VELMAR_CONFIGURATION_NARROW
+#include <Configuration/Whole.h>
+#endif

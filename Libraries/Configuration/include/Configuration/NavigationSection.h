@@ -1,9 +1,14 @@
 #pragma once
 
-#include <Configuration/ColorItem.h>
 #include <Configuration/InheritableKeyWrapper.h>
 
+#include <optional>
+#include <string>
+#include <string_view>
+
 namespace velmar {
+
+struct ColorItem;
 
 /// The buttons that lead through the slides, and what is said when they can't.
 struct NavigationSection {
@@ -26,3 +31,7 @@ struct NavigationSection {
 };
 
 } // namespace velmar
+
+#ifndef VELMAR_CONFIGURATION_NARROW
+#include <Configuration/Whole.h>
+#endif

@@ -1,9 +1,5 @@
 #pragma once
 
-#include <Configuration/Populatable.h>
-
-#include <boost/container/small_vector.hpp>
-
 #include <memory>
 #include <span>
 #include <string>
@@ -37,17 +33,6 @@ public:
     };
 
     static Registration registerPlugin(std::shared_ptr<const Plugin> plugin);
-
-    static void apply(std::span<std::string *const> texts);
 };
-
-/// A value after all plugins.
-template <Populatable T>
-[[nodiscard]] T plugged(T value) {
-    boost::container::small_vector<std::string *, 8> texts;
-    visitTexts(value, [&](std::string &text) { texts.push_back(&text); });
-    Plugins::apply({texts.data(), texts.size()});
-    return value;
-}
 
 } // namespace velmar

@@ -1,13 +1,10 @@
 #pragma once
 
+#include <Configuration/PopulatableValue.h>
 #include <expressions/Variables.h>
 
-#include <map>
-#include <optional>
 #include <string>
 #include <string_view>
-#include <type_traits>
-#include <vector>
 
 namespace velmar {
 
@@ -30,45 +27,5 @@ namespace velmar {
 
 /// The name of a variable that is given bare or as `${NAME}`: without the "${" before and the "}" after it.
 [[nodiscard]] std::string_view bareVariableName(std::string_view name) noexcept;
-
-/// Whether values of a type can hold references: texts, types made of texts and collections of these do.
-template <class T>
-struct IsPopulatable : std::false_type {};
-template <>
-struct IsPopulatable<std::string> : std::true_type {};
-template <class T>
-struct IsPopulatable<std::optional<T>> : IsPopulatable<T> {};
-template <class T>
-struct IsPopulatable<std::vector<T>> : IsPopulatable<T> {};
-template <class T>
-struct IsPopulatable<std::map<std::string, T>> : IsPopulatable<T> {};
-
-template <class T>
-concept Populatable = IsPopulatable<std::remove_cv_t<T>>::value;
-
-/// Calls `function` with every text of a value, in their order; the keys of a dictionary are none. A type of
-/// its own tells its texts by `visitTexts`, or its only one, which cannot be changed in place, by `text`.
-template <Populatable T, class Function>
-void visitTexts(T &value, Function &&function) {
-    if constexpr (std::is_same_v<std::remove_cv_t<T>, std::string>) {
-        function(value);
-    } else if constexpr (requires { value.visitTexts(function); }) {
-        value.visitTexts(function);
-    } else if constexpr (requires { value.text(); }) {
-        function(value.text());
-    } else if constexpr (requires { value.has_value(); }) {
-        if (value) {
-            visitTexts(*value, function);
-        }
-    } else {
-        for (auto &element : value) {
-            if constexpr (requires { element.second; }) {
-                visitTexts(element.second, function);
-            } else {
-                visitTexts(element, function);
-            }
-        }
-    }
-}
 
 } // namespace velmar

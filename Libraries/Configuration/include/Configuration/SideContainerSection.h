@@ -1,9 +1,12 @@
 #pragma once
 
-#include <Configuration/ContainerItem.h>
 #include <Configuration/KeyWrapper.h>
 
+#include <string_view>
+
 namespace velmar {
+
+struct ContainerItem;
 
 /// A container that stands beside all slides.
 struct SideContainerSection {
@@ -14,3 +17,7 @@ struct SideContainerSection {
 };
 
 } // namespace velmar
+
+#ifndef VELMAR_CONFIGURATION_NARROW
+#include <Configuration/Whole.h>
+#endif

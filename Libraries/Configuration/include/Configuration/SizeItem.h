@@ -2,6 +2,8 @@
 
 #include <Configuration/KeyWrapper.h>
 
+#include <string_view>
+
 namespace velmar {
 
 /// A size in points.

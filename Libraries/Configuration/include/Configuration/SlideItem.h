@@ -1,13 +1,16 @@
 #pragma once
 
-#include <Configuration/ColorItem.h>
-#include <Configuration/ContainerItem.h>
 #include <Configuration/InheritableKeyWrapper.h>
 
-#include <variant>
+#include <optional>
+#include <string_view>
 #include <vector>
 
 namespace velmar {
+
+class CodingPath;
+struct ColorItem;
+struct ContainerItem;
 
 /// One page: containers side by side.
 struct SlideItem {
@@ -19,21 +22,8 @@ struct SlideItem {
     KeyWrapper<bool> _hidePreviousButton{false, "HidePreviousButton", optional};
     KeyWrapper<bool> _hideNextButton{false, "HideNextButton", optional};
 
-    /// How the containers share the width of the slide.
-    struct ContainersComposition {
-        /// Equal widths.
-        struct NotSpecified {
-            std::vector<ContainerItem> containers;
-        };
-        struct Ratio {
-            struct Share {
-                ContainerItem container;
-                double ratio = 0; ///< From 0 to 1.
-            };
-            std::vector<Share> shares;
-        };
-        std::variant<NotSpecified, Ratio> value;
-    };
+    /// Defined in ContainersComposition.h.
+    struct ContainersComposition;
 
     /// The composition of a slide that passed `validate`.
     [[nodiscard]] ContainersComposition containersComposition() const;
@@ -44,3 +34,7 @@ struct SlideItem {
 };
 
 } // namespace velmar
+
+#ifndef VELMAR_CONFIGURATION_NARROW
+#include <Configuration/Whole.h>
+#endif

@@ -5,70 +5,48 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace velmar {
 
-/// What a key that holds the name of a variable declares: that name, bare. The key is read by rawValue(),
-/// because for a reader of `${NAME}` the plugins would put the variable's value in its place.
-[[nodiscard]] inline std::vector<std::string> nameOfVariable(const std::string &text) {
-    return {std::string(bareVariableName(text))};
-}
-[[nodiscard]] inline std::vector<std::string> nameOfVariable(const std::optional<std::string> &text) {
-    return text ? nameOfVariable(*text) : std::vector<std::string>();
-}
-/// What a dictionary by names of variables declares: its keys.
-[[nodiscard]] inline std::vector<std::string>
-namesOfVariables(const std::optional<std::map<std::string, std::string>> &values) {
-    std::vector<std::string> names;
-    for (const auto &[name, value] : values.value_or(std::map<std::string, std::string>())) {
-        static_cast<void>(value);
-        names.emplace_back(bareVariableName(name));
-    }
-    return names;
-}
+/// The bare name of the variable that a key names. Such a key is read by rawValue(), because the plugins
+/// would replace `${NAME}` by the value of the variable.
+[[nodiscard]] std::vector<std::string> nameOfVariable(const std::string &text);
+[[nodiscard]] std::vector<std::string> nameOfVariable(const std::optional<std::string> &text);
+/// The bare keys of a dictionary by names of variables.
+[[nodiscard]] std::vector<std::string>
+namesOfVariables(const std::optional<std::map<std::string, std::string>> &values);
 
-/// Which form of a text tells the names that it declares.
+/// Whether declared names are taken from the raw text or after substitution.
 enum class DeclaringForm {
-    given,     ///< As it stands in the file.
-    populated, ///< With the values that its variables start with.
+    given,     ///< The text of the file.
+    populated, ///< The text with the initial values of its variables.
 };
 
-/// Holds a key that has to do with variables: a text for people with references to them, or a key that brings
-/// variables into being. What a key declares is defined for the whole file, wherever it stands.
+/// Holds a key related to variables: a text with references to them, or a key that declares variables. A
+/// declared variable is defined for the whole file, wherever the key stands.
 template <class T>
 class VariableKeyWrapper : public KeyWrapper<T> {
     using Base = KeyWrapper<T>;
 
 public:
-    /// The names that a value declares.
+    /// Returns the names that a value declares.
     using DeclaredNames = std::vector<std::string> (*)(const T &value);
 
-    VariableKeyWrapper(ConfigCodingKey name, Requirement requirement, DeclaredNames declaredNames = nullptr,
+    VariableKeyWrapper(ConfigCodingKey name, const Requirement &requirement, DeclaredNames names = nullptr,
                        DeclaringForm form = DeclaringForm::given)
-        : Base(name, std::move(requirement)), declaredNames_(declaredNames), form_(form) {}
-    VariableKeyWrapper(T defaultValue, ConfigCodingKey name, Requirement requirement,
-                       DeclaredNames declaredNames = nullptr)
-        : Base(std::move(defaultValue), name, std::move(requirement)), declaredNames_(declaredNames) {}
+        : Base(name, requirement), declaredNames_(names), form_(form) {}
+    VariableKeyWrapper(T defaultValue, ConfigCodingKey name, const Requirement &requirement,
+                       DeclaredNames names = nullptr)
+        : Base(std::move(defaultValue), name, requirement), declaredNames_(names) {}
 
-    void decode(const PropertyListValue &value, const CodingPath &itemPath, DecodingContext &context) {
-        Base::decode(value, itemPath, context);
-        if (declaredNames_ == nullptr) {
-            return;
-        }
-        if constexpr (std::is_same_v<T, std::string>) {
-            if (form_ == DeclaringForm::populated) {
-                context.declareByPopulatedText(*value.string(), declaredNames_);
-                return;
-            }
-        }
-        for (std::string &name : declaredNames_(Base::rawValue())) {
-            context.declareVariable(std::move(name));
-        }
-    }
+    /// nullptr for a key that declares nothing.
+    [[nodiscard]] DeclaredNames declaredNames() const { return declaredNames_; }
+    [[nodiscard]] DeclaringForm declaringForm() const { return form_; }
 
 private:
-    DeclaredNames declaredNames_; ///< Null for a key that declares nothing.
+    DeclaredNames declaredNames_;
     DeclaringForm form_ = DeclaringForm::given;
 };
 

@@ -1,6 +1,10 @@
 #pragma once
 
+#include <Configuration/ConfigurationEnum.h>
 #include <Configuration/KeyWrapper.h>
+
+#include <array>
+#include <string_view>
 
 namespace velmar {
 

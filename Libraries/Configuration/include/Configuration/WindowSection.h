@@ -1,23 +1,23 @@
 #pragma once
 
 #include <Configuration/KeyWrapper.h>
+#include <Configuration/OnScreen.h>
 #include <Configuration/SizeItem.h>
-#include <Configuration/WindowPositionItem.h>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
 
 namespace velmar {
+
+struct WindowPositionItem;
 
 /// The window and its place on the screen. Sizes in points.
 struct WindowSection {
     static constexpr std::string_view typeName = "WindowSection";
 
-    /// How the session stands on the desktop.
-    enum class OnScreen { simple, blurredBackground, fullScreen, menuBar };
-    friend constexpr auto casesOf(OnScreen) {
-        return std::to_array<EnumCase<OnScreen>>({{OnScreen::simple, "Simple"},
-                                                  {OnScreen::blurredBackground, "BlurredBackground"},
-                                                  {OnScreen::fullScreen, "FullScreen"},
-                                                  {OnScreen::menuBar, "MenuBar"}});
-    }
+    using OnScreen = velmar::OnScreen;
 
     KeyWrapper<SizeItem> _minimumSize{SizeItem::of(600, 800), "MinimumSize", optional};
     KeyWrapper<SizeItem> _maximumSize{SizeItem::of(768, 1280), "MaximumSize", optional};
@@ -34,3 +34,7 @@ struct WindowSection {
 };
 
 } // namespace velmar
+
+#ifndef VELMAR_CONFIGURATION_NARROW
+#include <Configuration/Whole.h>
+#endif

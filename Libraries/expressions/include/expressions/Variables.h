@@ -1,12 +1,12 @@
 #pragma once
 
+#include <expressions/VariableNames.h>
+
 #include <boost/unordered/unordered_flat_map.hpp>
 
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <functional>
-#include <set>
 #include <string>
 #include <string_view>
 
@@ -67,8 +67,6 @@ private:
 
 /// Variables and their values. Changing the map invalidates the addresses of values.
 using Variables = boost::unordered_flat_map<std::string, std::string, VariableNameHash, VariableNameEqual>;
-
-using VariableNames = std::set<std::string, std::less<>>;
 
 /// Source of variables for an evaluation. Owns nothing; valid for the duration of the call.
 struct VariableLookup {

@@ -1,4 +1,4 @@
-#include <Configuration/ConditionKeyWrapper.h>
+#include <Configuration/ConditionCoding.h>
 
 #include <Foundation/LocalizedError.h>
 

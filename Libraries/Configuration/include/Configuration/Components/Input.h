@@ -1,0 +1,30 @@
+#pragma once
+
+#include <Configuration/Inputs/Checkboxes.h>
+#include <Configuration/Inputs/List.h>
+#include <Configuration/Inputs/Text.h>
+
+#include <string_view>
+#include <variant>
+
+namespace velmar::ComponentItems {
+
+/// What the user types or chooses.
+struct Input {
+    static constexpr std::string_view typeName = "ComponentItem.Input";
+    static constexpr ComponentItems::TypeIdentifier typeIdentifier = ComponentItems::TypeIdentifier::input;
+    static constexpr std::string_view typeKey = "InputType";
+
+    using TypeIdentifier = Inputs::InputTypeIdentifier;
+    using InputTypeIdentifier = Inputs::InputTypeIdentifier;
+    using Distribution = Inputs::Distribution;
+    using InputComponentItemProtocol = Inputs::InputComponentItemProtocol;
+    using ValidationItemProtocol = Inputs::ValidationItemProtocol;
+    using Text = Inputs::Text;
+    using List = Inputs::List;
+    using Checkboxes = Inputs::Checkboxes;
+
+    std::variant<Text, List, Checkboxes> value;
+};
+
+} // namespace velmar::ComponentItems

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <Configuration/Monitors/MonitorItemProtocol.h>
+#include <Configuration/PopulatableURL.h>
+#include <Configuration/VariableKeyWrapper.h>
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace velmar::MonitorItems {
+
+/// An application whose installation is followed.
+struct App {
+    static constexpr std::string_view typeName = "MonitorItem.App";
+    static constexpr TypeIdentifier typeIdentifier = TypeIdentifier::application;
+
+    /// Where its state comes from.
+    enum class Installer { system, jamf, airwatch, managed };
+    friend constexpr auto casesOf(Installer) {
+        return std::to_array<EnumCase<Installer>>({{Installer::system, "System"},
+                                                   {Installer::jamf, "Jamf"},
+                                                   {Installer::airwatch, "AirWatch"},
+                                                   {Installer::managed, "Managed"}});
+    }
+
+    /// The variable that holds the state of the application of that name: "MY_APP_INSTALLATION_STATE" of
+    /// "My App".
+    [[nodiscard]] static std::string stateVariableName(std::string_view name);
+
+    MonitorItemProtocol common;
+    VariableKeyWrapper<std::string> _name{
+        "Name", required, [](const std::string &name) { return std::vector{stateVariableName(name)}; },
+        DeclaringForm::populated};
+    KeyWrapper<std::optional<std::string>> _packageIdentifier{"Identifier", optional};
+    KeyWrapper<std::optional<std::string>> _displayName{"DisplayName", optional};
+    KeyWrapper<std::optional<std::string>> _detail{"Detail", optional};
+    KeyWrapper<std::optional<URL>> _iconURL{"IconURL", optional};
+    KeyWrapper<Installer> _installer{Installer::system, "Installer", required};
+    KeyWrapper<bool> _generateVariable{false, "GenerateVariable", optional};
+    KeyWrapper<bool> _isMandatory{true, "IsMandatory", optional};
+};
+
+} // namespace velmar::MonitorItems

@@ -1,0 +1,45 @@
+#pragma once
+
+// The complete types behind the keys of all items, for sources that don't include the headers they need.
+
+#include <Configuration/APIRequestItem.h>
+#include <Configuration/APIRequestsSection.h>
+#include <Configuration/ActionItem.h>
+#include <Configuration/ActionSetItem.h>
+#include <Configuration/ActionTrigger.h>
+#include <Configuration/AdminSection.h>
+#include <Configuration/AppTerminationSection.h>
+#include <Configuration/BodyItem.h>
+#include <Configuration/Book.h>
+#include <Configuration/BorderItem.h>
+#include <Configuration/CodingPath.h>
+#include <Configuration/ColorItem.h>
+#include <Configuration/ComponentItem.h>
+#include <Configuration/ConditionKeyWrapper.h>
+#include <Configuration/Configuration.h>
+#include <Configuration/ConfigurationError.h>
+#include <Configuration/ContainerItem.h>
+#include <Configuration/ContainersComposition.h>
+#include <Configuration/DecodingNotes.h>
+#include <Configuration/Description.h>
+#include <Configuration/ExpressionsBook.h>
+#include <Configuration/FontItem.h>
+#include <Configuration/GeneralSection.h>
+#include <Configuration/InputSection.h>
+#include <Configuration/MarginsItem.h>
+#include <Configuration/MonitorItem.h>
+#include <Configuration/MonitoringSection.h>
+#include <Configuration/NavigationSection.h>
+#include <Configuration/Plugin.h>
+#include <Configuration/Populatable.h>
+#include <Configuration/SideContainerSection.h>
+#include <Configuration/SizeItem.h>
+#include <Configuration/SlideItem.h>
+#include <Configuration/Texts.h>
+#include <Configuration/UsedVariables.h>
+#include <Configuration/WindowPositionItem.h>
+#include <Configuration/WindowSection.h>
+#include <Foundation/PropertyListValue.h>
+#include <Foundation/RegularExpression.h>
+#include <expressions/Expression.h>
+#include <expressions/Variables.h>
