@@ -11,6 +11,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <future>
+#include <memory>
+#include <span>
 #include <string>
 #include <thread>
 
@@ -60,6 +62,30 @@ TEST(ProcessEndDeathTest, ARefusalIsLoggedThenShownThenEndsTheProcessWithZeroOnc
     EXPECT_EXIT(refuse(), testing::ExitedWithCode(5),
                 "^error: A problem occurred while retrieving configuration: Configuration file is missing. "
                 ".file:///x.;.The configuration file is incorrect.Quit.error: A problem .*;error: late;$");
+}
+
+/// Never writes, as a pipe that nobody reads.
+struct HangingDestination final : BaseDestination {
+    void write(std::span<const LogRecord> /*records*/) override { std::promise<void>().get_future().wait(); }
+};
+
+// Exits with 0 if only the first of two calls waits.
+[[noreturn]] void settleTwice() {
+    Logger::addDestination(std::make_shared<HangingDestination>());
+    Logger::error("kept waiting");
+    const auto duration = [] {
+        const auto start = std::chrono::steady_clock::now();
+        static_cast<void>(settleBeforeExit());
+        return std::chrono::steady_clock::now() - start;
+    };
+    const auto first = duration();
+    const auto second = duration();
+    std::_Exit(first >= 1s && second < first / 2 ? 0 : 1);
+}
+
+TEST(ProcessEndDeathTest, ALogThatHangsHoldsTheProcessUpOnce) {
+    testing::FLAGS_gtest_death_test_style = "threadsafe";
+    EXPECT_EXIT(settleTwice(), testing::ExitedWithCode(0), "");
 }
 
 } // namespace

@@ -17,7 +17,8 @@ constexpr std::chrono::milliseconds boundOfQueues = bound / 2;
 
 bool settleBeforeExit() {
     using std::chrono::steady_clock;
-    const auto deadline = steady_clock::now() + bound;
+    // A later call gets no time of its own: a log that hangs would hold the process up again.
+    static const auto deadline = steady_clock::now() + bound;
     // First: what ends there may still log.
     const bool hasEnded = DispatchQueue::shutdown(boundOfQueues);
     Logger::flush(std::chrono::ceil<std::chrono::milliseconds>(deadline - steady_clock::now()));
