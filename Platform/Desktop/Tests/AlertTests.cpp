@@ -61,6 +61,42 @@ TEST_F(Alerts, ShowTheirTextsAsTheyAre) {
     });
 }
 
+TEST_F(Alerts, ShowTheSignOfTheirStyleAsABadgeOnAPictureIfSomethingIsWrong) {
+    const TemporaryDirectory directory;
+    const std::string path = directory.path("green.png");
+    QImage green(64, 64, QImage::Format_RGB32);
+    green.fill(Qt::green);
+    green.save(QString::fromStdString(path));
+    const auto icon = DesktopAlertPresenter().icon(path);
+    const QColor blue = QApplication::palette().color(QPalette::Highlight);
+    const QColor orange(0xd9, 0x8a, 0x00);
+    const QColor red(0xd1, 0x34, 0x38);
+    const struct {
+        Alert::Style style;
+        std::shared_ptr<const AlertIcon> icon;
+        QColor color;
+    } cases[] = {{Alert::Style::informational, nullptr, blue}, {Alert::Style::informational, icon, Qt::green},
+                 {Alert::Style::warning, nullptr, orange},     {Alert::Style::warning, icon, orange},
+                 {Alert::Style::critical, nullptr, red},       {Alert::Style::critical, icon, red}};
+    for (const auto &row : cases) {
+        Alert alert = question;
+        alert.style = row.style;
+        alert.icon = row.icon;
+        answer(alert, [&](QWidget &dialog) {
+            const auto widgets = dialog.findChildren<QWidget *>();
+            const auto sign = std::find_if(widgets.begin(), widgets.end(), [](const QWidget *each) {
+                return each->metaObject()->className() == std::string("velmar::AlertSign");
+            });
+            ASSERT_NE(sign, widgets.end());
+            // Near the left end of the sign's foot, where every shape has its colour.
+            const QPoint place = row.icon ? QPoint(44, 59) : QPoint(17, 52);
+            EXPECT_EQ((*sign)->grab().toImage().pixelColor(place), row.color)
+                << static_cast<int>(row.style) << (row.icon ? " with a picture" : "");
+            dialog.close();
+        });
+    }
+}
+
 TEST_F(Alerts, GiveTheButtonTheFirstForReturnAndTheLastForClosing) {
     const auto press = [](const QString &text) {
         return [text](QWidget &dialog) { button(dialog, text).click(); };

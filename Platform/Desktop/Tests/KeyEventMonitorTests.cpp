@@ -32,6 +32,7 @@ TEST_F(KeyEvents, AreGivenOnceWithTheirCharacterAndModifiers) {
         Qt::KeyboardModifiers modifiers;
         std::string characters;
     } cases[] = {{Qt::Key_F, all, "F"},
+                 {Qt::Key_F, all | Qt::KeypadModifier | Qt::GroupSwitchModifier, "F"},
                  {Qt::Key_F, Qt::NoModifier, "F"},
                  {Qt::Key_1, Qt::ControlModifier, "1"},
                  {Qt::Key_F1, Qt::AltModifier, ""},

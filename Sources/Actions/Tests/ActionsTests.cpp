@@ -2,7 +2,12 @@
 #include <Actions/Dispatchable.h>
 #include <Actions/DispatchableItem.h>
 #include <Configuration/Configuration.h>
-#include <Variables/ConditionEvaluator.h>
+#include <Managers/ConditionEvaluator.h>
+#include <Models/Actions/Action.h>
+#include <Models/Actions/ActionSurroundings.h>
+#include <Models/Actions/Dispatchable.h>
+#include <Models/Actions/DispatchableItem.h>
+#include <Models/Actions/SlideWindowPresenter.h>
 
 #include <Support/FactoryTableTest.h>
 #include <Support/RecordedLog.h>
@@ -13,8 +18,12 @@
 
 #include <fmt/format.h>
 
+#include <functional>
+#include <memory>
+#include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace velmar {
@@ -49,6 +58,19 @@ public:
     void navigateToIndex(std::int64_t index) override { requests += fmt::format("index {} ", index); }
     void navigateByOffset(std::int64_t offset) override { requests += fmt::format("offset {} ", offset); }
     std::string requests;
+};
+
+struct NoWindows final : SlideWindowPresenter {
+    void open(std::shared_ptr<const ActionItems::OpenWindow> /*item*/) override {}
+    void close() override {}
+};
+
+struct ScriptedAction final : Action {
+    using Action::Action;
+    using Action::complete;
+    using Action::performOnMainThread;
+    void perform() override { work(*this); }
+    std::function<void(ScriptedAction &)> work;
 };
 
 class ActionsTest : public testing::Test {
@@ -95,19 +117,75 @@ TEST_F(ActionsTest, AreNotRunForAConditionThatFails) {
     EXPECT_THAT(log_.takeLines(), ElementsAre(testing::StartsWith("error: ")));
 }
 
+TEST_F(ActionsTest, TellTheirEndOnceAndLetGoOfTheirBlock) {
+    using Work = std::function<void(ScriptedAction &)>;
+    const auto fail = [] { throw std::runtime_error("on purpose"); };
+    const struct {
+        Work work;
+        const char *outcomes;
+        std::size_t errors;
+    } cases[] = {
+        {[](ScriptedAction &action) { action.complete(false); }, "false ", 0},
+        {[](ScriptedAction &action) {
+             action.complete(true);
+             action.complete(false);
+         },
+         "true ", 0},
+        {[&](ScriptedAction & /*action*/) { fail(); }, "false ", 1},
+        {[&](ScriptedAction &action) {
+             action.complete(true);
+             fail();
+         },
+         "true ", 1},
+        {[&](ScriptedAction &action) { action.performOnMainThread(fail); }, "false ", 1},
+        {[&](ScriptedAction &action) {
+             action.performOnMainThread(fail);
+             action.complete(true);
+         },
+         "true ", 1},
+    };
+    for (const auto &[work, outcomes, errors] : cases) {
+        auto started = std::make_shared<ScriptedAction>(
+            action("<key>Type</key><string>TerminateApp</string>"), surroundings_);
+        started->work = work;
+        outcomes_.clear();
+        started->setSuccessCompletionBlock(
+            [this, started](bool success) { outcomes_ += success ? "true " : "false "; });
+        const std::weak_ptr<Action> watched = started;
+        std::exchange(started, nullptr)->dispatch();
+        mainQueue_.runUntilEmpty();
+        const auto row = &work - &cases[0].work;
+        EXPECT_EQ(outcomes_, outcomes) << row;
+        EXPECT_TRUE(watched.expired()) << row;
+        EXPECT_THAT(log_.takeLines(), testing::SizeIs(errors)) << row;
+    }
+}
+
 TEST_F(ActionsTest, AnswerAnAlertWithTheTextOfItsButton) {
     services_.alerts.readableIcons = {"/icon.png"};
     run("<key>Type</key><string>DisplayAlert</string><key>Title</key><string>T</string>"
         "<key>Message</key><string>M</string><key>Style</key><string>Critical</string>"
         "<key>Variable</key><string>ANSWER</string><key>IconPath</key><string>/icon.png</string>"
         "<key>ButtonsText</key><array><string>Now</string><string>Later</string></array>");
-    EXPECT_EQ(services_.alerts.alerts.back().style, Alert::Style::critical);
-    EXPECT_THAT(services_.alerts.alerts.back().buttons, ElementsAre("Now", "Later"));
-    EXPECT_NE(services_.alerts.alerts.back().icon, nullptr);
+    EXPECT_THAT(alerts_.alerts.back().buttons, ElementsAre("Now", "Later"));
+    EXPECT_NE(alerts_.alerts.back().icon, nullptr);
     EXPECT_EQ(outcomes_, "");
     services_.alerts.answer(1);
     EXPECT_EQ(outcomes_, "true ");
     EXPECT_EQ(services_.variables->variables()->at("ANSWER"), "Later");
+}
+
+TEST_F(ActionsTest, ShowAnAlertOfEachStyle) {
+    const std::pair<const char *, Alert::Style> cases[] = {{"Informational", Alert::Style::informational},
+                                                           {"Warning", Alert::Style::warning},
+                                                           {"Critical", Alert::Style::critical}};
+    for (const auto &[name, style] : cases) {
+        run(fmt::format("<key>Type</key><string>DisplayAlert</string><key>Title</key><string>T</string>"
+                        "<key>Message</key><string>M</string><key>Style</key><string>{}</string>"
+                        "<key>ButtonsText</key><array><string>OK</string></array>",
+                        name));
+        EXPECT_EQ(alerts_.alerts.back().style, style) << name;
+    }
 }
 
 TEST_F(ActionsTest, ShowANotification) {

@@ -68,6 +68,18 @@ TEST_F(AppManagerTest, EndsTheApplicationForTheForceQuitShortcut) {
     }
 }
 
+TEST_F(AppManagerTest, NeedsAllFourModifiersForTheForceQuitShortcut) {
+    writeConfiguration("");
+    const auto manager = makeAppManager();
+    for (unsigned held = 0; held < 0b1'0000; ++held) {
+        terminations_ = 0;
+        const bool isMatch =
+            keyDownHandler_({"F", {(held & 1U) != 0, (held & 2U) != 0, (held & 4U) != 0, (held & 8U) != 0}});
+        EXPECT_EQ(isMatch, held == 0b1111) << held;
+        EXPECT_EQ(terminations_, isMatch ? 1 : 0) << held;
+    }
+}
+
 TEST_F(AppManagerTest, MonitorsTheKeysForItsLifetimeUnlessSwitchedOff) {
     writeConfiguration("");
     auto manager = makeAppManager();

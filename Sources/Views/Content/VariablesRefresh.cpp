@@ -12,8 +12,9 @@ constexpr int mostRounds = 8;
 class VariablesRefresh::Observer final : public ObservableContent,
                                          public std::enable_shared_from_this<Observer> {
 public:
-    Observer(MainQueue &mainQueue, std::function<void()> refresh)
-        : mainQueue_(mainQueue), refresh_(std::move(refresh)) {}
+    Observer(MainQueue &mainQueue, std::function<void()> refresh,
+             std::shared_ptr<ContentManagerProtocol> contentManager)
+        : ObservableContent(std::move(contentManager)), mainQueue_(mainQueue), refresh_(std::move(refresh)) {}
 
     void letGo() { refresh_ = nullptr; }
 
@@ -45,9 +46,10 @@ private:
     std::atomic<bool> isPending_ = false;
 };
 
-VariablesRefresh::VariablesRefresh(MainQueue &mainQueue, std::function<void()> refresh)
-    : observer_(std::make_shared<Observer>(mainQueue, std::move(refresh))) {
-    observer_->contentVariables().subscribe(observer_, VariableNames());
+VariablesRefresh::VariablesRefresh(MainQueue &mainQueue, std::function<void()> refresh,
+                                   std::shared_ptr<ContentManagerProtocol> contentManager)
+    : observer_(std::make_shared<Observer>(mainQueue, std::move(refresh), std::move(contentManager))) {
+    observer_->contentVariables().subscribe(observer_);
 }
 
 VariablesRefresh::~VariablesRefresh() {

@@ -14,7 +14,8 @@ namespace velmar {
 class VariablesRefresh {
 public:
     /// The queue must outlive what writes variables.
-    VariablesRefresh(MainQueue &mainQueue, std::function<void()> refresh);
+    VariablesRefresh(MainQueue &mainQueue, std::function<void()> refresh,
+                     std::shared_ptr<ContentManagerProtocol> contentManager = ContentManager::shared());
     ~VariablesRefresh();
     VariablesRefresh(const VariablesRefresh &) = delete;
     VariablesRefresh &operator=(const VariablesRefresh &) = delete;

@@ -1,15 +1,51 @@
 #include <Views/Content/VariablesRefresh.h>
 
-#include <Testing/TestMainQueue.h>
+#include <Dispatch/MainThreadQueue.h>
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <thread>
 
 namespace velmar {
 namespace {
+
+/// A store that shows who observes it.
+class Store final : public ContentManagerProtocol {
+public:
+    void updateVariable(std::string_view name, std::string value, bool log) override {
+        variables_.updateVariable(name, std::move(value), log);
+    }
+    void updateVariables(const std::map<std::string, std::string> & /*variables*/) override {}
+    void updatePlaceholder(GeneralSection::Placeholders /*name*/, std::string /*value*/) override {}
+    [[nodiscard]] VariablesSnapshot variables() const override { return variables_.variables(); }
+    void addObserver(const UUID &identity, std::weak_ptr<ContentManagerObserver> observer) override {
+        observers.insert(identity);
+        variables_.addObserver(identity, std::move(observer));
+    }
+    void removeObserver(const UUID &identity) override {
+        observers.erase(identity);
+        variables_.removeObserver(identity);
+    }
+
+    std::set<UUID> observers;
+
+private:
+    ContentManager variables_;
+};
+
+/// Lets the test act between the posting of a function and the end of the write that caused it.
+struct InterruptedQueue final : MainThreadQueue {
+    void async(std::function<void()> function) override {
+        MainThreadQueue::async(std::move(function));
+        afterPosting();
+    }
+    std::function<void()> afterPosting = [] {};
+};
 
 class Refresh : public testing::Test {
 protected:
@@ -17,12 +53,11 @@ protected:
         manager->updateVariable(name, std::move(value), false);
     }
 
-    std::shared_ptr<ContentManager> manager = std::make_shared<ContentManager>();
-    Shared<ContentManager>::Scope scope{manager};
-    TestMainQueue queue;
+    std::shared_ptr<Store> manager = std::make_shared<Store>();
+    InterruptedQueue queue;
     int refreshes = 0;
-    std::unique_ptr<VariablesRefresh> refresh =
-        std::make_unique<VariablesRefresh>(queue, [this] { ++refreshes; });
+    std::unique_ptr<VariablesRefresh> refresh = std::make_unique<VariablesRefresh>(
+        queue, [this] { ++refreshes; }, manager);
 };
 
 TEST_F(Refresh, RunsOnceForAllChangesThatTheQueueFinds) {
@@ -44,10 +79,24 @@ TEST_F(Refresh, RunsOnceForAllChangesThatTheQueueFinds) {
 TEST_F(Refresh, IsOverWhenItsOwnerLetsGo) {
     refresh->follow({"A"});
     write("A", "1");
+    EXPECT_EQ(manager->observers.size(), 1U);
     refresh.reset();
+    EXPECT_TRUE(manager->observers.empty());
     write("A", "2");
     queue.runUntilEmpty();
     EXPECT_EQ(refreshes, 0);
+}
+
+TEST_F(Refresh, IsOverEvenWhileAWriterStillTellsOfAChange) {
+    refresh->follow({"A"});
+    queue.afterPosting = [this] {
+        refresh.reset();
+        queue.runUntilEmpty();
+    };
+    write("A", "1");
+    EXPECT_EQ(refresh, nullptr);
+    EXPECT_EQ(refreshes, 0);
+    EXPECT_TRUE(manager->observers.empty());
 }
 
 TEST_F(Refresh, FollowsTheNamesThatAValueBringsInMeanwhile) {
