@@ -6,7 +6,7 @@
 
 namespace velmar {
 
-/// Whether the program, General.Variables or a key that declares it brings the variable into being.
+/// Returns whether the program, General.Variables or a key of the file defines the variable.
 [[nodiscard]] inline bool isDefinedVariable(const Configuration &configuration, const std::string &name) {
     return configuration._general.rawValue()._variables.rawValue().models().contains(name) ||
            configuration.declaredVariables.contains(name) ||

@@ -27,8 +27,8 @@ using expressions::Operand;
 
 constexpr std::size_t longestValue = 40; // In columns of a terminal.
 
-// What a comparison with a literal, or standing alone (null), asks of a value; empty for text, which every
-// value is.
+// The kind of value that a comparison with a literal requires, or an operand on its own (nullptr). Empty for
+// text, because every value is one.
 std::string_view kindAskedFor(const Operand *literal) {
     if (literal == nullptr || std::holds_alternative<bool>(literal->value)) {
         return "true or false";
@@ -36,7 +36,7 @@ std::string_view kindAskedFor(const Operand *literal) {
     return std::holds_alternative<double>(literal->value) ? "a number" : "";
 }
 
-// A value of the kind that a comparison with a literal asks for.
+// A value of the kind that a comparison with a literal requires.
 std::string goodValue(const Operand &literal) {
     return std::holds_alternative<bool>(literal.value) ? "true" : "1";
 }
@@ -47,7 +47,7 @@ std::string sourceOf(const Operand &operand) {
     return literal != nullptr ? fmt::format("\"{}\"", literal->text) : expressions::description(operand);
 }
 
-// Whether the language evaluates a condition of one variable with a value; otherwise its own error.
+// The error of evaluating a condition of one variable with a value; absent if there is none.
 std::optional<expressions::ExpressionError> failureOf(const std::string &condition, const std::string &name,
                                                       const std::string &value) {
     try {
@@ -120,8 +120,7 @@ private:
         }
     }
 
-    // `literal` is what the variable is compared with, null where it stands alone; `condition` is this part
-    // of the whole.
+    // `literal` is nullptr for a variable that is not compared; `condition` is this part of the expression.
     void judgeKind(const std::string &name, const Operand *literal, const std::string &condition) {
         if (!isNamed_ && conditions_.contains(name)) {
             if (literal != nullptr && !std::holds_alternative<bool>(literal->value)) {
@@ -149,7 +148,7 @@ private:
     const Configuration &configuration_;
     const ExpressionsBook<std::string>::Models &variables_;
     const ExpressionsBook<Expression>::Models &conditions_;
-    const VariablesRecords::Record *record_ = nullptr; // Of the condition being judged.
+    const VariablesRecords::Record *record_ = nullptr; // The source of the condition being judged.
     bool isNamed_ = false;
     std::vector<UsageWarning> warnings_;
 };

@@ -22,7 +22,7 @@ using Kind = FileAttributes::Kind;
 
 constexpr int mostLinks = 40; // As the kernel.
 
-// What is still to go, the next step last.
+// The steps that remain, the next one last.
 using Steps = std::vector<std::filesystem::path>;
 
 void goThrough(const std::filesystem::path &path, Steps &ahead) {
@@ -120,7 +120,7 @@ std::string GuardedPaths::opening(const FileAttributes &attributes) const {
     if (attributes.userId != 0 && !(owner && authority_.isMember(*owner, "admin"))) {
         return fmt::format("belongs to '{}'", owner.value_or(std::to_string(attributes.userId)));
     }
-    // The mode of a link says nothing; in a folder with the sticky bit everyone may write beside a file only.
+    // The mode of a link has no effect. In a folder with the sticky bit, others cannot replace a file.
     const bool isSticky = attributes.kind == Kind::Directory && (attributes.permissions & S_ISVTX) != 0;
     if (attributes.kind == Kind::SymbolicLink || isSticky) {
         return {};

@@ -11,17 +11,16 @@ namespace velmar {
 
 class IdentityAuthority;
 
-/// Judges the paths of files that an administrator vouches for: whether there is a file, and whether
-/// administrators alone decide what stands there. Administrators are root and the members of the group
-/// "admin"; the groups of number 0, "wheel" and "admin" are theirs. Sees each item of the file system once,
-/// and keeps what it saw. Used by one thread.
+/// Tells whether a path leads to a file, and whether only administrators can change that file. Administrators
+/// are root and the members of the group "admin"; their groups are number 0, "wheel" and "admin". Reads each
+/// item of the file system once and caches it. Not thread-safe.
 class GuardedPaths {
 public:
-    /// The authority outlives it.
+    /// The authority must outlive this object.
     explicit GuardedPaths(const IdentityAuthority &authority) : authority_(authority) {}
 
-    /// What is wrong with the path of a file, a sentence. Absent if nothing is, and where this process may
-    /// not look.
+    /// Returns a sentence about the fault of a path. Absent if there is none, or if this process may not read
+    /// a folder on the way.
     [[nodiscard]] std::optional<std::string> fault(const std::string &path);
 
 private:

@@ -16,7 +16,7 @@ namespace velmar {
 
 namespace {
 
-// The names equal each other as those of variables do.
+// The names are compared like those of variables.
 struct CustomTriggers final : ValueVisitor {
     void visit(const VisitedValue &value) override {
         if (const auto *const custom = value.as<ActionTrigger::Custom>()) {
@@ -88,7 +88,7 @@ private:
         }
     }
 
-    // Of the body as the file has it: values of variables may spoil it still.
+    // References in the body are not replaced: their values are known at run time only.
     void judgeBody(const APIRequestItem &request, std::string_view key, const ValuePlace &place) {
         const auto &body = request._body.rawValue();
         const auto &defaultApi = configuration_._apiRequests.rawValue()._defaultMDMApi.rawValue();

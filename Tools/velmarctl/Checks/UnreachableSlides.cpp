@@ -14,7 +14,7 @@ namespace velmar {
 
 namespace {
 
-// Where the actions of a file lead.
+// The slides that the actions of a file lead to.
 struct Jumps final : ValueVisitor {
     std::set<std::size_t> targets;
     bool areAnywhere = false;

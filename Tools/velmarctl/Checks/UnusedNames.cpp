@@ -65,7 +65,7 @@ private:
         names_.insert(names.begin(), names.end());
     }
 
-    // Whatever may be meant: the whole text, its words, and these without what follows a "-".
+    // The use is unknown: adds the whole text, its words, and the words up to a "-".
     void addBareNames(std::string_view text) {
         names_.emplace(text);
         addWords(text, "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_");

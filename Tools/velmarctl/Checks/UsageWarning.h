@@ -8,7 +8,7 @@
 
 namespace velmar {
 
-/// Something in an admitted file that can hardly be meant.
+/// A warning about an admitted file.
 struct UsageWarning {
     std::string keyPath;
     std::uint32_t offset = 0; ///< As PropertyListValue::offset().
