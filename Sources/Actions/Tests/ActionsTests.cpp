@@ -2,12 +2,12 @@
 #include <Actions/Dispatchable.h>
 #include <Actions/DispatchableItem.h>
 #include <Configuration/Configuration.h>
-#include <Managers/ConditionEvaluator.h>
-#include <Models/Actions/Action.h>
-#include <Models/Actions/ActionSurroundings.h>
-#include <Models/Actions/Dispatchable.h>
-#include <Models/Actions/DispatchableItem.h>
-#include <Models/Actions/SlideWindowPresenter.h>
+#include <Variables/ConditionEvaluator.h>
+#include <Actions/Action.h>
+#include <Actions/ActionSurroundings.h>
+#include <Actions/Dispatchable.h>
+#include <Actions/DispatchableItem.h>
+#include <Actions/SlideWindowPresenter.h>
 
 #include <Support/FactoryTableTest.h>
 #include <Support/RecordedLog.h>
