@@ -32,15 +32,17 @@ void runBare() {
     int status = -1;
     char *const arguments[] = {const_cast<char *>(program), nullptr};
     if (posix_spawn(&id, program, nullptr, nullptr, arguments, environ) != 0 ||
-        waitpid(id, &status, 0) != id || status != 0)
+        waitpid(id, &status, 0) != id || status != 0) {
         std::abort();
+    }
 }
 
 void runThroughService() {
     std::binary_semaphore completed(0);
     CommandLineService::execute(program, {}, [&](const Result<std::string> &result) {
-        if (!result || !result->empty())
+        if (!result || !result->empty()) {
             std::abort();
+        }
         completed.release();
     });
     completed.acquire();
@@ -49,8 +51,9 @@ void runThroughService() {
 template <class Function>
 double microseconds(int count, const Function &function) {
     const auto start = std::chrono::steady_clock::now();
-    for (int number = 0; number < count; ++number)
+    for (int number = 0; number < count; ++number) {
         function();
+    }
     const std::chrono::duration<double, std::micro> time = std::chrono::steady_clock::now() - start;
     return time.count() / count;
 }
@@ -58,15 +61,17 @@ double microseconds(int count, const Function &function) {
 // "a ", so that there is a word, and a text over and over.
 std::string repeated(std::size_t length, const std::string &text) {
     std::string whole = "a ";
-    while (whole.size() < length)
+    while (whole.size() < length) {
         whole += text;
+    }
     return whole;
 }
 
 double microsecondsToTakeApart(const std::string &text) {
     std::vector<double> times;
-    for (int round = 0; round < 3; ++round)
+    for (int round = 0; round < 3; ++round) {
         times.push_back(microseconds(1, [&] { const RawCommand command(text); }));
+    }
     return median(times);
 }
 

@@ -27,8 +27,9 @@ constexpr const char *line = R"(DEVICE_NAME == "lab" && (ANSWER >= 3 || FLAG))";
 
 Variables makeVariables() {
     Variables variables{{"DEVICE_NAME", "lab"}, {"ANSWER", "2"}, {"FLAG", "true"}};
-    for (int number = 0; variables.size() < 200; ++number)
+    for (int number = 0; variables.size() < 200; ++number) {
         variables.emplace(fmt::format("VARIABLE_{}", number), fmt::format("value {}", number));
+    }
     return variables;
 }
 
@@ -48,14 +49,16 @@ public:
         lua_setglobal(state_.get(), "variables");
         const std::string chunk =
             fmt::format("local v, tonumber = variables, tonumber return function() return {} end", condition);
-        if (luaL_dostring(state_.get(), chunk.c_str()) != LUA_OK)
+        if (luaL_dostring(state_.get(), chunk.c_str()) != LUA_OK) {
             std::abort();
+        }
     }
 
     bool evaluate() {
         lua_pushvalue(state_.get(), -1);
-        if (lua_pcall(state_.get(), 0, 1, 0) != LUA_OK)
+        if (lua_pcall(state_.get(), 0, 1, 0) != LUA_OK) {
             std::abort();
+        }
         const bool result = lua_toboolean(state_.get(), -1) != 0;
         lua_pop(state_.get(), 1);
         return result;
@@ -76,8 +79,9 @@ template <class Function>
 double nanoseconds(const Function &function) {
     const double start = processorTime();
     for (int call = 0; call < calls; ++call) {
-        if (!function())
+        if (!function()) {
             std::abort();
+        }
     }
     return (processorTime() - start) / calls;
 }
@@ -115,8 +119,9 @@ int main() {
         "expression-look-ups", ours,
         [&] {
             std::size_t found = 0;
-            for (const std::string &name : names)
+            for (const std::string &name : names) {
                 found += variables.find(std::string_view(name))->second.size();
+            }
             return found == 8;
         },
         "2.5");

@@ -12,8 +12,9 @@ using namespace velmar;
 using namespace velmar::expressions;
 
 static void require(bool holds) {
-    if (!holds)
+    if (!holds) {
         std::abort();
+    }
 }
 
 static Variables takeVariables(std::string_view &text) {
@@ -21,8 +22,9 @@ static Variables takeVariables(std::string_view &text) {
     while (!text.empty()) {
         const std::string_view line = text.substr(0, text.find('\n'));
         text.remove_prefix(std::min(line.size() + 1, text.size()));
-        if (line.empty())
+        if (line.empty()) {
             break;
+        }
         const std::size_t equals = std::min(line.find('='), line.size() - 1);
         variables.insert_or_assign(std::string(line.substr(0, equals)), std::string(line.substr(equals + 1)));
     }
@@ -38,8 +40,9 @@ static std::string lineOf(const Expression &expression) {
         const std::string text = string != nullptr ? '"' + string->text + '"' : description(element);
         // Numbers with an exponent, and those that are words, are no literals.
         if (operand != nullptr && std::holds_alternative<double>(operand->value) &&
-            text.find_first_not_of("0123456789.") != std::string::npos)
+            text.find_first_not_of("0123456789.") != std::string::npos) {
             return {};
+        }
         line += text + ' ';
     }
     return line;
@@ -54,10 +57,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t siz
         const std::string outcome = outcomeOf([&] { return expression.evaluate(variables); });
         std::vector<Step> steps;
         require(outcome == outcomeOf([&] { return expression.evaluate(variables, &steps); }));
-        for (const Step &step : steps)
+        for (const Step &step : steps) {
             require(step.count > 0 && step.first + step.count <= expression.size());
-        if (const std::string line = lineOf(expression); !line.empty())
+        }
+        if (const std::string line = lineOf(expression); !line.empty()) {
             require(Expression(line) == expression);
+        }
     } catch (const ExpressionError &error) {
         require(!error.errorDescription().empty());
     } catch (const RegularExpressionError &error) {

@@ -18,8 +18,9 @@
 using namespace velmar;
 
 static void require(bool holds) {
-    if (!holds)
+    if (!holds) {
         std::abort();
+    }
 }
 
 // The length of the blank that the text begins with, or 0.
@@ -42,12 +43,14 @@ static bool isEnd(std::string_view text) {
 static std::size_t wordAt(std::string_view text) {
     for (const char quote : {'"', '\''}) {
         const std::size_t end = text.starts_with(quote) ? text.find(quote, 1) : std::string_view::npos;
-        if (end != std::string_view::npos && isEnd(text.substr(end + 1)))
+        if (end != std::string_view::npos && isEnd(text.substr(end + 1))) {
             return end + 1;
+        }
     }
     std::size_t length = 0;
-    while (length < text.size() && text[length] != '"' && blankAt(text.substr(length)) == 0)
+    while (length < text.size() && text[length] != '"' && blankAt(text.substr(length)) == 0) {
         ++length;
+    }
     for (; length > 0 && !isEnd(text.substr(length)); --length) {
     }
     return length;
@@ -63,8 +66,9 @@ static std::vector<std::string> naiveWords(std::string_view piece) {
             const bool isWord = !word.empty();
             std::erase(word, '"');
             std::erase(word, '\'');
-            if (isWord)
+            if (isWord) {
                 words.push_back(std::move(word));
+            }
             mayBegin = false;
         } else {
             length = blankAt(piece);
@@ -83,8 +87,9 @@ static std::optional<std::vector<Process>> naiveProcesses(std::string_view text)
         const std::size_t end = text.find('|');
         isLast = end == std::string_view::npos;
         std::vector<std::string> words = naiveWords(text.substr(0, end));
-        if (words.empty())
+        if (words.empty()) {
             return std::nullopt;
+        }
         processes.push_back({words.front(), {words.begin() + 1, words.end()}});
         text.remove_prefix(isLast ? text.size() : end + 1);
     }
@@ -106,8 +111,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t siz
     try {
         const RawCommand command(text);
         require(expected == command.processes);
-        for (const std::string &part : command.leftOut)
+        for (const std::string &part : command.leftOut) {
             require(!part.empty() && text.find(part) != std::string_view::npos);
+        }
     } catch (const CompletionError &error) {
         require(!expected && error.as<CompletionError::NoProcessesBuiltFromRawCommand>()->command == text);
     }

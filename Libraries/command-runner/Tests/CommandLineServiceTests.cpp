@@ -35,8 +35,9 @@ std::future<Result<std::string>> start(const auto &operation, auto... arguments)
 
 // Returns the text, or "!" and the message of the error.
 std::string outcomeOf(std::future<Result<std::string>> future) {
-    if (future.wait_for(60s) != std::future_status::ready)
+    if (future.wait_for(60s) != std::future_status::ready) {
         throw std::runtime_error("no completion");
+    }
     const Result<std::string> result = future.get();
     return result ? *result : "!" + result.error()->errorDescription();
 }
@@ -66,11 +67,13 @@ TEST(CommandLineService, RawCommandsGiveWhatTheyPrint) {
         {"sh -c '(sleep 0.05; echo late) & echo early'", "early\nlate"},
         {"printf a\\377", "!The output of the command is not valid UTF-8."},
     };
-    for (const auto &[command, outcome] : cases)
+    for (const auto &[command, outcome] : cases) {
         EXPECT_EQ(outcomeOf(start(executeRaw, command)), outcome);
-    for (const std::string command : {"", " \t\n", "ls |", "| ls", "ls || ls", "echo \"a|b\"", "\"ls"})
+    }
+    for (const std::string command : {"", " \t\n", "ls |", "| ls", "ls || ls", "echo \"a|b\"", "\"ls"}) {
         EXPECT_EQ(outcomeOf(start(executeRaw, command)),
                   "!No processes could be built from the command '" + command + "'.");
+    }
     const auto error = start(executeRaw, std::string("|")).get().error();
     EXPECT_NE(std::dynamic_pointer_cast<const CompletionError>(error), nullptr);
 }
@@ -117,9 +120,10 @@ TEST(CommandLineService, TellsWhyALaunchFailed) {
     }
     // No process is started, not even the first.
     const std::string mark = directory.path("mark");
-    for (const std::string &second : {plain, std::string("no-such-command")})
+    for (const std::string &second : {plain, std::string("no-such-command")}) {
         EXPECT_THAT(outcomeOf(start(executeRaw, fmt::format("touch {} | {}", mark, second))),
                     HasSubstr("!The "));
+    }
     EXPECT_FALSE(std::filesystem::exists(mark));
 }
 
@@ -143,17 +147,19 @@ TEST(CommandLineService, ReportsWhatACompletionThrowsAndCallsItOnce) {
 TEST(CommandLineService, PassesArgumentsAsTheyAre) {
     const TemporaryDirectory directory;
     const Strings arguments = {"[%s]", "a b", "", "|", "\"q\"", "$HOME", "A=1"};
-    for (const std::string program : {"printf", "/usr/bin/printf"})
+    for (const std::string program : {"printf", "/usr/bin/printf"}) {
         EXPECT_EQ(outcomeOf(start(execute, program, arguments)), R"([a b][][|]["q"][$HOME][A=1])");
+    }
     for (const std::string name : {"script", "with blank", "a=b", "-i"}) {
         const std::string path = directory.write(name, "#!/bin/sh\nprintf \"$@\"; exit 2\n");
         const std::string relative = std::filesystem::relative(path).string();
         EXPECT_THAT(outcomeOf(start(CommandLineService::executeScript, path, arguments)),
                     HasSubstr("Permission denied"));
         std::filesystem::permissions(path, std::filesystem::perms::owner_all);
-        for (const std::string &script : {path, relative})
+        for (const std::string &script : {path, relative}) {
             EXPECT_EQ(outcomeOf(start(CommandLineService::executeScript, script, arguments)),
                       R"([a b][][|]["q"][$HOME][A=1])");
+        }
     }
     // The search path is not used.
     EXPECT_THAT(outcomeOf(start(CommandLineService::executeScript, std::string("ls"), Strings{})),
@@ -162,17 +168,20 @@ TEST(CommandLineService, PassesArgumentsAsTheyAre) {
 
 TEST(CommandLineService, ManyAtOnceLeaveNoChildBehind) {
     std::vector<std::future<Result<std::string>>> results(60);
-    for (std::size_t number = 0; number < results.size(); ++number)
+    for (std::size_t number = 0; number < results.size(); ++number) {
         results[number] =
             start(executeRaw, std::string(number % 3 == 0 ? "yes | /nonexistent" : "yes | cat | head -c 2"));
-    for (std::size_t number = 0; number < results.size(); ++number)
+    }
+    for (std::size_t number = 0; number < results.size(); ++number) {
         EXPECT_EQ(outcomeOf(std::move(results[number])).front(), number % 3 == 0 ? '!' : 'y');
+    }
     // The other processes of a chain may end after the last one.
     siginfo_t child{};
     const auto hasChildren = [&] { return waitid(P_ALL, 0, &child, WEXITED | WNOHANG | WNOWAIT) == 0; };
     const auto deadline = std::chrono::steady_clock::now() + 30s;
-    while (hasChildren() && std::chrono::steady_clock::now() < deadline)
+    while (hasChildren() && std::chrono::steady_clock::now() < deadline) {
         std::this_thread::yield();
+    }
     EXPECT_FALSE(hasChildren());
 }
 

@@ -29,8 +29,9 @@ constexpr std::size_t maximumPath = 64 * 1024;
 
 bool endsWithCharacter(std::string_view bytes) {
     for (std::size_t length = 1; length <= std::min<std::size_t>(bytes.size(), 4); ++length) {
-        if (UnicodeText::isValidUtf8(bytes.substr(bytes.size() - length)))
+        if (UnicodeText::isValidUtf8(bytes.substr(bytes.size() - length))) {
             return true;
+        }
     }
     return false;
 }
@@ -44,11 +45,13 @@ Result<std::string> textOf(ProcessOutput output, const Process &process) {
                                bytes.size() >> 20);
         });
         // The cut may split a character of up to four bytes.
-        for (int count = 0; count < 3 && !endsWithCharacter(bytes); ++count)
+        for (int count = 0; count < 3 && !endsWithCharacter(bytes); ++count) {
             bytes.remove_suffix(1);
+        }
     }
-    if (!UnicodeText::isValidUtf8(bytes))
+    if (!UnicodeText::isValidUtf8(bytes)) {
         return failure(CompletionError(CompletionError::NilString{}));
+    }
     const std::string_view text = UnicodeText::trimmed(bytes);
     const auto start = static_cast<std::size_t>(text.data() - output.bytes.data());
     output.bytes.resize(start + text.size());
@@ -88,8 +91,9 @@ public:
             fail(process, error);
         } catch (...) {
             // The queue reports exceptions of the completion.
-            if (isComplete_)
+            if (isComplete_) {
                 throw;
+            }
             fail(process, unexpectedError());
         }
         return false;
@@ -98,12 +102,14 @@ public:
 private:
     // Looks up bare names from `index` on, one after the other, then launches the processes.
     void proceedFrom(std::size_t index) {
-        while (index < processes_.size() && processes_[index].executablePath.find('/') != std::string::npos)
+        while (index < processes_.size() && processes_[index].executablePath.find('/') != std::string::npos) {
             ++index;
-        if (index < processes_.size())
+        }
+        if (index < processes_.size()) {
             lookUp(index);
-        else
+        } else {
             launch();
+        }
     }
 
     void lookUp(std::size_t index) {
@@ -126,26 +132,30 @@ private:
         }
         process.executablePath = output.bytes.substr(start, last + 1 - start);
         // PATH may contain the current directory.
-        if (process.executablePath.find('/') == std::string::npos)
+        if (process.executablePath.find('/') == std::string::npos) {
             process.executablePath.insert(0, "./");
+        }
         proceedFrom(index + 1);
     }
 
     void launch() {
         for (const Process &process : processes_) {
-            if (!attempt(process, [&] { process.checkLaunchable(); }))
+            if (!attempt(process, [&] { process.checkLaunchable(); })) {
                 return;
+            }
         }
         ProcessChain chain;
         for (const Process &process : processes_) {
             const auto launched = [&] {
-                if (kind_ == Kind::detached)
+                if (kind_ == Kind::detached) {
                     chain.launchIntoFile(process, maximumOutput);
-                else
+                } else {
                     chain.launch(process);
+                }
             };
-            if (!attempt(process, launched))
+            if (!attempt(process, launched)) {
                 return;
+            }
         }
         const bool isLaunched = attempt(processes_.back(), [&] {
             chain.readOutput(maximumOutput, [self = shared_from_this()](ProcessOutput output) {
@@ -153,8 +163,9 @@ private:
                 self->attempt(last, [&] { self->complete(textOf(std::move(output), last)); });
             });
         });
-        if (isLaunched && launched_)
+        if (isLaunched && launched_) {
             launched_();
+        }
     }
 
     template <class Family>
@@ -170,8 +181,9 @@ private:
 
     void complete(Result<std::string> result) {
         isComplete_ = true;
-        if (completion_)
+        if (completion_) {
             completion_(std::move(result));
+        }
     }
 
     std::vector<Process> processes_;
@@ -196,8 +208,9 @@ Result<RawCommand> parsed(std::string_view text) {
 Process throughEnv(const Process &script) {
     Process env{"/usr/bin/env", {}};
     // env would treat a path with "=" as a variable assignment.
-    if (script.executablePath.find('=') != std::string::npos)
+    if (script.executablePath.find('=') != std::string::npos) {
         env.arguments = {"/bin/sh", "-c", R"(exec "$0" "$@")"};
+    }
     env.arguments.push_back(script.executablePath);
     env.arguments.insert(env.arguments.end(), script.arguments.begin(), script.arguments.end());
     return env;
@@ -212,8 +225,9 @@ void execute(std::string rawCommand, Completion completion) {
     DispatchQueue::global().async([text = std::move(rawCommand), completion = std::move(completion)] {
         Result<RawCommand> command = parsed(text);
         if (!command) {
-            if (completion)
+            if (completion) {
                 completion(tl::unexpected(command.error()));
+            }
             return;
         }
         if (!command->leftOut.empty()) {
@@ -237,14 +251,16 @@ namespace {
 void executeScript(std::string path, std::vector<std::string> arguments, Execution::Kind kind,
                    std::function<void()> launched, Completion completion) {
     // "./" prevents a search and keeps the path from being read as an option.
-    if (!path.starts_with('/'))
+    if (!path.starts_with('/')) {
         path.insert(0, "./");
+    }
     DispatchQueue::global().async([script = Process{std::move(path), std::move(arguments)}, kind,
                                    launched = std::move(launched), completion = std::move(completion)] {
         const auto execution =
             std::make_shared<Execution>(std::vector{throughEnv(script)}, completion, kind, launched);
-        if (execution->attempt(script, [&] { script.checkLaunchable(); }))
+        if (execution->attempt(script, [&] { script.checkLaunchable(); })) {
             execution->begin();
+        }
     });
 }
 

@@ -30,15 +30,17 @@ std::vector<std::string> wordsOf(std::string_view piece, std::vector<std::string
     std::vector<std::string> words;
     std::size_t end = 0;
     const auto leaveOutUntil = [&](std::size_t start) {
-        if (const auto between = UnicodeText::trimmed(piece.substr(end, start - end)); !between.empty())
+        if (const auto between = UnicodeText::trimmed(piece.substr(end, start - end)); !between.empty()) {
             leftOut.emplace_back(between);
+        }
     };
     for (const RegularExpression::Match &match : tokenPattern().matches(piece)) {
         leaveOutUntil(match.range().location);
         end = match.range().end();
         const std::string_view token = UnicodeText::trimmed(match.range().of(piece));
-        if (!token.empty())
+        if (!token.empty()) {
             words.push_back(withoutQuotes(token));
+        }
     }
     leaveOutUntil(piece.size());
     return words;
@@ -50,8 +52,9 @@ RawCommand::RawCommand(std::string_view text) {
     for (std::size_t start = 0; start <= text.size();) {
         const std::size_t end = std::min(text.find('|', start), text.size());
         std::vector<std::string> words = wordsOf(text.substr(start, end - start), leftOut);
-        if (words.empty())
+        if (words.empty()) {
             throw CompletionError(CompletionError::NoProcessesBuiltFromRawCommand{std::string(text)});
+        }
         Process &process = processes.emplace_back();
         process.executablePath = std::move(words.front());
         words.erase(words.begin());

@@ -23,8 +23,9 @@ Variables tableVariables() {
     std::istringstream pairs(
         "on true off false one 1 ab 1 TRUEVAR true True True word word real 1.0 minus -5 hex 0x1F "
         "huge 1e999 plus +5 odd nan");
-    for (std::string name, value; pairs >> name >> value;)
+    for (std::string name, value; pairs >> name >> value;) {
         variables[name] = value;
+    }
     return variables;
 }
 

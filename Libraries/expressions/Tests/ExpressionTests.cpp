@@ -86,8 +86,9 @@ TEST(Expression, IsACollectionEqualByItsElements) {
     EXPECT_EQ(expression, Expression("( name  == \"cafe\u0301\" || other <= name ) %"));
     for (const char *other :
          {"(name == \"cafe\" || other <= name)", "(name == \"caf\u00E9\" && other <= name)",
-          "(name == \"caf\u00E9\" || other <= name", "(name == 1 || other <= name)"})
+          "(name == \"caf\u00E9\" || other <= name", "(name == 1 || other <= name)"}) {
         EXPECT_FALSE(expression == Expression(other)) << other;
+    }
 }
 
 TEST(Expression, TakesACallersPatternOfNames) {
@@ -103,8 +104,9 @@ TEST(Expression, TakesACallersPatternOfNames) {
 TEST(Expression, OfAnySizeHasAnOutcomeInASecond) {
     const auto repeated = [](std::string_view piece, std::size_t count = 65'536) {
         std::string text;
-        while (text.size() < count)
+        while (text.size() < count) {
             text += piece;
+        }
         return text;
     };
     const std::string million = repeated("caf\u00E9,e\u0301, x", 1'000'000);

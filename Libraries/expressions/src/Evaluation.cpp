@@ -16,17 +16,20 @@ bool isWord(std::string_view text, const char (&word)[size]) noexcept {
 }
 
 inline std::optional<bool> booleanOf(std::string_view text) noexcept {
-    if (isWord(text, "true"))
+    if (isWord(text, "true")) {
         return true;
-    if (isWord(text, "false"))
+    }
+    if (isWord(text, "false")) {
         return false;
+    }
     return std::nullopt;
 }
 
 const std::string &valueOf(const Plan::Name &variable, const VariableLookup &variables) {
     const std::string *value = variables.find(variable);
-    if (value == nullptr)
+    if (value == nullptr) {
         throw ExpressionError(ExpressionErrors::UndefinedVariable{std::string(variable.name)});
+    }
     return *value;
 }
 
@@ -35,8 +38,9 @@ bool evaluate(const Plan::Failure &failure, const VariableLookup & /*variables*/
 }
 
 bool evaluate(const Plan::Single &single, const VariableLookup &variables) {
-    if (const auto boolean = booleanOf(valueOf(single.variable, variables)))
+    if (const auto boolean = booleanOf(valueOf(single.variable, variables))) {
         return *boolean;
+    }
     throw ExpressionError(ExpressionErrors::InvalidGrammar{
         "Trying to evaluate a single variable which has not a boolean value: " +
         std::string(single.variable.name)});
@@ -45,8 +49,9 @@ bool evaluate(const Plan::Single &single, const VariableLookup &variables) {
 template <class T>
 bool compare(Operator comparison, T left, T right) {
     const auto result = comparison.evaluate(left, right);
-    if (!result)
+    if (!result) {
         throw ExpressionError(ExpressionErrors::WrongOperatorAndOperandsAssociation{});
+    }
     return *result;
 }
 
@@ -54,21 +59,25 @@ bool evaluate(const Plan::Comparison<Plan::Name> &comparison, const VariableLook
     const std::string &left = valueOf(comparison.variable, variables);
     // Only the left variable must be defined.
     const std::string *right = variables.find(comparison.other);
-    if (right == nullptr)
+    if (right == nullptr) {
         return false;
+    }
     const auto leftNumber = numberOf(left);
-    if (const auto rightNumber = leftNumber ? numberOf(*right) : std::nullopt)
+    if (const auto rightNumber = leftNumber ? numberOf(*right) : std::nullopt) {
         return compare(comparison.comparison, *leftNumber, *rightNumber);
+    }
     const auto leftBoolean = booleanOf(left);
-    if (const auto rightBoolean = leftBoolean ? booleanOf(*right) : std::nullopt)
+    if (const auto rightBoolean = leftBoolean ? booleanOf(*right) : std::nullopt) {
         return compare(comparison.comparison, *leftBoolean, *rightBoolean);
+    }
     return compare<std::string_view>(comparison.comparison, left, *right);
 }
 
 template <class Literal, class Kind>
 bool compareWithLiteral(const Plan::Comparison<Literal> &comparison, const std::optional<Kind> &value) {
-    if (!value)
+    if (!value) {
         throw ExpressionError(ExpressionErrors::MismatchingType{});
+    }
     const Kind literal = comparison.other;
     return comparison.isReversed ? compare(comparison.comparison, literal, *value)
                                  : compare(comparison.comparison, *value, literal);
@@ -99,15 +108,17 @@ public:
     }
 
     void add(const Plan::Clause &clause) {
-        for (std::size_t bracket = 0; bracket < clause.opening; ++bracket)
+        for (std::size_t bracket = 0; bracket < clause.opening; ++bracket) {
             *++level_ = Reduction();
+        }
         boolean_ = valueOf(clause.test);
         for (std::size_t bracket = 0; bracket < clause.closing; ++bracket) {
             boolean_ = finished();
             --level_;
         }
-        if (clause.logicOperator)
+        if (clause.logicOperator) {
             level_->add({boolean_, clause.logicOperator});
+        }
     }
 
     [[nodiscard]] bool result(bool endsWithOperator) {
@@ -116,11 +127,13 @@ public:
 
 private:
     [[nodiscard]] bool valueOf(const Plan::Test &test) {
-        if (steps_ == nullptr) [[likely]]
+        if (steps_ == nullptr) [[likely]] {
             return std::visit([this](const auto &each) { return evaluate(each, variables_); }, test);
+        }
         const auto part = std::visit([](const auto &each) { return each.part; }, test);
-        if (part.count > 0)
+        if (part.count > 0) {
             steps_->push_back({part.first, part.count, std::nullopt});
+        }
         const bool value = std::visit([this](const auto &each) { return evaluate(each, variables_); }, test);
         steps_->back().result = value;
         return value;
@@ -142,11 +155,13 @@ private:
 } // namespace
 
 bool Plan::run(const VariableLookup &variables, std::vector<Step> *steps) const {
-    if (steps != nullptr)
+    if (steps != nullptr) {
         steps->clear();
+    }
     Evaluation evaluation(levels_, variables, steps);
-    for (const Clause &clause : clauses_)
+    for (const Clause &clause : clauses_) {
         evaluation.add(clause);
+    }
     return evaluation.result(clauses_.back().logicOperator.has_value());
 }
 

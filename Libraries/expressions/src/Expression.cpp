@@ -25,8 +25,9 @@ bool Expression::evaluate(const VariableLookup &variables, std::vector<Step> *st
 VariableNames Expression::variableNames() const {
     VariableNames names;
     for (const ExpressionElement &element : elements()) {
-        if (const std::string *name = variableOf(element))
+        if (const std::string *name = variableOf(element)) {
             names.insert(*name);
+        }
     }
     return names;
 }
@@ -36,8 +37,9 @@ std::string Expression::description() const {
     bool followsOpening = true;
     for (const ExpressionElement &element : elements()) {
         const auto *bracket = std::get_if<Bracket>(&element);
-        if (!followsOpening && (bracket == nullptr || *bracket != Bracket::closing))
+        if (!followsOpening && (bracket == nullptr || *bracket != Bracket::closing)) {
             text += ' ';
+        }
         text += expressions::description(element);
         followsOpening = bracket != nullptr && *bracket == Bracket::opening;
     }

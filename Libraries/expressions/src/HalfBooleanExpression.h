@@ -21,8 +21,9 @@ public:
         const bool bindsTighter = half.logicOperator == LogicOperator::conjunction &&
                                   currentOperator_ == LogicOperator::disjunction;
         // The pending value is joined with ||; false if nothing is pending.
-        if (bindsTighter)
+        if (bindsTighter) {
             pending_ = pending_ || current_;
+        }
         current_ = bindsTighter ? half.boolean : applied;
         currentOperator_ = half.logicOperator.value_or(LogicOperator::disjunction);
     }

@@ -39,8 +39,9 @@ bool listHolds(std::string_view list, std::string_view wanted) {
         const std::size_t length = std::min(list.find(','), list.size());
         const std::string_view piece = UnicodeText::trimmed(list.substr(0, length));
         if (length > 0 &&
-            (piece == wanted || (!UnicodeText::isAscii(piece) && UnicodeText::composed(piece) == wanted)))
+            (piece == wanted || (!UnicodeText::isAscii(piece) && UnicodeText::composed(piece) == wanted))) {
             return true;
+        }
         list.remove_prefix(std::min(length + 1, list.size()));
     }
     return false;
@@ -67,12 +68,15 @@ std::span<const Operator> Operator::all() noexcept {
 }
 
 std::optional<bool> Operator::evaluate(const Value &left, const Value &right) const {
-    if (left.index() != right.index())
+    if (left.index() != right.index()) {
         return std::nullopt;
-    if (const auto *text = std::get_if<std::string_view>(&left))
+    }
+    if (const auto *text = std::get_if<std::string_view>(&left)) {
         return evaluate(*text, std::get<std::string_view>(right));
-    if (const auto *number = std::get_if<double>(&left))
+    }
+    if (const auto *number = std::get_if<double>(&left)) {
         return evaluate(*number, std::get<double>(right));
+    }
     return evaluate(std::get<bool>(left), std::get<bool>(right));
 }
 

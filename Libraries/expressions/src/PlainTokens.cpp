@@ -21,13 +21,16 @@ const Characters &operatorCharacters() {
     static const Characters all = [] {
         Characters characters;
         const auto add = [&](std::string_view text) {
-            for (const char character : text)
+            for (const char character : text) {
                 characters.set(static_cast<unsigned char>(character));
+            }
         };
-        for (const Operator &each : Operator::all())
+        for (const Operator &each : Operator::all()) {
             add(each.description());
-        for (const LogicOperator &each : LogicOperator::all())
+        }
+        for (const LogicOperator &each : LogicOperator::all()) {
             add(each.description());
+        }
         return characters;
     }();
     return all;
@@ -71,8 +74,9 @@ bool isDefaultName(std::string_view text) noexcept {
 }
 
 std::optional<std::vector<std::string_view>> plainTokens(std::string_view line) {
-    if (std::ranges::any_of(line, [](char character) { return static_cast<signed char>(character) < 0; }))
+    if (std::ranges::any_of(line, [](char character) { return static_cast<signed char>(character) < 0; })) {
         return std::nullopt;
+    }
     std::vector<std::string_view> tokens;
     const auto take = [&](std::size_t length) {
         tokens.push_back(line.substr(0, length));
@@ -81,24 +85,28 @@ std::optional<std::vector<std::string_view>> plainTokens(std::string_view line) 
     const auto isAtEndOfWord = [&] { return line.empty() || line.front() == ' '; };
     for (;;) {
         line.remove_prefix(runOf(line, [](char character) { return character == ' '; }));
-        if (line.empty())
+        if (line.empty()) {
             return tokens;
+        }
         const auto &operators = operatorCharacters();
         if (const std::size_t length = runOf(line, [&](char c) { return holds(operators, c); }); length > 0) {
             take(length);
         } else {
             // Brackets before an operand are a separate token; brackets after it belong to its token.
-            if (const std::size_t brackets = runOf(line, isBracket); brackets > 0)
+            if (const std::size_t brackets = runOf(line, isBracket); brackets > 0) {
                 take(brackets);
+            }
             if (!isAtEndOfWord()) {
                 const std::size_t operand = operandLength(line);
-                if (operand == 0)
+                if (operand == 0) {
                     return std::nullopt;
+                }
                 take(operand + runOf(line.substr(operand), [](char c) { return c == ')'; }));
             }
         }
-        if (!isAtEndOfWord())
+        if (!isAtEndOfWord()) {
             return std::nullopt;
+        }
     }
 }
 

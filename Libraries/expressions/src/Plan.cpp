@@ -25,31 +25,36 @@ Plan::Test singleAt(const Elements &elements, std::size_t first) {
     const Plan::Part part{first, 1};
     const auto *operand = std::get_if<Operand>(&elements[first]);
     const std::string *variable = operand != nullptr ? operand->variable() : nullptr;
-    if (variable == nullptr)
+    if (variable == nullptr) {
         return Plan::Failure{part,
                              invalidGrammar("Trying to evaluate a single element which is not a variable: " +
                                             description(elements[first]))};
+    }
     return Plan::Single{part, Plan::Name(*variable)};
 }
 
 Plan::Test comparisonAt(const Elements &elements, std::size_t first) {
     const Plan::Part part{first, std::min<std::size_t>(3, elements.size() - first)};
     const auto failure = [&](const char *text) { return Plan::Failure{part, invalidExpression(text)}; };
-    if (part.count < 3)
+    if (part.count < 3) {
         return failure("Trying to evaluate a comparison which has not exactly three elements");
+    }
     const auto *left = std::get_if<Operand>(&elements[first]);
     const auto *right = std::get_if<Operand>(&elements[first + 2]);
-    if (left == nullptr)
+    if (left == nullptr) {
         return failure("Trying to evaluate a comparison which doesn't have a left operand");
-    if (right == nullptr)
+    }
+    if (right == nullptr) {
         return failure("Trying to evaluate a comparison which doesn't have a right operand");
+    }
 
     const bool isReversed = left->variable() == nullptr;
     const std::string *variable = isReversed ? right->variable() : left->variable();
-    if (variable == nullptr)
+    if (variable == nullptr) {
         return Plan::Failure{part, invalidExpression("Trying to evaluate a comparison which doesn't have at "
                                                      "least one variable for operand: " +
                                                      description(*left) + ", " + description(*right))};
+    }
     const auto comparedWith = [&]<class Other>(Other other) -> Plan::Test {
         return Plan::Comparison<Other>{part, std::get<Operator>(elements[first + 1]), Plan::Name(*variable),
                                        std::move(other), isReversed};
@@ -84,16 +89,19 @@ Plan::Plan(const Elements &elements) {
     const auto failure = [](ExpressionError error) { return Clause{.test = Failure{{}, std::move(error)}}; };
     while (next < elements.size()) {
         std::size_t opening = 0;
-        for (; isAt(Bracket::opening); ++next)
+        for (; isAt(Bracket::opening); ++next) {
             ++opening;
+        }
         level += opening;
         levels_ = std::max(levels_, level + 1);
-        if (next == elements.size())
+        if (next == elements.size()) {
             break;
+        }
 
         Clause &clause = clauses_.emplace_back(Clause{.opening = opening, .test = testAt(elements, next)});
-        if (std::holds_alternative<Failure>(clause.test))
+        if (std::holds_alternative<Failure>(clause.test)) {
             return;
+        }
         next += lengthOf(clause.test);
 
         for (; isAt(Bracket::closing); ++next) {
@@ -104,8 +112,9 @@ Plan::Plan(const Elements &elements) {
             ++clause.closing;
         }
         level -= clause.closing;
-        if (next == elements.size())
+        if (next == elements.size()) {
             break;
+        }
 
         const auto *logicOperator = std::get_if<LogicOperator>(&elements[next]);
         if (logicOperator == nullptr) {
@@ -118,9 +127,10 @@ Plan::Plan(const Elements &elements) {
         clause.logicOperator = *logicOperator;
         ++next;
     }
-    if (level > 0)
+    if (level > 0) {
         clauses_.push_back(
             failure(invalidExpression("Unable to flatten the expression for an uncaught error")));
+    }
 }
 
 } // namespace velmar::expressions

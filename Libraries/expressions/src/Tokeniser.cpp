@@ -19,8 +19,9 @@ void appendCharacters(std::string &characters) {
     constexpr std::string_view escaped = "*?+[(){}^$|\\./=&";
     for (const T &each : T::all()) {
         for (const char character : each.description()) {
-            if (escaped.find(character) != std::string_view::npos)
+            if (escaped.find(character) != std::string_view::npos) {
                 characters += '\\';
+            }
             characters += character;
         }
     }
@@ -45,8 +46,9 @@ std::string tokenPattern(std::string_view variableNamePattern) {
 } // namespace
 
 Tokeniser Tokeniser::withNames(std::string_view variableNamePattern) {
-    if (variableNamePattern != Expression::defaultVariableNamePattern)
+    if (variableNamePattern != Expression::defaultVariableNamePattern) {
         return Tokeniser(variableNamePattern);
+    }
     // Never destroyed: queues may still evaluate at exit.
     static const auto &standard = *new Tokeniser(Expression::defaultVariableNamePattern);
     return standard;
@@ -62,21 +64,24 @@ std::vector<ExpressionElement> Tokeniser::elements(std::string_view line) const 
     std::vector<ExpressionElement> elements;
     if (const auto tokens = hasDefaultNames_ ? plainTokens(line) : std::nullopt; tokens && !tokens->empty()) {
         elements.reserve(tokens->size());
-        for (const std::string_view token : *tokens)
+        for (const std::string_view token : *tokens) {
             append(token, elements);
+        }
         return elements;
     }
     std::size_t end = 0;
     for (const RegularExpression::Match &match : tokens_.matches(line)) {
         const TextRange range = match.range();
         const std::string_view gap = line.substr(end, range.location - end);
-        if (!UnicodeText::trimmed(gap).empty())
+        if (!UnicodeText::trimmed(gap).empty()) {
             throw ExpressionError(ExpressionErrors::IncorrectElement{std::string(gap)});
+        }
         append(range.of(line), elements);
         end = range.end();
     }
-    if (elements.empty())
+    if (elements.empty()) {
         throw ExpressionError(ExpressionErrors::EmptyExpression{});
+    }
     return elements;
 }
 
@@ -88,38 +93,48 @@ void Tokeniser::append(std::string_view token, std::vector<ExpressionElement> &e
         token.remove_prefix(1);
     }
     const bool isClosed = !isOne && token.ends_with(')');
-    if (isClosed)
+    if (isClosed) {
         token.remove_suffix(1);
+    }
     elements.push_back(element(token));
-    if (isClosed)
+    if (isClosed) {
         elements.emplace_back(Bracket::closing);
+    }
 }
 
 ExpressionElement Tokeniser::element(std::string_view text) const {
-    if (const auto comparison = operatorWithText<Operator>(text))
+    if (const auto comparison = operatorWithText<Operator>(text)) {
         return *comparison;
-    if (const auto logic = operatorWithText<LogicOperator>(text))
+    }
+    if (const auto logic = operatorWithText<LogicOperator>(text)) {
         return *logic;
-    if (text == "(")
+    }
+    if (text == "(") {
         return Bracket::opening;
-    if (text == ")")
+    }
+    if (text == ")") {
         return Bracket::closing;
+    }
     return operand(text);
 }
 
 Operand Tokeniser::operand(std::string_view text) const {
     if (text.starts_with('"') && text.ends_with('"')) {
         const std::string_view inner = text.size() > 1 ? text.substr(1, text.size() - 2) : std::string_view();
-        if (inner.find('"') != std::string_view::npos)
+        if (inner.find('"') != std::string_view::npos) {
             throw ExpressionError(ExpressionErrors::InvalidStringQuotation{std::string(text)});
+        }
         return {Operand::String{std::string(inner)}};
     }
-    if (const auto number = numberOf(std::string(text)))
+    if (const auto number = numberOf(std::string(text))) {
         return {*number};
-    if (text == "true" || text == "false")
+    }
+    if (text == "true" || text == "false") {
         return {text == "true"};
-    if (hasDefaultNames_ ? isDefaultName(text) : names_.matchesWhole(text))
+    }
+    if (hasDefaultNames_ ? isDefaultName(text) : names_.matchesWhole(text)) {
         return {Operand::Variable{std::string(text)}};
+    }
     throw ExpressionError(ExpressionErrors::InvalidVariableName{std::string(text)});
 }
 

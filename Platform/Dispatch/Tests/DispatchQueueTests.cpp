@@ -24,18 +24,21 @@ TEST(DispatchQueue, RunsInOrderAndOneAtATimeForEachPoster) {
     std::vector<std::thread> threads;
     for (int poster = 0; poster < posters; ++poster) {
         threads.emplace_back([&, poster] {
-            for (int number = 0; number < each; ++number)
+            for (int number = 0; number < each; ++number) {
                 queue.async(
                     [&, poster, number] { seen[static_cast<std::size_t>(poster)].push_back(number); });
+            }
         });
     }
-    for (auto &thread : threads)
+    for (auto &thread : threads) {
         thread.join();
+    }
     ASSERT_TRUE(queue.waitUntilIdle(30s));
     std::vector<int> expected(each);
     std::iota(expected.begin(), expected.end(), 0);
-    for (const auto &numbers : seen)
+    for (const auto &numbers : seen) {
         EXPECT_EQ(numbers, expected);
+    }
 }
 
 TEST(DispatchQueue, RunsSeveralQueuesAndTheGlobalOneSideBySide) {
@@ -57,14 +60,16 @@ TEST(DispatchQueue, WaitsForWhatWasPostedBeforeOnly) {
     const DispatchQueue queue("endless");
     std::atomic<bool> goesOn = true;
     std::function<void()> again = [&] {
-        if (goesOn)
+        if (goesOn) {
             queue.async(again);
+        }
     };
     queue.async(again);
     EXPECT_TRUE(queue.waitUntilIdle(30s));
     goesOn = false;
-    while (!queue.waitUntilIdle(0ms))
+    while (!queue.waitUntilIdle(0ms)) {
         EXPECT_TRUE(queue.waitUntilIdle(30s));
+    }
 }
 
 TEST(DispatchQueue, DoesNotWaitOnAThreadOfThePool) {

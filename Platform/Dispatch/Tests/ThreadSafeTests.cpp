@@ -22,8 +22,9 @@ TEST(ThreadSafe, ChangesAsOneStep) {
             }
         });
     }
-    for (auto &thread : threads)
+    for (auto &thread : threads) {
         thread.join();
+    }
     EXPECT_EQ(counts.value(), (std::map<std::string, int>{{"a", 4000}}));
 }
 

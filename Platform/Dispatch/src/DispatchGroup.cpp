@@ -30,22 +30,26 @@ void DispatchGroup::leave() const {
     // What a queue refuses dies after the lock: the end of its captures may call back.
     std::vector<State::Notification> told;
     const std::lock_guard lock(state_->mutex);
-    if (state_->underWay == 0)
+    if (state_->underWay == 0) {
         throw std::logic_error("DispatchGroup::leave without enter");
-    if (--state_->underWay > 0)
+    }
+    if (--state_->underWay > 0) {
         return;
+    }
     // Under the lock, so that what another thread asks for later is posted later.
     told.swap(state_->notifications);
-    for (auto &[queue, function] : told)
+    for (auto &[queue, function] : told) {
         static_cast<void>(queue.post(function));
+    }
 }
 
 void DispatchGroup::notify(DispatchQueue queue, std::function<void()> function) const {
     const std::lock_guard lock(state_->mutex);
-    if (state_->underWay == 0)
+    if (state_->underWay == 0) {
         static_cast<void>(queue.post(function)); // a refused one dies with the parameter, after the lock
-    else
+    } else {
         state_->notifications.push_back({std::move(queue), std::move(function)});
+    }
 }
 
 } // namespace velmar

@@ -70,12 +70,15 @@ bool DispatchPool::stop(std::chrono::milliseconds timeout) {
     // A function that ends the process would wait for itself.
     const std::size_t own = isPoolThread ? 1 : 0;
     std::unique_lock lock(mutex_);
-    if (!ended_.wait_until(lock, deadline, [&] { return running_ <= own; }))
+    if (!ended_.wait_until(lock, deadline, [&] { return running_ <= own; })) {
         return false;
-    if (own != 0)
+    }
+    if (own != 0) {
         return true;
-    if (!std::exchange(isJoining_, true))
+    }
+    if (!std::exchange(isJoining_, true)) {
         startJoining();
+    }
     return ended_.wait_until(lock, deadline, [&] { return hasJoined_; });
 }
 

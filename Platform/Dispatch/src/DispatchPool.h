@@ -28,8 +28,9 @@ public:
     template <class Function>
     bool run(const Function &function) {
         const bool mayRun = begin();
-        if (mayRun)
+        if (mayRun) {
             function();
+        }
         end();
         return mayRun;
     }

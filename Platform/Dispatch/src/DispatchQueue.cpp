@@ -30,8 +30,9 @@ struct DispatchQueue::State {
 
     void finishOne() {
         ++done;
-        if (waiters == 0)
+        if (waiters == 0) {
             return;
+        }
         const std::lock_guard lock(mutex);
         changed.notify_all();
     }
@@ -56,8 +57,9 @@ void DispatchQueue::async(std::function<void()> function) const {
 }
 
 bool DispatchQueue::post(std::function<void()> &function) const {
-    if (DispatchPool::isShutDown())
+    if (DispatchPool::isShutDown()) {
         return false;
+    }
     DispatchPool &pool = DispatchPool::shared();
     ++state_->posted;
     auto task = [&pool, state = state_, work = std::move(function)]() mutable {
@@ -68,8 +70,9 @@ bool DispatchQueue::post(std::function<void()> &function) const {
                 work = nullptr;
             });
         });
-        if (hasRun)
+        if (hasRun) {
             state->finishOne();
+        }
     };
     if (!state_->isSerial) {
         asio::post(pool.executor(), std::move(task));
@@ -85,10 +88,12 @@ bool DispatchQueue::waitUntilIdle(std::chrono::milliseconds timeout) const {
     const std::uint64_t target = state.posted;
     // A serial queue ends its functions in the order of posting, so a count tells which have run.
     const auto isIdle = [&] { return state.done >= (state.isSerial ? target : state.posted.load()); };
-    if (isIdle())
+    if (isIdle()) {
         return true;
-    if (DispatchPool::isOnPoolThread() || DispatchPool::isShutDown())
+    }
+    if (DispatchPool::isOnPoolThread() || DispatchPool::isShutDown()) {
         return false;
+    }
     ++state.waiters;
     std::unique_lock lock(state.mutex);
     const bool isDone = state.changed.wait_for(lock, timeout, isIdle);

@@ -41,10 +41,11 @@ void reportUncaught(std::string_view label, std::exception_ptr exception) noexce
             const std::lock_guard lock(installed().mutex);
             handler = installed().handler;
         }
-        if (handler)
+        if (handler) {
             (*handler)(label, std::move(exception));
-        else
+        } else {
             writeToStandardError(label, exception);
+        }
     } catch (...) { // NOLINT(bugprone-empty-catch): there is no one left to tell
     }
 }

@@ -127,9 +127,10 @@ TEST_F(Files, ManagerMakesListsAndRemoves) {
     const std::string taken = deep + "z";
     const std::string dangling = directory.path("dangling");
     fs::create_symlink(directory.path("elsewhere"), dangling);
-    for (const std::string &path : {taken, dangling})
+    for (const std::string &path : {taken, dangling}) {
         expectError<FileError::SystemError>([&] { manager.createFile(path, "other", 0600); },
                                             "The item at '" + path + "' couldn't be created: File exists.");
+    }
     EXPECT_EQ(read(taken), "content");
     const std::string full = directory.path("a");
     expectError<FileError::SystemError>([&] { manager.removeItem(full); },

@@ -112,8 +112,9 @@ TEST(NotificationCenter, IsUsedByManyThreads) {
             }
         });
     }
-    for (auto &thread : threads)
+    for (auto &thread : threads) {
         thread.join();
+    }
     EXPECT_EQ(called, 2000);
 }
 

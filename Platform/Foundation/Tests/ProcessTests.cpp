@@ -32,11 +32,13 @@ std::string outputOf(const std::vector<Process> &processes, std::size_t limit = 
     const auto promise = std::make_shared<std::promise<ProcessOutput>>();
     auto future = promise->get_future();
     ProcessChain chain;
-    for (const Process &process : processes)
+    for (const Process &process : processes) {
         chain.launch(process);
+    }
     chain.readOutput(limit, [promise](ProcessOutput output) { promise->set_value(std::move(output)); });
-    if (future.wait_for(60s) != std::future_status::ready)
+    if (future.wait_for(60s) != std::future_status::ready) {
         return "no end";
+    }
     const ProcessOutput output = future.get();
     return output.bytes + (output.isCut ? "..." : "");
 }
@@ -45,8 +47,9 @@ bool hasNoChildrenSoon() {
     siginfo_t child{};
     const auto deadline = std::chrono::steady_clock::now() + 30s;
     for (; std::chrono::steady_clock::now() < deadline; sched_yield()) {
-        if (waitid(P_ALL, 0, &child, WEXITED | WNOHANG | WNOWAIT) != 0)
+        if (waitid(P_ALL, 0, &child, WEXITED | WNOHANG | WNOWAIT) != 0) {
             return true;
+        }
     }
     return false;
 }
@@ -60,8 +63,9 @@ TEST(ProcessChain, GivesAChildNothingButItsStandardStreams) {
     const auto former = signal(SIGPIPE, SIG_IGN);
     // Descriptor 3 is the directory that ls lists.
     EXPECT_EQ(outputOf({{"/bin/ls", {"/proc/self/fd"}}}), "0\n1\n2\n3\n");
-    for (const std::string name : {"PIPE", "TERM"})
+    for (const std::string name : {"PIPE", "TERM"}) {
         EXPECT_EQ(outputOf({shell("kill -" + name + " $$; echo immune")}), "");
+    }
     EXPECT_EQ(outputOf({{"/usr/bin/readlink", {"/proc/self/fd/0"}}}), "/dev/null\n");
     EXPECT_EQ(outputOf({shell("set -- $(cat /proc/$$/stat); test $1 = $5 && echo own")}), "own\n");
     signal(SIGPIPE, former);

@@ -14,8 +14,9 @@ using testing::ElementsAre;
 
 std::vector<std::string> textsOf(const RegularExpression &expression, std::string_view text) {
     std::vector<std::string> texts;
-    for (const auto &match : expression.matches(text))
+    for (const auto &match : expression.matches(text)) {
         texts.emplace_back(match.range().of(text));
+    }
     return texts;
 }
 
@@ -58,9 +59,10 @@ TEST(RegularExpression, MatchesWholeIfTheFirstMatchIsTheWhole) {
         {"[0-9]+", "12", true}, {"[0-9]+", "12a", false}, {"[0-9]+", "", false},
         {"a|ab", "ab", false},  {"é+", "éé", true},
     };
-    for (const auto &each : cases)
+    for (const auto &each : cases) {
         EXPECT_EQ(RegularExpression(each.pattern).matchesWhole(each.text), each.isWhole)
             << each.pattern << " on " << each.text;
+    }
 }
 
 TEST(RegularExpression, HeedsItsOptions) {
@@ -125,8 +127,9 @@ TEST(RegularExpression, IsUsedByManyThreadsAtOnce) {
             }
         });
     }
-    for (auto &thread : threads)
+    for (auto &thread : threads) {
         thread.join();
+    }
 }
 
 } // namespace

@@ -44,8 +44,9 @@ TEST(URL, TakesTextsApart) {
 
 TEST(URL, RefusesTextsThatAreNone) {
     for (const char *text : {"", "http://a b/", "http://host:port/", "http://[::1/", "http://[x]/",
-                             "http://a%2/", "line\nfeed", "\x7F", "\xFF"})
+                             "http://a%2/", "line\nfeed", "\x7F", "\xFF"}) {
         EXPECT_FALSE(URL::fromString(text)) << text;
+    }
 }
 
 TEST(URL, KeepsPlaceholdersUntilTheyArePopulated) {

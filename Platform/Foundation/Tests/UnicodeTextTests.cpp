@@ -38,8 +38,9 @@ TEST(UnicodeText, EqualsByCanonicalEquivalence) {
 TEST(UnicodeText, OrdersByComposedCodePoints) {
     const std::string_view ascending[] = {"",       "B", "a",      "ab",     "b",
                                           composed, "d", "\u00E9", "\uFFFD", "\U00010000"};
-    for (std::size_t index = 1; index < std::size(ascending); ++index)
+    for (std::size_t index = 1; index < std::size(ascending); ++index) {
         EXPECT_TRUE(UnicodeText::compare(ascending[index - 1], ascending[index]) < 0) << ascending[index];
+    }
     // A decomposed "é" sorts as the composed one, after "z".
     EXPECT_TRUE(UnicodeText::compare("e\u0301", "z") > 0);
 }
@@ -53,8 +54,9 @@ TEST(UnicodeText, IsTrimmedOfWhiteSpace) {
         {" \xA0 ", "\xA0"}, // ill-formed: a lone continuation byte
         {"a \x80\x80\x80", "a \x80\x80\x80"},
     };
-    for (const auto &[text, trimmed] : rows)
+    for (const auto &[text, trimmed] : rows) {
         EXPECT_EQ(UnicodeText::trimmed(text), trimmed) << text;
+    }
 }
 
 TEST(UnicodeText, FindsPartsBetweenCharacters) {
@@ -101,15 +103,17 @@ TEST(UnicodeText, TellsColumnsOfATerminal) {
 }
 
 TEST(UnicodeText, KnowsValidUtf8) {
-    for (const std::string_view valid : {"", "ascii only, and longer than a word", "é€😀", "\u0001\x7F"})
+    for (const std::string_view valid : {"", "ascii only, and longer than a word", "é€😀", "\u0001\x7F"}) {
         EXPECT_TRUE(UnicodeText::isValidUtf8(valid)) << valid;
+    }
     EXPECT_TRUE(UnicodeText::isValidUtf8(std::string_view("a\0b", 3)));
     const std::string_view invalid[] = {
         "\x80", "abcdefghijk\xC3", "\xC0\xAF", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xE2\x82",
         "\xFF", "\xC3(",
     };
-    for (const auto text : invalid)
+    for (const auto text : invalid) {
         EXPECT_FALSE(UnicodeText::isValidUtf8(text)) << testing::PrintToString(text);
+    }
     EXPECT_FALSE(UnicodeText::isAscii("abcdefgh\xC3\xA9"));
     EXPECT_TRUE(UnicodeText::isAscii("abcdefghi"));
 }

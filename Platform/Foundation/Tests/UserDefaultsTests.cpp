@@ -73,8 +73,9 @@ TEST_F(UserDefaultsTest, RefusesTextsThatCannotBeStored) {
     const std::string damaged = "no property list";
     put(damaged);
     UserDefaults defaults("Velmar");
-    for (const char *text : {"caf\xE9.plist", "a\x01.plist"})
+    for (const char *text : {"caf\xE9.plist", "a\x01.plist"}) {
         EXPECT_THROW(defaults.set("configuration", text), FileError) << text;
+    }
     EXPECT_EQ(files.contents(defaults.path(), 100), damaged) << "not put aside";
 }
 

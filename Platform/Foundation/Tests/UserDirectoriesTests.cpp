@@ -73,8 +73,9 @@ TEST_F(UserDirectoriesTest, ListTheOwnDataFirst) {
 }
 
 TEST_F(UserDirectoriesTest, OfRootAreNeverThoseOfSomebodyElse) {
-    if (geteuid() != 0)
+    if (geteuid() != 0) {
         GTEST_SKIP() << "needs root";
+    }
     const std::string theirs = directory.path("theirs");
     fs::create_directory(theirs);
     ASSERT_EQ(chown(theirs.c_str(), 65534, 65534), 0);

@@ -15,10 +15,11 @@ std::optional<Account> accountFrom(Key key, Lookup lookup, const Make &make) {
     Record *found = nullptr;
     for (;;) {
         const int failure = lookup(key, &record, buffer.data(), buffer.size(), &found);
-        if (failure == ERANGE)
+        if (failure == ERANGE) {
             buffer.resize(buffer.size() * 2);
-        else if (failure != EINTR)
+        } else if (failure != EINTR) {
             return found != nullptr ? std::optional<Account>(make(*found)) : std::nullopt;
+        }
     }
 }
 

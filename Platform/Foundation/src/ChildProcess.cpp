@@ -42,8 +42,9 @@ public:
 
 private:
     void note(int error) noexcept {
-        if (error != 0)
+        if (error != 0) {
             error_ = error;
+        }
     }
 
     posix_spawn_file_actions_t actions_{};
@@ -78,13 +79,15 @@ private:
 // Returns 0 or an errno.
 int spawn(pid_t &id, const Process &process, int input, int output) {
     const FileActions actions(input, output);
-    if (actions.error() != 0)
+    if (actions.error() != 0) {
         return actions.error();
+    }
     const Attributes attributes;
     // posix_spawn takes non-const strings but doesn't modify them.
     std::vector<char *> arguments{const_cast<char *>(process.executablePath.c_str())};
-    for (const std::string &argument : process.arguments)
+    for (const std::string &argument : process.arguments) {
         arguments.push_back(const_cast<char *>(argument.c_str()));
+    }
     arguments.push_back(nullptr);
     return posix_spawn(&id, process.executablePath.c_str(), actions.get(), attributes.get(), arguments.data(),
                        LaunchEnvironment::get());
@@ -92,11 +95,13 @@ int spawn(pid_t &id, const Process &process, int input, int output) {
 
 std::optional<DescriptorWatch> watchedEnd(pid_t id, const std::string &path) {
     Descriptor end(pidfd_open(id, 0));
-    if (end)
+    if (end) {
         return watched(std::move(end), path);
+    }
     // ESRCH: SIGCHLD is ignored, so the kernel has already reaped the child.
-    if (errno == ESRCH)
+    if (errno == ESRCH) {
         return std::nullopt;
+    }
     throw ProcessError(ProcessError::NotLaunched{path, errno});
 }
 
@@ -105,10 +110,11 @@ void reapWhenEnded(const DescriptorWatch &end, std::function<void()> function) {
         siginfo_t status{};
         // si_pid is 0 while the process still runs: the callback came early.
         if (waitid(P_PIDFD, static_cast<id_t>(end.number()), &status, WEXITED | WNOHANG) == 0 &&
-            status.si_pid == 0)
+            status.si_pid == 0) {
             reapWhenEnded(end, std::move(told));
-        else
+        } else {
             told();
+        }
     });
 }
 
@@ -119,8 +125,9 @@ ChildProcess::ChildProcess(const Process &process, const Descriptor &input, cons
     process.checkLaunchable();
     if (const int code = spawn(id_, process, input.number(), output.number())) {
         // ENOENT is about the interpreter: checkLaunchable() has just found the program.
-        if (code == ENOENT)
+        if (code == ENOENT) {
             throw ProcessError(ProcessError::MissingInterpreter{path});
+        }
         throw ProcessError(ProcessError::NotLaunched{path, code});
     }
     try {
@@ -134,8 +141,9 @@ ChildProcess::ChildProcess(const Process &process, const Descriptor &input, cons
 }
 
 void ChildProcess::terminate() const {
-    if (end_)
+    if (end_) {
         kill(-id_, SIGTERM);
+    }
 }
 
 void ChildProcess::whenEnded(std::function<void()> function) const {

@@ -29,8 +29,9 @@ std::string FileFailure::SystemError::errorDescription() const {
 }
 
 FileError FileError::fromErrno(std::string path, std::string action, int code) {
-    if (code == ENOENT || code == ENOTDIR)
+    if (code == ENOENT || code == ENOTDIR) {
         return NotFound{std::move(path)};
+    }
     return SystemError{std::move(path), std::move(action), code};
 }
 

@@ -21,10 +21,12 @@ const Environment *kept = nullptr;
 
 void keep() {
     auto *environment = new Environment;
-    for (char **entry = environ; *entry != nullptr; ++entry)
+    for (char **entry = environ; *entry != nullptr; ++entry) {
         environment->entries.emplace_back(*entry);
-    for (std::string &entry : environment->entries)
+    }
+    for (std::string &entry : environment->entries) {
         environment->pointers.push_back(entry.data());
+    }
     environment->pointers.push_back(nullptr);
     kept = environment;
 }

@@ -31,24 +31,27 @@ struct NotificationCenter::State {
     std::map<std::string, std::shared_ptr<const Observers>, std::less<>> observersByName;
 
     void replace(const std::string &name, Observers observers) {
-        if (observers.empty())
+        if (observers.empty()) {
             observersByName.erase(name);
-        else
+        } else {
             observersByName[name] = std::make_shared<const Observers>(std::move(observers));
+        }
     }
 };
 
 void NotificationObserver::Registration::end() {
     isActive = false;
     const auto state = center.lock();
-    if (!state)
+    if (!state) {
         return;
+    }
     // Outlives the lock: destroying a handler's captures may call back into the centre.
     std::shared_ptr<const NotificationCenter::State::Observers> former;
     const std::lock_guard lock(state->mutex);
     const auto found = state->observersByName.find(name);
-    if (found == state->observersByName.end())
+    if (found == state->observersByName.end()) {
         return;
+    }
     former = found->second;
     NotificationCenter::State::Observers others;
     std::copy_if(former->begin(), former->end(), std::back_inserter(others),
@@ -60,16 +63,19 @@ NotificationObserver::NotificationObserver(std::shared_ptr<Registration> registr
     : registration_(std::move(registration)) {}
 
 NotificationObserver &NotificationObserver::operator=(NotificationObserver &&other) noexcept {
-    if (this == &other)
+    if (this == &other) {
         return *this;
-    if (const auto former = std::exchange(registration_, std::move(other.registration_)))
+    }
+    if (const auto former = std::exchange(registration_, std::move(other.registration_))) {
         former->end();
+    }
     return *this;
 }
 
 NotificationObserver::~NotificationObserver() {
-    if (registration_)
+    if (registration_) {
         registration_->end();
+    }
 }
 
 NotificationCenter::NotificationCenter() : state_(std::make_shared<State>()) {}
@@ -97,23 +103,27 @@ void NotificationCenter::post(std::string_view name) {
     {
         const std::lock_guard lock(state_->mutex);
         const auto found = state_->observersByName.find(name);
-        if (found == state_->observersByName.end())
+        if (found == state_->observersByName.end()) {
             return;
+        }
         observers = found->second;
     }
     std::exception_ptr first;
     for (const auto &observer : *observers) {
-        if (!observer->isActive)
+        if (!observer->isActive) {
             continue;
+        }
         try {
             observer->handler();
         } catch (...) {
-            if (!first)
+            if (!first) {
                 first = std::current_exception();
+            }
         }
     }
-    if (first)
+    if (first) {
         std::rethrow_exception(first);
+    }
 }
 
 NotificationCenter &NotificationCenter::defaultCenter() {

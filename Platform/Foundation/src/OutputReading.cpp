@@ -38,18 +38,21 @@ void OutputReading::start() {
 }
 
 void OutputReading::finishOne() {
-    if (--unfinished_ == 0)
+    if (--unfinished_ == 0) {
         completion_(std::move(output_));
+    }
 }
 
 void OutputReading::readSome() {
     std::array<char, blockSize> block;
     for (int count = 0; count < blocksAtOnce; ++count) {
         const ssize_t length = read(watch_.number(), block.data(), block.size());
-        if (length < 0 && errno == EINTR)
+        if (length < 0 && errno == EINTR) {
             continue;
-        if (length < 0 && errno == EAGAIN)
+        }
+        if (length < 0 && errno == EAGAIN) {
             break;
+        }
         if (length <= 0) {
             finishOne();
             return;

@@ -21,8 +21,9 @@ namespace {
 
 // Moves the descriptor out of the range of the standard streams, which are replaced one by one in the child.
 Descriptor aboveStandardStreams(Descriptor descriptor) {
-    if (descriptor.number() > STDERR_FILENO)
+    if (descriptor.number() > STDERR_FILENO) {
         return descriptor;
+    }
     return Descriptor(fcntl(descriptor.number(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
 }
 
@@ -33,11 +34,13 @@ struct Pipe {
 
 Pipe makePipe(const std::string &path) {
     int ends[2] = {-1, -1};
-    if (pipe2(ends, O_CLOEXEC) != 0)
+    if (pipe2(ends, O_CLOEXEC) != 0) {
         throw ProcessError(ProcessError::NotLaunched{path, errno});
+    }
     Pipe pipe{aboveStandardStreams(Descriptor(ends[0])), aboveStandardStreams(Descriptor(ends[1]))};
-    if (!pipe.reading || !pipe.writing)
+    if (!pipe.reading || !pipe.writing) {
         throw ProcessError(ProcessError::NotLaunched{path, EMFILE});
+    }
     return pipe;
 }
 
@@ -50,8 +53,9 @@ ProcessOutput contentOf(const Descriptor &file) {
     while (length < output.bytes.size()) {
         const ssize_t count = pread(file.number(), output.bytes.data() + length, output.bytes.size() - length,
                                     static_cast<off_t>(length));
-        if (count <= 0 && errno != EINTR)
+        if (count <= 0 && errno != EINTR) {
             break;
+        }
         length += static_cast<std::size_t>(std::max<ssize_t>(count, 0));
     }
     output.bytes.resize(length);
@@ -82,8 +86,9 @@ void ProcessChain::launchIntoFile(const Process &process, std::size_t limit) {
     Descriptor file =
         aboveStandardStreams(Descriptor(memfd_create("output", MFD_CLOEXEC | MFD_ALLOW_SEALING)));
     if (!file || ftruncate(file.number(), static_cast<off_t>(limit)) != 0 ||
-        fcntl(file.number(), F_ADD_SEALS, F_SEAL_GROW | F_SEAL_SHRINK | F_SEAL_SEAL) != 0)
+        fcntl(file.number(), F_ADD_SEALS, F_SEAL_GROW | F_SEAL_SHRINK | F_SEAL_SEAL) != 0) {
         throw ProcessError(ProcessError::NotLaunched{process.executablePath, errno});
+    }
     children_.emplace_back(process, output_, file);
     lastPath_ = process.executablePath;
     output_ = std::move(file);
@@ -99,10 +104,11 @@ void ProcessChain::readOutput(std::size_t limit, std::function<void(ProcessOutpu
         OutputReading::make(std::exchange(output_, Descriptor()), lastPath_, limit, std::move(completion));
     const std::vector<ChildProcess> children = std::exchange(children_, {});
     for (const ChildProcess &child : children) {
-        if (&child == &children.back())
+        if (&child == &children.back()) {
             child.whenEnded([reading] { reading->finishOne(); });
-        else
+        } else {
             child.whenEnded([] {});
+        }
     }
     reading->start();
 }
@@ -111,10 +117,11 @@ void ProcessChain::readFile(std::function<void(ProcessOutput)> completion) {
     const auto file = std::make_shared<const Descriptor>(std::exchange(output_, Descriptor()));
     const std::vector<ChildProcess> children = std::exchange(children_, {});
     for (const ChildProcess &child : children) {
-        if (&child == &children.back())
+        if (&child == &children.back()) {
             child.whenEnded([file, completion] { completion(contentOf(*file)); });
-        else
+        } else {
             child.whenEnded([] {});
+        }
     }
 }
 

@@ -58,8 +58,9 @@ struct SearchStart {
 UBool U_CALLCONV goesOn(const void *context, std::int32_t /*steps*/) {
     auto &start = static_cast<const SearchStart *>(context)->time;
     const std::chrono::nanoseconds now = processorTime();
-    if (!start)
+    if (!start) {
         start = now;
+    }
     return static_cast<UBool>(now - *start < timeLimit);
 }
 
@@ -81,12 +82,14 @@ public:
         // UTF-16 never has more units than UTF-8 has bytes.
         const auto capacity = static_cast<std::int32_t>(text.size());
         char16_t *units = utf16_.getBuffer(capacity);
-        if (units == nullptr)
+        if (units == nullptr) {
             throw std::bad_alloc();
+        }
         std::int32_t length = 0;
         if (isAscii_) {
-            for (const char byte : text)
+            for (const char byte : text) {
                 units[length++] = static_cast<char16_t>(byte);
+            }
         } else {
             forEachCharacter(
                 [&](UChar32 character, std::size_t) { U16_APPEND_UNSAFE(units, length, character); });
@@ -97,10 +100,12 @@ public:
     [[nodiscard]] const icu::UnicodeString &utf16() const { return utf16_; }
 
     [[nodiscard]] TextRange range(std::int32_t start, std::int32_t end) {
-        if (isAscii_)
+        if (isAscii_) {
             return {static_cast<std::size_t>(start), static_cast<std::size_t>(end - start)};
-        if (byteOffsets_.empty())
+        }
+        if (byteOffsets_.empty()) {
             findByteOffsets();
+        }
         const std::size_t location = byteOffsets_[static_cast<std::size_t>(start)];
         return {location, byteOffsets_[static_cast<std::size_t>(end)] - location};
     }
@@ -142,12 +147,15 @@ struct RegularExpression::Compiled {
     mutable std::vector<std::unique_ptr<icu::RegexMatcher>> idle;
 
     void throwIfFailed(UErrorCode status) const {
-        if (U_SUCCESS(status))
+        if (U_SUCCESS(status)) {
             return;
-        if (status == U_REGEX_TIME_OUT || status == U_REGEX_STOPPED_BY_CALLER)
+        }
+        if (status == U_REGEX_TIME_OUT || status == U_REGEX_STOPPED_BY_CALLER) {
             throw RegularExpressionError(RegularExpressionError::StepLimitReached{pattern});
-        if (status == U_REGEX_STACK_OVERFLOW)
+        }
+        if (status == U_REGEX_STACK_OVERFLOW) {
             throw RegularExpressionError(RegularExpressionError::StackOverflow{pattern});
+        }
         throw RegularExpressionError(RegularExpressionError::MatchFailed{pattern, u_errorName(status)});
     }
 
@@ -162,8 +170,9 @@ struct RegularExpression::Compiled {
         }
         UErrorCode status = U_ZERO_ERROR;
         std::unique_ptr<icu::RegexMatcher> matcher(regex->matcher(status));
-        if (U_SUCCESS(status))
+        if (U_SUCCESS(status)) {
             matcher->setTimeLimit(stepLimit, status);
+        }
         throwIfFailed(status);
         return matcher;
     }
@@ -173,17 +182,19 @@ struct RegularExpression::Compiled {
         static const auto &nothing = *new icu::UnicodeString;
         matcher->reset(nothing);
         const std::lock_guard lock(mutex);
-        if (idle.size() < idleMatchers)
+        if (idle.size() < idleMatchers) {
             idle.push_back(std::move(matcher));
+        }
     }
 
     // Calls `found` with the matcher at each match, in order, until it returns false. A failed matcher is not
     // reused, because its stack has grown to the limit.
     template <class Found>
     void search(std::string_view text, const Found &found) const {
-        if (text.size() > static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max()))
+        if (text.size() > static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max())) {
             throw RegularExpressionError(
                 RegularExpressionError::MatchFailed{pattern, "the text is too long"});
+        }
         Haystack haystack(text);
         auto matcher = takeMatcher();
         matcher->reset(haystack.utf16());
@@ -191,8 +202,9 @@ struct RegularExpression::Compiled {
         UErrorCode status = U_ZERO_ERROR;
         matcher->setMatchCallback(goesOn, &start, status);
         while (matcher->find(status) && U_SUCCESS(status)) {
-            if (!found(*matcher, haystack))
+            if (!found(*matcher, haystack)) {
                 break;
+            }
         }
         matcher->setMatchCallback(nullptr, nullptr, status);
         throwIfFailed(status);
@@ -224,8 +236,9 @@ RegularExpression::RegularExpression(std::string_view pattern, RegularExpression
             RegularExpressionError::InvalidPattern{std::string(pattern), std::move(reason)});
     };
     if (!UnicodeText::isValidUtf8(pattern) ||
-        pattern.size() > static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max()))
+        pattern.size() > static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max())) {
         throw invalid("the pattern is not UTF-8");
+    }
 
     auto compiled = std::make_shared<Compiled>();
     compiled->pattern = pattern;
@@ -238,8 +251,9 @@ RegularExpression::RegularExpression(std::string_view pattern, RegularExpression
     compiled->regex.reset(icu::RegexPattern::compile(utf16, flagsOf(options), where, status));
     if (U_FAILURE(status)) {
         std::string reason = u_errorName(status);
-        if (where.line > 0)
+        if (where.line > 0) {
             reason += " at line " + std::to_string(where.line) + ", column " + std::to_string(where.offset);
+        }
         throw invalid(std::move(reason));
     }
     compiled_ = std::move(compiled);

@@ -49,10 +49,11 @@ std::string encoded(std::string_view text, std::string_view alsoAllowed, bool ke
     for (std::size_t position = 0; position < text.size(); ++position) {
         const char c = text[position];
         if (isPathCharacter(c) || alsoAllowed.find(c) != std::string_view::npos ||
-            (keepsEscapes && isEscape(text, position)))
+            (keepsEscapes && isEscape(text, position))) {
             result += c;
-        else
+        } else {
             appendEscaped(result, c);
+        }
     }
     return result;
 }
@@ -109,23 +110,27 @@ struct Authority {
 };
 
 Authority authorityOf(std::string_view text) {
-    if (const auto at = text.rfind('@'); at != std::string_view::npos)
+    if (const auto at = text.rfind('@'); at != std::string_view::npos) {
         text.remove_prefix(at + 1);
+    }
     const auto bracket = text.starts_with('[') ? text.find(']') : std::string_view::npos;
     const auto colon = text.find(':', bracket == std::string_view::npos ? 0 : bracket);
-    if (colon == std::string_view::npos)
+    if (colon == std::string_view::npos) {
         return {text, {}};
+    }
     return {text.substr(0, colon), text.substr(colon + 1)};
 }
 
 bool isGoodAuthority(std::string_view text) {
     const auto [host, port] = authorityOf(text);
-    if (!std::all_of(port.begin(), port.end(), isDigit))
+    if (!std::all_of(port.begin(), port.end(), isDigit)) {
         return false;
-    if (host.starts_with('['))
+    }
+    if (host.starts_with('[')) {
         return host.size() > 2 && host.ends_with(']') &&
                std::all_of(host.begin() + 1, host.end() - 1,
                            [](char c) { return isHexDigit(c) || c == ':' || c == '.'; });
+    }
     return host.find_first_of(" \"<>\\^`{|}[]%") == std::string_view::npos ||
            std::all_of(host.begin(), host.end(), [&host = host](const char &c) {
                return isPathCharacter(c) || static_cast<unsigned char>(c) >= 0x80 ||
@@ -134,8 +139,9 @@ bool isGoodAuthority(std::string_view text) {
 }
 
 std::string_view withoutTrailingSlashes(std::string_view path) {
-    while (path.size() > 1 && path.ends_with('/'))
+    while (path.size() > 1 && path.ends_with('/')) {
         path.remove_suffix(1);
+    }
     return path;
 }
 
@@ -143,12 +149,14 @@ std::string_view withoutTrailingSlashes(std::string_view path) {
 
 std::optional<URL> URL::fromString(std::string_view text) {
     const auto isControl = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; };
-    if (text.empty() || !UnicodeText::isValidUtf8(text) || std::any_of(text.begin(), text.end(), isControl))
+    if (text.empty() || !UnicodeText::isValidUtf8(text) || std::any_of(text.begin(), text.end(), isControl)) {
         return std::nullopt;
+    }
     URL url{std::string(text)};
     if (const auto authority = partsOf(text).authority;
-        authority && !url.hasPlaceholders() && !isGoodAuthority(*authority))
+        authority && !url.hasPlaceholders() && !isGoodAuthority(*authority)) {
         return std::nullopt;
+    }
     return url;
 }
 
@@ -158,8 +166,9 @@ URL URL::file(std::string_view path, bool isDirectory) {
         std::error_code unknown; // ignored: without a current directory the path becomes "/"
         absolute = std::filesystem::current_path(unknown).string() + "/" + absolute;
     }
-    if (isDirectory && !absolute.ends_with('/'))
+    if (isDirectory && !absolute.ends_with('/')) {
         absolute += '/';
+    }
     return URL("file://" + encoded(absolute, "/", false));
 }
 
@@ -167,8 +176,9 @@ std::string URL::absoluteString() const {
     // Reserved characters of the other parts stay. The first "#" starts the fragment; later ones are encoded.
     const auto fragment = std::min(text_.find('#'), text_.size());
     std::string result = encoded(std::string_view(text_).substr(0, fragment), "/?[]", true);
-    if (fragment < text_.size())
+    if (fragment < text_.size()) {
         result += "#" + encoded(std::string_view(text_).substr(fragment + 1), "/?", true);
+    }
     return result;
 }
 
@@ -200,11 +210,13 @@ URL URL::appendingPathComponent(std::string_view component, bool isDirectory) co
     const Parts parts = partsOf(text_);
     component.remove_prefix(std::min(component.find_first_not_of('/'), component.size()));
     std::string path(parts.path);
-    if (!path.ends_with('/') && (!path.empty() || parts.authority))
+    if (!path.ends_with('/') && (!path.empty() || parts.authority)) {
         path += '/';
+    }
     path += encoded(component, "/", false);
-    if (isDirectory && !path.ends_with('/'))
+    if (isDirectory && !path.ends_with('/')) {
         path += '/';
+    }
     const auto before = static_cast<std::size_t>(parts.path.data() - text_.data());
     return URL(text_.substr(0, before) + path + std::string(parts.rest));
 }

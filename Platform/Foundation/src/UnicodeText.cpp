@@ -31,15 +31,18 @@ bool isAsciiWord(const char *bytes) {
 }
 
 void throwIfFailed(UErrorCode status) {
-    if (status == U_MEMORY_ALLOCATION_ERROR)
+    if (status == U_MEMORY_ALLOCATION_ERROR) {
         throw std::bad_alloc();
-    if (U_FAILURE(status))
+    }
+    if (U_FAILURE(status)) {
         throw std::runtime_error(u_errorName(status));
+    }
 }
 
 icu::StringPiece pieceOf(std::string_view text) {
-    if (text.size() > static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max()))
+    if (text.size() > static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max())) {
         throw std::length_error("The text is too long.");
+    }
     return {text.data(), static_cast<std::int32_t>(text.size())};
 }
 
@@ -57,13 +60,15 @@ const icu::Normalizer2 &composer() {
 class Composed {
 public:
     explicit Composed(std::string_view text) : view_(text) {
-        if (isAscii(text))
+        if (isAscii(text)) {
             return;
+        }
         UErrorCode status = U_ZERO_ERROR;
         const bool isComposed = composer().isNormalizedUTF8(pieceOf(text), status) != 0;
         throwIfFailed(status);
-        if (isComposed)
+        if (isComposed) {
             return;
+        }
         icu::StringByteSink sink(&storage_);
         composer().normalizeUTF8(0, pieceOf(text), sink, nullptr, status);
         throwIfFailed(status);
@@ -81,8 +86,9 @@ private:
 
 // Returns true if a cut at this position doesn't separate a character from its combining marks.
 bool isBoundary(std::string_view composed, std::size_t position) {
-    if (position == 0 || position >= composed.size() || isAsciiByte(composed[position]))
+    if (position == 0 || position >= composed.size() || isAsciiByte(composed[position])) {
         return true;
+    }
     return composer().hasBoundaryBefore(decodeUtf8(composed, position).value) != 0;
 }
 
@@ -100,8 +106,9 @@ std::string mapped(std::string_view text, char first, char last, const Map &map)
     if (isAscii(text)) {
         result = text;
         for (char &character : result) {
-            if (character >= first && character <= last)
+            if (character >= first && character <= last) {
                 character = static_cast<char>(character ^ 0x20);
+            }
         }
         return result;
     }
@@ -116,10 +123,12 @@ std::size_t columnsOf(UChar32 character) {
     static constexpr UChar32 softHyphen = 0xAD;                               // a visible format character
     const bool isWithinSyllable = character >= 0x1160 && character <= 0x11FF; // Hangul vowels and finals
     const std::uint32_t shapeless = U_GC_MN_MASK | U_GC_ME_MASK | U_GC_CF_MASK | U_GC_CC_MASK;
-    if (character < 0 || character == softHyphen)
+    if (character < 0 || character == softHyphen) {
         return 1;
-    if (isWithinSyllable || (U_GET_GC_MASK(character) & shapeless) != 0)
+    }
+    if (isWithinSyllable || (U_GET_GC_MASK(character) & shapeless) != 0) {
         return 0;
+    }
     const auto width = u_getIntPropertyValue(character, UCHAR_EAST_ASIAN_WIDTH);
     return width == U_EA_WIDE || width == U_EA_FULLWIDTH ? 2 : 1;
 }
@@ -127,8 +136,9 @@ std::size_t columnsOf(UChar32 character) {
 } // namespace
 
 bool isAscii(std::string_view text) noexcept {
-    while (text.size() >= wordSize && isAsciiWord(text.data()))
+    while (text.size() >= wordSize && isAsciiWord(text.data())) {
         text.remove_prefix(wordSize);
+    }
     return std::all_of(text.begin(), text.end(), isAsciiByte);
 }
 
@@ -139,18 +149,21 @@ bool isValidUtf8(std::string_view text) noexcept {
             continue;
         }
         const DecodedCharacter character = decodeUtf8(text, 0);
-        if (character.value < 0)
+        if (character.value < 0) {
             return false;
+        }
         text.remove_prefix(character.length);
     }
     return true;
 }
 
 bool isEqual(std::string_view left, std::string_view right) {
-    if (left == right)
+    if (left == right) {
         return true;
-    if (isAscii(left) && isAscii(right))
+    }
+    if (isAscii(left) && isAscii(right)) {
         return false;
+    }
     return Composed(left).view() == Composed(right).view();
 }
 
@@ -165,8 +178,9 @@ bool contains(std::string_view text, std::string_view part) {
     const std::string_view in = composedText.view();
     const std::string_view wanted = composedPart.view();
     for (std::size_t at = in.find(wanted); at != std::string_view::npos; at = in.find(wanted, at + 1)) {
-        if (wanted.empty() || (isBoundary(in, at) && isBoundary(in, at + wanted.size())))
+        if (wanted.empty() || (isBoundary(in, at) && isBoundary(in, at + wanted.size()))) {
             return true;
+        }
     }
     return false;
 }
@@ -188,17 +202,20 @@ bool hasSuffix(std::string_view text, std::string_view suffix) {
 std::string_view trimmed(std::string_view text) noexcept {
     while (!text.empty()) {
         const DecodedCharacter first = decodeUtf8(text, 0);
-        if (!isWhiteSpace(first))
+        if (!isWhiteSpace(first)) {
             break;
+        }
         text.remove_prefix(first.length);
     }
     while (!text.empty()) {
         std::size_t start = text.size() - 1;
-        while (start > 0 && text.size() - start < 4 && isContinuation(text[start]))
+        while (start > 0 && text.size() - start < 4 && isContinuation(text[start])) {
             --start;
+        }
         const DecodedCharacter last = decodeUtf8(text, start);
-        if (!isWhiteSpace(last) || start + last.length != text.size())
+        if (!isWhiteSpace(last) || start + last.length != text.size()) {
             break;
+        }
         text.remove_suffix(last.length);
     }
     return text;
@@ -235,8 +252,9 @@ std::size_t lengthWithin(std::string_view text, std::size_t columns) {
     while (at < text.size()) {
         const DecodedCharacter character = decodeUtf8(text, at);
         const std::size_t taken = columnsOf(character.value);
-        if (taken > columns)
+        if (taken > columns) {
             break;
+        }
         columns -= taken;
         at += character.length;
     }

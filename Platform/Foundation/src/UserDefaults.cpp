@@ -33,16 +33,19 @@ struct Settings {
 Settings settingsAt(const std::string &path) {
     try {
         auto file = PropertyList::read(FileManager::defaultManager().contents(path, sizeLimit));
-        if (auto *dictionary = file.dictionary())
+        if (auto *dictionary = file.dictionary()) {
             return {std::move(*dictionary)};
+        }
         return {{}, true};
     } catch (const PropertyListError &) {
         return {{}, true};
     } catch (const FileError &error) {
-        if (error.as<FileError::TooLarge>() != nullptr)
+        if (error.as<FileError::TooLarge>() != nullptr) {
             return {{}, true};
-        if (error.as<FileError::NotFound>() == nullptr)
+        }
+        if (error.as<FileError::NotFound>() == nullptr) {
             throw;
+        }
         return {};
     }
 }
@@ -50,20 +53,23 @@ Settings settingsAt(const std::string &path) {
 void putAside(const std::string &path) {
     std::string aside = path + ".damaged-XXXXXX";
     const Descriptor place(mkostemp(aside.data(), O_CLOEXEC));
-    if (!place || std::rename(path.c_str(), aside.c_str()) != 0)
+    if (!place || std::rename(path.c_str(), aside.c_str()) != 0) {
         throw FileError::fromErrno(path, "put aside", errno);
+    }
 }
 
 // Locks out other processes until the descriptor is closed. The timeout keeps a stopped process that holds
 // the lock from blocking a start.
 Descriptor lockFile(const std::string &directory, const std::string &path) {
     Descriptor descriptor(open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!descriptor)
+    if (!descriptor) {
         throw FileError::fromErrno(path, "written", errno);
+    }
     const auto deadline = std::chrono::steady_clock::now() + lockTimeout;
     while (flock(descriptor.number(), LOCK_EX | LOCK_NB) != 0) {
-        if (errno != EINTR && (errno != EWOULDBLOCK || std::chrono::steady_clock::now() >= deadline))
+        if (errno != EINTR && (errno != EWOULDBLOCK || std::chrono::steady_clock::now() >= deadline)) {
             throw FileError::fromErrno(path, "locked", errno);
+        }
         std::this_thread::sleep_for(lockInterval);
     }
     return descriptor;
@@ -101,8 +107,9 @@ void UserDefaults::set(std::string_view key, std::string_view value) {
     Settings settings = settingsAt(path_);
     settings.values.set(key, value);
     const std::string text = textOf(path_, std::move(settings.values));
-    if (settings.isDamaged)
+    if (settings.isDamaged) {
         putAside(path_);
+    }
     files.writeAtomically(path_, text, fileMode);
 }
 

@@ -37,18 +37,21 @@ protected:
         const std::string title = process.executable.substr(process.executable.rfind('/') + 1);
         std::string stat = std::to_string(number) + " (" + title + ") S " + std::to_string(process.parent) +
                            " 1 1 0 -1 " + std::to_string(process.flags);
-        for (int field = 10; field < 22; ++field)
+        for (int field = 10; field < 22; ++field) {
             stat += " 0";
+        }
         directory_.write(name + "stat", stat + " " + std::to_string(++time_) + " 0 0\n");
         units_[number] = process.unit;
         std::string arguments = title;
-        for (const std::string &argument : process.arguments)
+        for (const std::string &argument : process.arguments) {
             arguments += '\0' + argument;
+        }
         directory_.write(name + "cmdline", arguments + '\0');
         directory_.write(name + "environ", "A=b" + std::string(1, '\0') + process.environment);
         std::filesystem::remove(directory_.path(name + "exe"));
-        if (!process.executable.empty())
+        if (!process.executable.empty()) {
             std::filesystem::create_symlink(process.executable, directory_.path(name + "exe"));
+        }
     }
 
     void end(int number) { std::filesystem::remove_all(directory_.path("proc/" + std::to_string(number))); }
@@ -66,14 +69,15 @@ protected:
     std::vector<std::string> look(int times = 1) {
         std::vector<std::string> identifiers;
         for (; times > 0; --times) {
-            for (const RunningApplication &application : watch().look())
+            for (const RunningApplication &application : watch().look()) {
                 identifiers.push_back(application.identifier);
+            }
         }
         return identifiers;
     }
 
     ProcessWatch &watch() {
-        if (!watch_)
+        if (!watch_) {
             watch_ = std::make_unique<ProcessWatch>(
                 ProcessWatch::Places{.processes = directory_.path("proc"),
                                      .applications = {directory_.path("applications")},
@@ -81,6 +85,7 @@ protected:
                                      .users = {geteuid()},
                                      .ownProcess = 60,
                                      .unitOfProcess = [this](int process) { return units_[process]; }});
+        }
         return *watch_;
     }
 
@@ -260,8 +265,9 @@ TEST_F(Machine, TellsNothingThatItStartedItself) {
 
 TEST_F(Machine, TellsInTheOrderOfTheStarts) {
     look();
-    for (const int number : {300, 200, 400})
+    for (const int number : {300, 200, 400}) {
         run(number, {.executable = "/opt/p" + std::to_string(number), .parent = 50});
+    }
     EXPECT_THAT(look(2), ElementsAre("p300", "p200", "p400"));
 }
 

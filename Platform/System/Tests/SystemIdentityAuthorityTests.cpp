@@ -21,11 +21,13 @@ class SystemIdentityAuthorityTest : public testing::Test {
 protected:
     static void SetUpTestSuite() {
         if (geteuid() != 0 || unshare(CLONE_NEWNS) != 0 ||
-            mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0)
+            mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) {
             return;
+        }
         std::string manyUsers;
-        for (int number = 0; number < 2000; ++number)
+        for (int number = 0; number < 2000; ++number) {
             manyUsers += (number == 0 ? "" : ",") + ("filler" + std::to_string(number));
+        }
         isPrivate_ = put("/etc/passwd", "root:x:0:0:root:/root:/bin/sh\n"
                                         "mira:x:1201:1301:Mira Holm,Room 4,555:/Users/mira:/bin/sh\n"
                                         "otto:x:1202:1302:& Berg:/Users/otto:/bin/sh\n"
@@ -37,8 +39,9 @@ protected:
     }
 
     void SetUp() override {
-        if (!isPrivate_)
+        if (!isPrivate_) {
             GTEST_SKIP() << "needs root and mount namespaces";
+        }
     }
 
     const SystemIdentityAuthority authority;
@@ -71,16 +74,18 @@ TEST_F(SystemIdentityAuthorityTest, FindsMembersOfPrimaryAndOtherGroups) {
         {"root", "admin", false},  // root is not a member of every group
         {"nobody-here", "admin", false}, {"otto", "no-such-group", false}, {"", "", false},
     };
-    for (const auto &each : cases)
+    for (const auto &each : cases) {
         EXPECT_EQ(authority.isMember(each.user, each.group), each.isMember)
             << each.user << " in " << each.group;
+    }
 }
 
 TEST_F(SystemIdentityAuthorityTest, TellsFullNamesAndNumbers) {
     const std::pair<const char *, std::optional<std::string>> names[] = {
         {"mira", "Mira Holm"}, {"otto", "Otto Berg"}, {"plain", {}}, {"_x", "_x"}, {"nobody-here", {}}};
-    for (const auto &[user, name] : names)
+    for (const auto &[user, name] : names) {
         EXPECT_EQ(authority.fullName(user), name) << user;
+    }
     EXPECT_EQ(authority.ids("mira"), (UserIds{1201, 1301}));
     EXPECT_EQ(authority.ids("nobody-here"), std::nullopt);
 }
@@ -97,8 +102,9 @@ TEST_F(SystemIdentityAuthorityTest, TakesTheActiveSessionsUserInPlaceOfRoot) {
     EXPECT_EQ(asked, 1);
 
     const std::optional<Session> noPersons[] = {{}, {{4242, "user"}}, {{1201, "greeter"}}, {{1201, ""}}};
-    for (const auto &session : noPersons)
+    for (const auto &session : noPersons) {
         EXPECT_EQ(SystemIdentityAuthority([&] { return session; }).consoleUserName(), "root");
+    }
 }
 
 TEST_F(SystemIdentityAuthorityTest, NeverAsksForTheSessionWhenNotRoot) {

@@ -42,8 +42,9 @@ TEST(SystemRunningApplications, TellAProcessOfThisMachine) {
     });
     std::vector<RunningApplication> started;
     auto observation = applications.observe([&](const RunningApplication &application) {
-        if (application.identifier == "velmar-test-program")
+        if (application.identifier == "velmar-test-program") {
             started.push_back(application);
+        }
     });
 
     char name[] = "program", time[] = "60";

@@ -22,8 +22,9 @@ constexpr std::string_view entrySuffix = ".desktop";
 // Returns a zeroed status if the item doesn't exist.
 struct stat statusOf(const std::string &path) {
     struct stat status {};
-    if (stat(path.c_str(), &status) != 0)
+    if (stat(path.c_str(), &status) != 0) {
         status = {};
+    }
     return status;
 }
 
@@ -38,11 +39,13 @@ std::map<std::string, std::string> mainGroup(const std::string &content) {
     std::istringstream lines(content);
     bool isMain = false;
     for (std::string line; std::getline(lines, line);) {
-        if (line.starts_with('['))
+        if (line.starts_with('[')) {
             isMain = line.starts_with("[Desktop Entry]");
+        }
         const std::size_t equals = line.find('=');
-        if (!isMain || equals == std::string::npos)
+        if (!isMain || equals == std::string::npos) {
             continue;
+        }
         const std::string key = line.substr(0, line.find_last_not_of(' ', equals - 1) + 1);
         const std::size_t value = line.find_first_not_of(' ', equals + 1);
         values.emplace(key, value == std::string::npos ? "" : line.substr(value));
@@ -61,14 +64,16 @@ std::vector<std::string> words(const std::string &command) {
             isOpen = false;
             continue;
         }
-        if (!std::exchange(isOpen, true))
+        if (!std::exchange(isOpen, true)) {
             result.emplace_back();
-        if (character == '"')
+        }
+        if (character == '"') {
             isQuoted = !isQuoted;
-        else if (isQuoted && character == '\\' && i + 1 < command.size())
+        } else if (isQuoted && character == '\\' && i + 1 < command.size()) {
             result.back() += command[++i];
-        else
+        } else {
             result.back() += character;
+        }
     }
     return result;
 }
@@ -84,17 +89,19 @@ Start startOf(const std::string &command) {
     const std::vector<std::string> all = words(command);
     std::size_t first = 0;
     if (!all.empty() && (all[0] == "env" || all[0] == "/usr/bin/env")) {
-        for (first = 1; first < all.size() && all[first].find('=') != std::string::npos;)
+        for (first = 1; first < all.size() && all[first].find('=') != std::string::npos;) {
             ++first;
+        }
     }
     Start start;
     for (std::size_t i = first; i < all.size(); ++i) {
-        if (i == first)
+        if (i == first) {
             start.program = all[i];
-        else if (all[i].starts_with('-'))
+        } else if (all[i].starts_with('-')) {
             ++start.options;
-        else if (!all[i].starts_with('%'))
+        } else if (!all[i].starts_with('%')) {
             start.isWhole = false;
+        }
     }
     return start;
 }
@@ -105,16 +112,18 @@ DesktopEntries::DesktopEntries(std::vector<std::string> directories, std::vector
     : directories_(std::move(directories)), executables_(std::move(executables)) {}
 
 std::string DesktopEntries::identifierFor(const std::string &executable) {
-    if (!isCurrent())
+    if (!isCurrent()) {
         read();
+    }
     const auto found = byExecutable_.find(executable);
     return found == byExecutable_.end() ? "" : found->second.second;
 }
 
 bool DesktopEntries::isCurrent() const {
     for (const auto &[path, time] : changes_) {
-        if (lastChange(statusOf(path)) != time)
+        if (lastChange(statusOf(path)) != time) {
             return false;
+        }
     }
     return !changes_.empty() || directories_.empty();
 }
@@ -124,16 +133,18 @@ void DesktopEntries::read() {
     seen_.clear();
     visited_.clear();
     byExecutable_.clear();
-    for (const std::string &directory : directories_)
+    for (const std::string &directory : directories_) {
         readDirectory(directory, "", 0);
+    }
 }
 
 void DesktopEntries::readDirectory(const std::string &path, const std::string &prefix, int depth) {
     // Recorded before reading the entries, so that a concurrent change causes another read.
     const struct stat status = statusOf(path);
     changes_[path] = lastChange(status);
-    if (!visited_.emplace(status.st_dev, status.st_ino).second)
+    if (!visited_.emplace(status.st_dev, status.st_ino).second) {
         return;
+    }
     const FileManager &files = FileManager::defaultManager();
     try {
         for (const std::string &name : files.contentsOfDirectory(path)) {
@@ -141,10 +152,11 @@ void DesktopEntries::readDirectory(const std::string &path, const std::string &p
             item.append("/").append(name);
             std::string identifier = prefix;
             identifier += name;
-            if (name.ends_with(entrySuffix))
+            if (name.ends_with(entrySuffix)) {
                 readEntry(item, identifier.substr(0, identifier.size() - entrySuffix.size()));
-            else if (depth < deepestDirectory && S_ISDIR(statusOf(item).st_mode))
+            } else if (depth < deepestDirectory && S_ISDIR(statusOf(item).st_mode)) {
                 readDirectory(item, identifier.append("-"), depth + 1);
+            }
         }
     } catch (const FileError &) {
         // A missing or unreadable directory counts as empty.
@@ -153,8 +165,9 @@ void DesktopEntries::readDirectory(const std::string &path, const std::string &p
 }
 
 void DesktopEntries::readEntry(const std::string &path, const std::string &identifier) {
-    if (!seen_.insert(identifier).second)
+    if (!seen_.insert(identifier).second) {
         return;
+    }
     std::map<std::string, std::string> values;
     try {
         values = mainGroup(FileManager::defaultManager().contents(path, largestEntry));
@@ -163,14 +176,17 @@ void DesktopEntries::readEntry(const std::string &path, const std::string &ident
     }
     // Sandboxed applications run in their own units and are started by the sandbox's launcher.
     if (values["Type"] != "Application" || values["Hidden"] == "true" || values.contains("X-Flatpak") ||
-        values.contains("X-SnapInstanceName"))
+        values.contains("X-SnapInstanceName")) {
         return;
+    }
     const Start start = startOf(values["Exec"]);
-    if (start.isWhole)
+    if (start.isWhole) {
         add(start.program, start.options, identifier);
+    }
     const std::string &tried = values["TryExec"];
-    if (!tried.empty() && tried != start.program)
+    if (!tried.empty() && tried != start.program) {
         add(tried, start.options, identifier);
+    }
 }
 
 void DesktopEntries::add(const std::string &program, std::size_t options, const std::string &identifier) {
@@ -178,17 +194,20 @@ void DesktopEntries::add(const std::string &program, std::size_t options, const 
     if (program.starts_with('/')) {
         places = {""};
     } else if (!program.empty()) {
-        for (const std::string &directory : executables_)
+        for (const std::string &directory : executables_) {
             places.push_back(directory + "/");
+        }
     }
     for (const std::string &place : places) {
         const OwnedText path(realpath((place + program).c_str(), nullptr));
-        if (path == nullptr)
+        if (path == nullptr) {
             continue;
+        }
         const Rank rank(options, identifier);
         const auto [known, isNew] = byExecutable_.emplace(path.get(), rank);
-        if (!isNew)
+        if (!isNew) {
             known->second = std::min(known->second, rank);
+        }
         return;
     }
 }

@@ -36,8 +36,9 @@ public:
     std::optional<Number> field(int wanted) {
         for (; next_ < wanted; ++next_) {
             const std::size_t blank = rest_.find(' ');
-            if (blank == std::string_view::npos)
+            if (blank == std::string_view::npos) {
                 return std::nullopt;
+            }
             rest_.remove_prefix(blank + 1);
         }
         return number<Number>(rest_.substr(0, rest_.find_first_of(" \n")));
@@ -57,16 +58,19 @@ std::vector<ProcessDirectory::Entry> ProcessDirectory::list() {
     std::vector<Entry> entries;
     entries.reserve(lastCount_ + lastCount_ / 4);
     // readdir would reopen the directory and copy each name.
-    if (lseek(descriptor_.number(), 0, SEEK_SET) != 0)
+    if (lseek(descriptor_.number(), 0, SEEK_SET) != 0) {
         return entries;
+    }
     for (;;) {
         const long size = syscall(SYS_getdents64, descriptor_.number(), buffer_.data(), buffer_.size());
-        if (size <= 0)
+        if (size <= 0) {
             break;
+        }
         for (const char *at = buffer_.data(); at < buffer_.data() + size;) {
             const auto *entry = reinterpret_cast<const dirent64 *>(at);
-            if (const auto process = number<std::int32_t>(entry->d_name))
+            if (const auto process = number<std::int32_t>(entry->d_name)) {
                 entries.push_back({*process, entry->d_ino});
+            }
             at += entry->d_reclen;
         }
     }
@@ -81,16 +85,18 @@ std::optional<ProcessRecord> ProcessDirectory::record(std::int32_t process) cons
     // The name may contain parentheses and blanks.
     const std::size_t open = text.find('(');
     const std::size_t close = text.rfind(") ");
-    if (open == std::string::npos || close == std::string::npos || close < open)
+    if (open == std::string::npos || close == std::string::npos || close < open) {
         return std::nullopt;
+    }
     StatFields fields(std::string_view(text).substr(close + 2));
     const auto parent = fields.field<std::int32_t>(4);
     const auto flags = fields.field<std::uint64_t>(9);
     const auto startTime = fields.field<std::uint64_t>(22);
     struct stat status {};
     const std::string name = std::to_string(process);
-    if (!parent || !flags || !startTime || fstatat(descriptor_.number(), name.c_str(), &status, 0) != 0)
+    if (!parent || !flags || !startTime || fstatat(descriptor_.number(), name.c_str(), &status, 0) != 0) {
         return std::nullopt;
+    }
 
     ProcessRecord record{.parent = *parent,
                          .startTime = *startTime,
@@ -101,12 +107,14 @@ std::optional<ProcessRecord> ProcessDirectory::record(std::int32_t process) cons
     char target[4096];
     const ssize_t length =
         readlinkat(descriptor_.number(), (name + "/exe").c_str(), static_cast<char *>(target), sizeof target);
-    if (length > 0)
+    if (length > 0) {
         record.executable.assign(static_cast<const char *>(target), static_cast<std::size_t>(length));
+    }
     // The kernel's mark of a file that was replaced, such as by an update.
     constexpr std::string_view deleted = " (deleted)";
-    if (record.executable.ends_with(deleted))
+    if (record.executable.ends_with(deleted)) {
         record.executable.resize(record.executable.size() - deleted.size());
+    }
     return record;
 }
 
@@ -117,8 +125,9 @@ std::string ProcessDirectory::contents(std::int32_t process, const char *file, s
     std::size_t size = 0;
     while (opened && size < limit) {
         const ssize_t count = read(opened.number(), text.data() + size, limit - size);
-        if (count <= 0)
+        if (count <= 0) {
             break;
+        }
         size += static_cast<std::size_t>(count);
     }
     text.resize(size);

@@ -37,8 +37,9 @@ std::string fileName(const std::string &path) {
 std::string firstLine(const std::string &path) {
     const Descriptor place(open(path.c_str(), O_PATH | O_CLOEXEC));
     struct stat status {};
-    if (!place || fstat(place.number(), &status) != 0 || !S_ISREG(status.st_mode))
+    if (!place || fstat(place.number(), &status) != 0 || !S_ISREG(status.st_mode)) {
         return "";
+    }
     const Descriptor file(
         open(("/proc/self/fd/" + std::to_string(place.number())).c_str(), O_RDONLY | O_CLOEXEC));
     std::string text(firstLineLimit, '\0');
@@ -50,17 +51,20 @@ std::string firstLine(const std::string &path) {
 // Returns true if the file is a script for the program, whose path must have no links.
 bool isScript(const std::string &path, const std::string &program) {
     const std::string line = firstLine(path);
-    if (!line.starts_with("#!"))
+    if (!line.starts_with("#!")) {
         return false;
+    }
     std::istringstream words(line.substr(2));
     std::string interpreter;
     words >> interpreter;
-    if (fileName(interpreter) != "env")
+    if (fileName(interpreter) != "env") {
         return withoutLinks(interpreter) == program;
+    }
     // env searches by name; the executable's name may have a version appended.
     while (words >> interpreter) {
-        if (!interpreter.starts_with('-') && interpreter.find('=') == std::string::npos)
+        if (!interpreter.starts_with('-') && interpreter.find('=') == std::string::npos) {
             return fileName(program).starts_with(fileName(interpreter));
+        }
     }
     return false;
 }
@@ -69,8 +73,9 @@ bool isScript(const std::string &path, const std::string &program) {
 std::string value(std::string_view environment, std::string_view name) {
     while (!environment.empty()) {
         const std::string_view entry = environment.substr(0, environment.find('\0'));
-        if (entry.size() > name.size() && entry.starts_with(name) && entry[name.size()] == '=')
+        if (entry.size() > name.size() && entry.starts_with(name) && entry[name.size()] == '=') {
             return std::string(entry.substr(name.size() + 1));
+        }
         environment.remove_prefix(std::min(environment.size(), entry.size() + 1));
     }
     return "";
@@ -94,13 +99,16 @@ ApplicationIdentity ProcessIdentities::identityOf(std::int32_t process, const Pr
         }
         return {std::move(identifier), std::move(unit)};
     }
-    if (record.executable.empty())
+    if (record.executable.empty()) {
         return {record.name, ""};
-    if (std::string identifier = entries_.identifierFor(record.executable); !identifier.empty())
+    }
+    if (std::string identifier = entries_.identifierFor(record.executable); !identifier.empty()) {
         return {std::move(identifier), ""};
+    }
     const std::string script = scriptOf(process, record.executable);
-    if (script.empty())
+    if (script.empty()) {
         return {fileName(record.executable), ""};
+    }
     std::string identifier = entries_.identifierFor(script);
     return {identifier.empty() ? fileName(script) : std::move(identifier), ""};
 }
@@ -113,8 +121,9 @@ std::string ProcessIdentities::scriptOf(std::int32_t process, const std::string 
         const std::size_t end = arguments.find('\0', begin + 1);
         const std::string argument = arguments.substr(begin + 1, end - begin - 1);
         begin = end;
-        if (argument.empty() || argument.starts_with('-'))
+        if (argument.empty() || argument.starts_with('-')) {
             continue;
+        }
         const std::string path =
             argument.starts_with('/') ? argument : directory_.workingDirectory(process) + argument;
         std::string script = isScript(path, interpreter) ? withoutLinks(path) : "";

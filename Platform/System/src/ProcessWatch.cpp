@@ -54,23 +54,27 @@ public:
                       std::move(places.unitOfProcess)),
           users_(std::move(places.users)),
           ownProcess_(places.ownProcess) {
-        for (const auto &entry : directory_.list())
+        for (const auto &entry : directory_.list()) {
             known_.push_back(Known{.entry = entry});
+        }
     }
 
     std::vector<RunningApplication> look() {
         // Deferred to the first look because it takes long.
-        if (!std::exchange(isRead_, true))
+        if (!std::exchange(isRead_, true)) {
             readKnown();
+        }
         told_.clear();
         compare(directory_.list());
         readNew();
-        for (const Known &process : ended_)
+        for (const Known &process : ended_) {
             leaveUnit(process.identity);
+        }
         std::sort(told_.begin(), told_.end(), isEarlier);
         std::vector<RunningApplication> applications;
-        for (Known &process : told_)
+        for (Known &process : told_) {
             applications.push_back({std::move(process.identity.identifier), process.entry.process});
+        }
         return applications;
     }
 
@@ -91,10 +95,12 @@ private:
         ended_.clear();
         auto former = known_.begin();
         for (const auto &entry : entries) {
-            while (former != known_.end() && former->entry.process < entry.process)
+            while (former != known_.end() && former->entry.process < entry.process) {
                 ended_.push_back(std::move(*former++));
-            if (former != known_.end() && former->entry.process == entry.process && !isSame(*former, entry))
+            }
+            if (former != known_.end() && former->entry.process == entry.process && !isSame(*former, entry)) {
                 ended_.push_back(std::move(*former++));
+            }
             if (former != known_.end() && former->entry.process == entry.process) {
                 current.push_back(std::move(*former++));
                 current.back().entry = entry;
@@ -112,8 +118,9 @@ private:
 
     // A process number may have been reused.
     [[nodiscard]] bool isSame(const Known &process, const ProcessDirectory::Entry &entry) const {
-        if (process.entry.inode == entry.inode)
+        if (process.entry.inode == entry.inode) {
             return true;
+        }
         const auto record = directory_.record(entry.process);
         return record && record->startTime == process.record.startTime;
     }
@@ -121,8 +128,9 @@ private:
     void readNew() {
         std::vector<Known *> pending;
         for (Known &process : known_) {
-            if (process.readings > 0 && readRecord(process))
+            if (process.readings > 0 && readRecord(process)) {
                 pending.push_back(&process);
+            }
         }
         // Parents must precede their children.
         std::sort(pending.begin(), pending.end(),
@@ -130,15 +138,17 @@ private:
         for (Known *process : pending) {
             --process->readings;
             const bool isAsBefore = identify(*process);
-            if (isAsBefore || !process->identity.unit.empty() || process->readings == 0)
+            if (isAsBefore || !process->identity.unit.empty() || process->readings == 0) {
                 tell(*process);
+            }
         }
     }
 
     bool readRecord(Known &process) const {
         auto record = directory_.record(process.entry.process);
-        if (record)
+        if (record) {
             process.record = std::move(*record);
+        }
         // Stored, because it must survive the parent's end.
         process.isOwn = isOwn(process);
         return record.has_value();
@@ -147,8 +157,9 @@ private:
     [[nodiscard]] bool isOwn(const Known &process) const {
         const Known *ancestor = &process;
         for (int i = 0; ancestor != nullptr && i < mostGenerations; ++i) {
-            if (ancestor->isOwn || ancestor->entry.process == ownProcess_)
+            if (ancestor->isOwn || ancestor->entry.process == ownProcess_) {
                 return true;
+            }
             ancestor = known(ancestor->record.parent);
         }
         return false;
@@ -160,25 +171,30 @@ private:
                                std::find(users_.begin(), users_.end(), process.record.user) != users_.end();
         ApplicationIdentity identity =
             isWatched ? identities_.identityOf(process.entry.process, process.record) : ApplicationIdentity();
-        if (identity == process.identity)
+        if (identity == process.identity) {
             return true;
+        }
         leaveUnit(process.identity);
         process.identity = std::move(identity);
         process.isPart = isPart(process);
-        if (!process.identity.unit.empty())
+        if (!process.identity.unit.empty()) {
             ++unitSizes_[process.identity.unit];
+        }
         return false;
     }
 
     [[nodiscard]] bool isPart(const Known &process) const {
         const ApplicationIdentity &identity = process.identity;
-        if (!identity.unit.empty())
+        if (!identity.unit.empty()) {
             return unitSizes_.contains(identity.unit);
+        }
         const Known *parent = known(process.record.parent);
-        if (parent == nullptr)
+        if (parent == nullptr) {
             return false;
-        if (parent->identity.identifier == identity.identifier)
+        }
+        if (parent->identity.identifier == identity.identifier) {
             return true;
+        }
         // Orphans are adopted by process 1 or by the user's service manager.
         const bool isOrphan = parent->entry.process == 1 || parent->record.name == "systemd";
         return isOrphan && endedIdentifiers_.contains(identity.identifier);
@@ -192,8 +208,9 @@ private:
     }
 
     void tell(Known &process) {
-        if (process.isTold || process.isPart || process.isOwn || process.identity.identifier.empty())
+        if (process.isTold || process.isPart || process.isOwn || process.identity.identifier.empty()) {
             return;
+        }
         process.isTold = true;
         process.readings = 0;
         told_.push_back(process);
@@ -201,8 +218,9 @@ private:
 
     void leaveUnit(const ApplicationIdentity &identity) {
         const auto unit = unitSizes_.find(identity.unit);
-        if (unit != unitSizes_.end() && --unit->second == 0)
+        if (unit != unitSizes_.end() && --unit->second == 0) {
             unitSizes_.erase(unit);
+        }
     }
 
     ProcessDirectory directory_;
@@ -223,15 +241,18 @@ ProcessWatch::Places ProcessWatch::placesOfProcess(const IdentityAuthority &auth
                   .users = {geteuid()},
                   .ownProcess = getpid(),
                   .unitOfProcess = unitOfProcess};
-    for (const std::string &directory : UserDirectories::data())
+    for (const std::string &directory : UserDirectories::data()) {
         places.applications.push_back(directory + "/applications");
+    }
     const char *path = std::getenv("PATH"); // NOLINT(concurrency-mt-unsafe): nothing changes the environment
     std::istringstream directories(path == nullptr ? "/usr/local/bin:/usr/bin:/bin" : path);
-    for (std::string directory; std::getline(directories, directory, ':');)
+    for (std::string directory; std::getline(directories, directory, ':');) {
         places.executables.push_back(directory);
+    }
     if (const auto console = authority.ids(authority.consoleUserName());
-        console && console->userId != geteuid() && geteuid() == 0)
+        console && console->userId != geteuid() && geteuid() == 0) {
         places.users.push_back(console->userId);
+    }
     return places;
 }
 

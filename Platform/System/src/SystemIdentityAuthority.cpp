@@ -26,20 +26,23 @@ std::vector<gid_t> groupsOf(const UserAccount &user) {
         // getgrouplist returns the needed count, which may be outdated by then.
         groups.resize(isWhole ? static_cast<std::size_t>(count)
                               : std::max(static_cast<std::size_t>(count), groups.size() + 1));
-        if (isWhole)
+        if (isWhole) {
             return groups;
+        }
     }
 }
 
 std::optional<SystemIdentityAuthority::Session> activeSessionOfFirstSeat() {
     char *session = nullptr;
     uid_t user = 0;
-    if (sd_seat_get_active("seat0", &session, &user) < 0)
+    if (sd_seat_get_active("seat0", &session, &user) < 0) {
         return std::nullopt;
+    }
     const OwnedText identifier(session);
     char *kind = nullptr;
-    if (sd_session_get_class(session, &kind) < 0)
+    if (sd_session_get_class(session, &kind) < 0) {
         return std::nullopt;
+    }
     const OwnedText owned(kind);
     return SystemIdentityAuthority::Session{user, kind};
 }
@@ -54,26 +57,30 @@ SystemIdentityAuthority::SystemIdentityAuthority(ActiveSession activeSession)
 bool SystemIdentityAuthority::isMember(const std::string &userName, const std::string &groupName) const {
     const auto user = UserAccount::named(userName);
     const auto group = GroupAccount::named(groupName);
-    if (!user || !group)
+    if (!user || !group) {
         return false;
+    }
     const std::vector<gid_t> groups = groupsOf(*user);
     return std::find(groups.begin(), groups.end(), group->groupId) != groups.end();
 }
 
 std::optional<std::string> SystemIdentityAuthority::fullName(const std::string &userName) const {
     const auto user = UserAccount::named(userName);
-    if (!user)
+    if (!user) {
         return std::nullopt;
+    }
     std::string_view field = user->description;
     field = field.substr(0, field.find(','));
 
     // An "&" in the field means, by convention, the capitalised account name.
     std::string account = userName;
-    if (!account.empty() && account.front() >= 'a' && account.front() <= 'z')
+    if (!account.empty() && account.front() >= 'a' && account.front() <= 'z') {
         account.front() = static_cast<char>(account.front() - 'a' + 'A');
+    }
     std::string name;
-    for (const char character : field)
+    for (const char character : field) {
         character == '&' ? name += account : name += character;
+    }
     return name.empty() ? std::nullopt : std::optional(std::move(name));
 }
 
@@ -90,14 +97,17 @@ std::string SystemIdentityAuthority::processUserName() const {
 std::string SystemIdentityAuthority::consoleUserName() const {
     std::call_once(consoleUserFound_, [this] {
         consoleUser_ = processUserName();
-        if (consoleUser_ != "root")
+        if (consoleUser_ != "root") {
             return;
+        }
         const auto session = activeSession_();
         // A login screen's session has another class.
-        if (!session || session->kind != "user")
+        if (!session || session->kind != "user") {
             return;
-        if (const auto user = UserAccount::numbered(session->userId))
+        }
+        if (const auto user = UserAccount::numbered(session->userId)) {
             consoleUser_ = user->name;
+        }
     });
     return consoleUser_;
 }

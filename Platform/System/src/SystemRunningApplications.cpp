@@ -26,16 +26,18 @@ struct Watched {
 void tell(const std::shared_ptr<Watched> &watched, const std::vector<RunningApplication> &started) {
     for (const RunningApplication &application : started) {
         // The observer may have ended its own observation.
-        if (const auto observer = watched->observer)
+        if (const auto observer = watched->observer) {
             (*observer)(application);
+        }
     }
 }
 
 void look(const std::shared_ptr<Watched> &watched) {
     auto started = watched->watch.look();
     const std::lock_guard lock(watched->mutex);
-    if (watched->mainQueue != nullptr && !started.empty())
+    if (watched->mainQueue != nullptr && !started.empty()) {
         watched->mainQueue->async([watched, started = std::move(started)] { tell(watched, started); });
+    }
 }
 
 } // namespace

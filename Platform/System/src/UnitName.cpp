@@ -45,29 +45,34 @@ std::string identifierOfDesktop(std::string_view name, bool isScope) {
         isScope || parts.size() > 2 ||
         (parts.size() == 2 && parts[0].find('.') != std::string::npos &&
          parts[1].find('.') == std::string::npos); // "org.example.App-123": no launcher has dots.
-    if (hasRandom && parts.size() > 1)
+    if (hasRandom && parts.size() > 1) {
         parts.pop_back();
+    }
     // A launcher that doesn't escape the dashes of an identifier leaves more than one part of it.
     const std::size_t begin = parts.size() > 1 ? 1 : 0;
     std::string identifier;
-    for (std::size_t i = begin; i < parts.size(); ++i)
+    for (std::size_t i = begin; i < parts.size(); ++i) {
         identifier += (i == begin ? "" : "-") + unescaped(parts[i]);
+    }
     constexpr std::string_view entrySuffix = ".desktop";
-    if (identifier.ends_with(entrySuffix))
+    if (identifier.ends_with(entrySuffix)) {
         identifier.resize(identifier.size() - entrySuffix.size());
+    }
     return identifier;
 }
 
 // Parses NAME.APP-UUID or NAME.APP.UUID into NAME_APP, the desktop entry's identifier. A daemon has no UUID
 // and no identifier.
 std::string identifierOfSnap(std::string_view name) {
-    if (name.size() <= uuidLength + 1)
+    if (name.size() <= uuidLength + 1) {
         return "";
+    }
     name.remove_suffix(uuidLength + 1);
     std::string identifier = unescaped(name);
     const std::size_t dot = identifier.find('.');
-    if (dot == std::string::npos)
+    if (dot == std::string::npos) {
         return "";
+    }
     identifier[dot] = '_';
     return identifier;
 }
@@ -85,12 +90,14 @@ std::string unitOfProcess(std::int32_t process) {
 
 std::string applicationOfUnit(std::string_view unit) {
     const bool isScope = unit.ends_with(scopeSuffix);
-    if (!isScope && !unit.ends_with(serviceSuffix))
+    if (!isScope && !unit.ends_with(serviceSuffix)) {
         return "";
+    }
     unit.remove_suffix(isScope ? scopeSuffix.size() : serviceSuffix.size());
     for (const std::string_view prefix : {"app-", "flatpak-"}) {
-        if (unit.starts_with(prefix))
+        if (unit.starts_with(prefix)) {
             return identifierOfDesktop(unit.substr(prefix.size()), isScope);
+        }
     }
     constexpr std::string_view snap = "snap.";
     return isScope && unit.starts_with(snap) ? identifierOfSnap(unit.substr(snap.size())) : "";

@@ -77,8 +77,9 @@ std::shared_ptr<TestTimerScheduler::Entry> TestTimerScheduler::nextDue(std::chro
     std::shared_ptr<Entry> next;
     for (const auto &each : entries_) {
         const auto entry = each.lock();
-        if (entry->due <= end && (!next || entry->due < next->due))
+        if (entry->due <= end && (!next || entry->due < next->due)) {
             next = entry;
+        }
     }
     return next;
 }

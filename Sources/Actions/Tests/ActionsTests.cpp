@@ -1,13 +1,11 @@
-#include <Actions/ActionContext.h>
-#include <Actions/Dispatchable.h>
-#include <Actions/DispatchableItem.h>
-#include <Configuration/Configuration.h>
-#include <Variables/ConditionEvaluator.h>
 #include <Actions/Action.h>
+#include <Actions/ActionContext.h>
 #include <Actions/ActionSurroundings.h>
 #include <Actions/Dispatchable.h>
 #include <Actions/DispatchableItem.h>
 #include <Actions/SlideWindowPresenter.h>
+#include <Configuration/Configuration.h>
+#include <Variables/ConditionEvaluator.h>
 
 #include <Support/FactoryTableTest.h>
 #include <Support/RecordedLog.h>

@@ -22,8 +22,9 @@ concept OperatorProtocol = std::equality_comparable<T> && requires(const T &each
 template <OperatorProtocol T>
 [[nodiscard]] std::optional<T> operatorWithText(std::string_view text) noexcept {
     for (const T &each : T::all()) {
-        if (each.description() == text)
+        if (each.description() == text) {
             return each;
+        }
     }
     return std::nullopt;
 }

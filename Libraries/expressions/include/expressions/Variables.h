@@ -42,12 +42,15 @@ private:
     // Faster than memcmp for short names: compares two overlapping words.
     static bool isSame(std::string_view left, std::string_view right) noexcept {
         const std::size_t size = left.size();
-        if (size != right.size())
+        if (size != right.size()) {
             return false;
-        if (size >= 4 && size <= 8)
+        }
+        if (size >= 4 && size <= 8) {
             return areWords<std::uint32_t>(left, right);
-        if (size > 8 && size <= 16)
+        }
+        if (size > 8 && size <= 16) {
             return areWords<std::uint64_t>(left, right);
+        }
         return left == right;
     }
     // Compares the first and the last word of two texts of equal size, between one and two words long.
@@ -85,8 +88,9 @@ private:
     template <class Name>
     const std::string *found(const Name &name) const {
         if (named != nullptr) {
-            if (const auto at = named->find(name); at != named->end())
+            if (const auto at = named->find(name); at != named->end()) {
                 return &at->second;
+            }
         }
         const auto at = variables.find(name);
         return at != variables.end() ? &at->second : nullptr;

@@ -11,8 +11,9 @@ public:
     SignalsBlocked() noexcept {
         sigset_t blocked;
         sigfillset(&blocked);
-        for (const int fault : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGTRAP, SIGABRT, SIGSYS})
+        for (const int fault : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGTRAP, SIGABRT, SIGSYS}) {
             sigdelset(&blocked, fault);
+        }
         pthread_sigmask(SIG_SETMASK, &blocked, &former_);
     }
     ~SignalsBlocked() { pthread_sigmask(SIG_SETMASK, &former_, nullptr); }

@@ -13,8 +13,9 @@ public:
     explicit Descriptor(int number = -1) noexcept : number_(number) {}
     Descriptor(Descriptor &&other) noexcept : number_(std::exchange(other.number_, -1)) {}
     Descriptor &operator=(Descriptor &&other) noexcept {
-        if (this != &other)
+        if (this != &other) {
             reset(std::exchange(other.number_, -1));
+        }
         return *this;
     }
     ~Descriptor() { reset(-1); }
@@ -26,8 +27,9 @@ public:
 
 private:
     void reset(int number) noexcept {
-        if (number_ >= 0)
+        if (number_ >= 0) {
             close(number_);
+        }
         number_ = number;
     }
 

@@ -20,12 +20,14 @@ namespace velmar {
 
 inline std::optional<double> numberOf(const std::string &text) noexcept {
     constexpr std::size_t exactDigits = 15;
-    if (text.empty() || text.size() > exactDigits)
+    if (text.empty() || text.size() > exactDigits) {
         return numberByLibrary(text);
+    }
     std::int64_t number = 0;
     for (const char character : text) {
-        if (character < '0' || character > '9')
+        if (character < '0' || character > '9') {
             return numberByLibrary(text);
+        }
         number = number * 10 + (character - '0');
     }
     return static_cast<double>(number);

@@ -14,8 +14,9 @@ class TemporaryDirectory {
 public:
     TemporaryDirectory() {
         std::string pattern = (std::filesystem::temp_directory_path() / "velmar-test-XXXXXX").string();
-        if (mkdtemp(pattern.data()) == nullptr)
+        if (mkdtemp(pattern.data()) == nullptr) {
             throw std::runtime_error("no temporary directory");
+        }
         path_ = pattern;
     }
     ~TemporaryDirectory() {

@@ -19,8 +19,9 @@ public:
 
     /// Answers the oldest waiting alert. Throws std::logic_error if there is none.
     void answer(std::size_t button) {
-        if (waiting_.empty())
+        if (waiting_.empty()) {
             throw std::logic_error("no alert waits");
+        }
         const Completion completion = std::move(waiting_.front());
         waiting_.pop_front();
         completion(button);

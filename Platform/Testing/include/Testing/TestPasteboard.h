@@ -13,8 +13,9 @@ public:
     bool accepts = true;
 
     [[nodiscard]] bool setString(const std::string &text) override {
-        if (accepts)
+        if (accepts) {
             content = text;
+        }
         return accepts;
     }
 };

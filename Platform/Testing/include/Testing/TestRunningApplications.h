@@ -16,16 +16,19 @@ public:
     void start(const std::string &identifier) {
         const RunningApplication application{identifier, ++lastProcess_};
         const auto observers = observers_;
-        for (const auto &each : observers)
-            if (const auto observer = each.lock())
+        for (const auto &each : observers) {
+            if (const auto observer = each.lock()) {
                 (*observer)(application);
+            }
+        }
     }
 
     /// Returns the number of active observations.
     [[nodiscard]] std::size_t observations() const {
         std::size_t count = 0;
-        for (const auto &each : observers_)
+        for (const auto &each : observers_) {
             count += each.expired() ? 0 : 1;
+        }
         return count;
     }
 

@@ -27,8 +27,9 @@ public:
     /// Ends the oldest playing sound. Throws std::logic_error if there is none.
     void end(const SoundOutcome &outcome = {.hasFinished = true, .problem = {}}) {
         std::unique_lock lock(mutex_);
-        if (playing_.empty())
+        if (playing_.empty()) {
             throw std::logic_error("no sound plays");
+        }
         const Completion completion = std::move(playing_.front());
         playing_.pop_front();
         lock.unlock();

@@ -16,8 +16,9 @@ public:
 
     /// Simulates a press of an action's button, or a tap on the body.
     void respond(std::optional<std::string> actionIdentifier) {
-        if (const auto delegate = delegate_.lock())
+        if (const auto delegate = delegate_.lock()) {
             delegate->didReceive({std::move(actionIdentifier)}, [this] { ++handledResponses; });
+        }
     }
 
     void setDelegate(std::weak_ptr<UserNotificationsDelegate> delegate) override {
