@@ -1,6 +1,5 @@
 #include <Actions/Action.h>
 #include <Actions/ActionContext.h>
-#include <Actions/ActionSurroundings.h>
 #include <Actions/Dispatchable.h>
 #include <Actions/DispatchableItem.h>
 #include <Actions/SlideWindowPresenter.h>
@@ -56,11 +55,6 @@ public:
     void navigateToIndex(std::int64_t index) override { requests += fmt::format("index {} ", index); }
     void navigateByOffset(std::int64_t offset) override { requests += fmt::format("offset {} ", offset); }
     std::string requests;
-};
-
-struct NoWindows final : SlideWindowPresenter {
-    void open(std::shared_ptr<const ActionItems::OpenWindow> /*item*/) override {}
-    void close() override {}
 };
 
 struct ScriptedAction final : Action {
@@ -144,14 +138,14 @@ TEST_F(ActionsTest, TellTheirEndOnceAndLetGoOfTheirBlock) {
     };
     for (const auto &[work, outcomes, errors] : cases) {
         auto started = std::make_shared<ScriptedAction>(
-            action("<key>Type</key><string>TerminateApp</string>"), surroundings_);
+            action("<key>Type</key><string>TerminateApp</string>"), context_);
         started->work = work;
         outcomes_.clear();
         started->setSuccessCompletionBlock(
             [this, started](bool success) { outcomes_ += success ? "true " : "false "; });
         const std::weak_ptr<Action> watched = started;
         std::exchange(started, nullptr)->dispatch();
-        mainQueue_.runUntilEmpty();
+        services_.mainQueue.runUntilEmpty();
         const auto row = &work - &cases[0].work;
         EXPECT_EQ(outcomes_, outcomes) << row;
         EXPECT_TRUE(watched.expired()) << row;
@@ -165,8 +159,8 @@ TEST_F(ActionsTest, AnswerAnAlertWithTheTextOfItsButton) {
         "<key>Message</key><string>M</string><key>Style</key><string>Critical</string>"
         "<key>Variable</key><string>ANSWER</string><key>IconPath</key><string>/icon.png</string>"
         "<key>ButtonsText</key><array><string>Now</string><string>Later</string></array>");
-    EXPECT_THAT(alerts_.alerts.back().buttons, ElementsAre("Now", "Later"));
-    EXPECT_NE(alerts_.alerts.back().icon, nullptr);
+    EXPECT_THAT(services_.alerts.alerts.back().buttons, ElementsAre("Now", "Later"));
+    EXPECT_NE(services_.alerts.alerts.back().icon, nullptr);
     EXPECT_EQ(outcomes_, "");
     services_.alerts.answer(1);
     EXPECT_EQ(outcomes_, "true ");
@@ -182,7 +176,7 @@ TEST_F(ActionsTest, ShowAnAlertOfEachStyle) {
                         "<key>Message</key><string>M</string><key>Style</key><string>{}</string>"
                         "<key>ButtonsText</key><array><string>OK</string></array>",
                         name));
-        EXPECT_EQ(alerts_.alerts.back().style, style) << name;
+        EXPECT_EQ(services_.alerts.alerts.back().style, style) << name;
     }
 }
 

@@ -23,9 +23,13 @@ public:
     void updateVariables(const std::map<std::string, std::string> & /*variables*/) override {}
     void updatePlaceholder(GeneralSection::Placeholders /*name*/, std::string /*value*/) override {}
     [[nodiscard]] VariablesSnapshot variables() const override { return variables_.variables(); }
-    void addObserver(const UUID &identity, std::weak_ptr<ContentManagerObserver> observer) override {
+    void addObserver(const UUID &identity, std::weak_ptr<ContentManagerObserver> observer,
+                     ObservedNames names) override {
         observers.insert(identity);
-        variables_.addObserver(identity, std::move(observer));
+        variables_.addObserver(identity, std::move(observer), std::move(names));
+    }
+    void setObservedNames(const UUID &identity, ObservedNames names) override {
+        variables_.setObservedNames(identity, std::move(names));
     }
     void removeObserver(const UUID &identity) override {
         observers.erase(identity);
