@@ -115,7 +115,10 @@ void NavigationViewController::reachedSlide(const SlideArrival &arrival) {
 void NavigationViewController::apply(const NavigationState &state, int milliseconds) {
     nextButton_->setLabel(state.nextButtonQuits() ? quitLabel_ : nextLabel_);
     nextButton_->setConcealed(state.isNextButtonHidden(), milliseconds);
-    previousButton_->setConcealed(state.isPreviousButtonHidden(), milliseconds);
+    // A sole slide leaves Previous as it is.
+    if (state.position != SlidePosition::sole) {
+        previousButton_->setConcealed(state.isPreviousButtonHidden(), milliseconds);
+    }
 }
 
 int NavigationViewController::animationDuration() const {
