@@ -63,6 +63,29 @@ TEST_F(StatusItems, HaveAPopoverOnTheScreenThatIsHiddenRatherThanClosed) {
     EXPECT_EQ(popover.window().content(), content);
 }
 
+TEST_F(StatusItems, HaveAPopoverThatIsActiveHoweverSoonItIsCalledBack) {
+    MainMenu menu;
+    Popover popover(menu);
+    const auto click = [&popover] {
+        popover.toggle({0, 0, 1, 1}, {100, 100}, Popover::Behavior::semitransient);
+        QCoreApplication::processEvents();
+        return popover.window().isVisible();
+    };
+    EXPECT_TRUE(click());
+    EXPECT_TRUE(popover.window().isActiveWindow());
+    EXPECT_FALSE(click());
+    EXPECT_FALSE(click()) << "the toolkit still takes it for the window with the keyboard";
+    EXPECT_FALSE(click()) << "one more click takes the call back";
+    EXPECT_FALSE(click());
+    QWidget other; // Gets the keyboard on the platform of the tests, which has no window manager.
+    other.show();
+    while (!popover.window().isVisible()) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(popover.window().isActiveWindow());
+}
+
 TEST_F(StatusItems, KnowTheSizeOfAPictureHoweverLargeItIs) {
     const TemporaryDirectory directory;
     for (const QSize size : {QSize(28, 20), QSize(18, 18), QSize(4000, 10)}) {

@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QScreen>
-#include <QTimer>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -21,6 +21,9 @@ constexpr int sameClick = 250;
 // Milliseconds for the keyboard to return from an alert, even on a busy machine.
 constexpr int keyboardsReturn = 1000;
 
+// Milliseconds after which a popover is shown even if the loss of its keyboard has not been reported.
+constexpr int keyboardsLoss = 1000;
+
 constexpr Window::Style style{.hasTitleBar = false,
                               .isClosable = false,
                               .isResizable = false,
@@ -34,6 +37,13 @@ Popover::Popover(MainMenu &menu) : window_(style, menu) {
     window_.setAccessibleName(QCoreApplication::applicationName());
     window_.installEventFilter(this);
     connect(qApp, &QGuiApplication::applicationStateChanged, this, &Popover::hideIfTurnedAway);
+    showLater_.setSingleShot(true);
+    connect(&showLater_, &QTimer::timeout, this, &Popover::show);
+    connect(qApp, &QGuiApplication::focusWindowChanged, &showLater_, [this] {
+        if (showLater_.isActive()) {
+            showLater_.start(0);
+        }
+    });
 }
 
 QPoint Popover::originOf(const QRect &place, QSize size, const QRect &area) {
@@ -49,15 +59,23 @@ QPoint Popover::originOf(const QRect &place, QSize size, const QRect &area) {
 
 void Popover::toggle(const ScreenFrame &place, QSize size, Behavior behavior) {
     behavior_ = behavior;
+    place_ = place;
+    size_ = size;
     if (window_.isVisible()) {
         window_.hide();
+    } else if (showLater_.isActive()) {
+        showLater_.stop();
+    } else if (QGuiApplication::focusWindow() == window_.windowHandle()) {
+        // The toolkit reports the loss of the keyboard late. If the keyboard came back before that, the
+        // toolkit would report neither, and treat the window as an inactive one, without its shortcuts.
+        showLater_.start(keyboardsLoss);
     } else if (!sinceSentAway_.isValid() || sinceSentAway_.elapsed() > sameClick) {
-        show(place, size);
+        show();
     }
 }
 
-void Popover::show(const ScreenFrame &place, QSize size) {
-    const QRect item(place.x, place.y, place.width, place.height);
+void Popover::show() {
+    const QRect item(place_.x, place_.y, place_.width, place_.height);
     const QScreen *screen = QGuiApplication::screenAt(item.center());
     if (screen == nullptr) {
         screen = QGuiApplication::primaryScreen();
@@ -66,7 +84,7 @@ void Popover::show(const ScreenFrame &place, QSize size) {
         return;
     }
     const QRect area = screen->availableGeometry().adjusted(margin, 0, -margin, 0);
-    const QSize shown = size.boundedTo(area.size());
+    const QSize shown = size_.boundedTo(area.size());
     window_.setSizes(shown, shown, shown);
     window_.move(originOf(item, shown, area));
     hadTheKeyboard_ = false;

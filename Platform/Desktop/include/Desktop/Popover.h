@@ -5,6 +5,7 @@
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QTimer>
 
 namespace velmar {
 
@@ -28,8 +29,8 @@ public:
     /// Returns the window that holds the content. The window owns its content.
     [[nodiscard]] Window &window() noexcept { return window_; }
 
-    /// Shows the content in the given size and gives the keyboard to the window, but to none of its controls.
-    /// Closes the popover if it is open.
+    /// Shows the content in that size, with the keyboard in the window and none of its controls; or closes
+    /// what is open. A popover that has just been closed is shown once it has lost the keyboard.
     void toggle(const ScreenFrame &place, QSize size, Behavior behavior);
 
     /// Returns the origin of a popover of that size: centred below a place in the upper half of `area`, above
@@ -40,13 +41,16 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void show(const ScreenFrame &place, QSize size);
+    void show();
     void hideIfTurnedAway();
 
     Window window_;
     Behavior behavior_ = Behavior::transient;
     bool hadTheKeyboard_ = false; // since it was last shown
     QElapsedTimer sinceSentAway_;
+    QTimer showLater_; // While the window is hidden and has yet to lose the keyboard.
+    ScreenFrame place_;
+    QSize size_;
 };
 
 } // namespace velmar
