@@ -1,4 +1,4 @@
-"""A run of one of the two programs."""
+"""Runs of programs."""
 
 import os
 import signal
@@ -9,37 +9,21 @@ from pathlib import Path
 from . import machine
 from .waiting import DEADLINE, until
 
+# Has the toolkit tell readers of the screen, whether or not there is one.
+ACCESSIBILITY = {"QT_ACCESSIBILITY": "1", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
 
-class Process:
-    """Started by the constructor as a user of the machine; standard output and error go to files, so that it never
-    waits for a reader. Its use of time and memory is known when it has ended."""
 
-    def __init__(self, program, *arguments, user="root", environment=None):
-        self.user = user
-        self._added = environment or {}
+class Program:
+    """Started by the constructor; standard output and error go to files, so that it never waits for a reader. Its use of
+    time and memory is known when it has ended."""
+
+    def __init__(self, command, **options):
         self._output, self._errors = tempfile.TemporaryFile("w+"), tempfile.TemporaryFile("w+")
-        number, group = machine.user_number(user), machine.group_number(machine.primary_group(user))
-        groups = [machine.group_number(name) for own, _, _, names in machine.USERS if own == user for name in names]
-        self._popen = subprocess.Popen([machine.BINARIES / program, *arguments], stdin=subprocess.DEVNULL,
-                                       stdout=self._output, stderr=self._errors, env=self._environment(),
-                                       user=number, group=group, extra_groups=groups, cwd="/")
+        self._popen = subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=self._output, stderr=self._errors,
+                                       **options)
         self.pid = self._popen.pid
         self.usage = None
         self.status = None
-
-    def _environment(self):
-        home = machine.home(self.user)
-        runtime = Path("/run/user") / str(machine.user_number(self.user))
-        runtime.mkdir(parents=True, exist_ok=True, mode=0o700)
-        os.chown(runtime, machine.user_number(self.user), -1)
-        environment = {"PATH": os.environ["PATH"], "DISPLAY": os.environ["DISPLAY"], "LANG": "C.UTF-8",
-                       "HOME": str(home), "USER": self.user, "XDG_CONFIG_HOME": str(home / ".config"),
-                       "XDG_RUNTIME_DIR": str(runtime), "DBUS_SYSTEM_BUS_ADDRESS": "unix:path=/nonexistent",
-                       "QT_ACCESSIBILITY": "1", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
-        # The session bus lets in only the user who started it.
-        environment["DBUS_SESSION_BUS_ADDRESS"] = (
-            os.environ["DBUS_SESSION_BUS_ADDRESS"] if self.user == "root" else "unix:path=/nonexistent")
-        return {**environment, **self._added}
 
     def ended(self):
         """Takes the status when there is one. A death by a signal is a negative number."""
@@ -85,3 +69,25 @@ class Process:
 
     def peak_megabytes(self):
         return self.usage.ru_maxrss / 1024
+
+
+class Process(Program):
+    """One of the programs under test, started as a user of the machine."""
+
+    def __init__(self, program, *arguments, user="root", environment=None):
+        number, group = machine.user_number(user), machine.group_number(machine.primary_group(user))
+        groups = [machine.group_number(name) for own, _, _, names in machine.USERS if own == user for name in names]
+        super().__init__([machine.BINARIES / program, *arguments], env={**_environment(user), **(environment or {})},
+                         user=number, group=group, extra_groups=groups, cwd="/")
+
+
+def _environment(user):
+    home = machine.home(user)
+    runtime = Path("/run/user") / str(machine.user_number(user))
+    runtime.mkdir(parents=True, exist_ok=True, mode=0o700)
+    os.chown(runtime, machine.user_number(user), -1)
+    # The session bus lets in only the user who started it.
+    bus = os.environ["DBUS_SESSION_BUS_ADDRESS"] if user == "root" else "unix:path=/nonexistent"
+    return {"PATH": os.environ["PATH"], "DISPLAY": os.environ["DISPLAY"], "LANG": "C.UTF-8", "HOME": str(home),
+            "USER": user, "XDG_CONFIG_HOME": str(home / ".config"), "XDG_RUNTIME_DIR": str(runtime),
+            "DBUS_SYSTEM_BUS_ADDRESS": "unix:path=/nonexistent", "DBUS_SESSION_BUS_ADDRESS": bus, **ACCESSIBILITY}

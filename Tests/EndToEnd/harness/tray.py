@@ -4,7 +4,7 @@ import threading
 
 from gi.repository import Gio, GLib
 
-from .waiting import until
+from .waiting import DEADLINE, until
 
 WATCHER = "org.kde.StatusNotifierWatcher"
 ITEM = "org.kde.StatusNotifierItem"
@@ -29,7 +29,7 @@ class _Service:
         self._owned = threading.Event()
         self._thread = threading.Thread(target=self._serve, args=(name,), daemon=True)
         self._thread.start()
-        assert self._owned.wait(15), f"{name} is not to be had"
+        assert self._owned.wait(DEADLINE), f"{name} is not to be had"
 
     def _serve(self, name):
         self._context.push_thread_default()
@@ -80,7 +80,7 @@ class Tray(_Service):
 
     def _call(self, interface, method, arguments):
         return self.connection.call_sync(self.wait_for_item(), "/StatusNotifierItem", interface, method, arguments, None,
-                                         Gio.DBusCallFlags.NONE, 5000, None)
+                                         Gio.DBusCallFlags.NONE, int(1000 * DEADLINE), None)
 
     def click(self):
         self._call(ITEM, "Activate", GLib.Variant("(ii)", (0, 0)))
