@@ -41,12 +41,12 @@ TEST(Configuration, HandsOutTheAlternativesOfComponentsAndActions) {
         validFileWith("<key>SideContainer</key><dict><key>Container</key><dict><key>Components</key><array>"
                       "<dict><key>Type</key><string>Spacer</string></dict>"
                       "<dict><key>Type</key><string>Input</string><key>InputType</key><string>Text</string>"
-                      "<key>Variable</key><string>V</string></dict></array></dict></dict>"
+                      "<key>Variable</key><string>TEAM</string></dict></array></dict></dict>"
                       "<key>ActionSets</key><array><dict><key>Type</key><string>Parallel</"
                       "string><key>Triggers</key><array/>"
                       "<key>Actions</key><array><dict><key>Type</key><string>Log</string><key>Message</"
                       "key><string>m</string>"
-                      "<key>Condition</key><string>V</string></dict></array></dict></array>"));
+                      "<key>Condition</key><string>TEAM == 1</string></dict></array></dict></array>"));
     const auto &components = configuration->_sideContainer()->_container()._components();
     EXPECT_EQ(typeIdentifierOf(components[0]), ComponentItems::TypeIdentifier::spacer);
     EXPECT_EQ(typeIdentifierOf(components[1]), ComponentItems::TypeIdentifier::input);
@@ -56,7 +56,7 @@ TEST(Configuration, HandsOutTheAlternativesOfComponentsAndActions) {
     EXPECT_EQ(typeIdentifierOf(action), ActionItems::TypeIdentifier::log);
     EXPECT_EQ(itemOf<ActionItems::Log>(action)->_message(), "m");
     EXPECT_EQ(itemOf<ActionItems::SaveInputs>(action), nullptr);
-    EXPECT_EQ(conditionOf(action)->source(), "V");
+    EXPECT_EQ(conditionOf(action)->source(), "TEAM == 1");
 }
 
 TEST(Configuration, TakesEmptySectionsThatRequireNothingAndKeysThatItDoesNotKnow) {
