@@ -1,4 +1,4 @@
-# Everything that comes from outside, found once; scripts/dependencies.txt lists the packages.
+# Finds all external dependencies. scripts/dependencies.txt lists their packages.
 
 find_package(Threads REQUIRED)
 find_package(PkgConfig REQUIRED)
@@ -12,9 +12,9 @@ find_package(Boost 1.81 REQUIRED)
 find_package(simdjson REQUIRED)
 pkg_check_modules(libsystemd REQUIRED IMPORTED_TARGET libsystemd)
 
-# Asio comes as headers without a package file. It finds aligned allocation only where a standard header happens to come
-# before its own, so two sources could disagree about it: it is told. Its fences around handlers, which the thread
-# sanitizer cannot follow, order nothing that the locks of its queues don't order already.
+# Asio consists of headers without a package file. It detects aligned allocation only if a standard header precedes
+# its own, so two sources could disagree about it; the definition prevents that. Its fences around handlers are
+# disabled: the thread sanitizer does not support them, and the locks of Asio's queues already order the handlers.
 find_path(ASIO_INCLUDE_DIR asio.hpp REQUIRED)
 add_library(asio_headers INTERFACE)
 target_include_directories(asio_headers SYSTEM INTERFACE ${ASIO_INCLUDE_DIR})

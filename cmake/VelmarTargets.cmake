@@ -1,4 +1,4 @@
-# Every target of the project is made by one of the functions below.
+# Functions that make all targets of the project.
 #
 #   velmar_add_library(<name> LAYER <floor> [HEADER_ROOT <dir>] SOURCES ... [HEADERS ...]
 #                      [PUBLIC_DEPS ...] [PRIVATE_DEPS ...])
@@ -7,20 +7,21 @@
 #   velmar_add_benchmark(<name> SOURCES ... [DEPS ...])
 #   velmar_add_fuzzer(<name> SOURCES ... [DEPS ...])
 #
-# A library <name> is the target velmar_<name> with the alias velmar::<name>. Its public headers lie below HEADER_ROOT
-# (by default the folder "include" beside its CMakeLists.txt), which is the only include directory that it hands on. One
-# without SOURCES consists of its headers.
-# LAYER is the floor of the house. A dependency on a higher floor, or a circle of dependencies, stops the configuration.
+# A library <name> is the target velmar_<name> with the alias velmar::<name>. Its public headers are below HEADER_ROOT
+# (default: the folder "include" beside its CMakeLists.txt), the only include directory that it exports. A library
+# without SOURCES is header-only.
+# LAYER is the floor in docs/ARCHITECTURE.md. A dependency on a higher floor, or a circle of dependencies, stops the
+# configuration.
 
 include(GNUInstallDirs)
 
 add_library(velmar_options INTERFACE)
 target_compile_features(velmar_options INTERFACE cxx_std_20)
 target_compile_options(velmar_options INTERFACE -Wall -Wextra -Wconversion -Wshadow -Werror)
-# Everywhere, because its macros must be those of the precompiled header.
+# All targets link fmt, because their macros must match those of the precompiled header.
 target_link_libraries(velmar_options INTERFACE fmt::fmt)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    # GCC 12 reports these falsely through inlined standard containers and variants.
+    # GCC 12 has false positives of these warnings in inlined standard containers and variants.
     target_compile_options(velmar_options INTERFACE -Wno-maybe-uninitialized -Wno-restrict -Wno-dangling-pointer
                                                     -Wno-array-bounds -Wno-stringop-overflow -Wno-stringop-overread)
 endif()
@@ -32,7 +33,7 @@ if(VELMAR_SANITIZE)
     target_link_options(velmar_options INTERFACE -fsanitize=${VELMAR_SANITIZE})
 endif()
 
-# A precompiled header is made once and used by all targets with the same flags: Standard, Tests, or Qt.
+# Precompiles each header once for all targets with the same flags: Standard, Tests, or Qt.
 option(VELMAR_PRECOMPILE "Precompile the headers of cmake/Precompiled" ON)
 function(_velmar_precompile target header)
     if(NOT VELMAR_PRECOMPILE)
@@ -56,13 +57,13 @@ function(_velmar_check_layers target)
     get_target_property(own ${target} VELMAR_LAYER)
     foreach(dependency IN LISTS ARGN)
         if(dependency MATCHES "^velmar::(.+)$")
-            # The target may be declared later, so the comparison waits for the end of the configuration.
+            # The target may be declared later, so velmar_verify_layers compares at the end.
             set_property(GLOBAL APPEND PROPERTY VELMAR_EDGES "${target}>velmar_${CMAKE_MATCH_1}")
         endif()
     endforeach()
 endfunction()
 
-# Called once, after the last target: no dependency climbs, and none closes a circle.
+# Stops the configuration if a dependency is on a higher floor or closes a circle. Call it once, after the last target.
 function(velmar_verify_layers)
     get_property(edges GLOBAL PROPERTY VELMAR_EDGES)
     foreach(edge IN LISTS edges)
@@ -79,7 +80,7 @@ function(velmar_verify_layers)
         endif()
         list(APPEND targets ${from} ${to})
     endforeach()
-    # Removes the edges at both ends of the graph until none are left. The rest is what lies on or between circles.
+    # Removes the edges at both ends of the graph until none are left. The remaining edges are on or between circles.
     while(edges)
         set(left ${edges})
         foreach(target IN LISTS targets)
@@ -139,11 +140,10 @@ function(velmar_add_executable name)
     _velmar_check_layers(${name} ${ARG_DEPS})
 endfunction()
 
-# Builds the programs that tests run and nothing else; the end-to-end tests run more.
+# Builds only the programs of the tests. The end-to-end tests need more programs.
 add_custom_target(tested)
 
-# A test program of GoogleTest cases, run whole by CTest. QT marks one that needs Qt: it gets the offscreen platform and
-# is left out where Qt code is (the thread sanitizer).
+# Adds a program of GoogleTest cases, which CTest runs as one test. QT sets the offscreen platform and the label "qt".
 function(velmar_add_test name)
     cmake_parse_arguments(ARG "QT" "" "SOURCES;DEPS;ENVIRONMENT" ${ARGN})
     if(NOT BUILD_TESTING)
@@ -156,7 +156,7 @@ function(velmar_add_test name)
     _velmar_precompile(${target} Tests)
     add_test(NAME ${name} COMMAND ${target})
     add_dependencies(tested ${target})
-    # No test reaches a bus, a display or a home directory of the machine by accident.
+    # Keeps tests away from the buses of the machine.
     set(environment "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nonexistent" "DBUS_SESSION_BUS_ADDRESS=unix:path=/nonexistent"
                     ${ARG_ENVIRONMENT})
     if(ARG_QT)
@@ -176,8 +176,8 @@ function(velmar_add_benchmark name)
     target_link_libraries(bench_${name} PRIVATE velmar_options ${ARG_DEPS})
 endfunction()
 
-# With VELMAR_FUZZ (clang) a libFuzzer program bin/fuzz_<name>; otherwise the same source with a main function that
-# replays its corpus, Fuzzers/corpus/<name>, as an ordinary test.
+# With VELMAR_FUZZ (clang): adds the libFuzzer program bin/fuzz_<name>. Otherwise: adds the same source with a main
+# function that replays its corpus, Fuzzers/corpus/<name>, as an ordinary test.
 function(velmar_add_fuzzer name)
     cmake_parse_arguments(ARG "" "" "SOURCES;DEPS" ${ARGN})
     if(VELMAR_FUZZ)

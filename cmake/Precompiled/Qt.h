@@ -1,6 +1,6 @@
 #pragma once
 
-// As Standard.h, for the targets of rooms that use Qt, and their tests.
+// Precompiled header of the targets that use Qt, and of their tests.
 
 #include "Standard.h"
 

@@ -1,7 +1,8 @@
 #pragma once
 
-// The headers of the standard library and of fmt that most sources include. Precompiled once for all targets
-// without Qt. Sources still include what they use: scripts/lint and the fuzzers compile without this file.
+// Precompiled header of all targets without Qt: the headers of the standard library and of fmt that most
+// sources include. Sources must still include their own headers: scripts/lint and the fuzzers compile without
+// this file.
 
 #include <algorithm>
 #include <array>

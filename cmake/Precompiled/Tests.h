@@ -1,6 +1,6 @@
 #pragma once
 
-// As Standard.h, for tests without Qt.
+// Precompiled header of the tests without Qt.
 
 #include "Standard.h"
 
