@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-/// The middle one of some measurements, at least one.
+/// Returns the median of the measurements, for an even number the upper one. `values` must not be empty.
 inline double median(std::vector<double> values) {
     std::ranges::sort(values);
     return values[values.size() / 2];

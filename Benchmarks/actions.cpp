@@ -1,4 +1,5 @@
-// A parallel set of actions without work, against as many functions posted to the same pool.
+// Benchmark of a parallel set of actions without work. The reference posts the same number of functions to
+// the pool.
 
 #include "Median.h"
 
@@ -32,7 +33,7 @@ private:
     void perform() override { complete(true); }
 };
 
-// From the call until the last has run, as `begin` tells by calling what it is given.
+// Returns the time from the call of `begin` until it calls its argument, on any thread.
 double microseconds(const std::function<void(std::function<void()>)> &begin) {
     std::promise<void> done;
     const auto start = std::chrono::steady_clock::now();

@@ -1,4 +1,5 @@
-// "velmarctl check" of the largest example, the whole process, against three empty processes and 10 ms.
+// Benchmark of `velmarctl check` on the largest example, as a process. The reference is the time of three
+// empty processes plus 10 ms.
 #include "Median.h"
 
 #include <fmt/core.h>

@@ -1,6 +1,6 @@
-// A program that does nothing, run a hundred times one after the other: against starting it and waiting for
-// it, and nothing else. Besides, a megabyte of hostile raw command against half of it: twice the time, not
-// more.
+// Benchmarks of the command service. A hundred sequential runs of a program that does nothing; the reference
+// only starts it and waits for it. Parsing of a megabyte of hostile raw command; the reference is half of it,
+// so that a ratio near 2 shows linear time.
 #include "../Libraries/command-runner/src/RawCommand.h"
 #include "Median.h"
 
@@ -58,7 +58,7 @@ double microseconds(int count, const Function &function) {
     return time.count() / count;
 }
 
-// "a ", so that there is a word, and a text over and over.
+// Returns "a ", which guarantees a word, followed by repetitions of a text.
 std::string repeated(std::size_t length, const std::string &text) {
     std::string whole = "a ";
     while (whole.size() < length) {

@@ -1,4 +1,5 @@
-// The store of variables: a write, a snapshot and a notice, each against the bare work below it.
+// Benchmarks of the store of variables: writes, snapshots, notifications and observers. The references do the
+// same work without the store.
 
 #include "Median.h"
 
@@ -34,7 +35,7 @@ double nanoseconds(int calls, Function function) {
     return std::chrono::duration<double, std::nano>(Clock::now() - start).count() / calls;
 }
 
-// Prints the medians of rounds in which both are measured in turn.
+// Prints the medians of rounds that measure both functions alternately.
 template <class Ours, class Reference>
 void compare(const char *name, int calls, Ours ours, Reference reference, const char *goal) {
     std::vector<double> mine;
@@ -76,7 +77,7 @@ void write() {
     fill(manager, all);
     Variables variables = variablesOf(all);
     std::mutex mutex;
-    // Scattered over the map, each time another value than before.
+    // The names are scattered over the map, and each write changes the value.
     const auto nameOf = [&](int call) -> std::string_view {
         return all[static_cast<std::size_t>(call) * 7919U % all.size()];
     };
@@ -120,7 +121,7 @@ public:
     std::size_t length = 0;
 };
 
-// A store with 1,000 observers: each observes a name of its own and the name "ALL".
+// A store with 1,000 observers. Each observes a separate name and the name "ALL".
 struct Observed {
     Observed() {
         for (std::size_t i = 0; i < observers.size(); ++i) {
@@ -215,7 +216,7 @@ void slide() {
 } // namespace
 
 int main() {
-    // Counts are only atomic, as in the program, once there was another thread.
+    // libstdc++ counts references atomically only after a second thread was started, as in the program.
     std::thread([] {}).join();
     write();
     snapshot();

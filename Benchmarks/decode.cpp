@@ -1,4 +1,5 @@
-// Reading and decoding a large configuration, against an XML parser that only parses the same bytes.
+// Benchmark of reading and decoding a large configuration. The reference is an XML parser that only parses
+// the same bytes.
 #include "Median.h"
 
 #include <Configuration/Configuration.h>
@@ -31,7 +32,7 @@ using velmar::PropertyList;
 constexpr std::size_t fileSize = 10'000'000;
 constexpr int runs = 15;
 
-/// Adds the elements of an array in one file to that in another.
+/// Moves the elements of the array at `keys` of `from` to the array at `keys` of `to`.
 void add(PropertyList &to, PropertyList &from, std::initializer_list<std::string_view> keys) {
     PropertyList *target = &to;
     PropertyList *source = &from;
@@ -44,7 +45,7 @@ void add(PropertyList &to, PropertyList &from, std::initializer_list<std::string
     }
 }
 
-/// Items of all kinds, in the proportions in which chance makes them.
+/// Returns a file of random items of all kinds.
 std::string makeFile() {
     constexpr int filesBetweenWeighings = 100;
     velmar::GeneratedConfiguration generator(1);
@@ -74,7 +75,7 @@ double secondsOf(const Function &function) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-// A line such as "VmHWM:  1234 kB" of the process's own status, in bytes.
+// Returns the value of a line such as "VmHWM:  1234 kB" in the status of this process, in bytes.
 std::size_t memory(std::string_view name) {
     std::ifstream status("/proc/self/status");
     for (std::string line; std::getline(status, line);) {
@@ -85,7 +86,7 @@ std::size_t memory(std::string_view name) {
     return 0;
 }
 
-// The most that a decoding holds at once, measured in a process of its own.
+// Returns the peak memory growth of one decoding in bytes, measured in a child process; 0 on failure.
 std::size_t peakGrowth(const std::string &file) {
     std::array<int, 2> pipe{};
     if (::pipe(pipe.data()) != 0) {

@@ -1,6 +1,6 @@
-// A condition of three clauses over 200 variables, all of which have to be read: against the same condition
-// compiled in Lua over a table of the same texts, and against looking the three variables up and nothing
-// else.
+// Benchmark of a condition of three clauses over 200 variables, which evaluates all clauses. The references
+// are the same condition compiled in Lua over a table of the same texts, and only the lookups of the three
+// variables.
 #include "Median.h"
 
 #include <expressions/Expression.h>
@@ -33,7 +33,7 @@ Variables makeVariables() {
     return variables;
 }
 
-// The condition as a compiled function that closes over the table of variables.
+// A condition as a compiled Lua function that closes over the table of variables.
 class LuaCondition {
 public:
     LuaCondition(const Variables &variables, const char *condition) : state_(luaL_newstate(), lua_close) {
@@ -43,7 +43,7 @@ public:
             lua_pushlstring(state_.get(), value.data(), value.size());
             lua_setfield(state_.get(), -2, name.c_str());
         }
-        // The number is one already where the condition does not make it one.
+        // For the condition without tonumber().
         lua_pushinteger(state_.get(), 2);
         lua_setfield(state_.get(), -2, "ANSWER_NUMBER");
         lua_setglobal(state_.get(), "variables");
@@ -68,7 +68,7 @@ private:
     std::unique_ptr<lua_State, decltype(&lua_close)> state_;
 };
 
-// Nanoseconds of this thread, so that others on the machine do not count.
+// Returns the processor time of this thread in nanoseconds, which excludes other load of the machine.
 double processorTime() {
     timespec time{};
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
@@ -86,7 +86,7 @@ double nanoseconds(const Function &function) {
     return (processorTime() - start) / calls;
 }
 
-// The medians of rounds in which both are measured in turn.
+// Prints the medians of rounds that measure both functions alternately.
 template <class Ours, class Reference>
 void compare(const char *name, const Ours &ours, const Reference &reference, const char *goal) {
     std::vector<double> mine;
@@ -109,7 +109,7 @@ int main() {
     LuaCondition texts(variables, "v.DEVICE_NAME == 'lab' and (tonumber(v.ANSWER) >= 3 or v.FLAG == 'true')");
     compare(
         "expression-lua", ours, [&] { return texts.evaluate(); }, "0.5");
-    // What Lua needs when it is spared the number's text.
+    // Lua without the conversion of a text to a number.
     LuaCondition typed(variables, "v.DEVICE_NAME == 'lab' and (v.ANSWER_NUMBER >= 3 or v.FLAG == 'true')");
     compare(
         "expression-lua-typed", ours, [&] { return typed.evaluate(); }, "none");

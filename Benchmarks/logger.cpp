@@ -1,5 +1,5 @@
-// The cost of a message on the caller's thread: one that no destination logs, against an empty call, and one
-// that is logged, against the formatting of the same line into a string.
+// Benchmarks of a message on the caller's thread. The reference of a message that no destination logs is an
+// empty call; that of a logged message is the formatting of the same line into a string.
 
 #include "Median.h"
 
@@ -45,7 +45,7 @@ std::shared_ptr<BaseDestination> destination(const char *file) {
         std::make_unique<FileDestination>(LogFileSettings{.logFileURL = file}), "Velmar");
 }
 
-// Nanoseconds of one call, over a number of calls.
+// Returns the mean time of one call in nanoseconds.
 template <class Function>
 double nanoseconds(int calls, Function function) {
     const auto start = Clock::now();
@@ -55,8 +55,8 @@ double nanoseconds(int calls, Function function) {
     return std::chrono::duration<double, std::nano>(Clock::now() - start).count() / calls;
 }
 
-// Prints the medians of rounds in which both are measured in turn. `settle` runs after each round, outside of
-// the time.
+// Prints the medians of rounds that measure both functions alternately. `settle` runs after each measurement
+// of `ours` and is not timed.
 template <class Ours, class Reference, class Settle>
 void compare(const char *name, int calls, Ours ours, Reference reference, Settle settle, const char *goal) {
     std::vector<double> mine;
@@ -81,13 +81,13 @@ int main() {
             "log_not_logged", 100'000, log, emptyCall, [] {}, "<=20ns");
     }
     const auto drain = [] { Logger::flush(std::chrono::seconds(60)); };
-    // Then the next call finds cold caches, as the reference does, and has to wake the threads of the queues.
+    // The next call then has cold caches, like the reference, and must wake the threads of the queues.
     const auto fallAsleep = [&] {
         drain();
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     };
     {
-        // Bursts below what the queue holds, written between the rounds.
+        // The bursts are smaller than the queue's capacity; drain() writes them between the rounds.
         const ScopedDestinations one({destination("/tmp/velmar-bench-1.log")});
         compare("log_logged", 1000, log, formatLine, drain, "<=2000ns");
         compare("log_logged_alone", 1, log, formatLine, fallAsleep, "none");

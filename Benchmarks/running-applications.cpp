@@ -1,6 +1,5 @@
-// The watch for applications that start, with 300 processes more than the machine has: the processor's time
-// of a look at which nothing is new, as the part of one core that two looks a second take, against reading
-// the state of every process.
+// Benchmark of the watch for started applications, with 300 additional processes: the load of one core by two
+// looks per second without new processes. The reference reads the state of every process.
 #include "Median.h"
 
 #include <System/ProcessWatch.h>
@@ -29,7 +28,7 @@ constexpr int addedProcesses = 300;
 constexpr int rounds = 101;
 constexpr double looksPerSecond = 2;
 
-/// Processes that do nothing, and end with this one.
+/// Starts child processes that do nothing and end with this process.
 class IdleProcesses {
 public:
     IdleProcesses() {
@@ -60,7 +59,7 @@ private:
     std::vector<pid_t> children_;
 };
 
-/// The states of all processes that a directory's stream names; gives their number.
+/// Reads the state of every process and returns their number.
 int readEveryState() {
     int count = 0;
     DIR *directory = opendir("/proc");
@@ -75,7 +74,7 @@ int readEveryState() {
     return count;
 }
 
-// Percent of a core, at two a second.
+// Returns the load in percent of a core if the function runs `looksPerSecond` times per second.
 template <class Function>
 double load(Function function) {
     const auto seconds = [] {

@@ -1,5 +1,5 @@
-// Frames of a change of slides against a bare window repainted whole, and what the main thread does while
-// conditions change a thousand times a second.
+// Benchmarks of the frames of a slide transition, with a bare window that is repainted completely as the
+// reference, and of the main thread's load while conditions change a thousand times per second.
 
 #include "Median.h"
 
@@ -37,7 +37,7 @@ using namespace std::chrono_literals;
 
 constexpr QSize windowSize(1280, 768);
 
-/// Measures the repaints of one window.
+/// Application that measures the repaints of one window.
 class MeasuringApplication final : public QApplication {
 public:
     using QApplication::QApplication;
@@ -86,7 +86,7 @@ public:
     void tryToQuitApplication() override {}
 };
 
-/// Slides in a window on show.
+/// Slides in a visible window.
 class Content {
 public:
     Content(const std::vector<SlideItem> &slides, const DesktopAppearance &appearance) {
@@ -109,7 +109,7 @@ public:
     std::unique_ptr<ContentViewController> view;
 };
 
-/// A window that paints one colour after the other.
+/// Window that fills itself with alternating colours.
 class BareWindow final : public QWidget {
 protected:
     void paintEvent(QPaintEvent * /*event*/) override {
@@ -142,7 +142,7 @@ std::vector<double> transitionFrames(MeasuringApplication &application, const De
     }
     const Content content({slide(components), slide(components)}, appearance);
     application.window = content.view.get();
-    // Each slide is made and painted once before.
+    // Each slide is made and painted once before the measurement.
     for (const int index : {1, 0}) {
         content.model->setSelectedIndex(index, true);
         runFor(500ms);
@@ -161,7 +161,7 @@ double processorSeconds() {
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
 }
 
-/// The processor time of the main thread in a second with a thousand changes.
+/// Returns the processor seconds of the main thread in one second with a thousand changes.
 double busySeconds(const DesktopAppearance &appearance) {
     const auto store = ContentManager::shared();
     store->updateVariable("TICK", "0", false);

@@ -1,4 +1,4 @@
-// Whatever the bytes are, they are a configuration or are refused with one of the program's errors.
+// Fuzzes the decoding of a configuration: every input decodes or is refused with a LocalizedError.
 #include <Configuration/Configuration.h>
 #include <Configuration/Plugin.h>
 #include <Foundation/LocalizedError.h>
@@ -16,8 +16,8 @@
 
 namespace {
 
-// What was written, but for the colours: they are written without their leading zeros, which is not how they
-// are read.
+// Returns a copy without the texts of colours. Colours are written without leading zeros, which changes their
+// value when they are read again.
 velmar::PropertyList withoutColors(const velmar::PropertyList &value) {
     using velmar::PropertyList;
     if (const std::string *const text = value.string(); text != nullptr && text->starts_with('#')) {
@@ -50,7 +50,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     } catch (const LocalizedError &) {
         return 0; // Refused.
     }
-    // Reading its texts through a plugin changes nothing in it.
+    // Reading texts through a plugin must not change the configuration.
     struct Reader final : Plugin {
         void filter(std::span<std::string *const> texts) const override {
             for (std::string *const text : texts) {
@@ -74,7 +74,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
             }
         }
     }
-    // What was decoded can be written, and that is the same configuration again.
+    // The encoded configuration must decode to an equal one.
     const PropertyList written = configuration->encode();
     try {
         const PropertyList again = Configuration::decode(written)->encode();

@@ -1,5 +1,5 @@
-// Lines NAME=VALUE, an empty line, and an expression: it has one outcome, the same with its
-// steps told.
+// Fuzzes the evaluation of an expression: the outcome is the same with and without recorded steps. Input:
+// lines NAME=VALUE, an empty line, and the expression.
 #include "../Libraries/expressions/Tests/Outcome.h"
 
 #include <Foundation/NumberText.h>
@@ -31,14 +31,14 @@ static Variables takeVariables(std::string_view &text) {
     return variables;
 }
 
-// The elements as a line again; empty if one of them cannot be written so.
+// Returns the elements as source text, or an empty text if an element has no literal form.
 static std::string lineOf(const Expression &expression) {
     std::string line;
     for (const ExpressionElement &element : expression) {
         const auto *operand = std::get_if<Operand>(&element);
         const auto *string = operand != nullptr ? std::get_if<Operand::String>(&operand->value) : nullptr;
         const std::string text = string != nullptr ? '"' + string->text + '"' : description(element);
-        // Numbers with an exponent, and those that are words, are no literals.
+        // Numbers with an exponent, infinity and NaN have no literal.
         if (operand != nullptr && std::holds_alternative<double>(operand->value) &&
             text.find_first_not_of("0123456789.") != std::string::npos) {
             return {};

@@ -1,6 +1,5 @@
-// generate-configurations DIRECTORY COUNT [--damaged]: writes made configurations, which begin the fuzzing of
-// the root and which other tools are tried on; damaged ones have a few values of another kind, or lack a few
-// keys.
+// generate-configurations DIRECTORY COUNT [--damaged]: writes generated configurations, as seeds for the
+// fuzzer and as input of tests. A damaged configuration has one random replaced value, or lacks one key.
 #include <Support/GeneratedConfiguration.h>
 
 #include <filesystem>
@@ -15,7 +14,7 @@ namespace {
 
 using velmar::PropertyList;
 
-/// All values of a file below its root.
+/// Collects all values of a file below its root.
 void collect(PropertyList &value, std::vector<PropertyList *> &values) {
     if (PropertyList::Array *const array = value.array()) {
         for (PropertyList &element : *array) {

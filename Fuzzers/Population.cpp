@@ -1,4 +1,4 @@
-// Populating a text agrees with a naive reading of the same rules, and ends whatever the variables are.
+// Fuzzes the population of texts against a naive implementation of the same rules, with any variables.
 #include <Configuration/ExpressionError.h>
 #include <Configuration/Populatable.h>
 
@@ -13,7 +13,7 @@ namespace {
 
 using namespace velmar;
 
-// Beyond this much work the naive reading says nothing.
+// Limits of the naive implementation. Beyond them it gives up with Outcome::tooMuch.
 constexpr std::size_t mostReferences = 2'000;
 constexpr std::size_t mostBytes = 1'000'000;
 constexpr std::size_t deepest = 50;
@@ -46,8 +46,7 @@ public:
             if (variable == variables_.end()) {
                 return Outcome::undefined;
             }
-            // Names are compared as the map has them, because one name can be written in several ways. A
-            // value without references closes no circle.
+            // Compare the name of the map, because one name can have several spellings.
             VariableNames inner = path;
             if (!inner.insert(variable->first).second) {
                 return Outcome::circular;
@@ -86,7 +85,7 @@ void require(bool holds) {
 
 } // namespace
 
-// The input: a text and variables, separated by NUL: text, name, value, name, value.
+// Input: a text and variables, separated by NUL: text, name, value, name, value.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     std::string_view rest(reinterpret_cast<const char *>(data), size);
     const auto nextPart = [&] {
@@ -110,7 +109,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         require(outcome != Outcome::text || result == naive.result);
     }
 
-    // A text that was populated depends on no name without a value; one that leads nowhere depends on one.
+    // All names that a populated text depends on are defined; an undefined outcome has an undefined name.
     const VariableNames used = usedVariables(text);
     const VariableNames involved = involvedVariables(text, variables);
     bool allDefined = true;

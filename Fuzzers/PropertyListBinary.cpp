@@ -25,7 +25,8 @@ static bool hasWholeDates(const PropertyList &value) {
     return true;
 }
 
-/// What reads as binary is written as binary and reads back equal, and as XML if XML can hold it.
+/// Fuzzes the binary reader: a valid input reads back equal after writing as binary, and as XML if XML can
+/// represent it.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t size) {
     const auto document = readIfValid({bytes, size});
     if (!document || document->form() != PropertyListDocument::Form::Binary) {

@@ -9,13 +9,14 @@
 
 namespace velmar {
 
-/// What must hold for whatever a reader takes; anything else stops the program.
+/// Aborts, which the fuzzer reports, if the condition doesn't hold.
 inline void require(bool holds) {
     if (!holds) {
         std::abort();
     }
 }
 
+/// Returns the document, or nothing if the reader refuses the input. `input` must outlive the document.
 inline std::optional<PropertyListDocument> readIfValid(std::span<const std::uint8_t> input) {
     try {
         return PropertyListDocument::read(std::as_bytes(input));

@@ -2,7 +2,7 @@
 
 using namespace velmar;
 
-/// What reads as XML is written in both forms and reads back equal.
+/// Fuzzes the XML reader: a valid input reads back equal after writing in both forms.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t size) {
     const auto document = readIfValid({bytes, size});
     if (!document || document->form() != PropertyListDocument::Form::Xml) {

@@ -1,5 +1,5 @@
-// A raw command: it is taken apart as a plain reading of the rules does it, or refused for a piece without
-// words.
+// Fuzzes the parsing of a raw command against a naive implementation of the rules. A piece without words is
+// refused.
 #include "../Libraries/command-runner/src/RawCommand.h"
 
 #include <Foundation/RegularExpression.h>
@@ -23,7 +23,7 @@ static void require(bool holds) {
     }
 }
 
-// The length of the blank that the text begins with, or 0.
+// Returns the length of the white space character at the start of the text, or 0.
 static std::size_t blankAt(std::string_view text) {
     static constexpr std::array blanks = {
         " ",      "\t",     "\n",     "\v",     "\f",     "\r",     "\u0085", "\u00A0", "\u1680",
@@ -34,12 +34,12 @@ static std::size_t blankAt(std::string_view text) {
     return found == blanks.end() ? 0 : std::string_view(*found).size();
 }
 
-// Whether a word may end before the text.
+// Returns whether a word may end before the text.
 static bool isEnd(std::string_view text) {
     return text.empty() || blankAt(text) > 0;
 }
 
-// The length of the word that the text begins with, or 0.
+// Returns the length of the word at the start of the text, or 0.
 static std::size_t wordAt(std::string_view text) {
     for (const char quote : {'"', '\''}) {
         const std::size_t end = text.starts_with(quote) ? text.find(quote, 1) : std::string_view::npos;
@@ -80,7 +80,7 @@ static std::vector<std::string> naiveWords(std::string_view piece) {
     return words;
 }
 
-// None where a piece has no words.
+// Returns nullopt if a piece has no words.
 static std::optional<std::vector<Process>> naiveProcesses(std::string_view text) {
     std::vector<Process> processes;
     for (bool isLast = false; !isLast;) {
@@ -98,7 +98,7 @@ static std::optional<std::vector<Process>> naiveProcesses(std::string_view text)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t size) {
     const std::string_view text(reinterpret_cast<const char *>(bytes), size);
-    // To the pattern all that is no character is the same one; to the plain reading it is not.
+    // The pattern treats all invalid bytes alike, the naive implementation doesn't: no comparison.
     if (!UnicodeText::isValidUtf8(text)) {
         try {
             const RawCommand command(text);

@@ -1,4 +1,4 @@
-// Runs a fuzzer's function over every file of the directories given, as an ordinary test.
+// Runs a fuzzer's function over every file of the given directories, as an ordinary test.
 
 #include <cstdint>
 #include <cstdio>
@@ -30,6 +30,6 @@ int main(int argumentCount, char **arguments) {
         }
     }
     std::printf("%zu files\n", files);
-    // An empty corpus means that the test does not find it.
+    // An empty corpus means that the path is wrong.
     return files > 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -1,5 +1,4 @@
-// The least program of the toolkit with a window of the same size: what the start of the application is
-// measured against.
+// Reference for the start of the application: a minimal program of the toolkit with a window.
 
 #include <QApplication>
 #include <QEvent>

@@ -1,6 +1,6 @@
-// From exec to the first paint of the example, and the memory that is resident then, against a bare window.
-// Both programs print a line when their first paint is done; they are started in turns. Needs root, for a
-// /Library of its own, and a display.
+// Benchmark of the time from exec to the first paint of the example, and of the resident memory after it. The
+// reference is a bare window. Both programs print a line after their first paint and are started alternately.
+// Needs root, for a private /Library, and a display.
 
 #include <fmt/core.h>
 
@@ -37,7 +37,7 @@ void check(bool succeeded, const char *what) {
     }
 }
 
-/// Gives this process and its children a /Library that holds the example, and a home.
+/// Mounts a private /Library with the example for this process and its children, and sets their home there.
 void preparePlaces() {
     check(::unshare(CLONE_NEWNS) == 0, "unshare");
     check(::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0, "mount /");
@@ -94,7 +94,7 @@ Measurement measure(const std::string &program) {
         output.append(buffer.data(), static_cast<std::size_t>(count));
     }
     const std::chrono::duration<double, std::milli> time = Clock::now() - start;
-    std::this_thread::sleep_for(300ms); // Until what follows the first paint is over.
+    std::this_thread::sleep_for(300ms); // Includes the work after the first paint.
     const double memory = residentMegabytes(process);
     ::kill(process, SIGTERM);
     ::waitpid(process, nullptr, 0);
@@ -120,7 +120,7 @@ void report(const char *name, std::vector<Measurement> &ours, std::vector<Measur
 int main() {
     try {
         preparePlaces();
-        // Both once more at the beginning, to have their files in memory.
+        // Warm up: loads the files of both programs into memory.
         measure(VELMAR_PROGRAM);
         measure(VELMAR_REFERENCE);
         std::vector<Measurement> ours;

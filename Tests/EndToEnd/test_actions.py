@@ -1,4 +1,4 @@
-"""Sets of actions, from each of their triggers to what they leave behind."""
+"""Sets of actions: each trigger, and the effects of the actions."""
 
 import os
 import shutil
@@ -159,7 +159,7 @@ class Actions(Scenario):
                  "OnClick": {"Type": "Chained", "Actions": [{"Type": "CloseOpenedWindow"}]}}
         opened["Slide"] = {"Containers": [{"Components": [close]}]}
         process, screen = self.start(action_set("Launch", opened), Window={"OnScreen": "Simple", "Title": "Main"})
-        # Earlier, the opened window could ask for the keyboard after the other one has got it.
+        # Wait first: the opened window may request the focus after the main window has it.
         screen.wait_until_active("Close")
         screen.activate("Main")
         screen.key("alt+F4")

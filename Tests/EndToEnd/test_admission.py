@@ -1,4 +1,4 @@
-"""Who may have written a configuration that is admitted. Each row goes through both programs."""
+"""Owners, groups and permissions of admitted and refused configurations, for both programs."""
 
 from harness import machine
 from harness.scenario import Scenario, configuration, slide
@@ -51,7 +51,7 @@ class Admission(Scenario):
         log = "\n".join(self.messages())
         self.assertIn(line, log)
         self.assertIn(f"A problem occurred while retrieving configuration: {refusal(path)}", log)
-        # Judged by its attributes alone.
+        # Refused by its attributes, before decoding.
         self.assertNotIn("Decoding configuration file...", log)
         check = self.velmarctl("check", path)
         self.assertEqual(1, check.status, check.story())

@@ -1,4 +1,4 @@
-"""Which file is looked for, where, and what is remembered."""
+"""Names and folders of the configuration, and the remembered name."""
 
 from harness import machine
 from harness.scenario import Scenario, configuration, slide
@@ -41,7 +41,7 @@ class Discovery(Scenario):
     def test_remembers_the_name_only_with_save(self):
         self.install(configuration(slide("Default")))
         self.install(configuration(slide("Named")), name="first.plist")
-        # --save alone stores nothing, and a given name is not stored without it.
+        # A name is stored only with --save, and --save alone stores nothing.
         for arguments, text in [(("-c", "first"), "Named"), (("--save",), "Default"), ((), "Default"),
                                 (("--save", "-c", "first"), "Named"), ((), "Named"), (("-c", "Velmar"), "Default"),
                                 ((), "Named")]:

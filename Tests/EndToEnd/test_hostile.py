@@ -1,4 +1,4 @@
-"""Files that are meant to hurt: refused with one sentence, in under a second and under 200 MB."""
+"""Hostile files: refused with one sentence, in less than a second and 200 MB."""
 
 import os
 import plistlib
@@ -16,7 +16,7 @@ def nested(depth):
 
 
 def expanding():
-    """A binary property list of thirty arrays, each of which holds the next one twenty times."""
+    """Returns a binary property list of thirty arrays, each with twenty references to the next one."""
     levels, width = 30, 20
     objects, offsets, data = [], [], b"bplist00"
     for level in range(levels):

@@ -1,4 +1,4 @@
-"""The window, its slides and the way through them."""
+"""The window, its slides and the navigation between them."""
 
 import plistlib
 import signal

@@ -1,4 +1,4 @@
-"""A session's log, its reloads and its ends."""
+"""The log, the reloads and the end of a session."""
 
 import os
 import signal
@@ -96,7 +96,7 @@ class Session(Scenario):
                     self.assertIn("Force quit shortcut detected. Forcing the application termination", self.messages())
                     self.assertEqual(ENDING, self.messages()[-3:])
                 else:
-                    # The key after it is taken, so the shortcut was seen and left alone.
+                    # The next key has an effect, so the shortcut was received and ignored.
                     screen.key("Return")
                     screen.wait_for_text("Next text")
                     process.close()
@@ -160,7 +160,7 @@ class Session(Scenario):
             with self.subTest(kind=kind):
                 self.log_path().unlink(missing_ok=True)
                 if kind == "hard link":
-                    # /Users and /tmp are one file system here.
+                    # A hard link is possible because /Users and /tmp are on one file system here.
                     os.chown(victim, machine.user_number("bob"), -1)
                 plant()
                 process, screen = self.velmar()

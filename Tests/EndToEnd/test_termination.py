@@ -1,4 +1,4 @@
-"""The ways out: the shortcuts, and the script that runs before the end."""
+"""Termination: the shortcuts, and the script that runs before the end."""
 
 import os
 import signal
@@ -8,7 +8,7 @@ from harness.scenario import Scenario, configuration, slide
 from harness.waiting import until
 
 MARK = Path("/tmp/velmar-e2e-mark")
-# A script that reads from it goes on when the scenario writes to it.
+# A FIFO. A script that reads from it blocks until the scenario writes to it.
 GATE = Path("/tmp/velmar-e2e-gate")
 
 
@@ -18,7 +18,7 @@ class Termination(Scenario):
         MARK.unlink(missing_ok=True)
         GATE.unlink(missing_ok=True)
         os.mkfifo(GATE)
-        # Open for both, so that neither this nor the script's opening it blocks.
+        # Opened for reading and writing, so that opening it blocks neither the scenario nor the script.
         self.gate = os.open(GATE, os.O_RDWR)
         self.addCleanup(os.close, self.gate)
 
@@ -32,7 +32,7 @@ class Termination(Scenario):
         return str(path)
 
     def quit(self, **termination):
-        """Quits by the menu. Gives the messages."""
+        """Quits by the menu and returns the log messages."""
         self.install(configuration(slide("Hello"), AppTermination=termination))
         process, screen = self.velmar()
         screen.wait_for_text("Hello")
@@ -41,7 +41,7 @@ class Termination(Scenario):
         return self.messages()
 
     def test_the_end_waits_for_the_script(self):
-        # What it leaves running is not waited for. A program that did not wait would end within the half second.
+        # A process that the script leaves running doesn't delay the end. Without a wait, velmar would end too early.
         path = self.script(f"#!/bin/sh\nsleep 60 &\nsleep 0.5\ntouch {MARK}\necho written\n")
         messages = self.quit(CompleteInstallationScriptPath=path, WaitForTerminationScriptExecution=True)
         self.assertTrue(MARK.exists())
@@ -51,7 +51,7 @@ class Termination(Scenario):
             self.assertIn(part, story)
 
     def test_a_script_that_is_not_waited_for_outlives_the_program(self):
-        # What it prints has no reader any more.
+        # The output of the script has no reader any more.
         path = self.script(f"#!/bin/bash\nset -e -o pipefail\nread -r line <{GATE}\necho line\n"
                            f"printf 'a\\nb' | head -1\ntouch {MARK}\n")
         messages = self.quit(CompleteInstallationScriptPath=path)

@@ -1,4 +1,4 @@
-"""Texts that show variables, and components that come and go by their conditions."""
+"""Texts with variables, and components with conditions."""
 
 from harness.scenario import Scenario, configuration
 from harness.waiting import until
@@ -53,7 +53,7 @@ class Variables(Scenario):
                                                "QuitButtonText": "Done"}))
         _, screen = self.velmar()
         screen.wait_for_text("At 0")
-        # Space presses the button with the focus, which what comes and goes beside the slides leaves alone.
+        # Space presses the focused button: changes of components beside the slides must not move the focus.
         for press, shown in [(None, ["At 0", "Always"]),
                              (lambda: screen.key("space"), ["At 1", "Begun", "Halfway", "Always"]),
                              (lambda: screen.key("space"), ["At 2", "Begun", "Nearly done", "Always"]),

@@ -1,4 +1,4 @@
-"""The four ways of standing on the desktop: what is covered, what stays away, and what comes and goes."""
+"""The four window modes: covered screens, other applications, changes of the screens and the panel."""
 
 import contextlib
 import re
@@ -48,13 +48,13 @@ def root_property(name):
 
 
 def stacking():
-    """The windows of all applications, from the lowest up."""
+    """Returns the windows of all applications, from bottom to top."""
     return [int(number, 16) for number in re.findall("0x[0-9a-f]+", root_property("_NET_CLIENT_LIST_STACKING"))]
 
 
 @contextlib.contextmanager
 def another_application():
-    """A window of another application, as the number of the X server. The window manager has it when this returns."""
+    """Opens a window of another application and yields its number, after the window manager manages it."""
     process = subprocess.Popen(["xev", "-name", "Another", "-geometry", "300x200+40+40"],
                                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     try:
@@ -98,7 +98,7 @@ class Windows(Scenario):
         until(lambda: f"{window} at the bottom of {stacking()}", is_below)
 
     def wait_for_window_manager(self, window):
-        """Until the window manager has done what it was asked before this: it takes requests in turn."""
+        """Waits until the window manager has handled all earlier requests, which it handles in order."""
         x, y, *_ = geometry(window)
         xdotool("windowmove", window, x + 1, y)
         until("the window manager", lambda: geometry(window)[0] != x)
@@ -170,7 +170,7 @@ class Windows(Scenario):
                         self.wait_for_window_manager(other)
                         self.wait_until_below(other, screen)
                         until("the window above its backdrop", lambda: stacking()[-1] == main)
-                # To the window manager these would mean: show the desktop, close the window, another workspace.
+                # Shortcuts of the window manager: show the desktop, close the window, switch the workspace.
                 screen.wait_for_focus()
                 until("the grab of the keyboard", keyboard_is_grabbed)
                 for keys in ["super+d", "alt+F4", "ctrl+alt+Right"]:
@@ -210,7 +210,7 @@ class Windows(Scenario):
                 process, screen = self.start("Simple", ActionSets=[{"Type": "Chained", "Triggers": ["Launch"],
                                                                     "Actions": [window]}])
                 screen.wait_for_title("Beside")
-                # It fills the screen with what the window manager puts around it, a title bar above all.
+                # The window with its frame fills the screen.
                 def fills_the_screen():
                     x, y, width, height = screen.window("Beside")
                     return 0 <= x < 17 < y < 60 and SCREEN[0] - 17 < x + width <= SCREEN[0] and \
@@ -239,7 +239,7 @@ class Windows(Scenario):
             _, screen = self.start("FullScreen")
             screen.wait_for_text("Text")
 
-            # Peace for a second would end the fight. No wait for the window's activation: it may have none to see.
+            # A pause of a second would end the attempts. No --sync: the activation may never take effect.
             rival = subprocess.Popen(["xdotool", *["windowactivate", str(other), "sleep", "0.05"] * 1000],
                                      stderr=subprocess.DEVNULL)
             self.addCleanup(rival.wait)
@@ -265,7 +265,7 @@ class Windows(Scenario):
             with self.subTest(mode=mode, environment=environment):
                 process, _ = self.start(mode, environment=environment)
                 for is_dark, page in [(False, LIGHT), (True, DARK), (False, LIGHT)]:
-                    # Told again until somebody listens: that begins after the first paint.
+                    # Repeat the signal: the program connects to it after the first paint.
                     self.wait_for_colours({point: page, **({(5, 5): veiled(page)} if "Blurred" in mode else {})},
                                           meanwhile=lambda: settings.set_dark(is_dark))
                 process.close()
@@ -291,7 +291,7 @@ class Windows(Scenario):
                 with another_application() as other:
                     xdotool("windowactivate", "--sync", other)
                     if stays:
-                        # A popover that goes does so when the program is told that it has lost the keyboard.
+                        # A transient popover closes when the program loses the focus.
                         until("the loss of the keyboard", lambda: not screen.is_active())
                         self.assertIn("In the popover", screen.texts())
                         screen.click("In the popover", "label")
@@ -328,7 +328,7 @@ class Windows(Scenario):
                     if turns_away:
                         screen.wait_until_gone("Below")
                 if not turns_away:
-                    # A popover that goes does so one second after its alert, or at once.
+                    # A popover closes at once or up to one second after its alert, if it closes at all.
                     screen.wait_until_active("Velmar")
                     end = time.monotonic() + 1.2
                     while time.monotonic() < end:
@@ -358,7 +358,7 @@ class Windows(Scenario):
                     for environment in [{}, {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/tmp/silent-bus"}]]
         for process in launches:
             until(lambda: f"the first paint\n{process.story()}", lambda: "First paint" in process.output())
-        # Without limits of the program's own, the first would take fifteen seconds and the second would have no end.
+        # Without time limits in the program, the first launch would take fifteen seconds and the second would hang.
         self.assertLess(time.monotonic() - begin, 14)
 
     def test_the_icon_of_the_status_item(self):

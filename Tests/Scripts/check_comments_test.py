@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Each rule of scripts/check-comments in each kind of file, and the text that the rules must not reach."""
+"""Tests each rule of scripts/check-comments in each kind of file, and texts that the rules don't apply to."""
 
 import subprocess
 import tempfile

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Each rule of scripts/check-layers, broken in a tree of two or three files."""
+"""Tests each rule of scripts/check-layers with violations in a small tree."""
 
 import subprocess
 import tempfile

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Every text that the sources ask for is in every language's table, and the tables say the same of each.
+"""Tests that the table of each language has every text of the sources, and that keys and comments agree between tables.
 
 translations_test.py ROOT
 """
@@ -33,7 +33,7 @@ class Translations(unittest.TestCase):
                 for key, message in messages.items():
                     self.assertEqual({**english[key], "translation": None}, {**message, "translation": None}, key)
                     self.assertTrue(message["translation"].strip(), key)
-                    # A sentence is one in every language.
+                    # A text ends with a full stop in all languages or in none.
                     self.assertEqual(english[key]["source"].endswith("."), message["translation"][-1] in ".。", key)
 
     def test_the_sources_ask_for_the_texts_of_the_tables(self):

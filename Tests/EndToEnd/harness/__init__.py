@@ -1,1 +1,1 @@
-"""What the scenarios are made of: a private machine, a screen to look at, and the program under test."""
+"""Harness of the scenarios: a private machine, the screen, and the program under test."""

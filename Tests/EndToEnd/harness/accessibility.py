@@ -1,4 +1,4 @@
-"""What programs tell readers of the screen, on the accessibility bus of the session."""
+"""Reads the accessibility trees of programs from the accessibility bus of the session."""
 
 import functools
 
@@ -9,12 +9,12 @@ NOTHING = "/org/a11y/atspi/null"
 ACCESSIBLE, COMPONENT = "org.a11y.atspi.Accessible", "org.a11y.atspi.Component"
 ACTION, TEXT = "org.a11y.atspi.Action", "org.a11y.atspi.Text"
 MILLISECONDS = 5000
-# Bits of the set of states.
+# Bit numbers in the set of states.
 ACTIVE, BUSY, SHOWING = 1, 3, 25
 
 
 class Bus:
-    """A connection that several questions are asked over at once: on a busy machine, their way is what takes the time."""
+    """A connection that sends several calls at once, since round trips dominate on a busy machine."""
 
     def __init__(self):
         session = Gio.bus_get_sync(Gio.BusType.SESSION)
@@ -29,8 +29,8 @@ class Bus:
         return Bus()
 
     def ask(self, questions):
-        """The answers to questions, tuples of receiver, path, interface, method and arguments, in their order. Raises
-        GLib.Error if one has none."""
+        """Returns the answers to questions, tuples of receiver, path, interface, method and arguments, in their
+        order. Raises GLib.Error if a call fails."""
         answers = [None] * len(questions)
         missing = len(questions)
 
@@ -53,22 +53,22 @@ class Bus:
         return answers
 
     def application(self, pid):
-        """The name of the process on the bus; None if it is not there."""
+        """Returns the bus name of a process, or None if it is not on the bus."""
         (names,), = self.ask([(REGISTRY, ROOT, ACCESSIBLE, "GetChildren", None)])
         for name, _ in names:
             try:
                 (owner,), = self.ask([("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
                                        "GetConnectionUnixProcessID", GLib.Variant("(s)", (name,)))])
             except GLib.Error:
-                continue  # Another program that has just ended.
+                continue  # The program with that name has just ended.
             if owner == pid:
                 return name
         return None
 
 
 class Node:
-    """One thing of a window as it was when the tree was read: its role ("push button"), its name, the window that it is
-    in, which is a node, too. What it does is asked of the program at once."""
+    """An accessible object at the time when the tree was read: its role ("push button"), its name, and its window,
+    which is a node, too. position() and press() call the program."""
 
     def __init__(self, receiver, path, window=None):
         self._receiver = receiver
@@ -88,11 +88,11 @@ class Node:
                 self.question(ACCESSIBLE, "GetChildren")]
 
     def take(self, role, states, name, children):
-        """The answers to the questions."""
+        """Stores the answers to questions()."""
         self.role, = role
         self.take_states(states)
         self.name, = name
-        # Nothing below a part that is not on show is of interest, but for the entries of menus.
+        # Invisible parts are skipped, except menus, whose entries exist while they are closed.
         if self.showing or "menu" in self.role or self.is_window:
             self.children = [Node(receiver, path, self.window) for receiver, path in children[0] if path != NOTHING]
 
@@ -108,31 +108,31 @@ class Node:
     busy = property(lambda self: self._has(BUSY))
 
     def walk(self):
-        """The node and all below it, in the order in which a reader of the screen comes to them."""
+        """Yields the node and its descendants in the order of a screen reader."""
         yield self
         for child in self.children:
             yield from child.walk()
 
     def text(self):
-        """What stands in it: the name, and for a text field its content."""
+        """Returns the name, or the content of a text field without a name."""
         return self.name or self.content
 
     def _ask(self, interface, method, signature, *arguments):
         return Bus.of_session().ask([self.question(interface, method, GLib.Variant(signature, arguments))])[0][0]
 
     def position(self):
-        """Left, top, width and height, as the program has it now."""
+        """Returns the current left, top, width and height, from the program."""
         return tuple(self._ask(COMPONENT, "GetExtents", "(u)", 0))
 
     def press(self):
-        """Does what a click on it does, without the pointer: for menus that need not be open. What a menu item does is
-        done when this returns; a button is seen to go down first."""
+        """Performs the action of a click without the pointer, also in closed menus. The action of a menu item is
+        complete on return; a button is shown pressed first and acts later."""
         if not self._ask(ACTION, "DoAction", "(i)", 0):
             raise AssertionError(f"the {self.role} '{self.name}' cannot be pressed")
 
 
 def windows(receiver, levels):
-    """The windows of a program with what is in them, down to a number of levels; None if a part is busy."""
+    """Returns the windows of a program with their content, down to a number of levels; None if a part is busy."""
     bus = Bus.of_session()
     (children,), = bus.ask([(receiver, ROOT, ACCESSIBLE, "GetChildren", None)])
     found = level = [Node(receiver, path) for receiver, path in children]
@@ -150,7 +150,7 @@ def windows(receiver, levels):
     for node, (content,) in zip(fields, bus.ask([node.question(TEXT, "GetText", GLib.Variant("(ii)", (0, -1)))
                                                  for node in fields])):
         node.content = content
-    # Something may have begun to move since it was asked. What is busy as a whole is a panel on the bus.
+    # An animation may have started since the first read. The content of a window is a panel on the bus.
     panels = [node for node in nodes if node.role == "panel"]
     for node, states in zip(panels, bus.ask([node.question(ACCESSIBLE, "GetState") for node in panels])):
         node.take_states(states)

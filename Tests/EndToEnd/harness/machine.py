@@ -1,5 +1,5 @@
-"""A private machine: a mount namespace with a root of its own, in which /Library, /Users, /tmp and /run are empty and
-the user and group databases are ours. What lies in the other folders is the real machine's, and cannot be written."""
+"""A private machine: a mount namespace with a separate root, in which /Library, /Users, /tmp and /run are empty and
+the user and group databases are those below. The other folders are the real machine's, read-only."""
 
 import os
 import shutil
@@ -11,7 +11,7 @@ SUPPORT = Path("/Library/Application Support/Velmar")
 BINARIES = Path("/velmar/bin")
 SOURCES = Path("/velmar/source")
 
-# Name, user number, full name, further groups: ada is an administrator, bob is not.
+# Name, user number, full name, additional groups. ada is an administrator, bob is not.
 USERS = [("root", 0, "System Administrator", []), ("nobody", 65534, "nobody", []),
          ("ada", 2001, "Ada Byron", ["admin"]), ("bob", 2002, "Bob Miller", [])]
 GROUPS = {"root": 0, "nogroup": 65534, "wheel": 2010, "admin": 2080, "staff": 2020}
@@ -36,7 +36,7 @@ def home(user):
 
 
 def permitted():
-    """Whether this machine lets us have a namespace of our own; otherwise why not."""
+    """Returns None if the process may create a private namespace, otherwise the reason why not."""
     if os.geteuid() != 0:
         return "the end-to-end tests need root"
     trial = subprocess.run(["unshare", "--mount", "--propagation", "private", "--pid", "--fork", "true"],
@@ -49,7 +49,7 @@ def _mount(*arguments):
 
 
 def enter(root, binaries, sources):
-    """Builds the machine below the folder root and makes it the root of this process, which must be alone in its mount
+    """Builds the machine below the folder root and makes it the root of this process, which must have private mount
     and process namespaces."""
     _mount("-t", "tmpfs", "-o", "mode=0755,size=512m", "velmar-machine", root)
     for name in OWN_FOLDERS:
@@ -91,7 +91,7 @@ def _group():
 
 
 def reset():
-    """Makes the folders that a scenario may have written in what they were."""
+    """Restores the initial state of the folders that a scenario may have written to."""
     for folder in (Path("/Library"), Path("/Users"), Path("/run/systemd")):
         shutil.rmtree(folder, ignore_errors=True)
     for log in Path("/tmp").glob("*-velmar.log"):
@@ -104,7 +104,7 @@ def reset():
 
 
 def seat_user(name):
-    """Puts a user in front of the screen, as the login manager would record it."""
+    """Makes a user the user at the console, in the records of the login manager."""
     seat = Path("/run/systemd/seats/seat0")
     seat.parent.mkdir(parents=True)
     seat.write_text(f"IS_SEAT0=1\nACTIVE=c1\nACTIVE_UID={user_number(name)}\n")

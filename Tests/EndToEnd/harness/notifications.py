@@ -15,8 +15,8 @@ INTERFACE = f"""<node><interface name="{NAME}">
 
 
 class NotificationService:
-    """Serves from a thread of its own until it is closed. Keeps what it is asked to show, in that order, as tuples of
-    title, body and actions (identifiers and titles in turn), and the numbers of those that are withdrawn."""
+    """Serves from a separate thread until close(). Records the shown notifications in order, as tuples of title, body
+    and actions (alternating identifiers and titles), and the numbers of withdrawn ones."""
 
     def __init__(self):
         self.shown, self.withdrawn = [], []
@@ -51,7 +51,8 @@ class NotificationService:
         invocation.return_value(answer)
 
     def invoke(self, number, action):
-        """The person presses a button of a notification, the first of which is 1, or taps on its body ("default")."""
+        """Presses a button of a notification, or taps its body ("default"). The first notification has the number
+        1."""
         self._bus.emit_signal(None, PATH, NAME, "ActionInvoked", GLib.Variant("(us)", [number, action]))
 
     def close(self):

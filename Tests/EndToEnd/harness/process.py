@@ -1,4 +1,4 @@
-"""Runs of programs."""
+"""Running programs."""
 
 import os
 import signal
@@ -9,13 +9,13 @@ from pathlib import Path
 from . import machine
 from .waiting import DEADLINE, until
 
-# Has the toolkit tell readers of the screen, whether or not there is one.
+# Makes the toolkit serve the accessibility bus even without a screen reader.
 ACCESSIBILITY = {"QT_ACCESSIBILITY": "1", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
 
 
 class Program:
-    """Started by the constructor; standard output and error go to files, so that it never waits for a reader. Its use of
-    time and memory is known when it has ended."""
+    """A process that the constructor starts. Standard output and error are files, so that it never blocks on a reader.
+    cpu_seconds() and peak_megabytes() are available after its end."""
 
     def __init__(self, command, **options):
         self._output, self._errors = tempfile.TemporaryFile("w+"), tempfile.TemporaryFile("w+")
@@ -26,7 +26,7 @@ class Program:
         self.status = None
 
     def ended(self):
-        """Takes the status when there is one. A death by a signal is a negative number."""
+        """Returns whether the process has ended, and stores its status. The status of a signal is negative."""
         if self.status is None:
             pid, status, usage = os.wait4(self.pid, os.WNOHANG)
             if pid:
@@ -35,7 +35,7 @@ class Program:
         return self.status is not None
 
     def wait(self, deadline=DEADLINE):
-        """The exit status."""
+        """Waits for the end of the process and returns its exit status."""
         until(lambda: f"the end of the program\n{self.story()}", self.ended, deadline)
         return self.status
 
@@ -60,7 +60,7 @@ class Program:
 
     @staticmethod
     def _read(file):
-        # By another description: the position of the program's own must not move.
+        # A separate file description, since reading must not move the program's write position.
         with open(f"/proc/self/fd/{file.fileno()}", encoding="utf-8", errors="replace") as reader:
             return reader.read()
 
@@ -72,7 +72,7 @@ class Program:
 
 
 class Process(Program):
-    """One of the programs under test, started as a user of the machine."""
+    """A program under test, started as a user of the machine."""
 
     def __init__(self, program, *arguments, user="root", environment=None):
         number, group = machine.user_number(user), machine.group_number(machine.primary_group(user))
@@ -86,7 +86,7 @@ def _environment(user):
     runtime = Path("/run/user") / str(machine.user_number(user))
     runtime.mkdir(parents=True, exist_ok=True, mode=0o700)
     os.chown(runtime, machine.user_number(user), -1)
-    # The session bus lets in only the user who started it.
+    # The session bus accepts only the user that started it.
     bus = os.environ["DBUS_SESSION_BUS_ADDRESS"] if user == "root" else "unix:path=/nonexistent"
     return {"PATH": os.environ["PATH"], "DISPLAY": os.environ["DISPLAY"], "LANG": "C.UTF-8", "HOME": str(home),
             "USER": user, "XDG_CONFIG_HOME": str(home / ".config"), "XDG_RUNTIME_DIR": str(runtime),

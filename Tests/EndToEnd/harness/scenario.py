@@ -1,4 +1,4 @@
-"""The base of the scenarios."""
+"""Base class of the scenarios."""
 
 import os
 import plistlib
@@ -24,13 +24,13 @@ def configuration(*slides, **sections):
 
 
 class Scenario(unittest.TestCase):
-    """Begins on a machine without any configuration; ends with every program that it started."""
+    """Starts on a machine without a configuration; ends all programs that it started."""
 
     def setUp(self):
         machine.reset()
 
     def install(self, content, name="Velmar.plist", place=machine.SUPPORT, owner="root", group="wheel", mode=0o644):
-        """Puts a configuration, a dictionary or bytes, at a place of the machine. Gives its path."""
+        """Writes a configuration, given as a dictionary or bytes, to a folder of the machine. Returns its path."""
         path = place / name
         path.parent.mkdir(parents=True, exist_ok=True)
         path.write_bytes(content if isinstance(content, bytes) else plistlib.dumps(content))
@@ -44,25 +44,25 @@ class Scenario(unittest.TestCase):
         return process
 
     def velmar(self, *arguments, **options):
-        """Starts the program. Gives the process and its screen."""
+        """Starts velmar. Returns the process and its screen."""
         process = self.run_program("velmar", *arguments, **options)
         return process, Screen(process)
 
     def velmarctl(self, *arguments):
-        """Runs the administrator's command line to its end."""
+        """Runs velmarctl to its end and returns the process."""
         process = self.run_program("velmarctl", *arguments)
         process.wait()
         return process
 
     def dismiss_refusal(self, process, screen):
-        """The alert stands there with its text and its one button; pressing it ends the program with 0."""
+        """Checks text and button of the alert of a refused configuration, and that the button ends velmar with 0."""
         screen.wait_for_text(REFUSAL)
         screen.wait_for_buttons("Quit")
         screen.button("Quit").press()
         self.assertEqual(0, process.wait(), process.story())
 
     def end(self, process):
-        """Ends the program in order, after which its log is complete."""
+        """Ends velmar regularly; its log is complete afterwards."""
         process.send(signal.SIGTERM)
         self.assertEqual(0, process.wait(), process.story())
 
@@ -70,13 +70,13 @@ class Scenario(unittest.TestCase):
         return Path(f"/tmp/{user}-velmar.log")
 
     def log(self, user="root"):
-        """The lines of the log so far. A line may come later than what it tells of: as long as the program runs, lines
-        are to be waited for, and that there are no more of them is known only at its end."""
+        """Returns the lines of the log so far. Lines are written asynchronously: while the program runs, wait for a
+        line, and check that there are no others only after its end."""
         path = self.log_path(user)
         return path.read_text(encoding="utf-8").split("\n")[:-1] if path.exists() else []
 
     def messages(self, user="root"):
-        """The messages of the log without name, time, level and trailing blank; a line of its own each."""
+        """Returns the log messages without name, time, level and trailing blanks, one for each line."""
         return [re.sub(r"^\[.*?\] \d\d:\d\d:\d\d \S+ > ", "", line).rstrip(" ") for line in self.log(user)]
 
     def wait_for_message(self, message, user="root", times=1):
@@ -84,5 +84,5 @@ class Scenario(unittest.TestCase):
               lambda: self.messages(user).count(message) >= times)
 
     def wait_for_line(self, fragment):
-        """Waits for a line of the log in which the fragment stands."""
+        """Waits for a log line that contains the fragment."""
         until(lambda: f"'{fragment}' in {self.log()}", lambda: any(fragment in line for line in self.log()))

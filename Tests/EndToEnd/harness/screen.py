@@ -1,5 +1,5 @@
-"""The screen as a person without eyes has it: windows, texts and buttons through the accessibility bus, keys and clicks
-through the X server. Whatever is read, pressed or clicked is so while the program is at rest: see Screen.windows."""
+"""Reads windows, texts and buttons from the accessibility bus, and sends keys and clicks through the X server. All
+reads, keys and clicks wait until no animation runs: see Screen.windows."""
 
 from gi.repository import GLib
 
@@ -10,7 +10,7 @@ EVERYTHING = 1000  # Levels.
 
 
 class Screen:
-    """What one process shows."""
+    """The windows of one process."""
 
     def __init__(self, process):
         self._process = process
@@ -18,13 +18,14 @@ class Screen:
         self._name = None
 
     def windows(self, levels=2):
-        """The windows that the process has on the bus, visible or not, at a time at which it is at rest: while an
-        animation runs, it reports the content of the window, at the second level, as busy. All that looks at the screen,
-        presses a key or clicks comes through here, which is what keeps it out of the middle of a transition."""
+        """Returns the windows of the process on the bus, visible or not, when no animation runs: during an animation
+        the program reports the content of the window, at the second level, as busy. All functions that read the
+        screen, press a key or click call this one, so that none acts in the middle of a transition."""
         return until(lambda: f"the end of what moves\n{self._process.story()}", lambda: self._look(levels))[0]
 
     def _look(self, levels):
-        """A list as its only element; nothing if the process moves or something went away between two questions."""
+        """Returns the windows within a list, which is true for until() even without windows. Returns None if an
+        animation runs or an object disappeared between two calls."""
         if self._process.ended():
             return [[]]
         try:
@@ -35,14 +36,14 @@ class Screen:
             return None
 
     def nodes(self):
-        """The same with all that is in the windows, from these down."""
+        """Returns the windows and all their descendants."""
         return [node for window in self.windows(EVERYTHING) for node in window.walk()]
 
     def texts(self):
         return [node.text() for node in self.nodes() if node.showing and node.text()]
 
     def labels(self):
-        """The plain texts, in the order in which a reader of the screen comes to them."""
+        """Returns the plain texts in the order of a screen reader."""
         return [node.text() for node in self.nodes() if node.showing and node.role == "label"]
 
     def buttons(self):
@@ -52,11 +53,11 @@ class Screen:
         return [window.name for window in self.windows() if window.showing]
 
     def content(self):
-        """Left, top, width and height of the first window, without what the window manager puts around it."""
+        """Returns left, top, width and height of the first window without its frame."""
         return next(window.position() for window in self.windows() if window.showing)
 
     def frame(self):
-        """The same with what the window manager puts around it; None before that is known."""
+        """Returns left, top, width and height of the first window with its frame; None before the frame is known."""
         window = next(iter(xserver.windows_of(self.pid)), None)
         sides = window and xserver.frame_extents(window)
         if not sides:
@@ -66,14 +67,15 @@ class Screen:
         return x - left, y - top, width + left + right, height + top + bottom
 
     def window(self, text):
-        """The same of the window in which the text stands; None where there is none."""
+        """Returns left, top, width and height of the window with the text, without its frame; None without such a
+        window."""
         return next((node.window.position() for node in self.nodes() if node.showing and node.text() == text), None)
 
     def wait_for_title(self, title):
         self._wait(f"a window titled '{title}'", lambda: title in self.titles())
 
     def wait_for_colour(self, colour):
-        """Until some point of the whole screen has exactly the colour "#RRGGBB"."""
+        """Waits until a pixel of the screen has exactly the colour "#RRGGBB"."""
         wanted = tuple(bytes.fromhex(colour[1:]))
         self._wait(f"the colour {colour}", lambda: wanted in xserver.pixels())
 
@@ -93,19 +95,20 @@ class Screen:
         return self._find("push button", name)
 
     def menu_items(self):
-        """The names of the entries of the menus, open or not."""
+        """Returns the names of the menu entries, also of closed menus."""
         return [node.name for node in self.nodes() if node.role == "menu item"]
 
     def menu_item(self, name):
         return self._find("menu item", name, is_showing=False)
 
     def key(self, combination):
-        """Presses keys ("Return", "ctrl+q") in the active window, which must be one of the process."""
+        """Presses keys ("Return", "ctrl+q") after giving the focus to a window of the process."""
         self.wait_for_focus()
         xserver.press_key(combination)
 
     def click(self, name, role="push button"):
-        """Clicks on the middle of something, once its window is where the program has it, with nothing above that place."""
+        """Clicks on the middle of an object when its window is at the reported position and no other window covers
+        it."""
         def is_below_the_pointer():
             node = self._find(role, name)
             place = x, y, width, height = node.position()
@@ -115,22 +118,23 @@ class Screen:
         xserver.click()
 
     def is_active(self, title=None):
-        """Whether the program knows that the keyboard is in one of its windows, or in that of a title."""
+        """Returns whether the program reports the keyboard focus in one of its windows, or in the window of that
+        title."""
         return any(window.active and window.showing and title in (None, window.name) for window in self.windows())
 
     def activate(self, title):
-        """Gives the keyboard to the window of that title."""
+        """Gives the keyboard focus to the window of that title."""
         def is_in_front():
             xserver.xdotool("search", "--onlyvisible", "--name", f"^{title}$", "windowactivate")
             return xserver.xdotool("getactivewindow", "getwindowname") == title and self.is_active(title)
         self._wait(f"the window '{title}' in front", is_in_front)
 
     def wait_until_active(self, title):
-        """Until the window of that title has the keyboard of its own accord."""
+        """Waits until the window of that title takes the keyboard focus by itself."""
         self._wait(f"the keyboard in the window '{title}'", lambda: self.is_active(title))
 
     def wait_for_focus(self):
-        """Until one of the windows has the keyboard, which is given to them if they don't take it."""
+        """Waits until a window of the process has the keyboard focus, and activates one if none takes it."""
         def story():
             return (f"the focus, which {xserver.active_window()} has, not one of {xserver.windows_of(self.pid)}, as the "
                     f"window manager has it, and {self.is_active()} as the program has it")
@@ -155,7 +159,7 @@ class Screen:
             try:
                 value = condition()
             except GLib.Error:
-                return None  # Something went away between two questions.
+                return None  # An object disappeared between two calls.
             if not value and self._process.ended():
                 raise AssertionError(f"the program ended while waiting for {story()}")
             return value

@@ -1,4 +1,4 @@
-"""A desktop's place for status items, and the other services of a desktop, on the session bus of the scenarios."""
+"""Fakes of the desktop's panel for status items and of its settings, on the session bus of the scenarios."""
 
 import threading
 
@@ -21,7 +21,7 @@ WATCHER_XML = f"""<node><interface name="{WATCHER}">
 
 
 class _Service:
-    """A name on the bus, served by a thread of its own until it is closed."""
+    """A name on the bus, served by a separate thread until close()."""
 
     def __init__(self, name):
         self._context = GLib.MainContext.new()
@@ -52,7 +52,7 @@ class _Service:
 
 
 class Tray(_Service):
-    """The panel: it takes items, and clicks on them when it is told to; or it hangs, and answers nothing."""
+    """The panel. It records registered items and clicks on them. With hangs, it answers no call."""
 
     def __init__(self, hangs=False):
         self.items = []
@@ -86,7 +86,7 @@ class Tray(_Service):
         self._call(ITEM, "Activate", GLib.Variant("(ii)", (0, 0)))
 
     def icon(self):
-        """The largest picture of the item: its side, and its pixels as (alpha, red, green, blue)."""
+        """Returns the largest picture of the item: its side length, and its pixels as (alpha, red, green, blue)."""
         pictures = self._call("org.freedesktop.DBus.Properties", "Get",
                               GLib.Variant("(ss)", (ITEM, "IconPixmap"))).unpack()[0]
         side, _, data = max(pictures)
@@ -94,7 +94,7 @@ class Tray(_Service):
 
 
 class Settings(_Service):
-    """The desktop's settings, as far as they are told to who follows them."""
+    """The desktop's settings service, reduced to its signal for changed settings."""
 
     def __init__(self):
         super().__init__(PORTAL)

@@ -1,17 +1,18 @@
-"""Waiting for something that will be true, with a deadline and never for a fixed time."""
+"""Waits for conditions with a deadline, never for a fixed time."""
 
 import time
 
-# Seconds. A condition that comes true ends the wait at once, so that only a failure costs them.
+# Seconds. The wait ends as soon as the condition is true; only a failure takes this long.
 DEADLINE = 40.0
 
 
 class TooLate(AssertionError):
-    """The condition did not come true in time."""
+    """The condition was not true in time."""
 
 
 def until(what, condition, deadline=DEADLINE):
-    """The first true value of condition(); raises TooLate, with the text of what() if it is callable."""
+    """Returns the first true value of condition(). Raises TooLate after the deadline, with the text what, which may
+    be a function."""
     end = time.monotonic() + deadline
     while True:
         value = condition()

@@ -1,17 +1,17 @@
-"""The X server and the window manager, as a person with eyes and hands has them."""
+"""Input and output through the X server and the window manager."""
 
 import contextlib
 import ctypes
 import re
 import subprocess
 
-# Of the screen that scripts/with-display makes.
+# Size of the screen of scripts/with-display.
 SIZE = (1280, 800)
 
 
 
 class _Image(ctypes.Structure):
-    """The beginning of Xlib's XImage."""
+    """The first members of Xlib's XImage."""
     _fields_ = [(name, ctypes.c_int) for name in ("width", "height", "xoffset", "format")] + [("data", ctypes.c_void_p)]
 
 
@@ -22,7 +22,7 @@ _x11.XGetImage.restype = ctypes.POINTER(_Image)
 
 
 def xdotool(*arguments):
-    """The output of the command; empty if it fails."""
+    """Runs xdotool and returns its output, or an empty text if it fails."""
     result = subprocess.run(["xdotool", *map(str, arguments)], capture_output=True, text=True)
     return result.stdout.strip() if result.returncode == 0 else ""
 
@@ -36,7 +36,7 @@ def click():
 
 
 def geometry(window):
-    """Left, top, width and height of a window; None if it is gone."""
+    """Returns left, top, width and height of a window; None if it no longer exists."""
     text = subprocess.run(["xwininfo", "-id", str(window)], capture_output=True, text=True).stdout
     numbers = [re.search(rf"{name}: +(-?\d+)", text)
                for name in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")]
@@ -44,7 +44,7 @@ def geometry(window):
 
 
 def frame_extents(window):
-    """The widths of what the window manager puts around a window, left, right, above and below; None before it is known."""
+    """Returns the widths of the window's frame, left, right, top and bottom; None before they are known."""
     text = subprocess.run(["xprop", "-id", str(window), "-notype", "_NET_FRAME_EXTENTS"], capture_output=True,
                           text=True).stdout
     sides = re.search(r"= (\d+), (\d+), (\d+), (\d+)", text)
@@ -52,19 +52,19 @@ def frame_extents(window):
 
 
 def windows_of(pid):
-    """The numbers of the windows of a process that are on the screen."""
+    """Returns the numbers of the visible windows of a process."""
     return [int(number) for number in xdotool("search", "--onlyvisible", "--pid", pid).split()]
 
 
 def active_window():
-    """The number of the window that has the keyboard; None if none has."""
+    """Returns the number of the active window; None if there is none."""
     number = xdotool("getactivewindow")
     return int(number) if number else None
 
 
 @contextlib.contextmanager
 def _display():
-    """A connection for what no tool of the command line tells, with the root window."""
+    """Opens a connection and yields it with the root window, for queries that no command line tool offers."""
     display = ctypes.c_void_p(_x11.XOpenDisplay(None))
     try:
         yield display, _x11.XDefaultRootWindow(display)
@@ -73,14 +73,14 @@ def _display():
 
 
 def keyboard_is_grabbed():
-    """Whether a program has the keyboard to itself, so that not even the window manager gets its keys."""
+    """Returns whether a program has grabbed the keyboard."""
     with _display() as (display, root):
-        # The server refuses a second grab; one that it grants ends with the connection.
+        # The server refuses a second grab. A granted one ends with the connection.
         return _x11.XGrabKeyboard(display, ctypes.c_ulong(root), 0, 1, 1, ctypes.c_ulong(0)) != 0
 
 
 def pixels(x=0, y=0, width=SIZE[0], height=SIZE[1]):
-    """A part of the screen, row by row, as tuples of red, green and blue."""
+    """Returns the pixels of a part of the screen, row by row, as tuples of red, green and blue."""
     all_planes, one_value_a_pixel = ctypes.c_ulong(-1), 2
     with _display() as (display, root):
         image = _x11.XGetImage(display, ctypes.c_ulong(root), x, y, width, height, all_planes, one_value_a_pixel)
@@ -90,7 +90,7 @@ def pixels(x=0, y=0, width=SIZE[0], height=SIZE[1]):
 
 
 def window_below_pointer():
-    """The number of the innermost one."""
+    """Returns the number of the innermost window below the pointer."""
     with _display() as (display, child):
         ignored = ctypes.byref((ctypes.c_long * 8)())
         while child:

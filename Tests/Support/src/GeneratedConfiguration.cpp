@@ -12,16 +12,16 @@ namespace {
 
 using Kind = ValueDescription::Kind;
 
-constexpr int deepest = 12;                // Of items within items that need not be there.
-constexpr std::string_view model = "Base"; // Is in every book.
+constexpr int deepest = 12;                // Nesting of optional items.
+constexpr std::string_view model = "Base"; // Name of a model in every book.
 constexpr std::string_view variable = "SOME_VARIABLE";
 
-/// Keys whose values depend on each other beyond their requirements.
+/// Returns whether the key is never given, because its value depends on other keys beyond its requirement.
 bool isLeftOut(std::string_view typeName, std::string_view key) {
     return typeName == "ContainerItem" && (key == "IsLarge" || key == "WidthRatio");
 }
 
-/// The keys that may not stay as they were chosen: what the requirement of each asks of `given`.
+/// Adds keys to `given` or removes them, so that it meets the requirement of each key.
 void meetRequirements(const std::vector<KeyDescription> &keys, std::set<std::string_view> &given) {
     using enum RequirementType;
     for (const KeyDescription &key : keys) {
@@ -38,8 +38,8 @@ void meetRequirements(const std::vector<KeyDescription> &keys, std::set<std::str
     }
 }
 
-/// Puts a value into nested dictionaries of the file. Of a file that has the first of them the others must be
-/// there too: what is left out there is left out on purpose.
+/// Sets a value in nested dictionaries of the file. Makes missing dictionaries only if the first one is
+/// missing; otherwise a missing one is intended, and nothing is set.
 void put(PropertyList &file, std::initializer_list<std::string_view> keys, PropertyList value) {
     const bool isNew = file.dictionary()->find(*keys.begin()) == nullptr;
     PropertyList *place = &file;
@@ -127,7 +127,7 @@ PropertyList GeneratedConfiguration::item(std::string_view typeName, double prob
     if (!also.empty()) {
         given.insert(also);
     }
-    // Twice, because what one key asks may change what another asks.
+    // Twice, because meeting one requirement may change another one.
     meetRequirements(description.keys, given);
     meetRequirements(description.keys, given);
     PropertyList::Dictionary made;

@@ -18,8 +18,8 @@
 
 namespace velmar {
 
-/// AppManagers of files in a directory that stands for the places of the system. Whoever runs the tests is an
-/// administrator there.
+/// Fixture that makes AppManagers for files in a temporary directory instead of the system's places. The user
+/// of the test process is an administrator.
 class AppManagerFixture : public testing::Test {
 protected:
     AppManagerFixture() {
@@ -29,7 +29,7 @@ protected:
     }
     ~AppManagerFixture() override { ::unsetenv("XDG_CONFIG_HOME"); }
 
-    /// A configuration with these sections and slides, as the file "x.plist".
+    /// Writes a configuration with these sections and slides, both XML, as "x.plist". Returns its path.
     std::string writeConfiguration(std::string_view sections, ::mode_t mode = 0644,
                                    const std::string &slides = slideOf(textComponent("Hello."))) const {
         return writeFile(

@@ -13,8 +13,7 @@
 
 namespace velmar {
 
-/// Fails unless each type of the item is registered once or named once among those not built yet, and none is
-/// both.
+/// Fails unless each type of the item occurs exactly once in `registrations` and `notBuilt` together.
 template <class Item, class Factory>
 void expectEachTypeOnce(const FactoryTable<Item, Factory> &table) {
     std::vector<std::string_view> named;

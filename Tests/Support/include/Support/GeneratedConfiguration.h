@@ -11,21 +11,21 @@
 
 namespace velmar {
 
-/// Makes files that are admitted, out of what the items say of their keys.
+/// Makes random valid files from the descriptions of the items. The same seed gives the same files.
 class GeneratedConfiguration {
 public:
     explicit GeneratedConfiguration(std::uint32_t seed);
 
-    /// A whole file with every key given or left out by chance, items within items up to a depth.
+    /// Returns a file in which each optional key is given or left out at random, with bounded nesting.
     [[nodiscard]] PropertyList file();
 
-    /// Gives a file the models, the variable and the slide that made items refer to.
+    /// Adds the models, the variable and the slide that generated items refer to.
     void addWhatIsReferredTo(PropertyList &file);
 
-    /// An item with its required keys only; `also` is given too.
+    /// Returns an item with only its required keys and the key `also`.
     [[nodiscard]] PropertyList leastItem(std::string_view typeName, std::string_view also = {});
 
-    /// A value that a key of an item accepts.
+    /// Returns a value that a key of an item accepts.
     [[nodiscard]] PropertyList value(std::string_view typeName, const KeyDescription &key);
 
     [[nodiscard]] const Descriptions &descriptions() const { return descriptions_; }
@@ -40,7 +40,7 @@ private:
 
     Descriptions descriptions_;
     std::mt19937 random_;
-    double probability_ = 0; ///< Of a key that may be left out.
+    double probability_ = 0; ///< That an optional key is given.
     int depth_ = 0;
 };
 

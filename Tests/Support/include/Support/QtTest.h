@@ -8,8 +8,8 @@
 
 namespace velmar {
 
-/// A test over another fixture with the toolkit's application, or what makes it, which lasts for the group of
-/// tests.
+/// Fixture that adds an application of the toolkit to another fixture. The application exists for the whole
+/// test suite. `Application` must be constructible from the arguments of main.
 template <class Fixture = testing::Test, class Application = QApplication>
 class QtTest : public Fixture {
 protected:

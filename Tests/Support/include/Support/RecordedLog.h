@@ -15,16 +15,16 @@
 
 namespace velmar {
 
-/// Takes the process's log for as long as it lives.
+/// Records the log of the process while it exists; replaces all other destinations. Thread-safe.
 class RecordedLog {
 public:
-    /// The lines so far, "LEVEL: MESSAGE CONTEXT" each.
+    /// Returns the lines so far, each as "LEVEL: MESSAGE CONTEXT".
     [[nodiscard]] std::vector<std::string> lines() const {
         const std::lock_guard lock(destination_->mutex);
         return destination_->lines;
     }
 
-    /// The lines since the last call.
+    /// Returns the lines since the last call.
     [[nodiscard]] std::vector<std::string> takeLines() {
         const std::lock_guard lock(destination_->mutex);
         return std::exchange(destination_->lines, {});

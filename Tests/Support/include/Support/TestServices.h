@@ -16,7 +16,7 @@
 
 namespace velmar {
 
-/// Keeps the item of the window that is open.
+/// Fake that stores the item of the open window.
 struct TestSlideWindowPresenter final : SlideWindowPresenter {
     void open(std::shared_ptr<const ActionItems::OpenWindow> item) override { openItem = std::move(item); }
     void close() override { openItem.reset(); }
@@ -24,10 +24,10 @@ struct TestSlideWindowPresenter final : SlideWindowPresenter {
     std::shared_ptr<const ActionItems::OpenWindow> openItem; ///< Null while no window is open.
 };
 
-/// The services of a test: the fakes, and a store of variables of its own.
+/// Services of a test: the fakes and a separate store of variables.
 struct TestServices {
     TestServices() : TestServices(mainQueue) {}
-    /// With another main queue in the bundle.
+    /// Uses another main queue in the bundle. `queue` must outlive the services.
     explicit TestServices(MainQueue &queue)
         : bundle{.mainQueue = queue,
                  .timers = timers,
