@@ -275,7 +275,7 @@ TEST_F(ContentTest, LosesNoWriteAfterNamesWereReplaced) {
             }
         });
     }
-    // The replacement happens before the write of the second phase and is concurrent with that of the first.
+    // The replacement is concurrent with the write of the first phase and precedes that of the second.
     std::barrier phase(2);
     std::thread writer([&] {
         for (int round = 0; round < rounds; ++round) {

@@ -74,7 +74,7 @@ TEST_F(EvaluatableTest, TellsWhatAConditionDependsOn) {
     EXPECT_THAT(involvedVariables(Expression("READY")), ElementsAre("READY"));
 }
 
-// Every reading is of another moment: Y1 goes ahead of X1, which then catches up.
+// Changes the state at each read: Y1 gets ahead of X1, then X1 catches up.
 class RestlessContent final : public ContentManagerProtocol {
 public:
     explicit RestlessContent(std::shared_ptr<ContentManager> manager) : manager_(std::move(manager)) {}

@@ -37,12 +37,12 @@ ConditionEvaluator::View ConditionEvaluator::view() {
             return {std::move(variables), notes_};
         }
     }
-    // Outside of the lock: a long book must not hold up other threads. Two of them may work out the same.
+    // Not locked: a long book must not block other threads. Two threads may compute the same notes.
     const auto notes = std::make_shared<const Notes>(book, variables);
     bool areNew = false;
     {
         const std::lock_guard lock(mutex_);
-        // The notes of a state that has passed meanwhile serve this call alone.
+        // Notes of a superseded state are used by this call only.
         areNew = !notes_ || notes_->book != book || notes_->version < notes->version;
         if (areNew) {
             notes_ = notes;

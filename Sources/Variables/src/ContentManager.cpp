@@ -15,8 +15,7 @@ namespace velmar {
 
 namespace {
 
-// Each store counts its states in a range of its own: who keeps what was computed from a state needs to know
-// the version alone.
+// Each store has its own range of versions, so that a cache can identify a state by its version alone.
 NumberedVariables firstState() {
     static constinit std::atomic<std::uint64_t> stores{0};
     constexpr unsigned bitsOfCount = 40;
@@ -79,7 +78,7 @@ std::optional<ContentManager::Change> ContentManager::store(std::string_view nam
         if (state.isShared()) {
             const auto known = state->variables.find(name);
             if (known != state->variables.end() && (present == Present::stays || known->second == value)) {
-                return std::nullopt; // No copy of all variables for nothing.
+                return std::nullopt; // Avoids a copy of all variables.
             }
         }
         auto &[variables, version] = state.unshared();
@@ -104,7 +103,7 @@ void ContentManager::notifyObservers(std::string_view name, const Change &change
     if (!hasObservers_.load(std::memory_order_relaxed)) {
         return;
     }
-    // Taken after the write: an observer filed under the name from here on reads the new value.
+    // Taken after the write: an observer added later reads the new value.
     const ObserversByName::Snapshot observers =
         observers_.withValue([name](const ObserversByName &table) { return table.observersOf(name); });
     for (const ObserversByName::Entries *const entries : {&observers.byName, &observers.ofEveryVariable}) {

@@ -61,7 +61,7 @@ void ObserversByName::file(const UUID &identity, const Registration &registratio
     }
     for (const std::string &name : *registration.names) {
         Entries &entries = byName_[name];
-        // Two equivalent spellings of one name share a list.
+        // Equivalent spellings of a name share a list.
         if (entries->empty() || entries->back().identity != identity) {
             entries.unshared().push_back({identity, registration.observer});
         }
@@ -76,7 +76,7 @@ void ObserversByName::unfile(const UUID &identity, const Registration &registrat
     for (const std::string &name : *registration.names) {
         const auto found = byName_.find(name);
         if (found == byName_.end()) {
-            continue; // Erased under an equivalent spelling.
+            continue; // Already erased under an equivalent spelling.
         }
         erase(found->second, identity);
         if (found->second->empty()) {

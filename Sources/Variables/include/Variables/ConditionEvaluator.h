@@ -15,16 +15,15 @@
 
 namespace velmar {
 
-/// Evaluates conditions over the variables of the moment. The conditions that the configuration names stand
-/// in any other one by their names, like variables; among themselves they see variables only. What they give
-/// is worked out once for a state of the variables and shared by all evaluations. One instance is shared by
-/// the process. Any thread.
+/// Evaluates conditions over the current variables. A condition may refer to the configuration's named
+/// conditions like variables; a named condition sees variables only. The results of the named conditions are
+/// cached per state of the variables. The process shares one instance. Thread-safe.
 class ConditionEvaluator {
 public:
     using NamedConditions = ExpressionsBook<expressions::Expression>;
 
-    ConditionEvaluator(); ///< Of the configuration and the shared store, those of the moment.
-    /// Of a book that stays; a null store is the shared one.
+    ConditionEvaluator(); ///< Uses the present configuration and the shared store at each evaluation.
+    /// Uses a fixed book. A null `contentManager` selects the shared store at each evaluation.
     ConditionEvaluator(NamedConditions conditions,
                        std::shared_ptr<const ContentManagerProtocol> contentManager);
 
@@ -32,16 +31,16 @@ public:
         return Shared<ConditionEvaluator>::instance();
     }
 
-    /// Throws expressions::ExpressionError: the condition's own one, or that of a named condition, which no
-    /// evaluation does without. The first named condition that fails is told in the log, once for a state of
-    /// the variables.
+    /// Returns the result of `condition`. The first named condition that fails is logged once per state of
+    /// the variables. Throws expressions::ExpressionError if `condition` or any named condition fails, even
+    /// one that `condition` does not use.
     [[nodiscard]] bool evaluate(const expressions::Expression &condition);
 
-    /// The variables on which the outcome of a condition depends: its own, and those of all named conditions.
+    /// Returns the variables that affect the result: those of `condition` and of all named conditions.
     [[nodiscard]] VariableNames involvedVariables(const expressions::Expression &condition);
 
 private:
-    // Of one book.
+    // Names used by one book.
     struct Names {
         explicit Names(std::shared_ptr<const NamedConditions> conditions);
 
@@ -49,7 +48,7 @@ private:
         boost::unordered_flat_set<std::string, VariableNameHash, VariableNameEqual> conditions;
         VariableNames variables;
     };
-    // Of one book and one state of the variables.
+    // Results of one book for one state of the variables.
     struct Notes {
         struct Failure {
             std::string condition;
@@ -61,7 +60,7 @@ private:
         std::shared_ptr<const NamedConditions> book;
         std::uint64_t version;
         Variables values;               // "true" or "false" by name.
-        std::optional<Failure> failure; // The first one; the values end before it.
+        std::optional<Failure> failure; // The first failure; later conditions are not evaluated.
     };
     struct View {
         VariablesSnapshot variables;
@@ -71,7 +70,7 @@ private:
     View view();
 
     Config<NamedConditions> _conditions;
-    std::shared_ptr<const ContentManagerProtocol> contentManager_; // Null for the shared one.
+    std::shared_ptr<const ContentManagerProtocol> contentManager_; // Null selects the shared store.
     std::mutex mutex_;                                             // Guards notes_ and names_.
     std::shared_ptr<const Notes> notes_;
     std::shared_ptr<const Names> names_;

@@ -6,9 +6,9 @@
 
 namespace velmar {
 
-/// An object's handle on the store of variables, usually its member `_contentVariables`: reads and writes
+/// An object's handle on the store of variables, usually its member `_contentVariables`. Reads and writes
 /// variables and, once subscribed, keeps an observer registered until the handle is destroyed. Thread-safe
-/// except for its destruction.
+/// except for destruction.
 class Content {
 public:
     explicit Content(std::shared_ptr<ContentManagerProtocol> contentManager = ContentManager::shared());
@@ -18,12 +18,12 @@ public:
 
     [[nodiscard]] const UUID &contentManagerObserverId() const noexcept { return contentManagerObserverId_; }
 
-    /// Registers the observer, which is held weakly, for changes of the variables with these names, by
-    /// default of every variable. Only the first call has an effect.
+    /// Registers the observer, which is held weakly, for changes of the named variables, by default of every
+    /// variable. Only the first call has an effect.
     void subscribe(std::weak_ptr<ContentObserver> observer, ObservedNames names = std::nullopt);
 
     /// Replaces the observed names. The observer is notified of every later write that changes a variable of
-    /// the new names. Does nothing before the subscription.
+    /// the new names. Does nothing before subscribe().
     void setObservedNames(ObservedNames names);
 
     void updateVariable(std::string_view name, std::string value, bool log) const;

@@ -24,34 +24,34 @@ class ContentManagerProtocol {
 public:
     virtual ~ContentManagerProtocol() = default;
 
-    /// Gives a variable a value and notifies its observers of the change. An equal value (by canonical
-    /// equivalence) is stored without a notice. The name is given bare or as "${NAME}"; a leading "${" and a
-    /// trailing "}" are stripped, each by itself. `log`: a change is logged, at information level.
+    /// Sets a variable and notifies its observers of the change. An equal value (by canonical equivalence)
+    /// causes no notice. The name is given bare or as "${NAME}"; a leading "${" and a trailing "}" are
+    /// stripped independently. `log`: changes are logged at information level.
     virtual void updateVariable(std::string_view name, std::string value, bool log) = 0;
 
-    /// The same for each pair, logged.
+    /// Sets each variable in the order of the names, as updateVariable() does with logging.
     virtual void updateVariables(const std::map<std::string, std::string> &variables) = 0;
 
-    /// Gives a placeholder a value, without a line in the log.
+    /// Sets the variable of a placeholder, without logging.
     virtual void updatePlaceholder(GeneralSection::Placeholders placeholder, std::string value) = 0;
 
-    /// The variables of this moment.
+    /// Returns a snapshot of the current variables.
     [[nodiscard]] virtual VariablesSnapshot variables() const = 0;
 
     /// Registers an observer for changes of the variables with these names until it is removed or destroyed.
-    /// Replaces the observer of that identity, if there is one.
+    /// Replaces any observer of the same identity.
     virtual void addObserver(const UUID &identity, std::weak_ptr<ContentManagerObserver> observer,
                              ObservedNames names) = 0;
 
-    /// Replaces the names of an observer in one step. The observer is notified of every write that begins
+    /// Replaces the names of an observer atomically. The observer is notified of every write that begins
     /// afterwards and changes a variable of the new names; names in both sets miss no write. Does nothing if
     /// there is no observer of that identity.
     virtual void setObservedNames(const UUID &identity, ObservedNames names) = 0;
     virtual void removeObserver(const UUID &identity) = 0;
 };
 
-/// The store of all variables of the session, as texts. One instance is shared by the process, made at the
-/// first use with no variables. Any thread.
+/// The store of all variables of the session, as texts. The process shares one instance, which is created
+/// empty at first use. Thread-safe.
 class ContentManager final : public ContentManagerProtocol {
 public:
     ContentManager();
@@ -69,12 +69,12 @@ public:
     void setObservedNames(const UUID &identity, ObservedNames names) override;
     void removeObserver(const UUID &identity) override;
 
-    /// At the start: gives the variables of General.Variables their values, logged, then every name that keys
-    /// declared and that has no value yet the empty one, unlogged.
+    /// Sets the variables of General.Variables, with logging, then sets every declared variable that has no
+    /// value to the empty text, without logging. Called at start-up.
     void registerVariables(const Configuration &configuration);
 
-    /// Gives the named variables their values from the book again, unlogged; names that it lacks are left
-    /// alone.
+    /// Resets the named variables to their values in `book`, without logging. Names that `book` lacks are
+    /// unchanged.
     void resetVariables(const VariableNames &names, const ExpressionsBook<std::string> &book);
 
 private:
@@ -82,10 +82,10 @@ private:
         std::optional<std::string> former;
     };
 
-    // What becomes of a value that is there already.
+    // Treatment of an existing value.
     enum class Present { isReplaced, stays };
 
-    // The change that storing the value made, none if the variable had an equal one.
+    // Returns the change, or nullopt if the variable stays or has an equal value already.
     std::optional<Change> store(std::string_view name, const std::string &value, Present present);
     void notifyObservers(std::string_view name, const Change &change, const std::string &value) const;
 

@@ -10,12 +10,12 @@
 
 namespace velmar {
 
-/// A value of the program that variables show: each write publishes it under the name of a placeholder, whole
-/// numbers in decimal, a Bool as "true" or "false". One thread at a time.
+/// A value whose every write is published as the variable of a placeholder: whole numbers in decimal, a bool
+/// as "true" or "false". Not thread-safe.
 template <std::integral T>
 class ContentUpdater {
 public:
-    /// The first value is not published.
+    /// Does not publish the initial value. `contentManager` must not be null.
     ContentUpdater(T wrappedValue, GeneralSection::Placeholders placeholder,
                    std::shared_ptr<ContentManagerProtocol> contentManager = ContentManager::shared())
         : wrappedValue_(wrappedValue),

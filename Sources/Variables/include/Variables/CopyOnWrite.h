@@ -6,10 +6,10 @@
 
 namespace velmar {
 
-/// A value whose copies share it until one of them is written: copying costs a count, and a write copies the
-/// value only while somebody else holds it. What a copy shows never changes by a write to another one.
+/// A value that its copies share until one of them is written. Copying increments a reference count; a write
+/// copies the value only while another copy shares it. A write never changes the value of another copy.
 ///
-/// Different copies may be used by different threads at the same time, one copy by one thread at a time.
+/// Different copies may be used by different threads concurrently; a single copy is not thread-safe.
 template <class T>
 class CopyOnWrite {
 public:
@@ -21,7 +21,7 @@ public:
             shared_->holders.fetch_add(1, std::memory_order_relaxed);
         }
     }
-    /// The other one may only be assigned to or destroyed afterwards.
+    /// Leaves `other` valid only for assignment and destruction.
     CopyOnWrite(CopyOnWrite &&other) noexcept : shared_(std::exchange(other.shared_, nullptr)) {}
     CopyOnWrite &operator=(CopyOnWrite other) noexcept {
         std::swap(shared_, other.shared_);
@@ -37,11 +37,12 @@ public:
     [[nodiscard]] const T *operator->() const noexcept { return &shared_->value; }
 
     [[nodiscard]] bool isShared() const noexcept {
-        // Acquire: all that former holders read happened before what is written next.
+        // Acquire: the reads of former holders happen before the next write.
         return shared_->holders.load(std::memory_order_acquire) != 1;
     }
 
-    /// The value for writing, of this copy alone; references into it hold until the next copy is made.
+    /// Returns the value for writing, after copying it if it is shared. References into it must not be
+    /// written through once this object has been copied.
     [[nodiscard]] T &unshared() {
         if (isShared()) {
             *this = CopyOnWrite(T(shared_->value));

@@ -4,11 +4,12 @@
 
 namespace velmar {
 
-/// A condition over the variables of the moment, by the process's evaluator; as its functions of these names.
+/// Shorthand for ConditionEvaluator::shared()->evaluate(condition).
 [[nodiscard]] inline bool evaluate(const expressions::Expression &condition) {
     return ConditionEvaluator::shared()->evaluate(condition);
 }
 
+/// Shorthand for ConditionEvaluator::shared()->involvedVariables(condition).
 [[nodiscard]] inline VariableNames involvedVariables(const expressions::Expression &condition) {
     return ConditionEvaluator::shared()->involvedVariables(condition);
 }

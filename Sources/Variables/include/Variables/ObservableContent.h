@@ -7,8 +7,8 @@
 
 namespace velmar {
 
-/// Observer with its own handle on the store, registered under the names of the variables that concern it. It
-/// must be owned by a shared_ptr, and its maker subscribes it:
+/// An observer with its own handle on the store, registered under the names of the variables that concern it.
+/// It must be owned by a shared_ptr, and its creator subscribes it:
 ///
 ///     auto label = std::make_shared<Label>(...);
 ///     label->contentVariables().subscribe(label, label->names());
@@ -20,7 +20,7 @@ public:
 
     [[nodiscard]] Content &contentVariables() noexcept { return _contentVariables; }
 
-    /// Replaces the variables that concern the object; see Content::setObservedNames.
+    /// Replaces the names of the variables that concern the object; see Content::setObservedNames.
     void setConcerningVariables(VariableNames names) { _contentVariables.setObservedNames(std::move(names)); }
 
 private:

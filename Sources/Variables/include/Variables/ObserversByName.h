@@ -13,18 +13,19 @@
 
 namespace velmar {
 
-/// The observers of a store, filed by the names of the variables that they observe. A change of one observer
-/// touches the lists of its own names only. One thread at a time; the lists of a snapshot may be read on any.
+/// The observers of a store, indexed by the names of the variables that they observe. A change of one
+/// observer affects the lists of its own names only. Not thread-safe; a snapshot may be read on any thread.
 class ObserversByName {
 public:
     struct Entry {
         UUID identity;
         std::weak_ptr<ContentManagerObserver> observer;
     };
-    /// In no fixed order.
+    /// Observers in unspecified order.
     using Entries = CopyOnWrite<std::vector<Entry>>;
 
-    /// The observers of one variable at one moment; later changes do not affect it. An identity occurs once.
+    /// The observers of one variable at the time of the call; later changes do not affect it. Each identity
+    /// occurs once.
     struct Snapshot {
         Entries byName;
         Entries ofEveryVariable;
@@ -33,13 +34,13 @@ public:
     [[nodiscard]] bool isEmpty() const noexcept { return registrations_.empty(); }
     [[nodiscard]] Snapshot observersOf(std::string_view variable) const;
 
-    /// Replaces the observer of that identity, if there is one.
+    /// Adds an observer. Replaces any observer of the same identity.
     void add(const UUID &identity, std::weak_ptr<ContentManagerObserver> observer, ObservedNames names);
 
     /// Replaces the names of an observer. Does nothing if there is no observer of that identity.
     void setNames(const UUID &identity, ObservedNames names);
 
-    /// Does nothing if there is no observer of that identity.
+    /// Removes an observer. Does nothing if there is no observer of that identity.
     void remove(const UUID &identity);
 
 private:
@@ -53,7 +54,7 @@ private:
 
     boost::unordered_flat_map<UUID, Registration, std::hash<UUID>> registrations_;
     boost::unordered_flat_map<std::string, Entries, VariableNameHash, VariableNameEqual>
-        byName_; // None empty.
+        byName_; // Never holds an empty list.
     Entries ofEveryVariable_;
     Entries none_; // Shared by all snapshots of variables without observers.
 };

@@ -7,10 +7,9 @@
 
 namespace velmar {
 
-/// Puts the values of variables in the place of the references in every text that is read from the
-/// configuration. All texts of one value see the same moment; if one cannot be populated, the value is left
-/// as it is, with a line at warning level for each reading. A value without "${" costs a look at it and
-/// nothing else. Any thread.
+/// Replaces the references to variables in every text read from the configuration. All texts of one value
+/// are populated from one snapshot; if one fails, the whole value is unchanged and each read logs a warning.
+/// Values without "${" are returned unchanged after one scan. Thread-safe.
 class PopulatePlugin final : public Plugin {
 public:
     explicit PopulatePlugin(

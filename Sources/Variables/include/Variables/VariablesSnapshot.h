@@ -8,16 +8,16 @@
 
 namespace velmar {
 
-/// Variables with the number of their state: every change of any variable gives a new one, which no other
-/// state of the process has.
+/// Variables with the version of their state. Every change of a variable gives a new version, which is unique
+/// within the process.
 struct NumberedVariables {
     Variables variables;
     std::uint64_t version = 0;
 };
 
-/// The variables of one moment, used like a pointer; what it shows never changes. Taking, copying and
-/// destroying one costs a count. While one is held the next write to the store copies all variables, so it
-/// is not kept longer than the work that needs one view of them. One thread at a time, each its own copy.
+/// An immutable snapshot of the variables, used like a pointer. Taking, copying and destroying one changes a
+/// reference count only. While a snapshot exists, the next write to the store copies all variables, so don't
+/// keep it longer than needed. Not thread-safe: each thread uses its own copy.
 class VariablesSnapshot {
 public:
     explicit VariablesSnapshot(CopyOnWrite<NumberedVariables> state) noexcept : state_(std::move(state)) {}
@@ -25,7 +25,7 @@ public:
     [[nodiscard]] const Variables &operator*() const noexcept { return state_->variables; }
     [[nodiscard]] const Variables *operator->() const noexcept { return &state_->variables; }
 
-    /// Equal for two snapshots of one state only.
+    /// Returns the version. Two snapshots have the same version only if they show the same state.
     [[nodiscard]] std::uint64_t version() const noexcept { return state_->version; }
 
 private:
