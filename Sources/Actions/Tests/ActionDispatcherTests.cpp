@@ -31,17 +31,17 @@ using namespace std::chrono_literals;
 
 using Clock = std::chrono::steady_clock;
 
-/// What an action of a test does; its item's message spells it, one character an action.
+/// Outcome of a fake action; the message of its item is this character.
 enum Outcome : char {
     succeeds = 's',
     fails = 'f',
     succeedsLater = 'S', ///< On another thread.
     failsLater = 'F',
-    isSkipped = '-', ///< As by its condition: it never tells.
-    byHand = 'h',    ///< When the test says so.
+    isSkipped = '-', ///< As if its condition failed: never completes.
+    byHand = 'h',    ///< Completed by the test.
 };
 
-/// One set of such actions, which notes what it does when it runs.
+/// A set of fake actions that records its runs.
 class SetRun {
 public:
     explicit SetRun(std::string_view outcomes, ExecutionType type, bool continueAfterFailure = false,
@@ -61,7 +61,7 @@ public:
     }
 
     ~SetRun() {
-        // They hold the notes that hold them.
+        // Breaks the reference cycle between the actions and the notes.
         static_cast<void>(notes_->mutate([](Notes &held) { return std::exchange(held.waiting, {}); }));
     }
     SetRun(const SetRun &) = delete;
@@ -75,11 +75,11 @@ public:
             set_, [notes = notes_, alive] { notes->mutate([](Notes &held) { ++held.completions; }); });
     }
 
-    /// The outcomes of the actions that started, in their order, and a "." for each call of the handler;
-    /// once nothing can come any more but from actions that are finished by hand.
+    /// Waits until only actions completed by the test are pending. Returns the outcomes of the started
+    /// actions, in order, and a "." for each call of the handler.
     std::string settled() {
         EXPECT_TRUE(DispatchQueue::global().waitUntilIdle(20s));
-        // A set lets go of its handler when that was called or can't be.
+        // The handler is destroyed once it was called or can't be called any more.
         if (notes_->withValue([](const Notes &held) { return held.waiting.empty(); })) {
             EXPECT_EQ(over_.wait_for(20s), std::future_status::ready);
         }
@@ -87,7 +87,7 @@ public:
         return notes.started + std::string(notes.completions, '.');
     }
 
-    /// Finishes the action that has waited longest for it.
+    /// Completes the action that has waited longest.
     void finish(bool success) {
         const auto action = notes_->mutate([](Notes &held) {
             auto first = std::move(held.waiting.front());
@@ -131,7 +131,7 @@ private:
     };
 
     SharedNotes notes_ = std::make_shared<ThreadSafe<Notes>>(Notes(), "notes");
-    std::shared_future<void> over_; // The handler of the last start is gone.
+    std::shared_future<void> over_; // Ready once the handler of the last start is destroyed.
     ActionSet set_;
     std::shared_ptr<ActionDispatcher> dispatcher_ =
         std::make_shared<ActionDispatcher>([notes = notes_](std::shared_ptr<const ActionItem> item) {
@@ -139,7 +139,7 @@ private:
         });
 };
 
-/// What the rules say of a set.
+/// Returns the expected record of a set.
 std::string expected(std::string_view outcomes, ExecutionType type, bool continueAfterFailure) {
     if (type == ExecutionType::parallel) {
         return std::string(outcomes) + (outcomes.find(isSkipped) != outcomes.npos ? "" : ".");
@@ -223,7 +223,7 @@ TEST(ActionDispatcher, LetsTwoRunsOfAChainShareWhatRemains) {
     EXPECT_EQ(run.settled(), "h");
     run.start();
     EXPECT_EQ(run.settled(), "hh");
-    run.finish(true); // The first run's, which takes the second action of the second run.
+    run.finish(true); // Completes the first run's action, which starts the second run's second action.
     run.finish(true);
     EXPECT_EQ(run.settled(), "hhhh");
     run.finish(false);

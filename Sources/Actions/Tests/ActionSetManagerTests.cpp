@@ -18,7 +18,7 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-/// Notes the sets that are fired by the message of their one action, with "+" for an identity seen before.
+/// Records each fired set as the message of its only action, with "+" for an identity seen before.
 class Dispatcher final : public ActionDispatcherProtocol {
 public:
     void dispatch(const ActionSet &set, std::function<void()> completionHandler) override {
@@ -76,7 +76,7 @@ TEST(ActionSetManager, FiresTheSetsOfEachTrigger) {
     store->updateVariable("V", "1", false);
     store->updateVariable("V", "1", false);
     store->updateVariable("W", "1", false);
-    EXPECT_EQ(dispatcher->take(), "a+ "); // One set under both triggers.
+    EXPECT_EQ(dispatcher->take(), "a+ "); // The set has the same identity under both triggers.
     center.post(NavigationNotifications::willNavigateToPreviousSlide);
     EXPECT_EQ(dispatcher->take(), "b ");
     manager->dispatchSetsFor("Go");

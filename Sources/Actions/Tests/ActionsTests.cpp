@@ -34,7 +34,7 @@ constexpr std::string_view slide =
     "<dict><key>Containers</key><array><dict><key>Components</key><array><dict><key>Type</key><string>Spacer"
     "</string></dict></array></dict></array></dict>";
 
-/// The one action of a configuration, given as the keys of its dictionary.
+/// Returns the only action of a configuration; `keys` are the contents of its dictionary.
 std::shared_ptr<const ActionItem> action(std::string_view keys) {
     const auto file = PropertyList::read(fmt::format(
         R"(<plist version="1.0"><dict>
@@ -67,7 +67,7 @@ struct ScriptedAction final : Action {
 
 class ActionsTest : public testing::Test {
 protected:
-    /// Starts an action and does what waits on the main thread.
+    /// Starts an action and runs the work posted to the main thread.
     void run(const std::shared_ptr<const ActionItem> &item) {
         outcomes_.clear();
         const auto started = dispatchable(context_, item);

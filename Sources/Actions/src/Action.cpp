@@ -52,7 +52,7 @@ std::string_view typeOf(const ActionItem &item) {
 }
 
 void Action::complete(bool success) {
-    // What the block holds may hold the action in its turn.
+    // Cleared before the call: the block may own the action (reference cycle).
     if (const auto block = std::exchange(successCompletionBlock_, nullptr)) {
         block(success);
     }

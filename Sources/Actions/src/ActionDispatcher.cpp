@@ -30,8 +30,8 @@ bool mayRun(const ActionSetItemProtocol &set) {
     }
 }
 
-// Runs a step of a chain. One that comes up within another one on the same thread follows it there: a chain
-// of actions that end at once would pile up on the stack.
+// Runs a step of a chain, after the current step if one is running on this thread. Nested steps of actions
+// that end synchronously would overflow the stack.
 void inTurn(std::function<void()> step) {
     using Steps = std::deque<std::function<void()>>;
     static thread_local Steps *running = nullptr;
@@ -105,14 +105,14 @@ void ActionDispatcher::dispatchParallel(std::size_t actionsCount, const Dispatch
 }
 
 void ActionDispatcher::runChained(Actions actions, const std::shared_ptr<const Chain> &chain) {
-    // What an earlier run of the set has left dies with `actions`, outside of the lock.
+    // Swapped: `actions` destroys the rest of an earlier run after the lock is released.
     _chainedActions.mutate([&](auto &chains) { chains[chain->id].swap(actions); });
     if (const auto first = takeFirstAction(chain->id)) {
         inTurn([first, chain] { start(*first, chain); });
     }
 }
 
-// Only the action that runs holds the chain: the others may stay for long after an early end.
+// Only the running action owns the chain: pending actions may remain long after an early end.
 void ActionDispatcher::start(Dispatchable &action, const std::shared_ptr<const Chain> &chain) {
     action.setSuccessCompletionBlock([chain](bool success) {
         inTurn([chain, success] {

@@ -18,7 +18,7 @@ namespace {
 using SetsForTrigger = ActionSetManager::SetsForTrigger;
 using ActionSets = ActionSetManager::ActionSets;
 
-/// Enters a set under each of its triggers.
+/// Registers a set under each of its triggers.
 class Registration {
 public:
     Registration(SetsForTrigger &sets, ActionSet set) : sets_(sets), set_(std::move(set)) {}
@@ -37,7 +37,7 @@ public:
 
 private:
     void add(ActionSets &to) {
-        // The same trigger twice fires once.
+        // A repeated trigger fires the set once.
         if (to.empty() || to.back() != set_) {
             to.push_back(set_);
         }
@@ -94,7 +94,7 @@ void ActionSetManager::setupNotifications(NotificationCenter &center,
     };
     fireOn(NavigationNotifications::willNavigateToNextSlide, &SetsForTrigger::nextButtonClick);
     fireOn(NavigationNotifications::willNavigateToPreviousSlide, &SetsForTrigger::previousButtonClick);
-    // Nobody looks at what runs on the machine where nothing depends on it.
+    // Running applications are observed only if a set needs them.
     if (!setsForTrigger_.appLaunch.empty()) {
         observation_ =
             runningApplications.observe([manager = weak_from_this()](const RunningApplication &application) {

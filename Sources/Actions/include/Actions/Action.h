@@ -15,8 +15,8 @@ namespace velmar {
 struct ActionContext;
 struct Services;
 
-/// What the actions have in common: the item, the condition that stands before the work, and how they end.
-/// Owned by shared pointers: what goes on after `dispatch` has returned keeps its action alive.
+/// Base class of the actions: holds the item, checks its condition and reports the end. Must be owned by a
+/// shared_ptr: work that continues after `dispatch` has returned keeps the action alive.
 class Action : public Dispatchable, public std::enable_shared_from_this<Action> {
 public:
     Action(std::shared_ptr<const ActionItem> item, std::shared_ptr<const ActionContext> context)
@@ -33,23 +33,24 @@ public:
     void dispatch() final;
 
 protected:
-    /// Does the work and sees to it that `complete` is called, once. What it throws is logged and ends the
-    /// action as failed.
+    /// Does the work and ensures that `complete` is called once. An exception is logged and ends the action
+    /// as failed.
     virtual void perform() = 0;
 
-    /// Tells that the action has ended. Any thread.
+    /// Calls the completion block. Further calls have no effect. Any thread.
     void complete(bool success);
 
     [[nodiscard]] const ActionContext &context() const noexcept { return *context_; }
     [[nodiscard]] const Services &services() const noexcept;
 
-    /// The action itself, for what goes on after `dispatch` has returned: `keepingAlive(this)`.
+    /// Returns an owning pointer to the action, for callbacks that run after `dispatch` has returned. `self`
+    /// must be `this`.
     template <class Self>
     [[nodiscard]] std::shared_ptr<Self> keepingAlive(Self *self) {
         return {shared_from_this(), self};
     }
 
-    /// Runs a part of the work on the main thread, later. What it throws counts as thrown by `perform`.
+    /// Posts a part of the work to the main thread. An exception is handled as one from `perform`.
     void performOnMainThread(std::function<void()> work);
 
 private:
@@ -60,10 +61,10 @@ private:
     SuccessCompletionBlock successCompletionBlock_;
 };
 
-/// The type of an action as the file names it, such as "Log".
+/// Returns the type of an action as written in the configuration file, such as "Log".
 [[nodiscard]] std::string_view typeOf(const ActionItem &item);
 
-/// An action of one kind of item.
+/// Base class of the actions of one item type.
 template <class Item>
 class ActionOf : public Action {
 public:

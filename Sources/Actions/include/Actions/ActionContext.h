@@ -9,10 +9,10 @@ namespace velmar {
 
 struct Services;
 
-/// The place that actions run in. The services outlive every action.
+/// The environment of the actions. The services must outlive every action.
 struct ActionContext {
     const Services &services;
-    /// Begins the termination of the application, whatever would hold a quit back. Any thread.
+    /// Begins the termination of the application, even if the user may not quit. Any thread.
     std::function<void()> terminateApp;
     std::shared_ptr<SlidesActionManager> slides = SlidesActionManager::shared();
 };

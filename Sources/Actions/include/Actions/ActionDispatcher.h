@@ -14,28 +14,28 @@
 
 namespace velmar {
 
-/// What the dispatcher offers to views and managers. Any thread.
+/// Interface of the dispatcher of action sets. Thread-safe.
 class ActionDispatcherProtocol {
 public:
     virtual ~ActionDispatcherProtocol() = default;
 
-    /// Runs the actions of a set, later: all at once or one after the other. The handler, which may be null,
-    /// is called when the set has run to its end, for a parallel set on a thread of the pool, for a chain on
-    /// the thread where its last action ended, which may be the main one:
-    /// - a parallel set, when each of its actions has ended, whether well or not;
-    /// - a chained set, when its last action has ended, whether well or not. An action before it that fails
-    ///   ends the chain in silence unless the set continues after failures.
+    /// Runs the actions of a set asynchronously, in parallel or as a chain. The handler, which may be null,
+    /// is called at the end of the set:
+    /// - parallel: on a pool thread, once each action has succeeded or failed;
+    /// - chained: on the thread on which the last action ended, possibly the main thread. An earlier action
+    ///   that fails ends the chain without a call unless the set continues after failures.
     /// The handler is never called if the condition of the set or of one of its actions doesn't hold or can't
-    /// be evaluated; such an action ends a chain in any case. Nor is it called for an empty chain. It is then
-    /// destroyed with the last action that runs.
+    /// be evaluated; such an action always ends a chain. It is not called for an empty chain either. An
+    /// uncalled handler is destroyed with the last running action.
     virtual void dispatch(const ActionSet &set, std::function<void()> completionHandler) = 0;
 };
 
-/// Turns sets of actions into running ones. No thread waits for an action. The application shares one.
+/// Runs action sets without blocking a thread on an action. The application shares one instance, which must
+/// be owned by a shared_ptr.
 class ActionDispatcher final : public ActionDispatcherProtocol,
                                public std::enable_shared_from_this<ActionDispatcher> {
 public:
-    /// Gives the runtime form of an item.
+    /// Returns the runtime form of an item, never null.
     using MakeDispatchable =
         std::function<std::shared_ptr<Dispatchable>(std::shared_ptr<const ActionItem> item)>;
 
@@ -60,8 +60,8 @@ private:
     [[nodiscard]] std::shared_ptr<Dispatchable> takeFirstAction(const UUID &id);
 
     MakeDispatchable makeDispatchable_;
-    /// Of each chain in progress, or ended early, the actions that have not started yet. Runs of one set
-    /// share the entry of its identity.
+    /// Pending actions of each chain that is in progress or ended early, by the identity of the set.
+    /// Concurrent runs of one set share an entry.
     ThreadSafe<std::unordered_map<UUID, Actions>> _chainedActions;
 };
 

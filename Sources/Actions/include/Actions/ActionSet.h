@@ -10,15 +10,16 @@
 
 namespace velmar {
 
-/// A set of actions under the identity that it was registered with.
+/// A set of actions and the identity under which it is registered.
 struct ActionSet {
     UUID id;
-    std::shared_ptr<const ActionSetItemProtocol> item; ///< Never null; keeps what it lies in alive.
+    std::shared_ptr<const ActionSetItemProtocol>
+        item; ///< Never null; shares ownership of the enclosing object.
 
     bool operator==(const ActionSet &other) const noexcept { return id == other.id; }
 };
 
-/// The sets that a trigger without a payload fires, in their order, each under a new identity.
+/// Returns the sets fired by a trigger without payload, in the order of `items`, each with a new identity.
 template <class Trigger>
 [[nodiscard]] std::vector<ActionSet>
 actionSetsFor(const std::shared_ptr<const std::vector<TriggeredActionSetItem>> &items) {

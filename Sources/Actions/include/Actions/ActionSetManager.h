@@ -22,10 +22,10 @@ namespace velmar {
 
 struct Services;
 
-/// Sorts the sets of actions of the configuration by what triggers them, once, and fires them: on clicks on
-/// Next and Previous, changes of variables, starts of other applications and custom triggers. Those of the
-/// launch and of the termination are others' to fire. Owned by AppManager. Made on the main thread; destroyed
-/// there, too, once no queue runs that may hold it for a moment.
+/// Fires the action sets of the configuration on clicks on Next and Previous, changes of variables, starts of
+/// other applications, and custom triggers. Launch sets are fired by ActionSetsAppDelegateService,
+/// termination sets by AppTerminationService. Owned by AppManager. Created on the main thread; destroyed
+/// there after the queues that may briefly own it have stopped.
 class ActionSetManager final : public ContentObserver,
                                public CustomTriggerHandler,
                                public std::enable_shared_from_this<ActionSetManager> {
@@ -49,10 +49,10 @@ public:
         ActionSetsByName customNames;
     };
 
-    /// All sets of the configuration of the moment.
+    /// Returns the reader of all action sets of the present configuration.
     [[nodiscard]] static Config<std::vector<TriggeredActionSetItem>> configuredActionSets();
 
-    /// Begins to follow the triggers at once. The centre must outlive the manager.
+    /// Creates a manager that observes the triggers. `services` and `center` must outlive it.
     [[nodiscard]] static std::shared_ptr<ActionSetManager>
     make(std::shared_ptr<const std::vector<TriggeredActionSetItem>> actionSets, const Services &services,
          NotificationCenter &center = NotificationCenter::defaultCenter(),
@@ -72,7 +72,7 @@ private:
     void dispatchSetsFor(const RunningApplication &application) const;
 
     std::shared_ptr<ActionDispatcherProtocol> dispatcher_;
-    SetsForTrigger setsForTrigger_; // Never changes, so that any thread reads it.
+    SetsForTrigger setsForTrigger_; // Immutable after construction, read on any thread.
     Content _contentVariables;
     std::vector<NotificationObserver> observers_;
     std::unique_ptr<RunningApplications::Observation> observation_;

@@ -4,12 +4,12 @@
 
 namespace velmar {
 
-/// Runs what the configuration has registered for a trigger of its own.
+/// Runs the action sets registered for a custom trigger.
 class CustomTriggerHandler {
 public:
     virtual ~CustomTriggerHandler() = default;
 
-    /// Any thread. A name that nothing is registered for is logged.
+    /// Dispatches the sets registered for the name. A name without sets is logged. Any thread.
     virtual void dispatchSetsFor(std::string_view customTrigger) = 0;
 };
 

@@ -6,22 +6,22 @@ namespace velmar {
 
 struct ActionItem;
 
-/// An action that runs, as the dispatcher sees it.
+/// Interface of the runtime form of an action to the dispatcher.
 class Dispatchable {
 public:
-    /// Is told how the action ended: true for success. On any thread.
+    /// Receives the outcome of the action. Called on any thread.
     using SuccessCompletionBlock = std::function<void(bool success)>;
 
     virtual ~Dispatchable() = default;
 
     [[nodiscard]] virtual const ActionItem &item() const = 0;
 
-    /// Called exactly once when the action has ended, and never if the action's own condition doesn't hold or
-    /// can't be evaluated. It is set before `dispatch`.
+    /// Returns the block, which is called exactly once when the action has ended, but never if the action's
+    /// condition doesn't hold or can't be evaluated. Set the block before `dispatch`.
     [[nodiscard]] virtual const SuccessCompletionBlock &successCompletionBlock() const = 0;
     virtual void setSuccessCompletionBlock(SuccessCompletionBlock block) = 0;
 
-    /// Starts the action and returns; it may have ended by then. Once; any thread; never throws.
+    /// Starts the action, which may end before the call returns. Call it once, on any thread. Never throws.
     virtual void dispatch() = 0;
 };
 

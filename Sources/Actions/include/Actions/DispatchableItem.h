@@ -10,14 +10,14 @@ struct ActionContext;
 struct ActionItem;
 class Dispatchable;
 
-/// Makes the runtime form of an action of one type. Neither pointer is null; both are kept.
+/// Creates the runtime form of an action of one type, which owns both arguments. Neither may be null.
 using ActionFactory = std::shared_ptr<Dispatchable> (*)(std::shared_ptr<const ActionContext> context,
                                                         std::shared_ptr<const ActionItem> item);
 
-/// The types of actions. The action of a type that is not built yet logs that it cannot be run, and fails.
+/// Returns the factories by type of action. Actions of an unsupported type log an error and fail.
 [[nodiscard]] const FactoryTable<ActionItem, ActionFactory> &actionTable();
 
-/// Makes the runtime form of an item, whatever action it is. Neither pointer is null; both are kept.
+/// Creates the runtime form of an action of any type, which owns both arguments. Neither may be null.
 [[nodiscard]] std::shared_ptr<Dispatchable> dispatchable(std::shared_ptr<const ActionContext> context,
                                                          std::shared_ptr<const ActionItem> item);
 

@@ -2,10 +2,10 @@
 
 #include <Actions/Action.h>
 
-/// The actions that run something or end something, as they run.
+/// Runtime forms of the actions that run commands or end the application.
 namespace velmar::Actions {
 
-/// Ends the application, whatever would hold a quit of the user back.
+/// Terminates the application, even if the user may not quit.
 class TerminateApp final : public ActionOf<ActionItem::TerminateApp> {
 public:
     using ActionOf::ActionOf;
@@ -14,7 +14,7 @@ private:
     void perform() override;
 };
 
-/// Stands for the kinds of actions that this program can't run yet: it says so and fails.
+/// Action of a type that is not supported yet: logs an error and fails.
 class Unavailable final : public Action {
 public:
     using Action::Action;

@@ -7,7 +7,7 @@
 
 namespace velmar {
 
-/// The actions that speak to the user, move the session on or change its state, as they run.
+/// Runtime forms of the actions that address the user, navigate, or change variables.
 namespace Actions {
 
 /// Logs its message.
@@ -19,12 +19,12 @@ private:
     void perform() override;
 };
 
-/// Shows an alert and, once it is answered, puts the chosen button's text in the action's variable.
+/// Shows an alert and, once it is answered, stores the text of the chosen button in the action's variable.
 class DisplayAlert final : public ActionOf<ActionItem::DisplayAlert> {
 public:
     using ActionOf::ActionOf;
 
-    /// What the alert answers with for its first button; each further one counts one more.
+    /// Response code of the first button; the codes of further buttons are consecutive.
     static constexpr int firstButtonResponse = 1000;
 
 private:
@@ -33,7 +33,8 @@ private:
     void alertCompletionHandler(int response, const std::vector<std::string> &buttonsText);
 };
 
-/// Shows a notification. It has ended when that is on show; an answer is fired as a custom trigger.
+/// Shows a notification. Ends once the notification is shown or has failed. Each of its buttons is identified
+/// by a custom trigger.
 class DisplayNotification final : public ActionOf<ActionItem::DisplayNotification> {
 public:
     using ActionOf::ActionOf;
@@ -43,7 +44,7 @@ private:
     void show();
 };
 
-/// Plays the sound of a name or file; where there is none, the program's own. Ends with the sound.
+/// Plays the sound of a name or file, or the built-in sound if there is none. Ends with the sound.
 class PlaySound final : public ActionOf<ActionItem::PlaySound> {
 public:
     using ActionOf::ActionOf;
@@ -53,7 +54,7 @@ private:
     void play(const std::string &soundNameOrFilePath);
 };
 
-/// Copies its text.
+/// Copies its text to the clipboard.
 class CopyToClipboard final : public ActionOf<ActionItem::CopyToClipboard> {
 public:
     using ActionOf::ActionOf;
@@ -63,7 +64,7 @@ private:
     void copy();
 };
 
-/// Shows a slide in a window of its own.
+/// Shows a slide in a separate window.
 class OpenWindow final : public ActionOf<ActionItem::OpenWindow> {
 public:
     using ActionOf::ActionOf;
@@ -72,7 +73,7 @@ private:
     void perform() override;
 };
 
-/// Closes that window, if there is one.
+/// Closes the window of OpenWindow, if it is open.
 class CloseOpenedWindow final : public ActionOf<ActionItem::CloseOpenedWindow> {
 public:
     using ActionOf::ActionOf;
@@ -81,7 +82,7 @@ private:
     void perform() override;
 };
 
-/// Asks for a slide. It has ended when that is asked, not when the slide is on show.
+/// Requests navigation to a slide. Ends once the request is passed on, not once the slide is shown.
 class NavigateToSlide final : public ActionOf<ActionItem::NavigateToSlide> {
 public:
     using ActionOf::ActionOf;
@@ -90,7 +91,7 @@ private:
     void perform() override;
 };
 
-/// Gives a variable a value.
+/// Sets a variable. Fails for the name of a placeholder.
 class UpdateVariable final : public ActionOf<ActionItem::UpdateVariable> {
 public:
     using ActionOf::ActionOf;

@@ -9,18 +9,18 @@
 
 namespace velmar {
 
-/// Who moves between the slides when actions ask for it. Called on the threads of the actions.
+/// Observer of the navigation requests of actions. Called on the threads of the actions.
 class SlideNavigationObserver {
 public:
     virtual ~SlideNavigationObserver() = default;
-    /// To the slide at an index, from 0; there need not be one.
+    /// Requests the slide at an index, counted from 0; the index may be out of range.
     virtual void navigateToIndex(std::int64_t index) = 0;
-    /// From the slide on show, forward or backward.
+    /// Requests a slide relative to the current one; a negative offset navigates backward.
     virtual void navigateByOffset(std::int64_t offset) = 0;
 };
 
-/// Passes the requests of actions on to whoever shows the slides, in the order of registration. Observers are
-/// held weakly. One instance is shared by the process. Any thread.
+/// Forwards the navigation requests of actions to the observers, in the order of registration. Observers are
+/// held weakly. The process shares one instance. Thread-safe.
 class SlidesActionManager {
 public:
     [[nodiscard]] static std::shared_ptr<SlidesActionManager> shared() {
