@@ -10,16 +10,16 @@ namespace velmar {
 namespace {
 
 constexpr std::chrono::milliseconds bound(2000);
-// What hangs on a queue must not cost the log.
+// Leaves time for the log if a function on a queue hangs.
 constexpr std::chrono::milliseconds boundOfQueues = bound / 2;
 
 } // namespace
 
 bool settleBeforeExit() {
     using std::chrono::steady_clock;
-    // A later call gets no time of its own: a log that hangs would hold the process up again.
+    // Shared by all calls: a blocked log must not delay the process twice.
     static const auto deadline = steady_clock::now() + bound;
-    // First: what ends there may still log.
+    // Before the flush: functions that end may still log.
     const bool hasEnded = DispatchQueue::shutdown(boundOfQueues);
     Logger::flush(std::chrono::ceil<std::chrono::milliseconds>(deadline - steady_clock::now()));
     return hasEnded;

@@ -5,29 +5,29 @@
 #include <optional>
 #include <string_view>
 
-/// The application's fixed names and places in the file system.
+/// Fixed names and paths of the application.
 namespace velmar::Domain {
 
-/// What people read as the application's name.
+/// Name of the application as shown to the user.
 inline constexpr std::string_view applicationName = "Velmar";
 
-/// The application's identity on the system, which labels begin with.
+/// Identifier of the application, the prefix of labels.
 inline constexpr std::string_view bundleIdentifier = "com.nurvan.velmar";
 
-/// The directory of what applications keep for all users, as a file URL; it need not exist. Absent, with a
-/// warning in the log, if the text makes no URL.
+/// Returns the directory of the applications' data for all users as a file URL; it need not exist. Logs a
+/// warning and returns nullopt if `text` is not a URL.
 [[nodiscard]] std::optional<URL>
 applicationSupportDirectory(std::string_view text = "/Library/Application%20Support");
 
-/// The directory of what the device management system delivers.
+/// Directory of the files delivered by the device management system.
 inline constexpr std::string_view managedPreferencesPath = "/Library/Managed Preferences/";
 
-/// The application's own directory within applicationSupportDirectory().
+/// Name of the application's directory within applicationSupportDirectory().
 inline constexpr std::string_view applicationDirectoryName = "Velmar";
 
 inline constexpr std::string_view defaultConfigurationName = "Velmar.plist";
 
-/// The suite of the user defaults and the key in it that remembers a configuration's name.
+/// Suite of the user defaults and its key that stores the name of the configuration.
 inline constexpr std::string_view defaultsSuite = "Velmar";
 inline constexpr std::string_view configurationDefaultsKey = "configuration";
 

@@ -7,8 +7,8 @@
 
 namespace velmar {
 
-/// Returns the type of an item that is one of several, such as ActionItem: the `typeIdentifier` of the
-/// alternative in its `value`.
+/// Returns the type of a variant item, such as ActionItem: the `typeIdentifier` of the alternative in its
+/// `value`.
 template <class Item>
 [[nodiscard]] typename Item::TypeIdentifier typeIdentifierOf(const Item &item) {
     return std::visit(
@@ -16,8 +16,8 @@ template <class Item>
         item.value);
 }
 
-/// The factories for the types of an item, from explicit lists, which must outlive the table. A type is in
-/// exactly one of the two lists. `Factory` is a pointer to a function.
+/// The factories for the types of an item. The lists are not owned and must outlive the table. Each type is
+/// in exactly one of the two lists. `Factory` is a function pointer.
 template <class Item, class Factory>
 struct FactoryTable {
     using Type = typename Item::TypeIdentifier;
@@ -28,10 +28,10 @@ struct FactoryTable {
     };
 
     std::span<const Registration> registrations;
-    std::span<const Type> notBuilt; ///< The types that the program cannot make yet.
-    Factory makeUnregistered;       ///< Stands in for the missing factories.
+    std::span<const Type> notBuilt; ///< The types that are not supported yet.
+    Factory makeUnregistered;       ///< Factory for the types without a registration.
 
-    /// Never nullptr.
+    /// Returns the factory for the type of the item, never nullptr.
     [[nodiscard]] Factory factoryFor(const Item &item) const {
         const auto found = std::ranges::find(registrations, typeIdentifierOf(item), &Registration::type);
         return found == registrations.end() ? makeUnregistered : found->make;

@@ -7,7 +7,7 @@
 
 namespace velmar {
 
-/// What a message of the log is about; its symbol stands before the message.
+/// Subject of a log message. Its symbol precedes the message.
 enum class LogSubject {
     configuration,
     variables,
@@ -19,10 +19,10 @@ enum class LogSubject {
     termination,
 };
 
-/// The symbol of a subject, one emoji.
+/// Returns the symbol of a subject, one emoji.
 [[nodiscard]] std::string_view symbolOf(LogSubject subject);
 
-/// What the application adds to the logger. Any thread; messages as for the logger.
+/// Log functions that add the symbol of the subject. They take the same messages as Logger. Thread-safe.
 namespace LoggerExtensions {
 
 [[nodiscard]] std::string withSymbol(LogSubject about, std::string_view message);
@@ -45,7 +45,8 @@ void error(LogSubject about, Message &&message, std::string_view context = {},
     Logger::error([&] { return withSymbol(about, Logger::textOf(message)); }, context, where);
 }
 
-/// Warns that a registered variable's value holds other variables. The path is that of its key.
+/// Logs a warning that the value of a registered variable refers to other variables. `path` is the dotted
+/// path of its key.
 void registeredVariableUsesOtherVariables(std::string_view variable, std::string_view path,
                                           const SourceLocation &where = SourceLocation::current());
 

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-/// What the parts of the navigation tell each other, by the names on the notification centre.
+/// Names of the notifications posted between the parts of the navigation.
 namespace velmar::NavigationNotifications {
 
 inline constexpr std::string_view willNavigateToNextSlide = "willNavigateToNextSlideNotification";

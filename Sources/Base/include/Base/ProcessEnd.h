@@ -2,10 +2,10 @@
 
 namespace velmar {
 
-/// Before the process ends: lets the functions that run on queues end, begins none any more, and waits until
-/// the log is written. All calls together wait for at most two seconds after the first one began; a further
-/// call writes what was logged since. False if functions still run: the process then leaves by std::_Exit,
-/// which destroys nothing that they use. Main thread.
+/// Stops the queues and flushes the log before the process ends. Running functions are waited for; pending
+/// ones are not run. All calls together wait at most two seconds after the start of the first one; a further
+/// call flushes later messages. Returns false if functions are still running: the process must then end by
+/// std::_Exit, which destroys no object that they use. Main thread.
 [[nodiscard]] bool settleBeforeExit();
 
 } // namespace velmar

@@ -14,9 +14,9 @@ class SoundPlayer;
 class TimerScheduler;
 class UserNotifications;
 
-/// The services of a process, made once, by its `main`. The bundle and all that it refers to outlive every
-/// object that is given it. An object that needs several services takes the bundle, one that needs a single
-/// service takes that one.
+/// The services of a process, created once by `main`. The bundle and the services outlive every object that
+/// uses them. An object that needs several services takes the bundle; an object that needs a single service
+/// takes that service.
 struct Services {
     MainQueue &mainQueue;
     TimerScheduler &timers;

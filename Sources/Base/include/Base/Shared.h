@@ -9,21 +9,21 @@
 
 namespace velmar {
 
-/// The instance of T that the process shares. It is reached by `Shared<T>::instance()` from any thread, which
-/// types offer as `T::shared()`; who uses one takes it as an injected field and not in the middle of an
-/// operation.
+/// The instance of T shared by the process. `Shared<T>::instance()` returns it on any thread; types offer it
+/// as `T::shared()`. Take it as an injected field, not in the middle of an operation.
 ///
-/// A type that can be made from nothing is made at the first access and lives until the process ends. Any
-/// other is installed by whoever makes it, with a `Scope` that it keeps:
+/// A default-constructible type is created at the first access and lives until the process ends. An instance
+/// of any other type is installed by its creator, which keeps a `Scope`:
 ///
 ///     Shared<ConfigurationSlot>::Scope scope(std::make_shared<ConfigurationSlot>(...));
 ///
-/// A test replaces the instance of either sort in the same way. Scopes end in the reverse order of their
-/// making.
+/// A test replaces either kind of instance in the same way. Destroy scopes in the reverse order of their
+/// construction.
 template <class T>
 class Shared {
 public:
-    /// Never null. Throws VelmarError::InternalError while there is none to give.
+    /// Returns the instance, never null. Throws VelmarError::InternalError if none is installed and T is not
+    /// default-constructible.
     [[nodiscard]] static std::shared_ptr<T> instance() {
         State &state = Shared::state();
         const std::lock_guard lock(state.mutex);
@@ -38,7 +38,7 @@ public:
         return state.instance;
     }
 
-    /// Shares an instance for as long as it lives, then what was shared before.
+    /// Shares an instance for the lifetime of the scope, then restores the previous one.
     class Scope {
     public:
         explicit Scope(std::shared_ptr<T> instance) : other_(std::move(instance)) { exchange(); }
@@ -53,7 +53,7 @@ public:
             state.instance.swap(other_);
         }
 
-        // The instance that is to be shared, then the one that was: it is let go outside of the lock.
+        // The new instance, then the previous one. Released outside the lock.
         std::shared_ptr<T> other_;
     };
 

@@ -5,11 +5,11 @@
 
 namespace velmar {
 
-/// Requests to the system that end the session or the computer's work.
+/// Requests to the system to suspend or end the session or the computer.
 struct TerminationEventSender {
     enum class Event : std::uint8_t { sleep, shutdown, logout, restart };
 
-    /// The event's verb as messages print it, such as "restart".
+    /// Returns the verb of an event for messages, such as "restart".
     [[nodiscard]] static std::string_view verb(Event event) noexcept;
 };
 

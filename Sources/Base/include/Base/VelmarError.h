@@ -7,7 +7,7 @@
 
 namespace velmar {
 
-/// The cases of VelmarError; reached through it, as in VelmarError::MissingFile{path}.
+/// The cases of VelmarError. Refer to them through it, as in VelmarError::MissingFile{path}.
 struct VelmarErrorCases {
     struct InternalError {
         std::string description;
@@ -38,7 +38,7 @@ struct VelmarErrorCases {
         [[nodiscard]] std::string errorDescription() const;
     };
     struct UnderlyingError {
-        std::string description; ///< The other error's text, which stands unchanged.
+        std::string description; ///< The text of the underlying error, used unchanged.
         [[nodiscard]] std::string errorDescription() const;
     };
     struct InvalidURL {
@@ -71,7 +71,7 @@ struct VelmarErrorCases {
     };
 };
 
-/// The application's shared error. Its texts are what administrators search for, and stand word for word.
+/// The common error type of the application. Administrators search for its texts, so their wording is fixed.
 class VelmarError final
     : public VelmarErrorCases,
       public ErrorOfCases<

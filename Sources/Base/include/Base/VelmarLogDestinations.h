@@ -9,13 +9,12 @@ namespace velmar {
 
 class IdentityAuthority;
 
-/// The application's three destinations in the order of their installation: the standard output, the
-/// throw-away file and the permanent file, both of the user at the console, to whom they belong also where
-/// root writes them.
+/// Creates the three log destinations in the order of their installation: standard output, temporary file and
+/// permanent file. The console user owns both files, even if root writes them.
 [[nodiscard]] std::vector<std::shared_ptr<BaseDestination>>
 makeVelmarLogDestinations(const IdentityAuthority &authority);
 
-/// Adds them to the logger. Once, at the start of the process.
+/// Adds the destinations to the logger. Called once, at the start of the process.
 void installVelmarLogDestinations(const IdentityAuthority &authority);
 
 } // namespace velmar
