@@ -55,7 +55,7 @@ TEST(Config, IsReadByOtherThreadsDuringAReload) {
     for (int reload = 0; reload < 50; ++reload) {
         const int before = readings;
         slot->replacePresent(configurationTitled(reload % 2 == 0 ? "Two" : "One"));
-        readings.wait(before); // A reading has ended since the replacement.
+        readings.wait(before); // A read has ended since the replacement.
     }
     isOver = true;
     reader.join();

@@ -10,19 +10,19 @@
 
 namespace velmar {
 
-/// Reads one part of the configuration. Each reading sees the configuration of that moment, so a reload needs
-/// no notice. An owner declares with it what it reads:
+/// Reads one part of the configuration. Each read sees the present configuration, so a reload needs no
+/// notice. Declared as a field of the object that reads the part:
 ///
 ///     Config<bool> _isAdminModeOn{
 ///         [](const Configuration &c) -> decltype(auto) { return c._admin()._isAdminModeOn(); }};
 ///
 /// The key path is any function of the configuration. A key path that returns a reference must refer into the
-/// configuration and is read without a copy; a value, as texts are read, is kept for the reader. Any thread
-/// reads; call `setOverrideValue` before the first reading.
+/// configuration and is read without a copy; a key path that returns a value, such as a text, is read by
+/// copy. Reads are thread-safe; call `setOverrideValue` before the first read.
 template <class T>
 class Config {
 public:
-    /// Reads the present configuration.
+    /// Creates a reader of the present configuration.
     template <class KeyPath>
     requires std::is_invocable_v<const KeyPath &, const Configuration &>
     explicit Config(KeyPath keyPath)
@@ -30,7 +30,7 @@ public:
               return read(keyPath, ConfigurationSlot::shared()->present());
           }) {}
 
-    /// Reads the configuration of the launch, which a reload doesn't replace.
+    /// Returns a reader of the launch configuration, which a reload doesn't replace.
     template <class KeyPath>
     [[nodiscard]] static Config atLaunch(KeyPath keyPath) {
         Config config;
@@ -40,20 +40,20 @@ public:
         return config;
     }
 
-    /// Reads this value and no configuration.
+    /// Returns a reader of a fixed value.
     [[nodiscard]] static Config always(T value) {
         Config config;
         config.setOverrideValue(std::move(value));
         return config;
     }
 
-    /// The value, never null; it stays valid and unchanged while the caller holds it. Throws
-    /// VelmarError::InternalError while there is no configuration, unless the value is overridden.
+    /// Returns the value, never null, which stays valid and unchanged while the caller holds it. Throws
+    /// VelmarError::InternalError if there is no configuration and the value is not overridden.
     [[nodiscard]] std::shared_ptr<const T> wrappedValue() const {
         return overrideValue_ ? overrideValue_ : read_();
     }
 
-    /// A copy of the value, for small values.
+    /// Returns a copy of the value. Use it for small values.
     [[nodiscard]] T operator()() const { return *wrappedValue(); }
 
     /// Replaces the configuration's value; std::nullopt restores it.

@@ -9,22 +9,22 @@ namespace velmar {
 
 struct Configuration;
 
-/// Holds the configurations of the process: the present one, which a reload replaces as a whole, and the one
-/// of the launch. The owner of the decoded configuration makes and shares the slot. Any thread.
+/// Holds the present configuration, which a reload replaces as a whole, and the launch configuration. The
+/// owner of the decoded configuration creates and shares the slot. Thread-safe.
 class ConfigurationSlot {
 public:
-    /// `configuration` becomes both the present one and that of the launch. It must not be null.
+    /// Sets both the present and the launch configuration. `configuration` must not be null.
     explicit ConfigurationSlot(std::shared_ptr<const Configuration> configuration);
 
-    /// The process's instance. Throws VelmarError::InternalError while there is none.
+    /// Returns the shared instance. Throws VelmarError::InternalError if there is none.
     [[nodiscard]] static std::shared_ptr<ConfigurationSlot> shared() {
         return Shared<ConfigurationSlot>::instance();
     }
 
-    /// The present configuration, never null. It stays valid and unchanged while the caller holds it.
+    /// Returns the present configuration, never null. It stays valid and unchanged while the caller holds it.
     [[nodiscard]] std::shared_ptr<const Configuration> present() const;
 
-    /// The configuration of the launch, never null. It never changes.
+    /// Returns the launch configuration, never null and immutable.
     [[nodiscard]] const std::shared_ptr<const Configuration> &atLaunch() const noexcept { return atLaunch_; }
 
     /// Replaces the present configuration. `configuration` must not be null.
