@@ -43,7 +43,7 @@ TEST(AppTerminationService, EndsTheApplicationWhenEverySetOfTheTerminationHasRun
     dispatcher->handlers[0]();
     service.terminate();
     EXPECT_EQ(dispatcher->handlers.size(), 2U) << "one still runs";
-    dispatcher->handlers.clear(); // It stopped before its end.
+    dispatcher->handlers.clear(); // Both sets stop before their end.
     service.terminate();
     ASSERT_EQ(dispatcher->handlers.size(), 2U);
     dispatcher->handlers[1]();
@@ -76,7 +76,7 @@ TEST(AppTerminationManager, LetsTheUserQuitWhenBothConditionsHold) {
         bool isComplete;
         bool arePresent;
         bool userCanQuit;
-        std::string_view posted; ///< Empty for a quit.
+        std::string_view posted; ///< Empty if the application quits.
         const char *line = nullptr;
     } cases[] = {
         {true, true, false, ""},
@@ -138,7 +138,7 @@ TEST(TerminationScript, HasBegunWhenItIsNotWaitedFor) {
         [] { return false; }, Config<AppTerminationSection>::always(section),
         [&](const std::string & /*path*/, auto launched, const auto & /*completion*/) {
             slow = std::thread([&isLaunched, launched] {
-                std::this_thread::sleep_for(std::chrono::milliseconds(400)); // Beyond the least delay.
+                std::this_thread::sleep_for(std::chrono::milliseconds(400)); // Longer than the minimum delay.
                 isLaunched = true;
                 launched();
             });

@@ -18,7 +18,7 @@ namespace velmar {
 
 namespace {
 
-// The least and the most for a script that is not waited for to begin.
+// Minimum and maximum wait for the start of a script whose end is not awaited.
 constexpr std::chrono::microseconds launchDelay(200'000);
 constexpr std::chrono::seconds launchPatience(5);
 constexpr std::chrono::hours withoutLimit(24 * 365);
@@ -68,7 +68,7 @@ void TerminationScript::runBeforeTermination(bool isInstallationComplete) const 
 }
 
 void TerminationScript::run(const std::string &path) const {
-    // Ready also if nobody is left who could tell.
+    // Destroying an unset promise makes its future ready, so a lost callback can't block the wait.
     auto launch = std::make_shared<std::promise<void>>();
     auto end = std::make_shared<std::promise<void>>();
     const std::future<void> launched = launch->get_future();

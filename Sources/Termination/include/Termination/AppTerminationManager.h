@@ -9,19 +9,19 @@
 
 namespace velmar {
 
-/// Who decides whether the application quits. Main thread.
+/// Interface that decides whether the user may quit the application. Main thread.
 class AppTerminationManagerProtocol {
 public:
     virtual ~AppTerminationManagerProtocol() = default;
+    /// Begins the termination if the user may quit.
     virtual void tryToQuitApplication() = 0;
 };
 
-/// Lets the user quit when what the session is there for has been done: the installation is complete, unless
-/// the configuration does without that, and the mandatory files are present. Both hold until a monitor knows
-/// better. The application shares one. Main thread.
+/// Lets the user quit if the mandatory files are present and the installation is complete. The configuration
+/// may waive the second condition. Both are true initially. The application shares one instance. Main thread.
 class AppTerminationManager final : public AppTerminationManagerProtocol {
 public:
-    /// The centre must outlive the manager.
+    /// `notificationCenter` must outlive the manager. `terminationService` and `variables` must not be null.
     AppTerminationManager(std::shared_ptr<AppTermination> terminationService,
                           const std::shared_ptr<ContentManagerProtocol> &variables,
                           NotificationCenter &notificationCenter = NotificationCenter::defaultCenter(),
@@ -31,7 +31,7 @@ public:
         return Shared<AppTerminationManager>::instance();
     }
 
-    /// Begins the termination, or posts and logs why it doesn't.
+    /// Begins the termination, or posts and logs the reason for the refusal.
     void tryToQuitApplication() override;
 
     [[nodiscard]] bool isInstallationComplete() const noexcept { return _isInstallationComplete(); }

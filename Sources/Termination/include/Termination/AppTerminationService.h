@@ -14,23 +14,22 @@
 
 namespace velmar {
 
-/// What performs the termination of the application that somebody has decided on. Any thread.
+/// Interface that performs the termination of the application once it is decided. Thread-safe.
 class AppTermination {
 public:
     virtual ~AppTermination() = default;
 
-    /// Returns at once. Does nothing while a former call is under way; one that has stopped before its end,
-    /// or lasts too long, can be tried again.
+    /// Starts the termination without blocking. Does nothing while a former attempt is in progress; an
+    /// attempt that stopped before its end or takes too long can be repeated.
     virtual void terminate() = 0;
 };
 
-/// Runs the sets of actions of the termination, all of them at the same time, and ends the application when
-/// each has run to its end. One that never does keeps the application running (see
-/// ActionDispatcherProtocol::dispatch); a next call then runs all of them again, at once if nothing of them
-/// runs any more, and otherwise when the patience is over.
+/// Runs the termination action sets concurrently and ends the application once each of them has ended. A set
+/// that never ends keeps the application running (see ActionDispatcherProtocol::dispatch). The next call then
+/// runs all sets again if none of them is running any more or `patience` has elapsed.
 class AppTerminationService final : public AppTermination {
 public:
-    /// `mainQueue` must outlive the process's queues; `terminateApplication` is called on it.
+    /// `terminateApplication` is called on `mainQueue`, which must outlive the process's queues.
     AppTerminationService(
         MainQueue &mainQueue, std::function<void()> terminateApplication,
         std::shared_ptr<ActionDispatcherProtocol> dispatcher = ActionDispatcher::shared(),
@@ -42,7 +41,7 @@ public:
 private:
     using SetsLeft = std::atomic<std::size_t>;
     struct Attempt {
-        std::weak_ptr<SetsLeft> left; // Held by the sets that run.
+        std::weak_ptr<SetsLeft> left; // Owned by the running sets.
         std::chrono::steady_clock::time_point begin;
     };
 

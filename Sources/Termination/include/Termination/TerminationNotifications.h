@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-/// What a refused quit is told by, as names on the notification centre.
+/// Names of the notifications posted when a quit is refused.
 namespace velmar::TerminationNotifications {
 
 inline constexpr std::string_view userTriesToQuitWhenNotAllMonitorsAreInstalled =

@@ -11,24 +11,24 @@
 
 namespace velmar {
 
-/// Runs the script that the configuration names for the end of the application.
+/// Runs the configured script before the application ends.
 class TerminationScript {
 public:
-    /// Runs a script without arguments. `launched` is called when its process is there, then the completion
-    /// once, both on some thread and never on the main one: that may wait for them. One that can't be run has
-    /// the completion only.
+    /// Runs a script without arguments. Calls `launched` once the process exists, then `completion` once. If
+    /// the script can't be run, only `completion` is called. Neither is called on the main thread, which may
+    /// wait for them.
     using Run = std::function<void(const std::string &path, std::function<void()> launched,
                                    std::function<void(Result<std::string> output)> completion)>;
 
-    /// `isEndDemanded` tells, on the main thread, whether somebody wants the process to end without waiting.
+    /// `isEndDemanded` is polled on the main thread; it returns true if the process must end without waiting.
     explicit TerminationScript(std::function<bool()> isEndDemanded,
                                Config<AppTerminationSection> appTermination = configuredTermination(),
                                Run runInUserContext = runDetached());
 
-    /// What stands between the decision to end and the end; main thread. Begins the script for the state of
-    /// the installation, if there is one, and waits for its end, if the configuration says so, without limit
-    /// unless the end is demanded meanwhile; otherwise only until it has begun. A script that is not waited
-    /// for goes on by itself. Never throws.
+    /// Starts the script for the state of the installation, if one is configured. Blocks until the script has
+    /// ended or, if the configuration doesn't require that, until it has started, for 5 seconds at most. The
+    /// wait stops when `isEndDemanded` returns true. The script may outlive the process. Main thread. Never
+    /// throws.
     void runBeforeTermination(bool isInstallationComplete) const noexcept;
 
 private:
@@ -36,10 +36,11 @@ private:
     [[nodiscard]] static Run runDetached();
 
     void run(const std::string &path) const;
-    /// `ended` is called when the script has ended or could not be run.
+    /// Starts the script. `ended` is called once the script has ended or failed to start.
     void launchTerminationScript(const std::string &path, std::function<void()> launched,
                                  std::function<void()> ended) const;
-    /// For that long at most. False if it was not ready by then and nobody demanded the end.
+    /// Waits for the event, for `patience` at most. Returns false on a timeout, true if the event is ready or
+    /// the end is demanded.
     [[nodiscard]] bool wait(const std::future<void> &event, std::chrono::seconds patience) const;
 
     std::function<bool()> isEndDemanded_;
