@@ -13,8 +13,8 @@ namespace velmar {
 /// A set of actions and the identity under which it is registered.
 struct ActionSet {
     UUID id;
-    std::shared_ptr<const ActionSetItemProtocol>
-        item; ///< Never null; shares ownership of the enclosing object.
+    /// Never null; shares ownership of the enclosing object.
+    std::shared_ptr<const ActionSetItemProtocol> item;
 
     bool operator==(const ActionSet &other) const noexcept { return id == other.id; }
 };
