@@ -38,7 +38,7 @@ protected:
     }
 
     TemporaryDirectory directory_;
-    std::optional<UserDefaults> defaults_; // In the directory.
+    std::optional<UserDefaults> defaults_; // Stored in directory_.
     RecordedLog log_;
 };
 
@@ -120,7 +120,7 @@ TEST(ConfigurationOwnership, IsUnreadableWithoutNamesWithSpecialBitsOrAList) {
     EXPECT_FALSE(ConfigurationOwnership::of(withList).has_value());
 }
 
-// Owners other than one's own need root.
+// Only root can change the owner of a file.
 class RealOwnershipTest : public testing::Test {
 protected:
     void SetUp() override {
@@ -139,7 +139,7 @@ protected:
     SystemIdentityAuthority authority_{[] { return std::nullopt; }};
 };
 
-// The attribute as the kernel keeps it: a version, then a tag, rights and a number each.
+// Format of the kernel's attribute: a version, then a tag, permissions and an id for each entry.
 TEST_F(RealOwnershipTest, RefusesAnAccessControlListThatTheModeHides) {
     const struct {
         std::uint32_t version = 2;

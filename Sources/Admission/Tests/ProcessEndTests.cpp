@@ -27,7 +27,7 @@ void print(const RecordedLog &log) {
     }
 }
 
-// Logs a line after the queue has begun and the caller has been told.
+// Starts a function on the queue that logs a line after this call has returned.
 void logFrom(const DispatchQueue &queue) {
     std::promise<void> started;
     queue.async([&started] {
@@ -38,7 +38,7 @@ void logFrom(const DispatchQueue &queue) {
     started.get_future().wait();
 }
 
-// Prints what happens in which order.
+// Prints the steps of a refusal in their order.
 [[noreturn]] void refuse() {
     const RecordedLog log;
     const DispatchQueue queue("busy");
@@ -64,7 +64,7 @@ TEST(ProcessEndDeathTest, ARefusalIsLoggedThenShownThenEndsTheProcessWithZeroOnc
                 ".file:///x.;.The configuration file is incorrect.Quit.error: A problem .*;error: late;$");
 }
 
-/// Never writes, as a pipe that nobody reads.
+/// A destination that blocks forever, like a pipe without a reader.
 struct HangingDestination final : BaseDestination {
     void write(std::span<const LogRecord> /*records*/) override { std::promise<void>().get_future().wait(); }
 };

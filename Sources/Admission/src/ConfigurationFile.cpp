@@ -39,7 +39,7 @@ void ConfigurationFile::hasConfigFileCorrectPermissions(const IdentityAuthority 
     try {
         ownership = ConfigurationOwnership::of(handle().attributes());
     } catch (const FileError &) {
-        // What cannot be read is refused below.
+        // Refused below.
     }
     if (ownership && ownership->isAdmissible(authority)) {
         return;

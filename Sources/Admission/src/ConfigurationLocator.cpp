@@ -52,7 +52,7 @@ void ConfigurationLocator::remember(const std::string &name) const {
     try {
         defaults_.set(Domain::configurationDefaultsKey, name);
     } catch (const FileError &error) {
-        // This start has its name all the same.
+        // Not fatal: the name is valid for this launch.
         Logger::warning([&] { return fmt::format("Unable to save the configuration name '{}'", name); },
                         fmt::format("[{}]", error.errorDescription()));
     }

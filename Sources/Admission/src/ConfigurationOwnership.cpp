@@ -9,7 +9,7 @@ using IdentityCoreService::PosixPermissions;
 
 namespace {
 
-// Executing is as open as writing, on purpose.
+// Execute permission is refused deliberately, like write permission.
 bool isTooOpen(Permission permission) noexcept {
     return permission > Permission::read;
 }

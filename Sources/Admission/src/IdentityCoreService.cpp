@@ -10,8 +10,7 @@ std::atomic<int (*)(Permission)> permissionOrder{nullptr};
 
 namespace {
 
-// A digit of a mode counts read 4, write 2, execute 1; the cases' numbers have read and execute the other way
-// round.
+// In a digit of a mode read is 4, write 2 and execute 1; Permission swaps the values of read and execute.
 Permission permissionOf(int digit, const char *target) {
     static constexpr std::array byDigit{
         Permission::noPermissions, Permission::execute,
@@ -54,7 +53,7 @@ PosixPermissions PosixPermissions::fromDecimal(int number) {
 }
 
 PosixPermissions PosixPermissions::fromMode(unsigned int mode) {
-    // The octal digits of the mode, read as a decimal number.
+    // The octal digits of the mode form the decimal number.
     return fromDecimal(std::stoi(fmt::format("{:o}", mode & 07777U)));
 }
 

@@ -14,34 +14,34 @@ namespace velmar {
 struct Configuration;
 class IdentityAuthority;
 
-/// A configuration's file, opened once: it is judged and read through the same descriptor, so that nothing
-/// put in its place between the two is admitted. The item itself is opened: a symbolic link is judged as the
-/// link, and cannot be read. What goes wrong is logged and thrown with the application's texts. One thread at
-/// a time.
+/// A configuration file, opened once. Permissions and content are read through one descriptor, so a file put
+/// in its place between the two reads is never admitted. Symbolic links are not followed: the permissions are
+/// those of the link, and its content cannot be read. Not thread-safe.
 class ConfigurationFile {
 public:
-    /// A larger file is not read: 64 MiB.
+    /// Maximum size of the file, 64 MiB.
     static constexpr std::size_t largestSize = std::size_t{64} << 20U;
 
-    /// Opens the item. What is wrong with it shows when it is judged or read.
+    /// Opens the file. A failure is reported by the member functions.
     explicit ConfigurationFile(URL url);
 
-    /// Returns if the owner, the group and the permissions are admissible (see ConfigurationOwnership).
-    /// Otherwise logs them, or that they cannot be told, and throws
-    /// VelmarError::IncorrectPermissionsOnConfigFile.
+    /// Checks owner, group and permissions (see ConfigurationOwnership). Logs the reason and throws
+    /// VelmarError::IncorrectPermissionsOnConfigFile if they are not admissible or cannot be read.
     void hasConfigFileCorrectPermissions(const IdentityAuthority &authority) const;
 
-    /// The content of the file. Throws VelmarError::MissingConfigurationFile, with the reason in the log.
+    /// Returns the content of the file. Logs the reason and throws VelmarError::MissingConfigurationFile on
+    /// failure.
     [[nodiscard]] std::string content() const;
 
-    /// Reads and decodes the file. Throws what `content` throws, PropertyListError and ConfigurationError.
+    /// Reads and decodes the file. Throws VelmarError::MissingConfigurationFile, PropertyListError or
+    /// ConfigurationError.
     [[nodiscard]] std::shared_ptr<const Configuration> retrieveConfiguration() const;
 
 private:
     [[nodiscard]] const FileHandle &handle() const;
 
     URL url_;
-    std::variant<FileHandle, FileError> item_; // Or why it couldn't be opened.
+    std::variant<FileHandle, FileError> item_; // The file, or the error of its opening.
 };
 
 } // namespace velmar

@@ -11,16 +11,16 @@ namespace velmar {
 class FileManager;
 class UserDefaults;
 
-/// Says which file is the configuration: its name by the process's options and the remembered name, its place
-/// by the two directories that are searched. Main thread.
+/// Finds the configuration file. The name comes from the process's options or the saved name; the file is
+/// searched in two directories. Main thread.
 class ConfigurationLocator {
 public:
-    /// The directories, in the order of their search.
+    /// Directories in search order.
     struct Places {
         URL managedPreferences;
-        std::optional<URL> applicationSupport; ///< The one that holds the application's own directory.
+        std::optional<URL> applicationSupport; ///< Parent of the application's directory.
 
-        /// Those of the system.
+        /// Returns the directories of the system.
         [[nodiscard]] static Places ofSystem();
     };
 
@@ -28,13 +28,13 @@ public:
     ConfigurationLocator(LaunchOptions options, UserDefaults &defaults, const FileManager &fileManager,
                          Places places = Places::ofSystem());
 
-    /// The file's name, always ending in ".plist": the option's, or else the remembered one, or else
-    /// "Velmar.plist". An option's name is remembered for the following starts if that was asked for. It may
-    /// hold a relative sub-path.
+    /// Returns the name of the file, which ends in ".plist" and may contain a relative path: the option's
+    /// value, else the saved name, else "Velmar.plist". Saves the option's value if `save` is set; a failure
+    /// to save is logged.
     [[nodiscard]] std::string configurationName() const;
 
-    /// The file of that name in the first place that has it; a link that leads nowhere counts as not there.
-    /// Throws VelmarError::InternalError when none has it.
+    /// Returns the first existing file of that name in the directories. A dangling symbolic link does not
+    /// exist. Throws VelmarError::InternalError if no directory contains the file.
     [[nodiscard]] URL findConfigurationFile(const std::string &name) const;
 
 private:

@@ -6,16 +6,16 @@
 
 namespace velmar {
 
-/// What a refused configuration does to the process.
+/// Ends the process after a refused configuration.
 struct ConfigurationRefusal {
-    /// Shows a modal alert of the critical style with one button, and returns when it was pressed. It runs
-    /// its own loop, so it is never called while the AppManager is being made.
+    /// Shows a modal critical alert with one button and returns once the button is pressed. Runs an event
+    /// loop, so it must not be called during the construction of AppManager.
     std::function<void(const std::string &message, const std::string &button)> alert;
-    /// Ends the process with a status, at once and without the application's termination. Must not return.
+    /// Ends the process immediately with a status, without the application's termination. Must not return.
     std::function<void(int status)> exit;
 
-    /// Logs what the making of the AppManager threw, shows the alert, settles queues and log
-    /// (`settleBeforeExit`) and ends the process with status 0. Main thread.
+    /// Logs the error thrown by the constructor of AppManager, shows the alert, stops the queues, flushes the
+    /// log (see settleBeforeExit()) and ends the process with status 0. Main thread.
     [[noreturn]] void exitBecauseOf(const std::exception &error) const;
 };
 

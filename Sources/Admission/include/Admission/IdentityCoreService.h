@@ -7,11 +7,11 @@
 #include <string>
 #include <string_view>
 
-/// Permission values of files, as administrators write them.
+/// File permissions in the notation of administrators.
 namespace velmar::IdentityCoreService {
 
-/// What one class of users may do. Each case's number is its place in the order of openness, which is not the
-/// order of the octal digits: read counts 1, write 2, execute 4.
+/// Permissions of one class of users. The values are ordered by openness and differ from the octal digits:
+/// read is 1, write 2, execute 4.
 enum class Permission : std::uint8_t {
     noPermissions = 0,
     read = 1,
@@ -23,10 +23,11 @@ enum class Permission : std::uint8_t {
     readWriteExecute = 7,
 };
 
-/// Three letters, such as "rw-".
+/// Returns three letters, such as "rw-".
 [[nodiscard]] std::string_view description(Permission permission) noexcept;
 
-/// Replaces the order of openness while it is set: a function from a case to its place. None by default.
+/// Function that maps a permission to its rank and overrides the order of openness while set. nullptr by
+/// default.
 extern std::atomic<int (*)(Permission)> permissionOrder;
 
 [[nodiscard]] bool operator<(Permission left, Permission right) noexcept;
@@ -40,27 +41,27 @@ extern std::atomic<int (*)(Permission)> permissionOrder;
     return !(left < right);
 }
 
-/// The permissions of a file's owner, its group and everybody else.
+/// Permissions of the owner, the group and all other users of a file.
 struct PosixPermissions {
     Permission user = Permission::noPermissions;
     Permission group = Permission::noPermissions;
     Permission other = Permission::noPermissions;
 
     struct InvalidNumber {
-        int number;         ///< The part of the number that is no octal digit.
+        int number;         ///< The part that is not an octal digit.
         std::string target; ///< "user", "group" or "other".
         [[nodiscard]] std::string errorDescription() const;
     };
     class PermissionError;
 
-    /// A decimal number whose three digits are read as octal ones: 644 is "rw-r--r--". Throws PermissionError
-    /// where a part lies above 7 (so does every mode with a fourth digit) or below 0.
+    /// Converts a decimal number whose three digits are read as octal digits: 644 is "rw-r--r--". Throws
+    /// PermissionError if a digit is above 7, a fourth digit is present, or the number is negative.
     [[nodiscard]] static PosixPermissions fromDecimal(int number);
 
-    /// The permissions of a file's mode, its special bits included: these make a fourth digit, and so throw.
+    /// Converts the mode of a file. Throws PermissionError if the mode has special bits.
     [[nodiscard]] static PosixPermissions fromMode(unsigned int mode);
 
-    /// Nine letters, such as "rw-r--r--".
+    /// Returns nine letters, such as "rw-r--r--".
     [[nodiscard]] std::string description() const;
 
     bool operator==(const PosixPermissions &) const = default;

@@ -8,21 +8,21 @@
 
 namespace velmar {
 
-/// An option that needs a value is the last argument.
+/// Error for an option without its value.
 class MissingOptionValue final : public LocalizedError {
 public:
     explicit MissingOptionValue(const std::string &option);
 };
 
-/// What the process's arguments say about the configuration.
+/// Options of the command line about the configuration.
 struct LaunchOptions {
-    /// The value of "-c", or else of "--config", as it was given; the first occurrence counts.
+    /// Unchanged value of "-c" or, without "-c", of "--config". The first occurrence counts.
     std::optional<std::string> configuration;
-    /// "--save" stands anywhere among the arguments.
+    /// True if "--save" is among the arguments.
     bool save = false;
 
-    /// Looks the options up; every other argument is left alone, also one that looks like an option.
-    /// Throws MissingOptionValue when the option that counts has nothing behind it.
+    /// Parses the options and ignores all other arguments, including unknown options. The argument after an
+    /// option is its value, even if it looks like an option. Throws MissingOptionValue if the option is last.
     [[nodiscard]] static LaunchOptions parse(std::span<const std::string> arguments);
 };
 
