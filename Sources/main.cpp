@@ -99,7 +99,7 @@ int run(int argumentCount, char **arguments, LaunchOptions options) {
                              {.options = std::move(options), .executable = executable});
         services.openedWindow().setDidClose([&delegate] { delegate.openedWindowDidClose(); });
         const int status = runLoop(application, delegate);
-        // While what the functions of the queues work with is there.
+        // Before the destructors: functions on queues may still use these objects.
         settleOrExit(status);
         return status;
     } catch (...) {

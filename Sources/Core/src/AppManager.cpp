@@ -16,8 +16,8 @@ namespace velmar {
 
 namespace {
 
-// The characters of a text in upper case, each as its bytes: composed, for a keyboard's "é" is one code point
-// and a file's may be two.
+// Returns the characters of a text in upper case, UTF-8. Composed first: "é" is one code point from a
+// keyboard, but may be two in a file.
 std::set<std::string> charactersInUpperCase(std::string_view text) {
     const std::string upper = UnicodeText::composed(UnicodeText::uppercased(text));
     std::set<std::string> characters;

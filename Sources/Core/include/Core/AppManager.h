@@ -18,14 +18,13 @@ class ActionSetManager;
 class IdentityAuthority;
 class PopulatePlugin;
 
-/// Owns the decoded configuration, which a reload replaces as a whole. One instance is shared by the process;
-/// it is made in the first launching event. Main thread, but for `configuration()`, `actionSetManager()` and
-/// `shared()`, which any thread calls.
+/// Owns the decoded configuration, which a reload replaces as a whole. The process shares one instance, which
+/// is created in the first launch event. Main thread, except for the functions marked "Any thread".
 class AppManager {
 public:
     using PopulatePlugin = velmar::PopulatePlugin;
 
-    /// The four modifier keys of the force quit shortcut.
+    /// Modifier keys of the force quit shortcut.
     struct KeyModifiers {
         bool command = false;
         bool control = false;
@@ -33,43 +32,42 @@ public:
         bool shift = false;
     };
 
-    /// A key pressed while the application is active; a modifier key alone makes no event.
+    /// A key press while the application is active. A modifier key alone causes no event.
     struct KeyEvent {
-        std::string characters; ///< What the key gives without its modifiers, UTF-8.
+        std::string characters; ///< Text of the key without modifiers, UTF-8.
         KeyModifiers modifiers;
     };
 
-    /// True if the event goes no further.
+    /// Returns true if the event is consumed.
     using KeyDownHandler = std::function<bool(const KeyEvent &)>;
 
-    /// A running monitor of key-down events; letting go of it removes it.
+    /// A monitor of key-down events, removed on destruction.
     using KeyDownMonitor = std::shared_ptr<void>;
 
-    /// The functions behind the force quit shortcut.
+    /// Functions used for the force quit shortcut.
     struct ForceQuit {
-        /// Starts a monitor whose handler sees each key-down event of the application before anything else
-        /// does.
+        /// Starts a monitor whose handler receives each key-down event of the application first.
         std::function<KeyDownMonitor(KeyDownHandler)> addKeyDownMonitor;
-        /// Ends the application by its regular way, past the conditions that hold a quit back.
+        /// Begins the regular termination without the conditions of a quit.
         std::function<void()> terminate;
     };
 
     /// Finds, admits and decodes the configuration, then starts the monitor of the force quit shortcut unless
-    /// the configuration switches it off. A reload resets the variables of `contentManager`. Throws whatever
-    /// refuses the configuration: VelmarError, ConfigurationError, PropertyListError.
+    /// the configuration disables it. A reload can reset the variables of `contentManager`. Throws
+    /// VelmarError, ConfigurationError or PropertyListError if the configuration is refused.
     AppManager(const ConfigurationLocator &locator, const IdentityAuthority &identityAuthority,
                ForceQuit forceQuit,
                std::shared_ptr<ContentManager> contentManager = ContentManager::shared());
 
-    /// Decodes a file that has been admitted elsewhere, for a process that only shows it: no shortcut ends
-    /// the process. Throws what `ConfigurationFile::retrieveConfiguration` throws.
+    /// Decodes a file without checking its permissions, for a process that only displays it. There is no
+    /// force quit shortcut. Throws the errors of ConfigurationFile::retrieveConfiguration().
     explicit AppManager(URL configurationFileURL);
 
     ~AppManager();
     AppManager(const AppManager &) = delete;
     AppManager &operator=(const AppManager &) = delete;
 
-    /// Shares a manager and its configuration with the process, for as long as the scope lives.
+    /// Shares a manager and its configuration with the process for the lifetime of the scope.
     class Scope {
     public:
         explicit Scope(const std::shared_ptr<AppManager> &manager)
@@ -80,44 +78,45 @@ public:
         Shared<AppManager>::Scope manager_;
     };
 
-    /// The process's instance. Throws VelmarError::InternalError outside any Scope.
+    /// Returns the shared instance. Any thread. Throws VelmarError::InternalError outside any Scope.
     [[nodiscard]] static std::shared_ptr<AppManager> shared() { return Shared<AppManager>::instance(); }
 
-    /// The present configuration, never null. Any thread.
+    /// Returns the present configuration, never null. Any thread.
     [[nodiscard]] std::shared_ptr<const Configuration> configuration() const {
         return configuration_->present();
     }
 
-    /// The configuration that the process was launched with, never null: a reload changes neither the mode
-    /// nor the window that stands on the screen. Any thread.
+    /// Returns the launch configuration, never null. It determines the mode and the window, which a reload
+    /// doesn't change. Any thread.
     [[nodiscard]] const std::shared_ptr<const Configuration> &launchConfiguration() const noexcept {
         return configuration_->atLaunch();
     }
 
-    /// The admitted file, which a reload reads again.
+    /// Returns the URL of the configuration file, which a reload reads again.
     [[nodiscard]] const URL &configurationFileURL() const noexcept { return configurationFileURL_; }
 
-    /// Who fires the sets of actions; null until the start has come so far. Any thread.
+    /// Returns the manager of the action sets, nullptr until setActionSetManager() is called. Any thread.
     [[nodiscard]] std::shared_ptr<ActionSetManager> actionSetManager() const;
-    /// Once, during the start; it stays as long as the application manager.
+    /// Sets the manager of the action sets, which this object then owns. Called once, during start-up.
     void setActionSetManager(std::shared_ptr<ActionSetManager> actionSetManager);
 
-    /// Reads the configuration's file again and replaces the configuration; the file was admitted at the
-    /// start and is not judged again. A failure is logged and leaves the configuration as it is; one without
-    /// slides for the mode of the launch is a failure. Then, if
-    /// asked for, gives the variables of General.Variables the values of the present configuration again, be
-    /// it the new one or not. Never throws.
+    /// Reads the configuration file again and replaces the configuration. The permissions of the file are not
+    /// checked again. A failure is logged and leaves the configuration unchanged; a configuration without
+    /// slides for the mode of the launch is a failure. If `byResetingVariables` is true, then resets the
+    /// variables of General.Variables to the values in the present configuration, even after a failure. Never
+    /// throws.
     void reloadInterface(bool byResetingVariables);
 
-    /// Ends the application if the event is the force quit shortcut: all four modifiers (and any others) with
-    /// the keys of AppTermination.ForceQuitShortcutKey, as sets of characters in upper case. True if it was.
+    /// Terminates the application and returns true if the event is the force quit shortcut: all four
+    /// modifiers with the key of AppTermination.ForceQuitShortcutKey, compared as sets of upper-case
+    /// characters. Other modifiers are ignored.
     bool keyDownEventHandler(const KeyEvent &event) const;
 
 private:
-    /// Throws what the reading throws.
+    /// Reads the configuration and checks its slides. Throws the errors of both steps.
     [[nodiscard]] std::shared_ptr<const Configuration> retrieveConfigurationForReload() const;
 
-    mutable std::mutex mutex_; // Guards the pointer actionSetManager_.
+    mutable std::mutex mutex_; // Guards actionSetManager_.
     std::shared_ptr<ActionSetManager> actionSetManager_;
     URL configurationFileURL_;
     std::shared_ptr<ConfigurationSlot> configuration_;

@@ -8,14 +8,15 @@
 
 namespace velmar {
 
-/// Who fires custom triggers: what the holder was given, else the application's ActionSetManager of the
-/// moment. An owner declares with it that it fires some: `Trigger _trigger;`.
+/// Handle on the handler of custom triggers: the given one, else the application's current ActionSetManager.
+/// Declared as a field of an object that fires triggers: `Trigger _trigger;`.
 class Trigger {
 public:
     explicit Trigger(std::shared_ptr<CustomTriggerHandler> overrideValue = nullptr)
         : overrideValue_(std::move(overrideValue)) {}
 
-    /// Null while there is none. Any thread.
+    /// Returns the handler, nullptr if there is none yet. Any thread. Throws VelmarError::InternalError if no
+    /// AppManager is shared and no handler was given.
     [[nodiscard]] std::shared_ptr<CustomTriggerHandler> wrappedValue() const {
         if (overrideValue_) {
             return overrideValue_;

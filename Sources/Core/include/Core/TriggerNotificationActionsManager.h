@@ -7,14 +7,14 @@
 
 namespace velmar {
 
-/// Fires the custom trigger that the pressed button of a notification names. Main thread.
+/// Fires the custom trigger of the pressed button of a notification. Main thread.
 class TriggerNotificationActionsManager final : public UserNotificationsDelegate {
 public:
-    /// Becomes the delegate of the notifications, as long as it lives.
+    /// Creates a manager and sets it as the delegate of the notifications. The caller owns it.
     [[nodiscard]] static std::shared_ptr<TriggerNotificationActionsManager>
     make(UserNotifications &notifications, Trigger trigger = Trigger());
 
-    /// A tap on the body is an error in the log, and no more.
+    /// Fires the trigger. A click on the body of the notification only logs an error.
     void didReceive(const UserNotificationResponse &response,
                     std::function<void()> completionHandler) override;
 
