@@ -13,8 +13,8 @@ struct Color {
 
     bool operator==(const Color &) const = default;
 
-    /// The form of the item for the appearance. A colour whose alpha stands in its specification is logged,
-    /// each time it is made: that form is on its way out.
+    /// Returns the colour of the item for the appearance. Each call logs a colour whose alpha is part of its
+    /// text, a deprecated form.
     [[nodiscard]] static Color of(const ColorItem &item, bool isDark);
 };
 

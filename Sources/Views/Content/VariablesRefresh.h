@@ -8,23 +8,23 @@
 
 namespace velmar {
 
-/// Runs a function on the main queue after a change of variables that concern its owner: once, however many
-/// changes came before the queue got to it, and never after the owner let go of it. Main thread; the
-/// variables may change on any.
+/// Runs a function on the main queue after changes of observed variables. Changes made before the function
+/// runs are coalesced into one call. No call follows the destruction. Main thread; variables may change on
+/// any thread.
 class VariablesRefresh {
 public:
-    /// The queue must outlive what writes variables.
+    /// `mainQueue` must outlive all writes to variables.
     VariablesRefresh(MainQueue &mainQueue, std::function<void()> refresh,
                      std::shared_ptr<ContentManagerProtocol> contentManager = ContentManager::shared());
     ~VariablesRefresh();
     VariablesRefresh(const VariablesRefresh &) = delete;
     VariablesRefresh &operator=(const VariablesRefresh &) = delete;
 
-    /// From now on the variables with these names concern the owner, and no others.
+    /// Replaces the names of the observed variables.
     void follow(const VariableNames &names);
 
-    /// The same where the names depend on the values. Whatever is read after the call and changes later is
-    /// told.
+    /// Observes the variables that `namesFor` returns for the current values. Any change after the call of a
+    /// variable that is relevant by then causes a refresh.
     void follow(const std::function<VariableNames(const Variables &)> &namesFor);
 
 private:

@@ -4,18 +4,18 @@
 
 namespace velmar {
 
-/// Scrolls a column that is too high, and looks like nothing else. It is a stop of the Tab key only while
-/// there is something to scroll, and takes only the keys that scroll: those for going from slide to slide are
-/// left to the window. The ring of its focus is drawn by its parent, which is told to by an update.
+/// A scroll area for a column of components. It accepts the Tab focus only while the column is too high, and
+/// handles only the scroll keys: the window handles the keys that change slides. Its parent, which is updated
+/// on focus changes, draws the focus ring.
 class ColumnScrollArea final : public QScrollArea {
     Q_OBJECT
 
 public:
-    /// Owns the column.
+    /// Takes ownership of the column.
     ColumnScrollArea(QWidget *column, QWidget *parent);
 
-    /// Scrolls by a `Qt::Key`: Up, Down, PageUp, PageDown, Home or End. False for any other, and where there
-    /// is nothing to scroll.
+    /// Scrolls by a `Qt::Key`: Up, Down, PageUp, PageDown, Home or End. Returns false for any other key or if
+    /// there is nothing to scroll.
     bool scroll(int key);
 
 protected:

@@ -7,12 +7,12 @@
 
 namespace velmar {
 
-/// The font of an item. What the item leaves open is as in `standard`, which is in the system's font; a
-/// weight applies to the system's font only. A family that isn't installed falls back to the system's.
+/// Returns the font of an item. Omitted properties are those of `standard`, which must use the system font. A
+/// weight applies to the system font only. A family that isn't installed falls back to the system font.
 [[nodiscard]] QFont fontOf(const FontItem &item, const QFont &standard);
 
-/// The alignment of an item, in which left and right are meant as such; the natural one, and that of an item
-/// without one, is where the direction begins.
+/// Returns the alignment of an item. Left and right are absolute; natural or no alignment is the leading edge
+/// of `direction`.
 [[nodiscard]] Qt::Alignment alignmentOf(const std::optional<FontItem::TextAlignment> &alignment,
                                         Qt::LayoutDirection direction = QGuiApplication::layoutDirection());
 

@@ -4,8 +4,8 @@
 
 namespace velmar {
 
-/// Gives the keyboard's focus to the nearest widget around another one that takes it, or to the window: keys
-/// go on to work there, and nothing shows a ring.
+/// Gives the keyboard focus to the nearest ancestor of `widget` that accepts it, or else to the window, so
+/// that keys still work.
 inline void giveFocusToSurroundings(const QWidget &widget) {
     QWidget *around = widget.parentWidget();
     while (around != nullptr && !around->isWindow() && around->focusPolicy() == Qt::NoFocus) {

@@ -9,12 +9,12 @@
 
 namespace velmar {
 
-/// The pixels of a length of the configuration, in points. More than any screen is as much as any screen.
+/// Converts a configured length in points to pixels, limited to 0...16384.
 [[nodiscard]] inline int pixels(double points) {
     return static_cast<int>(std::lround(std::clamp(points, 0.0, 16384.0)));
 }
 
-/// The pixels of a window's size, at least one each way.
+/// Converts the size of a window to pixels, at least 1 in each dimension.
 [[nodiscard]] inline QSize pixels(const SizeItem &size) {
     return {std::max(1, pixels(size._width())), std::max(1, pixels(size._height()))};
 }

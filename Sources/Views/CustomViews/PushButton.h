@@ -4,21 +4,20 @@
 
 namespace velmar {
 
-/// A button with a label of an administrator. The Return key presses it, as Space does; the arrow keys are
-/// left to what is around it.
+/// A button with a configured label. Return and Space press it; arrow keys are passed to its parent.
 class PushButton : public QPushButton {
     Q_OBJECT
 
 public:
     explicit PushButton(QWidget *parent);
 
-    /// Shown character for character, cut where the button is too narrow for it and then in full as the
-    /// tooltip.
+    /// Sets the label, which is shown literally. A label too wide for the button is elided and also shown as
+    /// the tooltip.
     void setLabel(const QString &label);
     [[nodiscard]] const QString &label() const noexcept { return label_; }
 
 protected:
-    /// False while keys don't press it.
+    /// Returns false while keys must not press the button.
     [[nodiscard]] virtual bool takesKeys() const { return true; }
 
     void keyPressEvent(QKeyEvent *event) override;

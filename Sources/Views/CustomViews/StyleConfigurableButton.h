@@ -9,8 +9,8 @@
 
 namespace velmar {
 
-/// A button in one of the two styles of an item: a push button with a title, or a round one with a question
-/// mark. Its colour follows the appearance.
+/// A button in one of two styles: a push button with a title, or a round button with a question mark. Its
+/// colours follow the appearance.
 class StyleConfigurableButton final : public PushButton {
     Q_OBJECT
 
@@ -19,11 +19,11 @@ public:
 
     StyleConfigurableButton(Style style, QWidget *parent);
 
-    /// The title, which a round button tells to readers of the screen only, and the colour that the button is
-    /// filled with; none for that of the theme.
+    /// Sets the title and the fill colour; nullopt selects the colour of the theme. A round button uses the
+    /// title only as its accessible name and tooltip.
     void setContent(const QString &title, std::optional<ColorItem> tint);
 
-    /// What the button is filled with, and what stands on it.
+    /// Fill colour of the button. The title is drawn in titleColor().
     [[nodiscard]] const QColor &tintColor() const noexcept { return tintColor_; }
     [[nodiscard]] const QColor &titleColor() const noexcept { return titleColor_; }
 

@@ -7,8 +7,8 @@
 
 namespace velmar {
 
-/// A text of any length over as many lines as its width asks for, in the font of an item. It can be neither
-/// edited nor selected. Words longer than a line are broken. The colour follows the appearance.
+/// A text wrapped to the width of the view, in the font of an item. It cannot be edited or selected. Words
+/// longer than a line are broken. The colour follows the appearance.
 class StyleConfigurableTextView final : public QLabel {
     Q_OBJECT
 
@@ -30,15 +30,14 @@ protected:
 private:
     void updateColor();
     void prepareLayout();
-    /// Breaks the text into lines of a width.
+    /// Breaks the text into lines of a width, in pixels.
     void breakLines(int width) const;
 
     std::optional<FontItem> fontItem_;
     QColor color_;
-    // Keeps the shaped glyphs, which cost more than the lines: layouts ask for several widths before they
-    // settle.
+    // Caches the shaped glyphs, which cost more than the lines: layouts query several widths.
     mutable QTextLayout layout_;
-    mutable int brokenWidth_ = -1; // Of the present lines.
+    mutable int brokenWidth_ = -1; // Width of the current lines.
     mutable int brokenHeight_ = 0;
 };
 

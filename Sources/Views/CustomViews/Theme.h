@@ -7,38 +7,35 @@ namespace velmar {
 
 class DesktopAppearance;
 
-/// The look of the whole application: its two palettes, its type scale and how its controls are drawn. Views
-/// take colours from their palette alone: Window and WindowText for the page, AlternateBase for the bars
-/// beside it, Mid for separators, PlaceholderText for quieter text, Highlight for the accent. A push button
-/// that is the default one is the primary one, filled with the accent. Everything is laid out on a grid of 4
-/// points.
+/// The style of the application: two palettes, the type scale and the drawing of controls. Views take colours
+/// from their palette only: Window and WindowText for the page, AlternateBase for bars, Mid for separators,
+/// PlaceholderText for secondary text, Highlight for the accent. The default push button is filled with the
+/// accent. The layout grid is 4 points.
 class Theme final : public QProxyStyle {
     Q_OBJECT
 
 public:
-    /// Gives the application this style, in which it stays. The appearance must outlive the application's
-    /// loop.
+    /// Sets the style of the application, which owns it. `appearance` must outlive the event loop.
     static void install(const DesktopAppearance &appearance);
 
     /// The type scale, in points.
     static constexpr double bodySize = 15;
     static constexpr double controlSize = 14;
 
-    /// The room within a control around what is drawn, into which its focus ring goes; in points.
+    /// Space around the drawn shape of a control, for its focus ring; in points.
     static constexpr int focusRingRoom = 4;
 
-    /// The system's font in a size. A point is a unit of layout, whatever the resolution.
+    /// Returns the system font in a size. A point is a layout unit, independent of the screen resolution.
     [[nodiscard]] static QFont font(double points);
 
-    /// Of the corners of what is drawn as a box, in points.
+    /// Corner radius of boxes, in points.
     static constexpr double cornerRadius = 8;
 
-    /// Draws the ring of what has the keyboard's focus, centred on the edges of the shape; the radius is that
-    /// of the box within.
+    /// Draws a focus ring, centred on the edges of `shape`. `radius` is the corner radius of the focused box.
     static void drawFocusRing(QPainter &painter, const QRectF &shape, const QPalette &palette,
                               qreal radius = cornerRadius);
 
-    /// Draws a push button as a circle with its text in it.
+    /// Draws a push button as a circle that contains its text.
     static void drawRoundButton(QPainter &painter, const QStyleOptionButton &button);
 
     using QProxyStyle::polish;

@@ -12,20 +12,20 @@
 
 namespace velmar {
 
-/// One component of a container on screen.
+/// The view of a component of a container.
 class ComponentView : public QWidget {
     Q_OBJECT
 
 public:
     using QWidget::QWidget;
 
-    /// True where the component takes the height that the others leave.
+    /// Returns true if the component fills the remaining height.
     [[nodiscard]] virtual bool isFlexible() const { return false; }
 
-    /// What a reader of the screen calls the component; empty for one that says nothing.
+    /// Returns the accessible name of the component; empty if it has none.
     [[nodiscard]] virtual QString title() const { return {}; }
 
-    /// What the slide asks whether the component is right; null for one that is always.
+    /// Returns the element whose validity the slide checks, nullptr if the component is always valid.
     [[nodiscard]] virtual std::shared_ptr<MandatorySupervised> mandatoryElement() const { return nullptr; }
 
 signals:
@@ -34,41 +34,42 @@ signals:
 
 namespace ComponentViews {
 
-/// The view of one component: its content with the border above or below it, within its margins. A kind of
-/// component derives from it, makes its content in its constructor and hands it to `setContentView`. It shows
-/// what its item says with the values that the variables have: when one of them changes it is refreshed.
+/// Base class of the component views: the content, with a border above or below it, within margins. The
+/// constructor of a derived class creates the content and passes it to `setContentView`. refresh() is called
+/// when a variable of the item changes.
 template <class Item>
 class Base : public ComponentView {
 public:
     using ItemType = Item;
 
-    /// The queue must outlive the view.
+    /// `mainQueue` must outlive the view.
     Base(Item item, QMargins standardMargins, MainQueue &mainQueue, QWidget *parent);
 
 protected:
     [[nodiscard]] const Item &item() const noexcept { return item_; }
     void setContentView(QWidget *contentView) { layout_->insertWidget(contentPosition_, contentView, 1); }
 
-    /// Reads the item again and shows it.
+    /// Shows the current values of the item.
     virtual void refresh() {}
 
 private:
     void followVariables();
 
     Item item_;
-    VariableNames itemVariables_; // In the item's texts.
+    VariableNames itemVariables_; // Variables used in the item's texts.
     QVBoxLayout *layout_;
     int contentPosition_ = 0;
-    std::optional<VariablesRefresh> variablesRefresh_; // None for an item without variables.
+    std::optional<VariablesRefresh> variablesRefresh_; // nullopt if the item has no variables.
 };
 
-/// The line that a border item asks for, as wide as its part of the view's width.
+/// Creates the line of a border item, as wide as its share of the view's width. The parent owns it.
 [[nodiscard]] QWidget *makeBorderView(const BorderItem &item, QWidget *parent);
 
-/// The margins of an item; what it leaves open is as in `standard`.
+/// Returns the margins of an item. Omitted margins are those of `standard`.
 [[nodiscard]] QMargins marginsOf(const MarginsItem &item, const QMargins &standard);
 
-/// The variables on whose values a text with these variables depends, by the values that they have.
+/// Returns the variables that affect the texts with `itemVariables`, including variables referred to by the
+/// current values.
 [[nodiscard]] VariableNames involvedItemVariables(const VariableNames &itemVariables,
                                                   const Variables &variables);
 
@@ -90,7 +91,7 @@ Base<Item>::Base(Item item, QMargins standardMargins, MainQueue &mainQueue, QWid
         variablesRefresh_.emplace(mainQueue, [this] {
             followVariables();
             refresh();
-            // Has the column give the view its new height before either is painted.
+            // Updates the height of the view in the column before both are painted.
             layout_->activate();
         });
         followVariables();

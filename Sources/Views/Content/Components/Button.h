@@ -16,8 +16,8 @@ namespace ComponentViews {
 /// A button that runs a set of actions and fires a trigger.
 class Button final : public Base<ComponentItem::Button> {
 public:
-    /// The dispatcher, if none is given, and the trigger's handler are those of the application at the time
-    /// of a click.
+    /// `mainQueue` must outlive the view. A null dispatcher selects the application's one at the time of a
+    /// click.
     Button(ComponentItem::Button item, MainQueue &mainQueue, QWidget *parent,
            std::shared_ptr<ActionDispatcherProtocol> dispatcher = nullptr, Trigger trigger = Trigger());
 
@@ -32,7 +32,7 @@ private:
     Trigger _trigger;
     std::shared_ptr<ActionDispatcherProtocol> dispatcher_;
     StyleConfigurableButton *buttonView_;
-    std::optional<ActionSet> onClick_; // One identity for all clicks.
+    std::optional<ActionSet> onClick_; // Has the same identity for all clicks.
 };
 
 } // namespace ComponentViews

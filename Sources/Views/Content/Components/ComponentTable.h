@@ -10,19 +10,18 @@ namespace velmar {
 class ComponentView;
 struct Services;
 
-/// Makes the view of a component of one type, as a child of the parent. Never nullptr: the factory of a type
-/// that comes from a module makes the empty view while the module isn't there, and logs why. A view may load
-/// its content after it has been made.
+/// Creates the view of a component of one type, never nullptr, which the parent owns. If the module of the
+/// type is not available, logs the reason and creates an empty view. A view may load its content later.
 using ComponentFactory = ComponentView *(*)(const ComponentItem &item, const Services &services,
                                             QWidget *parent);
 
 using ComponentTable = FactoryTable<ComponentItem, ComponentFactory>;
 
-/// The types of components. A component of a type that is not built yet gets the empty view and a line in the
-/// log.
+/// Returns the factories by type of component. A component of an unsupported type gets an empty view, which
+/// is logged.
 [[nodiscard]] const ComponentTable &componentTable();
 
-/// Makes a view without content and without height.
+/// Creates a view without content and height, which the parent owns.
 [[nodiscard]] ComponentView *makeEmptyView(const Services &services, QWidget *parent);
 
 } // namespace velmar

@@ -4,7 +4,7 @@
 
 namespace velmar::ComponentViews {
 
-/// Empty space of a height, or all that is left.
+/// Empty space of a given height, or else the remaining height.
 class Spacer final : public Base<ComponentItem::Spacer> {
 public:
     Spacer(ComponentItem::Spacer item, MainQueue &mainQueue, QWidget *parent);

@@ -8,7 +8,7 @@ class StyleConfigurableTextView;
 
 namespace ComponentViews {
 
-/// A paragraph.
+/// The view of a text component.
 class Text final : public Base<ComponentItem::Text> {
 public:
     Text(ComponentItem::Text item, MainQueue &mainQueue, QWidget *parent);

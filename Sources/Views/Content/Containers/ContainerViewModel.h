@@ -4,8 +4,8 @@
 
 namespace velmar {
 
-/// The validity of a container: it supervises its components and is itself an element of its slide. Made as a
-/// shared_ptr. Main thread.
+/// The validity of a container, which supervises its components and is an element of its slide. Must be owned
+/// by a shared_ptr. Main thread.
 class ContainerViewModel final : public MandatorySupervisor,
                                  public MandatorySupervised,
                                  public std::enable_shared_from_this<ContainerViewModel> {
@@ -15,11 +15,11 @@ public:
     void setMandatorySupervisor(std::weak_ptr<MandatorySupervisor> supervisor) override;
     void showWarnings() override { elements_.showWarnings(); }
 
-    /// Reports itself to its own supervisor when its validity changes by that.
+    /// Updates the validity of the container and reports a change to its supervisor.
     void elementDidChange(const std::shared_ptr<MandatorySupervised> &element) override;
 
-    /// An element that leaves the container no longer counts and loses its supervisor, so that nothing it
-    /// reports later files it again. One that comes back is given its supervisor anew.
+    /// Removes an element and resets its supervisor, so that later reports don't add it again. Set the
+    /// supervisor again if the element returns.
     void elementWasRemoved(MandatorySupervised &element);
 
 private:

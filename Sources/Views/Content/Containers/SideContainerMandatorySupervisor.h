@@ -7,11 +7,11 @@
 
 namespace velmar {
 
-/// Supervises the container beside the slides, which belongs to none of them: its validity is asked for when
-/// the user quits, and holds nobody on a slide. Main thread.
+/// Supervisor of the container beside the slides. Its validity is checked when the user quits and does not
+/// affect navigation. Main thread.
 class SideContainerMandatorySupervisor final : public MandatorySupervisor {
 public:
-    /// Of a container without a supervisor so far.
+    /// Creates the supervisor of a container, which must not have one yet.
     [[nodiscard]] static std::shared_ptr<SideContainerMandatorySupervisor>
     make(std::shared_ptr<ContainerViewModel> containerViewModel) {
         const std::shared_ptr<SideContainerMandatorySupervisor> supervisor(

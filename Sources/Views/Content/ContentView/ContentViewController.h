@@ -14,13 +14,13 @@ class DesktopAppearance;
 class SlideViewController;
 struct Services;
 
-/// Shows the current slide, and moves from one to the next. Slides are made when they are first needed, so
-/// that the number of slides costs nothing at the start. Main thread.
+/// Shows the current slide and the transitions between slides. Slides are created on first use, so that their
+/// number does not affect the start-up time. Main thread.
 class ContentViewController final : public QWidget, public ContentViewControllerProtocol {
     Q_OBJECT
 
 public:
-    /// The appearance must outlive the controller.
+    /// `services` and `appearance` must outlive the controller.
     ContentViewController(std::shared_ptr<ContentViewModel> viewModel, const Services &services,
                           const DesktopAppearance &appearance, QWidget *parent);
     ~ContentViewController() override;
@@ -46,7 +46,7 @@ protected:
 private:
     /// Creates the slide on its first use. nullptr if there is no such slide.
     SlideViewController *slide(int index);
-    /// nullptr if the slide has not been created.
+    /// Returns nullptr if the slide has not been created.
     [[nodiscard]] SlideViewController *madeSlide(int index) const;
     void place(double progress);
     void finishTransition();
@@ -56,7 +56,7 @@ private:
     const DesktopAppearance &appearance_;
     std::map<int, SlideViewController *> slides_;
     int currentSlideIndex_ = 0;
-    int previousSlideIndex_ = 0; // While a transition runs.
+    int previousSlideIndex_ = 0; // Valid during a transition.
     QVariantAnimation animation_{this};
 };
 

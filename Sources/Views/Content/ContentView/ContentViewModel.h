@@ -18,18 +18,18 @@ namespace velmar {
 
 class SlideViewModel;
 
-/// The views of the slides, as the model uses them.
+/// Interface of the views of the slides to the model.
 class ContentViewControllerProtocol {
 public:
     virtual ~ContentViewControllerProtocol() = default;
 
-    /// Puts another slide on show.
+    /// Shows another slide.
     virtual void transition(int from, int to) = 0;
 
-    /// True while the user still sees the slide before.
+    /// Returns true while the previous slide is still visible.
     [[nodiscard]] virtual bool isTransitionUnderWay() const = 0;
 
-    /// View model of the slide on show; nullptr if there is none.
+    /// Returns the view model of the current slide, nullptr if there is none.
     [[nodiscard]] virtual std::shared_ptr<SlideViewModel> currentSlideViewModel() const = 0;
 };
 
@@ -38,7 +38,7 @@ class ContentViewModelTerminationDelegate {
 public:
     virtual ~ContentViewModelTerminationDelegate() = default;
 
-    /// True if there is no side container.
+    /// Returns true if the side container is valid or doesn't exist.
     [[nodiscard]] virtual bool isSideContainerValid() const = 0;
     virtual void showSideContainerWarnings() = 0;
 };
@@ -58,7 +58,7 @@ public:
         std::shared_ptr<SlidesActionManager> slidesActionManager = SlidesActionManager::shared();
     };
 
-    /// The queue, the manager and the centre must outlive the model.
+    /// `mainQueue`, `appTerminationManager` and `center` must outlive the model.
     ContentViewModel(MainQueue &mainQueue, AppTerminationManagerProtocol &appTerminationManager,
                      NotificationCenter &center = NotificationCenter::defaultCenter())
         : ContentViewModel(mainQueue, appTerminationManager, center, Settings()) {}
@@ -98,11 +98,11 @@ public:
     void navigateToIndex(std::int64_t index) override;
     void navigateByOffset(std::int64_t offset) override;
 
-    /// Asks for the termination, unless the current slide or the side container is invalid.
+    /// Requests the termination, unless the current slide or the side container is invalid.
     void tryToQuitApplication();
 
-    /// Runs `reload`, which may replace the configuration, and goes back to the first slide if their number
-    /// changed.
+    /// Runs `reload`, which may replace the configuration, then selects the first slide if the number of
+    /// slides changed.
     void reloadSlidesIfCountChanged(const std::function<void()> &reload);
 
 private:

@@ -6,15 +6,15 @@
 
 namespace velmar {
 
-/// A stretch of a row, in points.
+/// Horizontal extent of a container, in points.
 struct ContainerSpan {
     int start = 0;
     int width = 0;
     bool operator==(const ContainerSpan &) const = default;
 };
 
-/// Shares the width of a slide among its `count` containers, without a gap or an overlap; shares that add up
-/// to one end at the slide's end.
+/// Divides the width of a slide among its `count` containers without gaps or overlaps. Shares with the sum 1
+/// fill the slide.
 [[nodiscard]] std::vector<ContainerSpan> containerSpans(const SlideItem::ContainersComposition &composition,
                                                         std::size_t count, int width);
 

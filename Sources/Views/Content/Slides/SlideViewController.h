@@ -13,17 +13,18 @@ namespace velmar {
 class NotificationCenter;
 class SlideViewModel;
 
-/// A slide on screen: its containers side by side. Main thread.
+/// The view of a slide: its containers side by side. Main thread.
 class SlideViewController final : public QWidget {
     Q_OBJECT
 
 public:
     enum class Kind {
         standard,
-        inMenuBar, ///< Without the inset at the top.
+        inMenuBar, ///< No top inset.
     };
 
-    /// The slide's validity is told to the centre, which must outlive the controller, as must the appearance.
+    /// Posts the validity of the slide to `center`. `center`, `services` and `appearance` must outlive the
+    /// controller.
     SlideViewController(const SlideItem &slide, Kind kind, NotificationCenter &center,
                         const Services &services, const DesktopAppearance &appearance, QWidget *parent);
     ~SlideViewController() override;
@@ -33,10 +34,11 @@ public:
     void viewWillAppear();
     void viewWillDisappear();
 
-    /// What readers of the screen call the slide: the title of its first component that has one.
+    /// Returns the accessible name of the slide: the title of its first component that has one.
     [[nodiscard]] QString title() const;
 
-    /// Scrolls the first container that can be by a `Qt::Key`; false where none can, or not by that key.
+    /// Scrolls the first scrollable container by a `Qt::Key`. Returns false if no container scrolls by that
+    /// key.
     bool scroll(int key);
 
 signals:
@@ -49,7 +51,7 @@ private:
     Kind kind_;
     std::shared_ptr<SlideViewModel> viewModel_;
     SlideItem::ContainersComposition composition_;
-    std::vector<ContainerViewController *> containerViewControllers_; // In the order of the items.
+    std::vector<ContainerViewController *> containerViewControllers_; // In item order.
 };
 
 } // namespace velmar

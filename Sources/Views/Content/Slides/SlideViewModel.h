@@ -5,8 +5,8 @@
 
 namespace velmar {
 
-/// The validity of one slide: it is valid while all its mandatory elements are. It tells the navigation only
-/// while the slide is on show. Main thread.
+/// The validity of a slide, which is valid while all its mandatory elements are. Posts changes to the
+/// navigation only while the slide is shown. Main thread.
 class SlideViewModel final : public MandatorySupervisor {
 public:
     explicit SlideViewModel(NotificationCenter &center = NotificationCenter::defaultCenter())
@@ -14,11 +14,11 @@ public:
 
     void elementDidChange(const std::shared_ptr<MandatorySupervised> &element) override;
 
-    /// The slide comes on show, and its validity is the current one from now on.
+    /// Called before the slide is shown. Begins to post its validity.
     void willAppear();
     void willDisappear() { shouldNotifyForValidState_ = false; }
 
-    /// Tells the navigation whether the slide is valid.
+    /// Posts the validity of the slide.
     void notifyForValidState(bool logging) const;
 
     void showWarnings() const { mandatoryElements_.showWarnings(); }
