@@ -25,9 +25,8 @@ namespace velmar {
 
 namespace {
 
-/// What readers of the screen find where the focus is on nothing in particular: a group that is called like
-/// the first container of the slide on show. It is busy while an animation moves, shows or hides a part of
-/// it.
+/// Accessible interface of the root view: a group with the name of the first container of the current slide.
+/// It is busy while an animation of the views is running.
 class AccessibleContent final : public QAccessibleWidget {
 public:
     explicit AccessibleContent(QWidget *widget) : QAccessibleWidget(widget, QAccessible::Grouping) {}
@@ -41,7 +40,7 @@ public:
     }
 
     [[nodiscard]] QAccessible::State state() const override {
-        // Animations of the style are of other classes: an indicator of progress may turn for ever.
+        // Ignores animations of the style, which have other classes and may never end.
         QAccessible::State state = QAccessibleWidget::state();
         const auto animations = widget()->findChildren<QVariantAnimation *>();
         state.busy = std::ranges::any_of(animations, [](const QVariantAnimation *animation) {
@@ -80,8 +79,8 @@ VelmarViewController::VelmarViewController(const Services &services, const Deskt
     buildNavigation();
     contentViewController_ = new ContentViewController(contentViewModel_, services_, appearance_, this);
     column_->insertWidget(0, contentViewController_, 1);
-    QAccessible::installFactory(&accessibleContent); // Once, however often it is called.
-    setFocusPolicy(Qt::ClickFocus);                  // No stop of the Tab key: it shows no ring.
+    QAccessible::installFactory(&accessibleContent); // Repeated calls have no effect.
+    setFocusPolicy(Qt::ClickFocus);                  // No Tab focus: the view shows no ring.
     connect(contentViewController_, &ContentViewController::willLeave, this,
             &VelmarViewController::contentWillLeave);
     orderTabStops();
@@ -159,12 +158,12 @@ void VelmarViewController::contentWillLeave(const SlideViewController &slide) {
 }
 
 void VelmarViewController::orderTabStops() {
-    // What is made later comes last of its own.
+    // Widgets created later are appended to the focus chain.
     QWidget *last = window()->previousInFocusChain();
     if (last == &navigationViewController_->nextButton()) {
         return;
     }
-    // Nothing is put behind a widget that takes no focus.
+    // setTabOrder() ignores widgets without a focus policy.
     const Qt::FocusPolicy policy = last->focusPolicy();
     last->setFocusPolicy(Qt::TabFocus);
     setTabOrder(last, &navigationViewController_->previousButton());

@@ -24,26 +24,25 @@ class SideContainerMandatorySupervisor;
 class SlideViewController;
 struct Services;
 
-/// The whole of what the user sees: the slides, the bar that leads through them, and the container beside
-/// them. Main thread.
+/// The root view: the slides, the navigation bar and the side container. Main thread.
 class VelmarViewController final : public QWidget, public ContentViewModelTerminationDelegate {
     Q_OBJECT
 
 public:
-    /// The application behind the views. The references must outlive the controller.
+    /// Functions of the application used by the views. The references must outlive the controller.
     struct Application {
         AppTerminationManagerProtocol &terminationManager;
-        /// Reads the configuration again; AppManager::reloadInterface.
+        /// Reads the configuration again; see AppManager::reloadInterface.
         std::function<void(bool byResetingVariables)> reloadInterface;
         NotificationCenter &center = NotificationCenter::defaultCenter();
     };
 
-    /// The appearance must outlive the controller.
+    /// `services` and `appearance` must outlive the controller.
     VelmarViewController(const Services &services, const DesktopAppearance &appearance,
                          Application application, QWidget *parent = nullptr);
     ~VelmarViewController() override;
 
-    /// The administrator's menu actions: the interface is made anew from the configuration as it is then.
+    /// Rebuilds the views from the reloaded configuration. Called by the administrator's menu.
     void reloadInterfaceSavingVariables() { reload(false); }
     void reloadInterfaceResetingVariables() { reload(true); }
 
@@ -56,16 +55,16 @@ protected:
 
 private:
     void reload(bool byResetingVariables);
-    /// Tells the user why a quit was refused.
+    /// Observes refused quits and shows the reason in an alert.
     void setupQuitAlerts();
     void buildSideContainer();
     void buildNavigation();
-    /// Tells the navigation where the current slide stands.
+    /// Posts the position of the current slide to the navigation.
     void contentDidAppear();
     void contentWillLeave(const SlideViewController &slide);
-    /// Puts the bar's buttons behind all that the slides hold.
+    /// Moves the buttons of the bar to the end of the tab order.
     void orderTabStops();
-    /// Gives the focus to the button that leads on, or to the nearest to it that is on show.
+    /// Gives the focus to the next button, or to the previous one if the next button is hidden.
     void focusNavigation();
 
     Config<NavigationSection> _navigation{
@@ -79,11 +78,12 @@ private:
     QHBoxLayout *row_;
     QVBoxLayout *column_;
     ContainerViewController *sideContainerViewController_ = nullptr;
-    std::shared_ptr<SideContainerMandatorySupervisor> sideContainerSupervisor_; // Null without the container.
+    std::shared_ptr<SideContainerMandatorySupervisor>
+        sideContainerSupervisor_; // nullptr without a side container.
     ContentViewController *contentViewController_ = nullptr;
     NavigationViewController *navigationViewController_ = nullptr;
     std::vector<NotificationObserver> observers_;
-    const QWidget *shownIn_ = nullptr; // The window; null before the first show.
+    const QWidget *shownIn_ = nullptr; // The window; nullptr before the first show.
 };
 
 } // namespace velmar

@@ -23,14 +23,14 @@ public:
         request();
     }
 
-    /// Any thread.
+    /// Posts a refresh unless one is pending. Any thread.
     void request() {
         if (isPending_.exchange(true)) {
             return;
         }
         mainQueue_.async([observer = weak_from_this()] {
             if (const auto self = observer.lock()) {
-                // First: the refresh may not see later changes.
+                // Reset before the call: the refresh may not see later changes.
                 self->isPending_ = false;
                 // A copy: the function may destroy its owner.
                 if (const auto function = self->refresh_) {
@@ -53,7 +53,7 @@ VariablesRefresh::VariablesRefresh(MainQueue &mainQueue, std::function<void()> r
 }
 
 VariablesRefresh::~VariablesRefresh() {
-    // A writer on another thread may hold the observer still.
+    // A writer on another thread may still own the observer.
     observer_->letGo();
 }
 
@@ -63,14 +63,14 @@ void VariablesRefresh::follow(const VariableNames &names) {
 
 void VariablesRefresh::follow(const std::function<VariableNames(const Variables &)> &namesFor) {
     const auto present = [&] { return namesFor(*observer_->contentVariables().variables()); };
-    // A value that brings in further names may change before its own name is followed.
+    // A value that refers to further names may change before its own name is observed.
     VariableNames followed;
     VariableNames names = present();
     for (int round = 0; names != followed && round < mostRounds; ++round) {
         follow(names);
         followed = std::exchange(names, present());
     }
-    // A writer that is faster must not hold the main thread up: the owner is told instead.
+    // Frequent writes must not block the main thread: a refresh is requested instead.
     if (names != followed) {
         observer_->request();
     }

@@ -23,8 +23,8 @@ public:
     /// Replaces the names of the observed variables.
     void follow(const VariableNames &names);
 
-    /// Observes the variables that `namesFor` returns for the current values. Any change after the call of a
-    /// variable that is relevant by then causes a refresh.
+    /// Observes the variables that `namesFor` returns for the current values. The change of any of their
+    /// values read after the call causes a refresh.
     void follow(const std::function<VariableNames(const Variables &)> &namesFor);
 
 private:

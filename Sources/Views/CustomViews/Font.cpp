@@ -8,7 +8,7 @@ namespace velmar {
 
 namespace {
 
-// Points; beyond them a font cannot be read, and the system may not be able to make it.
+// Points. Other sizes are unreadable and may not be supported by the system.
 constexpr double minimumSize = 1;
 constexpr double maximumSize = 1000;
 

@@ -25,7 +25,7 @@ void PushButton::keyPressEvent(QKeyEvent *event) {
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        // A key held down doesn't press again and again.
+        // Auto-repeat of a held key must not press repeatedly.
         if (!event->isAutoRepeat() && takesKeys()) {
             click();
         }

@@ -48,7 +48,7 @@ void StyleConfigurableButton::updateColors() {
     const QPalette present = palette();
     if (tint_) {
         tintColor_ = qColor(Color::of(*tint_, DesktopAppearance::isDark(present)));
-        // A tint that one can look through is read against the page.
+        // A translucent tint is blended with the page.
         const QColor page = present.color(QPalette::Window);
         const float alpha = tintColor_.alphaF();
         const auto over = [alpha](float above, float below) { return above * alpha + below * (1 - alpha); };
@@ -72,7 +72,7 @@ QSize StyleConfigurableButton::sizeHint() const {
 }
 
 QSize StyleConfigurableButton::minimumSizeHint() const {
-    // A long title gives way.
+    // A long title may be elided.
     const QSize whole = sizeHint();
     return {std::min(whole.width(), fontMetrics().horizontalAdvance(u'M') * 6), whole.height()};
 }
@@ -90,8 +90,7 @@ void StyleConfigurableButton::paintEvent(QPaintEvent * /*event*/) {
     initStyleOption(&option);
     option.palette.setColor(QPalette::Button, tintColor_);
     option.palette.setColor(QPalette::ButtonText, titleColor_);
-    // In line with the texts above and below it: at the sides it makes room for the ring only while there is
-    // one.
+    // Aligned with adjacent texts: the side space of the ring is used only while the ring is visible.
     if (!hasFocus() || !window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
         constexpr int room = Theme::focusRingRoom;
         option.rect.adjust(-room, 0, room, 0);

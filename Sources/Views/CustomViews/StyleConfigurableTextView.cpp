@@ -14,13 +14,13 @@ namespace velmar {
 
 namespace {
 
-// Large type wants less air between its lines.
+// Large text needs less line spacing.
 constexpr double largeSize = 20;
 constexpr double lineSpacing = 1.3;
 constexpr double largeLineSpacing = 1.15;
 constexpr int comfortableWidth = 480; // Points.
 
-/// That of the first character with a direction of its own.
+/// Returns the direction of the first character with a strong direction, otherwise `surrounding`.
 Qt::LayoutDirection directionOf(const QString &text, Qt::LayoutDirection surrounding) {
     for (const char32_t character : text.toUcs4()) {
         switch (QChar::direction(character)) {
@@ -48,7 +48,7 @@ StyleConfigurableTextView::StyleConfigurableTextView(QWidget *parent) : QLabel(p
 
 void StyleConfigurableTextView::setContent(const QString &content, std::optional<FontItem> fontItem) {
     fontItem_ = std::move(fontItem);
-    setText(content); // First: a new font breaks the lines of the text.
+    setText(content); // Before setFont(), which breaks the text into lines.
     const QFont standard = Theme::font(Theme::bodySize);
     setFont(fontItem_ ? fontOf(*fontItem_, standard) : standard);
     prepareLayout();
@@ -113,7 +113,7 @@ int StyleConfigurableTextView::heightForWidth(int width) const {
 }
 
 QSize StyleConfigurableTextView::sizeHint() const {
-    // The height follows from the width that the view is given.
+    // The layout uses heightForWidth().
     return {comfortableWidth, fontMetrics().height()};
 }
 

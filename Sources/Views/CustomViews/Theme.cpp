@@ -44,7 +44,7 @@ QColor fillOf(const QStyleOptionButton &button) {
     return isHovered ? base.darker(108) : base;
 }
 
-// The filled shape of a button, with the ring of the keyboard's focus around it.
+// Draws the filled shape of a button and, with keyboard focus, its ring.
 void drawButtonShape(const QStyleOptionButton &button, QPainter &painter, const QRectF &shape, qreal radius) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
@@ -71,7 +71,7 @@ Theme::Theme(const DesktopAppearance &appearance)
 void Theme::install(const DesktopAppearance &appearance) {
     QApplication::setStyle(new Theme(appearance)); // Owned by the application.
     QApplication::setFont(font(controlSize));
-    // Setting nothing makes the application ask the style for its palette again.
+    // An empty palette makes the application query the style again.
     connect(&appearance, &DesktopAppearance::preferenceChanged, qApp,
             [] { QApplication::setPalette(QPalette()); });
 }
@@ -201,7 +201,7 @@ QRect Theme::subControlRect(ComplexControl control, const QStyleOptionComplex *o
     if (control != CC_ScrollBar || bar == nullptr) {
         return QProxyStyle::subControlRect(control, option, subControl, widget);
     }
-    // A thumb in a groove over the whole length, without arrows.
+    // The groove takes the whole length, without arrows.
     const bool isHorizontal = bar->orientation == Qt::Horizontal;
     const int length = isHorizontal ? bar->rect.width() : bar->rect.height();
     const int range = bar->maximum - bar->minimum;

@@ -17,8 +17,8 @@
 namespace velmar {
 namespace {
 
-/// Components with the conditions "ONE", none, "TWO"; the views write down what is asked of them, and finish
-/// an animation when the test says so.
+/// Components with the conditions "ONE", none, "TWO". The views record their calls; the test ends the
+/// animations.
 class Components : public testing::Test, protected ComponentsControllerProtocol {
 protected:
     void takeKeyboardFocusAway() override { asked.emplace_back("focus"); }

@@ -28,7 +28,7 @@
 namespace velmar {
 namespace {
 
-/// A container on show, of texts of which some have conditions, over a store of its own.
+/// Fixture with a visible container of texts, some with conditions, and a separate store of variables.
 class Container : public ViewTest<> {
 protected:
     void show(const std::vector<ComponentItem> &components) {
@@ -56,7 +56,7 @@ protected:
         return -1;
     }
 
-    /// Takes the animation that runs through its time in steps of a twentieth, on a clock of the test's own.
+    /// Advances the running animations to their end in 20 steps, independent of real time.
     void animate(const std::function<void()> &afterStep = [] {}) {
         for (auto *animation : view->findChildren<QVariantAnimation *>()) {
             if (animation->state() != QAbstractAnimation::Running) {
@@ -135,7 +135,7 @@ TEST_F(Container, MovesWithoutAJumpAndEndsWhereItWouldStandWithoutAnimation) {
 TEST_F(Container, MovesATextOfAnyLengthForThePriceOfTheViewport) {
     set("A1", "true");
     show({text("above"), text(QString("line\n").repeated(10'000).toStdString(), "A1")});
-    const auto mostMemory = [] { // That the process ever had, in MiB.
+    const auto mostMemory = [] { // Peak of the process, in MiB.
         rusage usage{};
         ::getrusage(RUSAGE_SELF, &usage);
         return usage.ru_maxrss / 1024;
@@ -246,7 +246,7 @@ TEST_F(Container, IsGoneThroughByTheTabKeyInTheOrderOfItsComponents) {
     view->setParent(nullptr);
 }
 
-/// Counts the times that a text is painted in a place too low for it.
+/// Counts the paints of a text in too small a height.
 class Paints final : public QObject {
 public:
     bool eventFilter(QObject *watched, QEvent *event) override {

@@ -82,7 +82,7 @@ protected:
         }
     }
 
-    /// Makes the current slide one with an element that isn't right.
+    /// Makes the current slide invalid.
     void invalidate() {
         element->setMandatorySupervisor(controller.slide);
         element->set(false);
@@ -117,7 +117,7 @@ TEST_F(ContentModel, FollowsTheRequestsOfActionsOnTheMainThread) {
     const struct {
         bool byOffset;
         std::int64_t number;
-        const char *transition; ///< Null where the request leads nowhere.
+        const char *transition; ///< nullptr if no transition is expected.
         const char *line = nullptr;
     } cases[] = {
         {false, 2, "0>2"},
@@ -133,7 +133,7 @@ TEST_F(ContentModel, FollowsTheRequestsOfActionsOnTheMainThread) {
         const int before = model->selectedSlideIndex();
         byOffset ? slidesActionManager->navigateByOffset(number)
                  : slidesActionManager->navigateToIndex(number);
-        EXPECT_EQ(model->selectedSlideIndex(), before); // Not on the thread of the action.
+        EXPECT_EQ(model->selectedSlideIndex(), before); // The move is posted.
         EXPECT_EQ(takeTransitions(), transition != nullptr ? Names{transition} : Names()) << number;
         const auto lines = log.takeLines();
         EXPECT_EQ(lines, line != nullptr ? Names{std::string("warning: ") + line} : Names());

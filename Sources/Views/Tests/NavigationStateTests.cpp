@@ -15,7 +15,7 @@ TEST(NavigationState, FollowsFromTheSlideItsPlaceAndItsValidity) {
         bool isValid;
         bool hidesPrevious;
         bool hidesNext;
-        const char *shown; ///< The buttons on show; "!" if a press of the next button doesn't move.
+        const char *shown; ///< Visible buttons; "!" if a press of the next button doesn't move.
     } rows[] = {
         {0, 1, true, false, false, "quit!"},
         {0, 1, false, false, true, "!"},

@@ -46,8 +46,8 @@ protected:
         quits.count = 0;
     }
 
-    /// "<" and ">" press a button; other steps are posted. Leaves in `posted` what the last step brought
-    /// about.
+    /// Runs the steps: "<" and ">" press a button; other steps are posted. `posted` then holds the
+    /// notifications of the last step.
     void run(const Names &steps) {
         for (const std::string_view step : steps) {
             posted.clear();
@@ -61,7 +61,7 @@ protected:
         }
     }
 
-    /// The titles of the buttons that can be pressed, and the number of the slide.
+    /// Returns the titles of the enabled visible buttons and the index of the slide.
     std::string shown() {
         std::string text;
         for (const NavigationButton *button : {&bar->previousButton(), &bar->nextButton()}) {
@@ -72,7 +72,7 @@ protected:
         return text + std::to_string(content->currentSlideIndex());
     }
 
-    /// The titles of the buttons that fade out ("-") and in ("+").
+    /// Returns the titles of the buttons that fade out ("-") and in ("+").
     std::string fading() {
         std::string text;
         for (NavigationButton *button : {&bar->previousButton(), &bar->nextButton()}) {
@@ -147,7 +147,7 @@ TEST_F(Navigation, FollowsPressesAndNotificationsByPositionAndValidity) {
         {"..p", 1, {next}, "Done 2", "-Back", {hidePrevious, toLast, valid, atLast}},
         {"n..", 1, {"<"}, "0", "-Back", {previous, hideNext, toFirst, valid, atFirst}},
         {"n", 0, {}, "0", "", {}},
-        // Announcements of an arrival, made by hand.
+        // Arrivals announced by the test.
         {"...", 0, {toMiddle}, "Back On 0", "", {}},
         {"...", 0, {toLast}, "Back Done 0", "+Back", {atLast}},
         {"...", 0, {toSole}, "Done 0", "", {atSole}},

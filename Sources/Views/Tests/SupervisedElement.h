@@ -8,7 +8,7 @@
 
 namespace velmar {
 
-/// A mandatory element whose validity the test sets.
+/// A mandatory element whose validity is set by the test.
 class SupervisedElement final : public MandatorySupervised,
                                 public std::enable_shared_from_this<SupervisedElement> {
 public:

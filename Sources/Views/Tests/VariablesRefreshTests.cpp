@@ -14,7 +14,7 @@
 namespace velmar {
 namespace {
 
-/// A store that shows who observes it.
+/// A store that exposes its observers.
 class Store final : public ContentManagerProtocol {
 public:
     void updateVariable(std::string_view name, std::string value, bool log) override {
@@ -42,7 +42,7 @@ private:
     ContentManager variables_;
 };
 
-/// Lets the test act between the posting of a function and the end of the write that caused it.
+/// Calls the test between the posting of a function and the end of the write that caused it.
 struct InterruptedQueue final : MainThreadQueue {
     void async(std::function<void()> function) override {
         MainThreadQueue::async(std::move(function));

@@ -25,7 +25,7 @@ public:
     int count = 0;
 };
 
-/// Fixture with all views of a configuration of three slides, of which the first scrolls.
+/// Fixture with all views of a configuration with three slides; the first slide scrolls.
 class VelmarView : public ViewTest<AppManagerFixture> {
 protected:
     VelmarView() {

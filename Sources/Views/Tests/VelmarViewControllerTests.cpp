@@ -195,7 +195,7 @@ TEST_F(VelmarView, IsBusyForReadersOfTheScreenAsLongAsAnythingMoves) {
             animation->setCurrentTime(animation->totalDuration());
         }
     };
-    // Without the event loop, no animation goes on by itself.
+    // Animations don't advance without the event loop.
     appearance().setAnimated(true);
     EXPECT_FALSE(isBusy());
     bar->pressNext();

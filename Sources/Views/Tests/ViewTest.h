@@ -12,8 +12,8 @@
 
 namespace velmar {
 
-/// A test over another fixture, with the application and its theme, in which views move at once, and a main
-/// queue that the test moves.
+/// Extends a fixture by the application and its theme, without animations, and a main queue that the test
+/// runs.
 template <class Fixture = testing::Test>
 class ViewTest : public QtTest<Fixture> {
 protected:
@@ -31,7 +31,7 @@ protected:
 
     static DesktopAppearance &appearance() { return *appearance_; }
 
-    /// Handles what the queue and the event loop hold, timers that are due included.
+    /// Processes the main queue and all pending events, including due timers.
     void settle() {
         queue.runUntilEmpty();
         QCoreApplication::processEvents();
@@ -46,7 +46,7 @@ protected:
         return {item};
     }
 
-    /// The texts on show by their tops in the view.
+    /// Returns the visible texts by their top positions in `root`.
     static std::multimap<int, QString> placedTexts(const QWidget &root) {
         std::multimap<int, QString> texts;
         for (const auto *view : root.findChildren<StyleConfigurableTextView *>()) {

@@ -194,7 +194,7 @@ TEST_F(Views, AButtonShowsItsLabelCharacterForCharacterInAColourThatIsReadable) 
     EXPECT_TRUE(button.isDefault());
 }
 
-/// Notes what a button starts.
+/// Records the sets and triggers started by a button.
 class Started final : public ActionDispatcherProtocol, public CustomTriggerHandler {
 public:
     void dispatch(const ActionSet &set, std::function<void()> /*completionHandler*/) override {

@@ -18,7 +18,7 @@ namespace {
 
 using Type = ComponentTable::Type;
 
-/// The factory of views that need no service but the main queue.
+/// Factory of views that need only the main queue.
 template <class View>
 ComponentView *make(const ComponentItem &item, const Services &services, QWidget *parent) {
     return new View(std::get<typename View::ItemType>(item.value), services.mainQueue, parent);

@@ -10,67 +10,69 @@
 
 namespace velmar {
 
-/// The variables on which the presence of components depends.
+/// Returns the variables that affect the conditions of the components.
 [[nodiscard]] VariableNames componentsConditions(const std::vector<ComponentItem> &items,
                                                  ConditionEvaluator &conditions);
 
-/// Components that come and go together; positions among the items, in ascending order.
+/// Components inserted and removed together, as ascending positions of their items.
 struct ComponentsChange {
     std::vector<std::size_t> removed;
     std::vector<std::size_t> inserted;
     bool operator==(const ComponentsChange &) const = default;
 };
 
-/// The views of a container's components, as the model uses them: for each change the operations below in the
-/// order of their declaration. Nothing calls back into the model but a completion, once, from within the
-/// operation or later.
+/// Interface of the views of a container's components to the model, which calls the operations of a change in
+/// the order of their declaration. Only completions call back into the model, once each, during the operation
+/// or later.
 class ComponentsControllerProtocol {
 public:
     virtual ~ComponentsControllerProtocol() = default;
 
-    /// From the components, before the conditions are looked at, so that what the user was entering counts.
+    /// Clears the focus of the components. Called before the evaluation, so that pending input is committed.
     virtual void takeKeyboardFocusAway() = 0;
 
-    /// Gives up the views that go, which stay in their places for now, and makes those that come.
+    /// Creates the inserted views. The removed views stay in the layout until rebuildLayout().
     virtual void prepare(const ComponentsChange &change) = 0;
 
-    /// To what has lost it, if its component stays. Follows at once, also where nothing changes.
+    /// Restores the focus if its component remains. Called after each evaluation, even without a change.
     virtual void giveKeyboardFocusBack() = 0;
 
-    /// Left out where nothing goes.
+    /// Fades out the removed views. Not called if there are none.
     virtual void animateRemoval(std::function<void()> completion) = 0;
 
-    /// Takes out the views that went and puts in those that come, each in its place.
+    /// Deletes the removed views and adds the inserted views to the layout.
     virtual void rebuildLayout() = 0;
 
+    /// Fades in the inserted views.
     virtual void animateInsertion(std::function<void()> completion) = 0;
 };
 
-/// Which components of a container are on show, by their conditions, and what is under way. Main thread.
+/// Visibility of a container's components by their conditions, and state of the change in progress. Main
+/// thread.
 class ComponentsViewModel {
 public:
     enum class State { idle, removing, inserting };
 
-    /// Looks at the conditions for the first time. The controller, which is not yet called then, must outlive
-    /// the model, and the model the completions that it gives away.
+    /// Evaluates the conditions without a call of the controller. `controller` must outlive the model, and
+    /// the model must outlive the completions that it passes.
     ComponentsViewModel(std::vector<ComponentItem> items, std::shared_ptr<ConditionEvaluator> conditions,
                         ComponentsControllerProtocol &controller);
 
     [[nodiscard]] const std::vector<ComponentItem> &items() const noexcept { return items_; }
 
-    /// As decided last; false is an empty place.
+    /// Returns the result of the last evaluation for a position.
     [[nodiscard]] bool isShown(std::size_t position) const { return isShown_.at(position); }
 
     [[nodiscard]] State state() const noexcept { return state_; }
     [[nodiscard]] bool animationIsRunning() const noexcept { return state_ != State::idle; }
 
-    /// Looks at the conditions again and has the views follow. While a change is under way requests are only
-    /// counted, and any number of them makes one reload when it is over, so that the last evaluation counts.
+    /// Evaluates the conditions and updates the views. Calls during a change are coalesced into one reload
+    /// after its end.
     void reload();
 
 private:
     [[nodiscard]] bool shouldBeShown(const ComponentItem &item) const;
-    /// Decides on one position, and notes in the change what that brings.
+    /// Evaluates one position and adds its difference to `change`.
     void insertOrRemove(std::size_t position, ComponentsChange &change);
     ComponentsChange evaluateConditions();
     void insert();

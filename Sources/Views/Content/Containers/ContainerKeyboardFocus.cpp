@@ -19,7 +19,7 @@ void ContainerKeyboardFocus::takeAway() {
 
 void ContainerKeyboardFocus::giveBack(const std::vector<ComponentView *> &views) {
     const auto unfocused = std::exchange(unfocused_, std::nullopt);
-    // Losing it may have led the focus elsewhere.
+    // A handler of the focus loss may have moved the focus.
     if (!unfocused || container_.window()->focusWidget() != nullptr) {
         return;
     }
@@ -36,7 +36,7 @@ void ContainerKeyboardFocus::giveBack(const std::vector<ComponentView *> &views)
 }
 
 void ContainerKeyboardFocus::orderTabStops(const std::vector<ComponentView *> &views) {
-    std::map<const QWidget *, std::vector<QWidget *>> stops; // By the views that they stand in.
+    std::map<const QWidget *, std::vector<QWidget *>> stops; // By containing view.
     for (QWidget *stop = scrollArea_.nextInFocusChain(); stop != &scrollArea_;
          stop = stop->nextInFocusChain()) {
         if (stop->focusPolicy() != Qt::NoFocus && column_.isAncestorOf(stop)) {
@@ -47,7 +47,7 @@ void ContainerKeyboardFocus::orderTabStops(const std::vector<ComponentView *> &v
             stops[view].push_back(stop);
         }
     }
-    // Nothing is put behind a widget that takes no focus.
+    // setTabOrder() ignores widgets without a focus policy.
     const Qt::FocusPolicy policy = scrollArea_.focusPolicy();
     scrollArea_.setFocusPolicy(Qt::TabFocus);
     QWidget *last = &scrollArea_;

@@ -10,29 +10,30 @@ namespace velmar {
 
 class ComponentView;
 
-/// The keyboard's way through the components of a container, while they come and go:
-/// docs/decisions/0031-focus-during-a-reload.md. Views are given by the positions of their items; null for
-/// none. Main thread.
+/// The keyboard focus within a container whose components are inserted and removed; see
+/// docs/decisions/0031-focus-during-a-reload.md. Views are indexed by the positions of their items; nullptr
+/// marks a missing view. Main thread.
 class ContainerKeyboardFocus {
 public:
-    /// The column of the components, which the scroll area holds; all of them outlive this.
+    /// `column` contains the components and is in `scrollArea`. The widgets must outlive this object.
     ContainerKeyboardFocus(QWidget &container, QWidget &scrollArea, QWidget &column)
         : container_(container), scrollArea_(scrollArea), column_(column) {}
 
-    /// Takes the focus from what has it in the column.
+    /// Clears the focus if a widget in the column has it.
     void takeAway();
 
-    /// Gives the focus back to what has lost it, or to the nearest around the container if that is gone.
+    /// Restores the focus to the widget that lost it, or to the surroundings of the container if that widget
+    /// is gone.
     void giveBack(const std::vector<ComponentView *> &views);
 
-    /// Has the Tab key go through the components in their order, from the scroll area on.
+    /// Sets the tab order: the scroll area, then the components in their order.
     void orderTabStops(const std::vector<ComponentView *> &views);
 
 private:
     QWidget &container_;
     QWidget &scrollArea_;
     QWidget &column_;
-    std::optional<QPointer<QWidget>> unfocused_; // What has lost the focus; null if it has gone meanwhile.
+    std::optional<QPointer<QWidget>> unfocused_; // The widget that lost the focus; null once destroyed.
 };
 
 } // namespace velmar

@@ -25,7 +25,7 @@ namespace {
 constexpr int borderInset = 8;
 constexpr qreal borderRadius = 8;
 
-// Flexible components take all that is left; the space behind the last one only what no component takes.
+// Flexible components take the remaining height; the space after the last component takes it otherwise.
 constexpr int flexibleStretch = 0x10000;
 constexpr int restStretch = 1;
 
@@ -115,7 +115,7 @@ ComponentView *ContainerViewController::makeView(std::size_t position) {
 void ContainerViewController::putInPlace(std::size_t position) {
     ComponentView *view = componentViews_[position];
     layout_->insertWidget(layout_->indexOf(places_[position]) + 1, view, stretchOf(*view));
-    // Readers of the screen go through the views in the order of the siblings.
+    // Screen readers visit the views in sibling order.
     const auto next = std::find_if(componentViews_.begin() + static_cast<std::ptrdiff_t>(position) + 1,
                                    componentViews_.end(), [](const auto *other) { return other != nullptr; });
     if (next != componentViews_.end()) {
@@ -135,7 +135,7 @@ void ContainerViewController::giveKeyboardFocusBack() {
 
 void ContainerViewController::prepare(const ComponentsChange &change) {
     const bool isAnimated = isOnShow_ && isVisible() && appearance_.isAnimated();
-    // The former one may just be telling of its end.
+    // The former animator may be calling its completion.
     if (viewManagementAnimator_ != nullptr) {
         viewManagementAnimator_->deleteLater();
     }
@@ -162,7 +162,7 @@ void ContainerViewController::rebuildLayout() {
     for (ComponentView *view : std::exchange(viewManagementAnimator_->viewsToRemove, {})) {
         view->deleteLater();
     }
-    // Each is put before those behind it, so these come first.
+    // In reverse: each view is stacked under its successor.
     for (std::size_t position = componentViews_.size(); position-- > 0;) {
         if (componentViews_[position] != nullptr && layout_->indexOf(componentViews_[position]) < 0) {
             putInPlace(position);
@@ -216,7 +216,7 @@ void ContainerViewController::paintEvent(QPaintEvent * /*event*/) {
                                 borderRadius);
     }
     if (kind_ == Kind::inSidebar) {
-        // Towards the slides.
+        // On the edge next to the slides.
         painter.fillRect(QRect(isRightToLeft() ? 0 : width() - 1, 0, 1, height()),
                          palette().color(QPalette::Mid));
     }

@@ -24,21 +24,20 @@ class ContainerViewModel;
 class DesktopAppearance;
 struct Services;
 
-/// A column of components, of which those with conditions come and go; one that is too high scrolls. Main
-/// thread.
+/// A scrollable column of components, which appear and disappear by their conditions. Main thread.
 class ContainerViewController final : public QWidget, public ComponentsControllerProtocol {
     Q_OBJECT
 
 public:
-    /// Where the container stands.
+    /// Place of the container.
     enum class Kind {
-        inSlide,        ///< Beside others.
-        inSoleSlide,    ///< Alone in its slide.
+        inSlide,        ///< One of several containers of a slide.
+        inSoleSlide,    ///< The only container of its slide.
         inMenuBarSlide, ///< In the slide below the menu bar.
         inSidebar,      ///< Beside all slides.
     };
 
-    /// `slideBorderColor` is the border's colour unless the container has one of its own. The appearance must
+    /// `slideBorderColor` is the default of the container's border colour. `services` and `appearance` must
     /// outlive the controller.
     ContainerViewController(
         const ContainerItem &item, Kind kind, const std::optional<ColorItem> &slideBorderColor,
@@ -50,20 +49,20 @@ public:
 
     [[nodiscard]] bool hasBorder() const noexcept { return borderColorItem_.has_value(); }
 
-    /// The views by the positions of their items; null where the condition doesn't hold.
+    /// Returns the views by the positions of their items; nullptr if the condition doesn't hold.
     [[nodiscard]] const std::vector<ComponentView *> &componentViews() const noexcept {
         return componentViews_;
     }
 
-    /// That of the first component that has one; empty where none has.
+    /// Returns the title of the first component that has one, otherwise an empty text.
     [[nodiscard]] QString title() const;
 
-    /// Components come and go gradually only in a container that the user sees.
+    /// Called before the container is shown or hidden. Changes are animated only while it is shown.
     void viewWillAppear() { isOnShow_ = true; }
     void viewWillDisappear() { isOnShow_ = false; }
 
-    /// Scrolls by a `Qt::Key`: Up, Down, PageUp, PageDown, Home or End. False for any other, and where there
-    /// is nothing to scroll.
+    /// Scrolls by a `Qt::Key`: Up, Down, PageUp, PageDown, Home or End. Returns false for any other key or if
+    /// there is nothing to scroll.
     bool scroll(int key);
 
     void takeKeyboardFocusAway() override;
@@ -81,7 +80,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    /// A new view, in the column but not yet in its place.
+    /// Creates a view as a child of the column, not yet in the layout.
     ComponentView *makeView(std::size_t position);
     void putInPlace(std::size_t position);
     void updateTitle();
@@ -99,10 +98,11 @@ private:
     ColumnScrollArea *scrollArea_;
     ContainerKeyboardFocus keyboardFocus_;
     std::vector<ComponentView *> componentViews_;
-    std::vector<QSpacerItem *> places_; // Empty; the view of a position stands right behind its place.
-    ContainerViewManagementAnimator *viewManagementAnimator_ = nullptr; // Of the last change; the column's.
-    bool isOnShow_ = false; // By its slide; the widget itself is visible a while longer.
-    std::optional<VariablesRefresh> variablesRefresh_; // None without conditions.
+    std::vector<QSpacerItem *> places_; // Empty items; each precedes the view of its position.
+    ContainerViewManagementAnimator *viewManagementAnimator_ =
+        nullptr;                                       // Animator of the last change; owned by column_.
+    bool isOnShow_ = false;                            // Set by the slide; the widget stays visible longer.
+    std::optional<VariablesRefresh> variablesRefresh_; // nullopt without conditions.
 };
 
 } // namespace velmar

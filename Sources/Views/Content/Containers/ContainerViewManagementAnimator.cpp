@@ -18,12 +18,12 @@ namespace {
 constexpr int fadeDuration = 120;
 constexpr int movementDuration = 200;
 
-// The share of the movement after which there is room enough for what comes to be seen.
+// Share of the movement after which the inserted views have enough space to be visible.
 constexpr double fadeInBegin = 0.3;
 
 } // namespace
 
-/// The picture of a part of a view, as high as the space that it has.
+/// A picture of a part of a view, as high as the space of the view.
 class ContainerViewManagementAnimator::StandIn final : public QWidget {
 public:
     StandIn(ComponentView &view, int height, QWidget *parent)
@@ -34,8 +34,8 @@ public:
     [[nodiscard]] ComponentView &view() const { return view_; }
     [[nodiscard]] int fullHeight() const { return height_; }
 
-    /// Of the view alone, without what is behind it, where it would cover a part of the column from where the
-    /// stand-in begins.
+    /// Renders the view, without its background, where it intersects `part`, given in coordinates of the
+    /// column.
     void takePicture(const QRect &part) {
         part_ = part.translated(-pos()).intersected(view_.rect());
         if (part_.isEmpty()) {
@@ -47,7 +47,7 @@ public:
         view_.render(&picture_, QPoint(), QRegion(part_), QWidget::DrawChildren);
     }
 
-    /// From 0 to 1.
+    /// Sets the opacity, from 0 to 1.
     void setOpacity(double opacity) {
         opacity_ = opacity;
         update();
@@ -63,7 +63,7 @@ protected:
 private:
     ComponentView &view_;
     QPixmap picture_;
-    QRect part_; // Of the view, that the picture shows.
+    QRect part_; // Part of the view shown in the picture.
     int height_;
     double opacity_ = 1;
 };
@@ -114,7 +114,7 @@ void ContainerViewManagementAnimator::animateInsertion(std::function<void()> com
         inserted.push_back(replace(*viewsToInsert[index], {width, heights[index]}));
     }
     const auto step = [this, inserted](double progress) {
-        // The ends are rounded and not the heights, so that what stands below moves one way only.
+        // Rounds the ends, not the heights, so that views below move in one direction only.
         double end = 0;
         const auto give = [&end](StandIn &standIn, double share) {
             const auto start = std::lround(end);
@@ -130,10 +130,10 @@ void ContainerViewManagementAnimator::animateInsertion(std::function<void()> com
         }
     };
     step(0);
-    parentView_->layout()->activate(); // Now they stand where they open.
+    parentView_->layout()->activate(); // Moves the stand-ins to their positions.
     for (StandIn *standIn : inserted) {
         QRect part = visiblePart();
-        part.moveTop(std::max(part.top(), standIn->y())); // What is above may close and let it rise.
+        part.moveTop(std::max(part.top(), standIn->y())); // Closing space above may move it up.
         standIn->takePicture(part);
     }
     run(movementDuration, QEasingCurve::InOutCubic, step, [this, inserted, end = std::move(completion)] {
@@ -160,7 +160,7 @@ std::vector<int> ContainerViewManagementAnimator::heightsToInsert(int width) con
         heights.push_back(height < 0 ? view->sizeHint().height() : height);
         needed += heights.back();
     }
-    // The flexible ones share what is left.
+    // Flexible views share the remaining height.
     const auto views = parentView_->findChildren<ComponentView *>(Qt::FindDirectChildrenOnly);
     const auto flexible = std::ranges::count_if(views, [this](const ComponentView *view) {
         return view->isFlexible() && parentView_->layout()->indexOf(view) >= 0;
@@ -177,7 +177,7 @@ std::vector<int> ContainerViewManagementAnimator::heightsToInsert(int width) con
 ContainerViewManagementAnimator::StandIn *ContainerViewManagementAnimator::replace(ComponentView &view,
                                                                                    QSize size) {
     auto *standIn = new StandIn(view, size.height(), parentView_);
-    // The picture is taken while no layout gives the view a size of its own.
+    // Outside the layout, the view keeps the size needed for its picture.
     delete parentView_->layout()->replaceWidget(&view, standIn);
     view.resize(size);
     standIn->setGeometry(view.geometry());

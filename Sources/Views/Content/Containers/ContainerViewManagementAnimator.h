@@ -10,40 +10,40 @@ namespace velmar {
 
 class ComponentView;
 
-/// One change of a container's components in progress. What goes fades out in its place; then, in one
-/// movement, its space closes while the space of what comes opens and that fades in. Meanwhile pictures of
-/// the views stand in for them, so that nothing is laid out in a space too small for it: of what the viewport
-/// shows, so that a text of any length costs no more than a screen. A text whose variable changes meanwhile
-/// keeps its picture, and its height, to the end, and only then takes its new ones at once. Main thread.
+/// Animates one change of a container's components. Removed views fade out; then their space closes while the
+/// space of the inserted views opens and these fade in. Pictures replace the views during the animation, so
+/// that no view is laid out in too small a space. A picture shows the visible part only, so its size is
+/// bounded by the viewport. A text that changes meanwhile is updated at the end. Main thread.
 class ContainerViewManagementAnimator final : public QObject {
     Q_OBJECT
 
 public:
-    /// The parent view is the column that the views stand in, itself in the viewport that scrolls it; it owns
-    /// the animator. Unless it is animated, everything is at its end at once.
+    /// `parentView` is the column that contains the views; its parent is the viewport that scrolls it. It
+    /// owns the animator. If `isAnimated` is false, the change is immediate.
     ContainerViewManagementAnimator(QWidget *parentView, bool isAnimated);
     ~ContainerViewManagementAnimator() override;
 
-    /// In the layout, on show.
+    /// Visible views in the layout.
     std::vector<ComponentView *> viewsToRemove;
-    /// Hidden; in the layout when `animateInsertion` is called.
+    /// Hidden views, in the layout when `animateInsertion` is called.
     std::vector<ComponentView *> viewsToInsert;
 
-    /// At the end the views to remove are hidden and out of the layout. An animator that is destroyed before
-    /// doesn't call the completion, here and below.
+    /// Fades out the views to remove, then hides them and takes them out of the layout. The completion is not
+    /// called if the animator is destroyed first.
     void animateRemoval(std::function<void()> completion);
 
-    /// At the end the views to insert are on show.
+    /// Closes and opens the spaces, then shows the views to insert. The completion is not called if the
+    /// animator is destroyed first.
     void animateInsertion(std::function<void()> completion);
 
 private:
     class StandIn;
 
-    /// Puts a stand-in in the place of a view, which leaves the layout and is given a size.
+    /// Replaces a view in the layout by a stand-in and resizes the view.
     StandIn *replace(ComponentView &view, QSize size);
-    /// The part of the column that the user sees.
+    /// Returns the visible part of the column, in its coordinates.
     [[nodiscard]] QRect visiblePart() const;
-    /// The heights that the views to insert will have in a column of this width.
+    /// Returns the final heights of the views to insert in a column of this width.
     [[nodiscard]] std::vector<int> heightsToInsert(int width) const;
     void run(int milliseconds, QEasingCurve::Type curve, const std::function<void(double)> &step,
              std::function<void()> end);
@@ -51,7 +51,7 @@ private:
     QWidget *parentView_;
     bool isAnimated_;
     QVariantAnimation animation_{this};
-    std::vector<StandIn *> removed_; // As all stand-ins, owned by the parent view.
+    std::vector<StandIn *> removed_; // All stand-ins are owned by the parent view.
 };
 
 } // namespace velmar

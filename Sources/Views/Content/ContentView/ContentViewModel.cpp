@@ -21,7 +21,7 @@ ContentViewModel::ContentViewModel(MainQueue &mainQueue, AppTerminationManagerPr
       settings_(std::move(settings)) {}
 
 void ContentViewModel::setupNotifications() {
-    // The first views may show the variables.
+    // Published before the first views, which may show the variables.
     _isCurrentSlideValid.set(_isCurrentSlideValid());
     _selectedSlideIndex.set(_selectedSlideIndex());
     using namespace NavigationNotifications;
@@ -76,8 +76,7 @@ void ContentViewModel::jumpWith(std::int64_t offset) {
 }
 
 void ContentViewModel::moveForAction(int index) {
-    // The hidden buttons of the slide on show must not stay hidden on the next one. A press resets them
-    // itself.
+    // Buttons hidden by the current slide must not stay hidden on the next one. A press resets them itself.
     center_.post(NavigationNotifications::evaluateButtonsHide);
     setSelectedIndex(index, true);
 }

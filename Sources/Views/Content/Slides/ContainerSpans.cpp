@@ -12,7 +12,7 @@ std::vector<ContainerSpan> containerSpans(const SlideItem::ContainersComposition
     int start = 0;
     for (std::size_t index = 0; index < count; ++index) {
         share += ratio != nullptr ? ratio->shares.at(index).ratio : 1.0 / static_cast<double>(count);
-        // The ends are rounded and not the widths, so that the rounding doesn't add up.
+        // Rounds the ends, not the widths, so that rounding errors don't accumulate.
         const int end = static_cast<int>(std::lround(share * width));
         spans.push_back({start, end - start});
         start = end;

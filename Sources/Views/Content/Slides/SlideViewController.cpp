@@ -10,7 +10,7 @@ namespace velmar {
 
 namespace {
 
-// Points. Containers with borders keep off the window's edges, in line with the navigation's buttons.
+// Points. Bordered containers align with the navigation buttons.
 constexpr int standardTopInset = 8;
 constexpr int borderedInset = 16;
 
