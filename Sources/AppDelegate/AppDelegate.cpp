@@ -85,7 +85,7 @@ AppDelegate::AppDelegate(DesktopApplication &application, const Services &servic
 }
 
 AppDelegate::~AppDelegate() {
-    // The entries hold the window, which holds the menu bar that watches the entries.
+    // Breaks a cycle: the entries own the window, whose menu bar observes the entries.
     application_.mainMenu().setItems({});
 }
 
@@ -108,7 +108,7 @@ void AppDelegate::applicationWillFinishLaunching() {
                                                                               .informativeText = {},
                                                                               .buttons = {button}});
                                                },
-                                           // The toolkit's objects are still in use, so nothing is torn down.
+                                           // Skips destructors: Qt objects are still in use.
                                            .exit = [](int status) { std::_Exit(status); }};
         refusal.exitBecauseOf(error);
     }
@@ -121,7 +121,7 @@ void AppDelegate::applicationWillFinishLaunching() {
 void AppDelegate::shareActionDispatcher() {
     const auto context = std::make_shared<const ActionContext>(ActionContext{
         .services = services_,
-        // The service comes after the dispatcher, which it uses.
+        // Posted: the termination service is created after the dispatcher.
         .terminateApp = [this] { services_.mainQueue.async([this] { terminationService_->terminate(); }); }});
     actionDispatcher_.emplace(std::make_shared<ActionDispatcher>(std::bind_front(&dispatchable, context)));
 }
@@ -153,7 +153,7 @@ void AppDelegate::applicationDidFinishLaunching() {
 }
 
 bool AppDelegate::applicationShouldTerminate() {
-    // While the script is waited for, nobody could lift the cover, and the script may have something to show.
+    // Before the wait for the script, which may show a window and blocks the main thread.
     customWindow_->uncoverScreens();
     terminationScript_.runBeforeTermination(AppTerminationManager::shared()->isInstallationComplete());
     return true;
@@ -167,13 +167,12 @@ void AppDelegate::applicationWillTerminate() {
 }
 
 bool AppDelegate::applicationShouldTerminateAfterLastWindowClosed() {
-    // A window that stands in for the status item is all there is of the application: without it the process
-    // would be left with nothing to be seen or ended by.
+    // A window shown instead of the status item is the only interface: closing it must end the application.
     return customWindow_->window() != nullptr || _onScreen() != WindowSection::OnScreen::menuBar;
 }
 
 std::vector<std::string> AppDelegate::relaunchCommand() const {
-    // Of the arguments only the configuration's name: others may be secrets.
+    // Only the configuration's name is kept: other arguments may be secrets.
     std::vector<std::string> command{launch_.executable};
     if (launch_.options.configuration) {
         command.insert(command.end(), {"-c", *launch_.options.configuration});

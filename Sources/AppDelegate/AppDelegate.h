@@ -26,8 +26,8 @@ class CustomWindowAppDelegateService;
 class TriggerNotificationActionsManager;
 struct Services;
 
-/// The application's delegate: makes the shared AppManager at the first event, and has the services of the
-/// chain do the rest. Made after the application, and destroyed before it.
+/// The delegate of the application. Creates the shared AppManager at the first event and forwards all events
+/// to the services. Created after the application and destroyed before it.
 class AppDelegate final : public ServiceableAppDelegate {
 public:
     /// The command that started the process.
@@ -41,19 +41,19 @@ public:
                 const IdentityAuthority &identityAuthority, Launch launch);
     ~AppDelegate() override;
 
-    /// All but the first are new at each reading.
+    /// Returns the services. Each call creates all of them except the first.
     [[nodiscard]] std::vector<std::shared_ptr<AppDelegateService>> services() override;
 
-    /// Ends the process behind an alert if there is no configuration to be admitted. Otherwise registers its
-    /// variables, sorts its sets of actions and has texts populated from then on, before any service runs.
+    /// Loads the configuration, registers its variables and action sets, and enables the population of texts
+    /// before any service runs. If the configuration is refused, shows an alert and ends the process.
     void applicationWillFinishLaunching() override;
     void applicationDidFinishLaunching() override;
-    /// Runs the script of the termination first. Always true.
+    /// Runs the termination script, then returns true.
     bool applicationShouldTerminate() override;
     void applicationWillTerminate() override;
     bool applicationShouldTerminateAfterLastWindowClosed() override;
 
-    /// Ends the application if no window is left: the desktop reports only windows that the user closes.
+    /// Terminates the application if no window remains. The desktop reports only windows closed by the user.
     void openedWindowDidClose();
 
 private:

@@ -2,8 +2,8 @@
 
 namespace velmar {
 
-/// One duty of the application at the events of its life. Main thread. No operation throws but for what ends
-/// the process; a service reports by logging.
+/// Observer of the events of the application's life cycle. Main thread. Errors are logged; an exception ends
+/// the process.
 class AppDelegateService {
 public:
     virtual ~AppDelegateService() = default;

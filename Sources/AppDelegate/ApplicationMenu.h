@@ -7,17 +7,17 @@
 
 namespace velmar::ApplicationMenu {
 
-/// The tag of what is there for administrators only.
+/// Tag of the entries for administrators.
 inline constexpr int administratorTag = 2;
 
-/// What the entries do.
+/// Functions called by the entries.
 struct Actions {
     std::function<void()> quit;
     std::function<void()> reloadInterfaceSavingVariables;
     std::function<void()> reloadInterfaceResetingVariables;
 };
 
-/// The application's menus: its own, with Quit as the last entry, and the administrators'.
+/// Returns the menus: the application menu, whose last entry is Quit, and the administrator menu.
 [[nodiscard]] std::vector<MenuItem> items(Actions actions);
 
 } // namespace velmar::ApplicationMenu

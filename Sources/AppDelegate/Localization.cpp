@@ -53,7 +53,7 @@ QStringList languages() {
 }
 
 QString closestLanguage(const QLocale &locale) {
-    // The languages of messages, which may differ from that of numbers and dates.
+    // The languages of messages may differ from that of numbers and dates.
     for (QString code : locale.uiLanguages()) {
         code.replace(QLatin1Char('-'), QLatin1Char('_'));
         for (; !code.isEmpty(); code.truncate(std::max(code.lastIndexOf(QLatin1Char('_')), qsizetype{0}))) {
@@ -66,7 +66,7 @@ QString closestLanguage(const QLocale &locale) {
 }
 
 void install(const QLocale &locale) {
-    // The last one installed is asked first, and English has every text.
+    // Translators are searched in reverse order of installation; English is complete.
     installTexts(english);
     const QString language = closestLanguage(locale);
     if (language.isEmpty() || language == english) {

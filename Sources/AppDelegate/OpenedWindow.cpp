@@ -13,7 +13,7 @@ namespace velmar {
 
 namespace {
 
-constexpr int longestTitle = 120; // Characters; a text may be a page.
+constexpr int longestTitle = 120; // Characters; a title may be a long text.
 
 QString titleOf(const SlideViewController &slide) {
     const QString title = shortened(slide.title().simplified(), longestTitle);
@@ -68,7 +68,7 @@ void OpenedWindow::close() {
 }
 
 bool OpenedWindow::dismiss() {
-    // A handler of the window's own button may be what asks for it.
+    // Deleted later: the caller may be a handler of the window's button.
     if (Window *const former = window_.release()) {
         former->hide();
         former->deleteLater();

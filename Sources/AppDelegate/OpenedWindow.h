@@ -16,23 +16,24 @@ class MainMenu;
 class Window;
 struct Services;
 
-/// The window that the action OpenWindow opens, above the application's own, with the shortcuts of its menus
-/// and called like its slide. What its slide demands of the user holds nobody on the application's slides.
+/// The window opened by the action OpenWindow. It is above the application's window, has the menu shortcuts
+/// and is titled like its slide. The validity of its slide does not affect the application's slides.
 class OpenedWindow final : public SlideWindowPresenter {
 public:
-    /// The references must outlive it. It may be made before the services, of which it is one.
+    /// The references must outlive this object. `services` may be constructed later, since it refers to this
+    /// object.
     OpenedWindow(const Services &services, MainMenu &mainMenu, const DesktopAppearance &appearance,
                  std::function<Screens()> screens = &Screens::current);
     ~OpenedWindow() override;
 
-    /// Sets the function that is called when an action has closed the window; by default none is.
+    /// Sets the function called after an action has closed the window. Does nothing by default.
     void setDidClose(std::function<void()> didClose) { didClose_ = std::move(didClose); }
 
     void open(std::shared_ptr<const ActionItems::OpenWindow> item) override;
     void close() override;
 
 private:
-    /// True if there was one.
+    /// Closes the window. Returns true if there was one.
     bool dismiss();
 
     const Services &services_;
@@ -40,7 +41,7 @@ private:
     const DesktopAppearance &appearance_;
     std::function<Screens()> screens_;
     std::function<void()> didClose_ = [] {};
-    NotificationCenter center_; // Of the window's slide alone.
+    NotificationCenter center_; // Used by the window's slide only.
     std::unique_ptr<Window> window_;
 };
 

@@ -9,10 +9,10 @@
 
 namespace velmar {
 
-/// A delegate that passes each event to a list of services, from the first to the last.
+/// A delegate that forwards each event to a list of services, in order.
 class ServiceableAppDelegate : public ApplicationDelegate {
 public:
-    /// Read once at each event.
+    /// Returns the services. Called once for each event.
     [[nodiscard]] virtual std::vector<std::shared_ptr<AppDelegateService>> services() { return {}; }
 
     void applicationWillFinishLaunching() override;

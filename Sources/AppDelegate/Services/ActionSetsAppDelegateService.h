@@ -9,7 +9,7 @@
 
 namespace velmar {
 
-/// Fires the sets of actions of the launch, in the order of the file.
+/// Fires the launch action sets, in the order of the file.
 class ActionSetsAppDelegateService final : public AppDelegateService {
 public:
     explicit ActionSetsAppDelegateService(

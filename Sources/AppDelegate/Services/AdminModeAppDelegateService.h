@@ -8,7 +8,7 @@ namespace velmar {
 
 class MainMenu;
 
-/// Takes the administrators' entries out of the menus unless the configuration is in admin mode.
+/// Removes the administrators' entries from the menus unless the configuration enables the admin mode.
 class AdminModeAppDelegateService final : public AppDelegateService {
 public:
     explicit AdminModeAppDelegateService(MainMenu &mainMenu) : mainMenu_(mainMenu) {}

@@ -8,8 +8,7 @@ namespace velmar {
 
 class MainMenu;
 
-/// Gives the Quit entry of the menu a shortcut that nobody presses by accident if the configuration wants
-/// that.
+/// Replaces the shortcut of the Quit entry by one unlikely to be pressed by accident, if configured.
 class ApplicationTerminationAppDelegateService final : public AppDelegateService {
 public:
     explicit ApplicationTerminationAppDelegateService(MainMenu &mainMenu) : mainMenu_(mainMenu) {}
@@ -17,8 +16,8 @@ public:
     void applicationDidFinishLaunching() override;
 
 private:
-    /// Replaces the shortcut of the Quit entry, the last one of the first submenu. A menu without it stays as
-    /// it is.
+    /// Replaces the shortcut of the Quit entry, the last entry of the first submenu. Does nothing without
+    /// that entry.
     void disableQuitShortcut();
 
     Config<AppTerminationSection> _appTermination{

@@ -66,8 +66,7 @@ void CustomWindowAppDelegateService::applicationDidFinishLaunching() {
 }
 
 void CustomWindowAppDelegateService::standInForStatusItem() {
-    // An alert or a menu that stands on the popover would go with it, and without a screen there is nowhere
-    // to go yet.
+    // Postponed: an alert or a menu would be closed with the popover, and a window needs a screen.
     if (statusItem_ != nullptr &&
         (QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr ||
          desktop_.screens().frames.empty())) {
@@ -83,7 +82,7 @@ void CustomWindowAppDelegateService::standInForStatusItem() {
     try {
         buildWindow();
     } catch (const std::exception &error) {
-        // The launch is over, and there is nothing to be seen.
+        // Without a window the user could not end the application.
         Logger::error(error.what());
         QCoreApplication::exit(EXIT_FAILURE);
     }
@@ -117,7 +116,7 @@ void CustomWindowAppDelegateService::buildWindow() {
     const auto presentation = WindowPresentation::of(*_windowConfig.wrappedValue(), desktop_.screens());
     window_ = std::make_unique<Window>(presentation.style, desktop_.mainMenu);
     if (popover_ != nullptr) {
-        // Its session goes on, and something of its window may be under way still.
+        // Deleted later: code of the popover's window may be on the stack.
         window_->setContent(popover_->window().takeContent());
         popover_->window().hide();
         popover_.release()->deleteLater();
@@ -142,7 +141,7 @@ void CustomWindowAppDelegateService::buildWindow() {
     window_->raise();
     window_->activateWindow();
     if (controller_ == nullptr) {
-        // While the desktop puts up the window, which it asks to be painted only after this event.
+        // Built while the desktop maps the window; the first paint comes after this event.
         buildController(*window_);
     }
 }
@@ -171,7 +170,7 @@ void CustomWindowAppDelegateService::uncoverScreens() {
 
 void CustomWindowAppDelegateService::setTitle() {
     const std::optional<std::string> title = _windowConfig.wrappedValue()->_title();
-    // An empty title would be replaced by one that the window manager makes up.
+    // The window manager would replace an empty title.
     window_->setWindowTitle(title && !title->empty() ? QString::fromStdString(*title) : QString(QChar::Nbsp));
     window_->setAccessibleName(title ? QString::fromStdString(*title) : QCoreApplication::applicationName());
 }
@@ -181,7 +180,7 @@ void CustomWindowAppDelegateService::arrange(const WindowPresentation &presentat
     if (presentation.origin) {
         window_->moveFrame(*presentation.origin);
     } else {
-        // On another screen than the main one it waits for the frame.
+        // With a configured screen, shrinking waits for the frame.
         if (!_windowConfig.wrappedValue()->_screenIndex()) {
             window_->shrinkToScreen();
         }
@@ -201,7 +200,7 @@ void CustomWindowAppDelegateService::place() {
 void CustomWindowAppDelegateService::screensChanged() {
     const Screens screens = desktop_.screens();
     if (screens.frames.empty()) {
-        return; // Until one comes back there is nowhere to go.
+        return; // Wait until a screen is connected again.
     }
     if (cover_) {
         cover_->coverScreens();

@@ -24,18 +24,17 @@ class StatusItemPlace;
 class Window;
 struct WindowPresentation;
 
-/// Shows what the configuration's mode asks for, a window, a window over covered screens, or a status item
-/// with its popover, and keeps it until the application ends: the one service that lives over the events.
+/// Shows a window, a window over covered screens, or a status item with a popover, depending on the
+/// configured mode. Lives until the application ends.
 class CustomWindowAppDelegateService final : public AppDelegateService {
 public:
-    /// The desktop, and what is to be done when something appears on it. The references must outlive the
-    /// service.
+    /// The desktop and callbacks for first paints. The references must outlive the service.
     struct Desktop {
         MainMenu &mainMenu;
         const DesktopAppearance &appearance;
         /// Called after each first paint of a window.
         std::function<void()> didPaint;
-        /// Called once, when something is on the screen, for what would hold that up.
+        /// Called once after the first paint. Put slow start-up work here.
         std::function<void()> didPresent;
         std::function<Screens()> screens = &Screens::current;
     };
@@ -44,37 +43,37 @@ public:
                                    Desktop desktop);
     ~CustomWindowAppDelegateService() override;
 
-    /// Throws VelmarError::InternalError where there is no screen. The status item comes when there is a
-    /// place for it; without one the window of the mode "Simple" stands in for it, and the session moves into
-    /// that window when the place goes for good.
+    /// Shows the window or waits for a place for the status item. Without a place, a window as in the mode
+    /// "Simple" is shown instead; if the place disappears permanently, the session moves to that window.
+    /// Throws VelmarError::InternalError if there is no screen.
     void applicationDidFinishLaunching() override;
 
-    /// The action of the status item: its popover comes, or goes.
+    /// Toggles the popover of the status item.
     void showApplicationViewController();
 
-    /// Reads the configuration again and shows what it has, if something of it is shown already.
+    /// Reloads the configuration and rebuilds the views. Does nothing before the views exist.
     void reloadInterface(bool byResetingVariables);
 
-    /// Lets go of the screens and of the keyboard, for good: the application is about to end.
+    /// Uncovers the screens and releases the keyboard permanently. Called before the application ends.
     void uncoverScreens();
 
-    /// Null without a window of its own: before it is made, and where there is a status item.
+    /// Returns the window, nullptr before its creation and in the presence of a status item.
     [[nodiscard]] Window *window() const noexcept { return window_.get(); }
 
 private:
     void configureMenuBar();
     void standInForStatusItem();
     void buildWindow();
-    /// Makes the session's views in a window, which has none yet.
+    /// Creates the session's views in a window without content.
     void buildController(Window &window);
     void setTitle();
-    /// Gives the window the size and the place that the present screens allow.
+    /// Sets the size and the position of the window for the present screens.
     void arrange(const WindowPresentation &presentation);
     void place();
     void screensChanged();
 
     Config<WindowSection> _windowConfig = LaunchWindow::section();
-    // The popover is arranged anew each time it is shown.
+    // Read from the present configuration: the popover is arranged each time it is shown.
     Config<SizeItem> _menuBarSize{
         [](const Configuration &c) -> decltype(auto) { return c._window()._menuBarSize(); }};
     Config<AdminSection> _admin{[](const Configuration &c) -> decltype(auto) { return c._admin(); }};

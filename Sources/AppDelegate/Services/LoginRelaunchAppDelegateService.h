@@ -12,10 +12,11 @@
 
 namespace velmar {
 
-/// Decides at each start whether the application comes back at the next login.
+/// Enables or disables the launch of the application at the next login, at each start.
 class LoginRelaunchAppDelegateService final : public AppDelegateService {
 public:
-    /// `command` starts the application again as it was started.
+    /// `command` is the command to launch the application at login. `relaunchAtLogin` overrides the
+    /// configuration.
     LoginRelaunchAppDelegateService(LoginItem loginItem, std::vector<std::string> command,
                                     std::optional<bool> relaunchAtLogin = std::nullopt);
 

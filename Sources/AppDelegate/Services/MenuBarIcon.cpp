@@ -11,7 +11,7 @@ namespace {
 
 constexpr int smallestSide = 15;
 constexpr int largestHeight = 30;
-constexpr int largestWidth = 25; // The warning speaks of 30, as it always has.
+constexpr int largestWidth = 25; // The fixed text of the warning says 30.
 
 std::string warning(std::string_view side, int pixels) {
     return fmt::format("Custom menu bar icon has a {0} of {1} pixels which is not valid and can lead to "

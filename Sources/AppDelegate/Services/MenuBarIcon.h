@@ -8,11 +8,11 @@
 
 namespace velmar::MenuBarIcon {
 
-/// The picture of the status item: that of the file, or the application's own where no path is given. Logs
-/// what is wrong with it; nothing if it is no picture.
+/// Loads the image of the status item from a file, or the built-in image without a path. Logs problems of the
+/// image. Returns nullopt if the file is not an image.
 [[nodiscard]] std::optional<StatusItemImage> load(const std::optional<std::string> &path);
 
-/// What is unusual about an icon of that size in pixels, a sentence each.
+/// Returns the warnings, one sentence each, about an icon of a size in pixels.
 [[nodiscard]] std::vector<std::string> warningsFor(int width, int height);
 
 } // namespace velmar::MenuBarIcon

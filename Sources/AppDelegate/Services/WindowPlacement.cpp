@@ -11,9 +11,9 @@ namespace velmar::WindowPlacement {
 
 namespace {
 
-constexpr double menuBarHeight = 22; // Points, kept free at the top of every screen.
+constexpr double menuBarHeight = 22; // Points, reserved at the top of every screen.
 
-// A padding may be any number; a coordinate must be one that the display server knows.
+// A padding may be any number; the display server limits coordinates to 16 bits.
 int coordinate(double value) {
     return static_cast<int>(std::lround(std::clamp(value, -32768.0, 32767.0)));
 }

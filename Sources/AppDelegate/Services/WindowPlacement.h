@@ -12,21 +12,22 @@ class Window;
 
 namespace velmar::WindowPlacement {
 
-/// The screen of that index, or the main one where there is no such screen. Throws VelmarError::InternalError
-/// if there is no screen at all.
+/// Returns the screen with the index, otherwise the main screen. Throws VelmarError::InternalError if there
+/// is neither.
 [[nodiscard]] ScreenFrame chooseScreen(const Screens &screens, std::optional<std::int64_t> index);
 
+/// Position of a window's top left corner, in points.
 struct Origin {
     int x = 0;
     int y = 0;
     bool operator==(const Origin &) const = default;
 };
 
-/// The left upper corner of a window of that size, its frame included, on the screen.
+/// Returns the origin on the screen of a window whose size includes its frame.
 [[nodiscard]] Origin originOf(const WindowPositionItem &position, int width, int height,
                               const ScreenFrame &screen);
 
-/// Puts a window there, by the size that its frame has at this moment.
+/// Moves a window to its position on the screen, based on the current size of its frame.
 void place(Window &window, const WindowPositionItem &position, const ScreenFrame &screen);
 
 } // namespace velmar::WindowPlacement

@@ -8,7 +8,7 @@ namespace {
 
 using OnScreen = WindowSection::OnScreen;
 
-// Of a window that the user can do nothing with but what is in it.
+// Style of a window without title bar that can't be closed, resized or moved.
 constexpr Window::Style bare{.hasTitleBar = false,
                              .isClosable = false,
                              .isResizable = false,
@@ -16,7 +16,7 @@ constexpr Window::Style bare{.hasTitleBar = false,
                              .rank = Window::Style::Rank::front};
 
 WindowPresentation simple(const WindowSection &section, QSize room) {
-    // A window opens at its smallest.
+    // The initial size is the minimum size.
     const QSize minimum = pixels(section._minimumSize()).boundedTo(room);
     return {.style = {.hasTitleBar = !section._hideTitleBar(),
                       .isClosable = section._isClosable(),

@@ -12,18 +12,18 @@
 
 namespace velmar {
 
-/// What the configuration's mode makes of the window, given the screens. Sizes in points.
+/// Geometry and style of the window for the configured mode and the screens. Sizes in points.
 struct WindowPresentation {
     Window::Style style;
-    QSize content; ///< Never larger than the screen, on which nobody could reach what is beyond its edges.
+    QSize content; ///< Never larger than the screen.
     QSize minimum;
     QSize maximum;
-    std::optional<QPoint> origin; ///< Of the frame; none where it depends on what the frame measures.
+    std::optional<QPoint> origin; ///< Origin of the frame; nullopt if it depends on the frame's size.
     bool isWholeScreen = false;
-    std::optional<ScreenCover::Backing> cover; ///< What is behind the window, if every screen is covered.
+    std::optional<ScreenCover::Backing> cover; ///< Background behind the window if all screens are covered.
 
-    /// "MenuBar" counts as "Simple". Throws VelmarError::InternalError if there is no screen at all. A
-    /// covering mode without a main screen covers nothing.
+    /// Returns the presentation for the mode of `section`; "MenuBar" is treated as "Simple". A covering mode
+    /// without a main screen covers nothing. Throws VelmarError::InternalError if there is no screen.
     [[nodiscard]] static WindowPresentation of(const WindowSection &section, const Screens &screens);
 };
 
