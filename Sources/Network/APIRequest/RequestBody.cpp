@@ -41,7 +41,7 @@ nlohmann::json jsonValue(const BodyItem &body) {
         body.value);
 }
 
-// Extensible Markup Language 1.0 (fifth edition), [5] Name; the colon is left to namespaces.
+// Extensible Markup Language 1.0 (fifth edition), [5] Name, without the colon, which is for namespaces.
 bool isNameOfXml(const std::string &text) {
     static constexpr std::string_view start =
         "A-Z_a-z\\x{C0}-\\x{D6}\\x{D8}-\\x{F6}\\x{F8}-\\x{2FF}\\x{370}-\\x{37D}\\x{37F}-\\x{1FFF}"
@@ -52,7 +52,7 @@ bool isNameOfXml(const std::string &text) {
     return name.matchesWhole(text);
 }
 
-// The same, [2] Char.
+// Extensible Markup Language 1.0 (fifth edition), [2] Char.
 bool isTextOfXml(const std::string &text) {
     static const RegularExpression other(R"([^\t\n\r\x{20}-\x{D7FF}\x{E000}-\x{FFFD}\x{10000}-\x{10FFFF}])");
     return UnicodeText::isValidUtf8(text) && !other.firstMatch(text);
@@ -89,7 +89,7 @@ private:
         element.append_child(pugi::node_pcdata).set_value(text.c_str());
     }
 
-    // No deeper than the file, whose depth the property list limits.
+    // The property list reader limits the depth of the recursion.
     void fill(pugi::xml_node element, const BodyItem &body) const {
         std::visit(
             [&](const auto &value) {
@@ -141,7 +141,7 @@ std::string encodedBody(const BodyItem &body, Format format, std::string_view co
     if (format == Format::xml) {
         return XmlBody(codingPath).encoded(body);
     }
-    // A value of a variable may hold bytes that are no text.
+    // The value of a variable may not be valid UTF-8.
     return jsonValue(body).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 

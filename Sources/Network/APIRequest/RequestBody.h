@@ -10,25 +10,26 @@ namespace velmar {
 
 struct BodyItem;
 
-/// How the body of a request is written.
+/// Encoding of the body of a request.
 enum class Format { json, xml };
 
-/// How a server takes what it is sent.
+/// Returns the encoding expected by a server.
 [[nodiscard]] Format encodingFormat(MDMApi api) noexcept;
 
-/// A body that cannot be written as XML.
+/// Error for a body that cannot be encoded as XML.
 class InvalidXMLBody final : public LocalizedError {
 public:
-    /// The path of the key of the body in the file.
+    /// `codingPath` is the dotted path of the body's key in the configuration file.
     explicit InvalidXMLBody(std::string_view codingPath);
 };
 
-/// The body as it is sent, UTF-8. Any thread.
+/// Returns the encoded body, UTF-8. Any thread.
 ///
-/// JSON: the values as they are. XML: a dictionary of one key, the name of the root element. A dictionary is
-/// the elements within it; a list under a key is that many elements of the key's name, a list anywhere else
-/// elements with the name "element"; the rest is text. Throws InvalidXMLBody with the path given for any
-/// other body, for a key that is no name of XML, and for a text with characters that XML doesn't have.
+/// JSON preserves the types of the values. An XML body must be a dictionary with a single key, the name of
+/// the root element. A nested dictionary becomes child elements; a list under a key becomes repeated elements
+/// with the name of the key, any other list elements named "element"; other values become text. Throws
+/// InvalidXMLBody with `codingPath` for any other XML body, a key that is not an XML name, or a text with
+/// characters not allowed in XML.
 [[nodiscard]] std::string encodedBody(const BodyItem &body, Format format, std::string_view codingPath);
 
 } // namespace velmar

@@ -12,7 +12,7 @@
 namespace velmar {
 namespace {
 
-// The body of a request as it is sent, or the fault.
+// Returns the encoded body of a request, or the text of the error.
 std::string encoded(const std::string &body, Format format) {
     const PropertyList file = PropertyList::read(fmt::format(
         "<plist version=\"1.0\"><dict><key>Slides</key><array><dict><key>Containers</key><array/></dict>"
@@ -68,7 +68,7 @@ TEST(RequestBody, IsWrittenInTheFormatOfTheServer) {
     }
 }
 
-// Values of variables come from anywhere.
+// Values of variables may contain any bytes.
 TEST(RequestBody, SurvivesTextsThatAreNone) {
     const auto body = [](const char *text) {
         return BodyItem{BodyItem::Dictionary{{"a", {std::string(text)}}}};
