@@ -85,7 +85,7 @@ AppDelegate::AppDelegate(DesktopApplication &application, const Services &servic
 }
 
 AppDelegate::~AppDelegate() {
-    // Breaks a cycle: the entries own the window, whose menu bar observes the entries.
+    // Cleared first: the entries own the window, whose menu bar observes the entries.
     application_.mainMenu().setItems({});
 }
 
@@ -121,7 +121,7 @@ void AppDelegate::applicationWillFinishLaunching() {
 void AppDelegate::shareActionDispatcher() {
     const auto context = std::make_shared<const ActionContext>(ActionContext{
         .services = services_,
-        // Posted: the termination service is created after the dispatcher.
+        // Read at the time of the call: the termination service is created after the dispatcher.
         .terminateApp = [this] { services_.mainQueue.async([this] { terminationService_->terminate(); }); }});
     actionDispatcher_.emplace(std::make_shared<ActionDispatcher>(std::bind_front(&dispatchable, context)));
 }
@@ -153,7 +153,7 @@ void AppDelegate::applicationDidFinishLaunching() {
 }
 
 bool AppDelegate::applicationShouldTerminate() {
-    // Before the wait for the script, which may show a window and blocks the main thread.
+    // Uncovered first: the script may show a window, and waiting for it blocks the main thread.
     customWindow_->uncoverScreens();
     terminationScript_.runBeforeTermination(AppTerminationManager::shared()->isInstallationComplete());
     return true;

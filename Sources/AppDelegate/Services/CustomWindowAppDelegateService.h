@@ -34,7 +34,8 @@ public:
         const DesktopAppearance &appearance;
         /// Called after each first paint of a window.
         std::function<void()> didPaint;
-        /// Called once after the first paint. Put slow start-up work here.
+        /// Called once after the first paint of the window or once the status item is shown. Put slow
+        /// start-up work here.
         std::function<void()> didPresent;
         std::function<Screens()> screens = &Screens::current;
     };
@@ -51,7 +52,7 @@ public:
     /// Toggles the popover of the status item.
     void showApplicationViewController();
 
-    /// Reloads the configuration and rebuilds the views. Does nothing before the views exist.
+    /// Reloads the configuration and rebuilds the views if they exist.
     void reloadInterface(bool byResetingVariables);
 
     /// Uncovers the screens and releases the keyboard permanently. Called before the application ends.

@@ -31,7 +31,7 @@ public:
     /// Clears the focus of the components. Called before the evaluation, so that pending input is committed.
     virtual void takeKeyboardFocusAway() = 0;
 
-    /// Creates the inserted views. The removed views stay in the layout until rebuildLayout().
+    /// Creates the inserted views. The removed views keep their places until animateRemoval().
     virtual void prepare(const ComponentsChange &change) = 0;
 
     /// Restores the focus if its component remains. Called after each evaluation, even without a change.

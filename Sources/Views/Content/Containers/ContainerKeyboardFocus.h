@@ -23,7 +23,7 @@ public:
     void takeAway();
 
     /// Restores the focus to the widget that lost it, or to the surroundings of the container if that widget
-    /// is gone.
+    /// is gone or disabled. Does nothing if another widget has the focus.
     void giveBack(const std::vector<ComponentView *> &views);
 
     /// Sets the tab order: the scroll area, then the components in their order.
