@@ -53,7 +53,7 @@ QStringList languages() {
 }
 
 QString closestLanguage(const QLocale &locale) {
-    // The languages of messages may differ from that of numbers and dates.
+    // uiLanguages(): the languages of messages may differ from the language of numbers and dates.
     for (QString code : locale.uiLanguages()) {
         code.replace(QLatin1Char('-'), QLatin1Char('_'));
         for (; !code.isEmpty(); code.truncate(std::max(code.lastIndexOf(QLatin1Char('_')), qsizetype{0}))) {

@@ -64,7 +64,7 @@ private:
     void contentWillLeave(const SlideViewController &slide);
     /// Moves the buttons of the bar to the end of the tab order.
     void orderTabStops();
-    /// Gives the focus to the next button, or to the previous one if the next button is hidden.
+    /// Gives the focus to the first visible of the next button, the previous button and this view.
     void focusNavigation();
 
     Config<NavigationSection> _navigation{

@@ -16,8 +16,8 @@ public:
     /// `isPrimary` is true for the next button.
     NavigationButton(bool isPrimary, QWidget *parent);
 
-    /// Colour of the label; without a value that of the theme. A primary button is drawn as an ordinary one
-    /// if the colour is hard to read on the accent.
+    /// Sets the colour of the label; nullopt selects the theme's. A primary button is drawn as an ordinary
+    /// one if the colour is hard to read on the accent.
     void setTextColor(const std::optional<QColor> &color);
 
     /// Hides or shows the button and ends a running fade. A concealed button takes no clicks of the mouse,

@@ -36,7 +36,8 @@ public:
     /// one that `condition` does not use.
     [[nodiscard]] bool evaluate(const expressions::Expression &condition);
 
-    /// Returns the variables that affect the result: those of `condition` and of all named conditions.
+    /// Returns the variables that affect the result: the variables in `condition` and in all named
+    /// conditions, without the names of conditions in `condition`.
     [[nodiscard]] VariableNames involvedVariables(const expressions::Expression &condition);
 
 private:
