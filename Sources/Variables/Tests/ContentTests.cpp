@@ -259,7 +259,7 @@ public:
 };
 
 TEST_F(ContentTest, LosesNoWriteAfterNamesWereReplaced) {
-    constexpr int rounds = 300;
+    constexpr int rounds = 100;
     const auto nameOf = [](int round) { return "X" + std::to_string(round % 3); };
     const auto counter = std::make_shared<Counter>(manager_);
     counter->contentVariables().subscribe(counter, VariableNames{});

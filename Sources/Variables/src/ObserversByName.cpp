@@ -9,14 +9,10 @@ namespace {
 
 using Entries = ObserversByName::Entries;
 
+// The entries must contain the identity.
 void erase(Entries &entries, const UUID &identity) {
-    const auto found = std::ranges::find(*entries, identity, &ObserversByName::Entry::identity);
-    if (found == entries->end()) {
-        return;
-    }
-    const auto position = found - entries->begin();
     std::vector<ObserversByName::Entry> &list = entries.unshared();
-    std::swap(list[static_cast<std::size_t>(position)], list.back());
+    std::swap(*std::ranges::find(list, identity, &ObserversByName::Entry::identity), list.back());
     list.pop_back();
 }
 
@@ -30,59 +26,44 @@ ObserversByName::Snapshot ObserversByName::observersOf(std::string_view variable
 void ObserversByName::add(const UUID &identity, std::weak_ptr<ContentManagerObserver> observer,
                           ObservedNames names) {
     remove(identity);
-    const auto added =
-        registrations_.emplace(identity, Registration{std::move(observer), std::move(names)}).first;
-    file(identity, added->second);
+    registrations_.emplace(identity, Registration{std::move(observer), {}});
+    setNames(identity, std::move(names));
 }
 
 void ObserversByName::setNames(const UUID &identity, ObservedNames names) {
     const auto found = registrations_.find(identity);
-    if (found == registrations_.end() || found->second.names == names) {
-        return;
-    }
-    unfile(identity, found->second);
-    found->second.names = std::move(names);
-    file(identity, found->second);
-}
-
-void ObserversByName::remove(const UUID &identity) {
-    const auto found = registrations_.find(identity);
     if (found == registrations_.end()) {
         return;
     }
-    unfile(identity, found->second);
-    registrations_.erase(found);
-}
-
-void ObserversByName::file(const UUID &identity, const Registration &registration) {
-    if (!registration.names) {
-        ofEveryVariable_.unshared().push_back({identity, registration.observer});
-        return;
-    }
-    for (const std::string &name : *registration.names) {
-        Entries &entries = byName_[name];
-        // Equivalent spellings of a name share a list.
-        if (entries->empty() || entries->back().identity != identity) {
-            entries.unshared().push_back({identity, registration.observer});
+    Registration &registration = found->second;
+    const Entry entry{identity, registration.observer};
+    const Names former =
+        std::exchange(registration.names, names ? Names(names->begin(), names->end()) : Names());
+    for (const std::string &name : former) {
+        if (!registration.names.contains(name)) {
+            const auto list = byName_.find(name);
+            erase(list->second, identity);
+            if (list->second->empty()) {
+                byName_.erase(list);
+            }
         }
     }
-}
-
-void ObserversByName::unfile(const UUID &identity, const Registration &registration) {
-    if (!registration.names) {
+    for (const std::string &name : registration.names) {
+        if (!former.contains(name)) {
+            byName_[name].unshared().push_back(entry);
+        }
+    }
+    const bool wasOfEveryVariable = std::exchange(registration.isOfEveryVariable, !names);
+    if (wasOfEveryVariable && names) {
         erase(ofEveryVariable_, identity);
-        return;
+    } else if (!wasOfEveryVariable && !names) {
+        ofEveryVariable_.unshared().push_back(entry);
     }
-    for (const std::string &name : *registration.names) {
-        const auto found = byName_.find(name);
-        if (found == byName_.end()) {
-            continue; // Already erased under an equivalent spelling.
-        }
-        erase(found->second, identity);
-        if (found->second->empty()) {
-            byName_.erase(found);
-        }
-    }
+}
+
+void ObserversByName::remove(const UUID &identity) {
+    setNames(identity, VariableNames());
+    registrations_.erase(identity);
 }
 
 } // namespace velmar

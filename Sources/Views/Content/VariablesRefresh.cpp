@@ -49,7 +49,7 @@ private:
 VariablesRefresh::VariablesRefresh(MainQueue &mainQueue, std::function<void()> refresh,
                                    std::shared_ptr<ContentManagerProtocol> contentManager)
     : observer_(std::make_shared<Observer>(mainQueue, std::move(refresh), std::move(contentManager))) {
-    observer_->contentVariables().subscribe(observer_);
+    observer_->contentVariables().subscribe(observer_, VariableNames());
 }
 
 VariablesRefresh::~VariablesRefresh() {

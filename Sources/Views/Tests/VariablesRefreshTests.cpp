@@ -65,6 +65,8 @@ protected:
 };
 
 TEST_F(Refresh, RunsOnceForAllChangesThatTheQueueFinds) {
+    write("A", "0");
+    EXPECT_EQ(queue.runUntilEmpty(), 0U) << "no names yet";
     refresh->follow({"A", "B"});
     write("C", "1");
     EXPECT_EQ(queue.runUntilEmpty(), 0U) << "nobody's concern";

@@ -5,6 +5,7 @@
 #include <Variables/CopyOnWrite.h>
 
 #include <boost/unordered/unordered_flat_map.hpp>
+#include <boost/unordered/unordered_flat_set.hpp>
 
 #include <memory>
 #include <string>
@@ -44,19 +45,18 @@ public:
     void remove(const UUID &identity);
 
 private:
+    using Names = boost::unordered_flat_set<std::string, VariableNameHash, VariableNameEqual>;
     struct Registration {
         std::weak_ptr<ContentManagerObserver> observer;
-        ObservedNames names;
+        Names names;
+        bool isOfEveryVariable = false;
     };
 
-    void file(const UUID &identity, const Registration &registration);
-    void unfile(const UUID &identity, const Registration &registration);
-
     boost::unordered_flat_map<UUID, Registration, std::hash<UUID>> registrations_;
-    boost::unordered_flat_map<std::string, Entries, VariableNameHash, VariableNameEqual>
-        byName_; // Never holds an empty list.
+    // Without empty lists.
+    boost::unordered_flat_map<std::string, Entries, VariableNameHash, VariableNameEqual> byName_;
     Entries ofEveryVariable_;
-    Entries none_; // Shared by all snapshots of variables without observers.
+    Entries none_; // Shared by the snapshots of variables without observers.
 };
 
 } // namespace velmar
