@@ -13,7 +13,7 @@ struct APIRequestItem;
 template <class T>
 class Book;
 
-/// The device management servers, and the requests to them that actions name.
+/// Device management servers, and the models of requests to them.
 struct APIRequestsSection {
     static constexpr std::string_view typeName = "APIRequestsSection";
 

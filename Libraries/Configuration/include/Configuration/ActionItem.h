@@ -26,8 +26,8 @@
 
 namespace velmar {
 
-/// One thing to do. Include this header to visit all alternatives. For one of them, the functions of
-/// ActionItemProtocol.h suffice.
+/// An action. Include this header to visit all alternatives. The functions of ActionItemProtocol.h suffice to
+/// access one of them.
 struct ActionItem {
     static constexpr std::string_view typeName = "ActionItem";
     static constexpr std::string_view typeKey = "Type";
@@ -60,7 +60,7 @@ struct ActionItem {
                  UpdateVariable>
         value;
 
-    /// The condition of whichever action it is.
+    /// Returns the condition of the action, whatever its type.
     [[nodiscard]] const std::optional<Expression> &condition() const;
 };
 

@@ -12,7 +12,7 @@ struct ActionItem;
 
 namespace ActionItems {
 
-/// The kinds of actions. They stand outside of ActionItem because its variant needs them complete.
+/// Types of actions. Declared outside ActionItem, because its variant needs complete alternatives.
 enum class TypeIdentifier {
     log,
     saveInput,
@@ -58,7 +58,7 @@ constexpr auto casesOf(TypeIdentifier) {
          {TypeIdentifier::updateVariable, "UpdateVariable"}});
 }
 
-/// The key that every action begins with.
+/// The key common to all actions; the first member of each.
 struct ActionItemProtocol {
     using IsKeyGroup = void;
 

@@ -16,7 +16,7 @@ namespace ActionItems {
 
 enum class ExecutionType {
     parallel, ///< All actions at once.
-    chained,  ///< One after the other.
+    chained,  ///< One action after another.
 };
 
 constexpr auto casesOf(ExecutionType) {
@@ -24,7 +24,7 @@ constexpr auto casesOf(ExecutionType) {
         {{ExecutionType::parallel, "Parallel"}, {ExecutionType::chained, "Chained"}});
 }
 
-/// The keys that every set begins with.
+/// The keys common to all action sets; the first member of each.
 struct ActionSetItemProtocol {
     using IsKeyGroup = void;
 
@@ -38,7 +38,7 @@ struct ActionSetItemProtocol {
 
 using ActionItems::ActionSetItemProtocol;
 
-/// Actions that run together.
+/// Actions that run as one set.
 struct ActionSetItem {
     static constexpr std::string_view typeName = "ActionSetItem";
 
@@ -47,7 +47,7 @@ struct ActionSetItem {
     ActionSetItemProtocol set;
 };
 
-/// Actions that run together when one of the triggers fires.
+/// Actions that run as one set when one of the triggers fires.
 struct TriggeredActionSetItem {
     static constexpr std::string_view typeName = "TriggeredActionSetItem";
 

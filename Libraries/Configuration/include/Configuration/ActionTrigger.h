@@ -7,14 +7,14 @@
 
 namespace velmar {
 
-/// What fires a set of actions. In the file one text.
+/// An event that starts a set of actions. A string in the file.
 struct ActionTrigger {
     struct VariableUpdate {
         std::string variable;
         bool operator==(const VariableUpdate &) const = default;
     };
     struct AppLaunch {
-        RegularExpression bundleIdentifier; ///< Is searched for in the identifier of the application.
+        RegularExpression bundleIdentifier; ///< Matches any part of the identifier.
         bool operator==(const AppLaunch &) const = default;
     };
     struct Custom {
@@ -37,7 +37,7 @@ struct ActionTrigger {
     std::variant<VariableUpdate, AppLaunch, Custom, Launch, Termination, PreviousButtonClick, NextButtonClick>
         value;
 
-    /// As the file has it: "Launch", "Update(NAME)".
+    /// Returns the form in the file, such as "Launch" or "Update(NAME)".
     [[nodiscard]] std::string text() const;
 
     bool operator==(const ActionTrigger &) const = default;

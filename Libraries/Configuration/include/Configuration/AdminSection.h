@@ -6,7 +6,7 @@
 
 namespace velmar {
 
-/// What the person who sets the session up may do beside its user.
+/// Options for the administrator of a session.
 struct AdminSection {
     static constexpr std::string_view typeName = "AdminSection";
 

@@ -8,7 +8,7 @@
 
 namespace velmar {
 
-/// How the session ends.
+/// Shortcuts, scripts and options for the end of the session.
 struct AppTerminationSection {
     static constexpr std::string_view typeName = "AppTerminationSection";
 

@@ -12,7 +12,7 @@
 
 namespace velmar {
 
-/// The body of a request: a value, or values in lists and dictionaries.
+/// The body of a request: a value, or values in arrays and dictionaries.
 struct BodyItem {
     static constexpr std::string_view typeName = "BodyItem";
 
@@ -22,12 +22,12 @@ struct BodyItem {
 
     BodyValue value;
 
-    /// Adds a value to a dictionary, in place of the one that has the key, or to the end of an array. Throws
-    /// ConfigurationError (RequestBodyGroup) where this is none.
+    /// Adds a value to a dictionary, replacing the value of an existing key, or appends it to an array.
+    /// Throws ConfigurationError (RequestBodyGroup) if the body is of another type.
     void add(BodyItem item, std::string key);
     void append(BodyItem item);
 
-    /// Calls `function` with the texts at any depth.
+    /// Calls `function` with each text at any depth. Keys are excluded.
     template <class Function>
     void visitTexts(Function &function) {
         visitTexts(*this, function);

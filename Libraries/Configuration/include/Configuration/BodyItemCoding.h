@@ -5,8 +5,8 @@
 
 namespace velmar {
 
-/// Texts, truth values, whole numbers, numbers, arrays and dictionaries, tried in this order; a number has
-/// the kind that the file gives it, so that a 1.0 is sent as one.
+/// Accepts a string, boolean, integer, real, array or dictionary, tried in this order. A number keeps its
+/// type in the file, so that 1.0 stays a real; an integer above the range of std::int64_t becomes a real.
 template <>
 struct Decodable<BodyItem> {
     static BodyItem decode(const Decoding &decoding);

@@ -8,15 +8,15 @@
 
 namespace velmar {
 
-/// Holds the body of a request, and where it stands in the file: a body that cannot be sent is told by its
-/// place, long after decoding. A body that is inherited stands where the parent has it.
+/// Holds the body of a request and its place in the file, for errors found long after decoding. An inherited
+/// body keeps the place in the parent.
 class BodyKeyWrapper : public KeyWrapper<std::optional<BodyItem>> {
     using Base = KeyWrapper<std::optional<BodyItem>>;
 
 public:
     using Base::Base;
 
-    /// As CodingPath::text(); empty for a body that the file doesn't give.
+    /// Returns the path as CodingPath::text(); empty if the file doesn't give the body.
     [[nodiscard]] const std::string &codingPath() const { return codingPath_; }
 
     void inherit(const BodyKeyWrapper &parent) {

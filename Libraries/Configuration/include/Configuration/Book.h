@@ -6,7 +6,7 @@
 
 namespace velmar {
 
-/// Named models. In the file a dictionary of items. BookCoding.h has the coding and the inheritance.
+/// Named models; a dictionary of items in the file. BookCoding.h contains the coding and the inheritance.
 template <class T>
 class Book {
 public:
@@ -19,11 +19,11 @@ public:
     [[nodiscard]] const ModelStorage &models() const { return models_; }
     [[nodiscard]] bool areModelsResolved() const { return areModelsResolved_; }
 
-    /// Applies the parents of all models, once. Throws BookError, which names the model by its key in the
-    /// book.
+    /// Applies the parents of all models. Idempotent. Throws BookError, which names the model by its key in
+    /// the book.
     void resolve();
 
-    /// Applies the parent of an item outside of the book, which must be resolved. Throws BookError.
+    /// Applies the parent of an item outside the book. The book must be resolved. Throws BookError.
     void applyParent(T &item) const;
 
 private:

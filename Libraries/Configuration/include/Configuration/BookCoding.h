@@ -13,9 +13,9 @@
 
 namespace velmar {
 
-/// An item that can be a model of a book and can take what it does not give from a parent model. Its first
-/// members are `_parentModelName` (the key "Style"), `modelName` (its name in its book, absent for an item
-/// that stands elsewhere) and `isParentStyleApplied`.
+/// An item that can be a model of a book and inherits the keys that it doesn't give from a parent model. Its
+/// members `_parentModelName` (the key that names the parent, such as "Style"), `modelName` (the name in its
+/// book, absent for other items) and `isParentStyleApplied` describe the inheritance.
 template <class T>
 concept Inheritable = requires(T &item) {
     { item._parentModelName.rawValue() } -> std::convertible_to<std::optional<std::string>>;
@@ -24,7 +24,7 @@ concept Inheritable = requires(T &item) {
     { T::typeName } -> std::convertible_to<std::string_view>;
 };
 
-// By reflection, in ItemCodingTemplates.h.
+// Defined by reflection in ItemCodingTemplates.h.
 template <class T>
 T makeDefault();
 template <class T>
@@ -78,8 +78,8 @@ void Book<T>::applyResolved(T &model, const T &parent) {
     }
 }
 
-/// Climbs to the first ancestor without an open parent, then comes down again; no recursion, because the file
-/// decides how long a chain is.
+/// Collects the ancestors up to the first without a parent left to apply, then applies parents from there
+/// down. Iterative, because the file decides the length of a chain.
 template <class T>
 void Book<T>::applyChain(T &first) {
     std::vector<T *> chain;

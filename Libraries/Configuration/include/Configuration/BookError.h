@@ -8,7 +8,7 @@
 
 namespace velmar {
 
-/// References of models to each other that lead nowhere.
+/// Errors in the references of models to their parents.
 namespace BookErrors {
 
 struct OwnDefinition {

@@ -22,7 +22,7 @@ struct BorderItem {
 
     KeyWrapper<Edge> _edge{Edge::top, "Edge", required};
     InheritableKeyWrapper<std::optional<ColorItem>> _color{"Color", optional, &Library::colorStyles};
-    KeyWrapper<double> _widthPercent{0.9, "WidthPercent", optional, {0, 1}}; ///< Of the component's width.
+    KeyWrapper<double> _widthPercent{0.9, "WidthPercent", optional, {0, 1}}; ///< Fraction of the width.
     KeyWrapper<std::optional<double>> _height{"Height", optional};           ///< In points.
 };
 

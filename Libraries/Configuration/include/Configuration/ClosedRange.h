@@ -2,7 +2,7 @@
 
 namespace velmar {
 
-/// An interval with both its bounds.
+/// An interval that includes both bounds.
 struct ClosedRange {
     double lower = 0;
     double upper = 0;

@@ -16,15 +16,16 @@
 
 namespace velmar {
 
-// In VisitValues.h.
+// Defined in VisitValues.h.
 template <class T>
 void visitValues(const T &value, const ValuePlace &place, ValueVisitor &visitor);
 
-/// One key of the items of a type, whatever its value is: where in an item its holder stands, and what the
-/// shared routines need of it. It stands once for all items of the type. An item is passed by its address.
+/// A key of an item type, independent of the type of its value: the offset of its holder in an item, and the
+/// operations that the shared routines need. One instance serves all items of the type. Items are passed by
+/// address.
 class CodableKey {
 public:
-    /// `holder` is that of the type's default instance `item`, which lives as long as the process.
+    /// `holder` belongs to `item`, the default instance of the type, which must outlive the key.
     template <class Key>
     CodableKey(const void *item, const Key &holder)
         : name_(holder.name().stringValue),
@@ -55,7 +56,7 @@ public:
                 DecodingContext &context) const {
         operations_->decode(in(item), value, itemPath, context);
     }
-    /// `parent` is another item of the type.
+    /// Takes the value of the key from `parent`, another item of the type.
     void inherit(void *item, const void *parent) const { operations_->inherit(in(item), in(parent)); }
 
 private:
@@ -105,20 +106,20 @@ private:
     const Operations *operations_;
 };
 
-/// The keys of the items of a type, in the order of their declaration, and what they ask of each other.
+/// The keys of an item type in the order of declaration, and the rules between them.
 class KeyList {
 public:
-    /// Throws ConfigurationError (MissingValue) where a requirement lists a key that the item lacks: a
+    /// Throws ConfigurationError (MissingValue) if a requirement lists a key that the item lacks, which is a
     /// mistake in the declaration.
     explicit KeyList(std::vector<CodableKey> keys);
-    KeyList(const KeyList &) = delete; // Its rules point into it.
+    KeyList(const KeyList &) = delete; // rules_ points into keys_.
     KeyList &operator=(const KeyList &) = delete;
     ~KeyList() = default;
 
     [[nodiscard]] auto begin() const noexcept { return keys_.begin(); }
     [[nodiscard]] auto end() const noexcept { return keys_.end(); }
 
-    /// A key whose requirement is about its siblings.
+    /// A key whose requirement depends on its siblings.
     struct Rule {
         const CodableKey *key;
         std::vector<const CodableKey *> listed;
@@ -130,8 +131,8 @@ private:
     std::vector<Rule> rules_;
 };
 
-/// Decodes the keys of an item and checks their requirements. Throws ConfigurationError, in which `typeName`
-/// is the item's.
+/// Decodes the keys of an item and checks their requirements. `typeName` names the item in errors. Throws
+/// ConfigurationError.
 void decodeKeys(void *item, const KeyList &keys, std::string_view typeName, const Decoding &decoding);
 
 [[nodiscard]] PropertyList encodeKeys(const void *item, const KeyList &keys);
@@ -139,16 +140,17 @@ void decodeKeys(void *item, const KeyList &keys, std::string_view typeName, cons
 /// Visits the values of the keys that the file gives for an item at `place`.
 void visitKeys(const void *item, const KeyList &keys, const ValuePlace &place, ValueVisitor &visitor);
 
-/// Adds the description of the items of a type, unless `items` has it. `defaults` is their default instance.
+/// Adds the description of an item type unless `items` contains it. `defaults` is the default instance of the
+/// type.
 void describeKeys(std::string_view typeName, const void *defaults, const KeyList &keys, Descriptions &items);
 
-/// The variables that the texts of all keys of an item use.
+/// Returns the variables used in the texts of all keys of an item.
 [[nodiscard]] VariableNames usedVariables(const void *item, const KeyList &keys);
 
-/// The offset of the key of `item` whose path an error has; that of the item for any other path.
+/// Returns the offset of the value at `path` if it is a key of `item`, otherwise the offset of the item.
 [[nodiscard]] std::uint32_t offsetWithin(const Decoding &item, std::string_view path);
 
-/// The type of an item for messages.
+/// Returns the type of an item as shown in messages.
 [[nodiscard]] std::string itemTypeText(std::string_view typeName);
 
 } // namespace velmar

@@ -6,9 +6,9 @@
 
 namespace velmar {
 
-/// The place of a value in the file: the keys and indexes that lead to it from the root. A list of parts on
-/// the stack of the decoding, each pointing to the one before it, so that a path costs nothing until somebody
-/// asks for its text. A part must not outlive its parent, nor the text of its key.
+/// The place of a value in the file: the keys and indexes from the root to the value. A linked list of parts
+/// on the stack of the decoding, so that a path is cheap until its text is built. A part must not outlive its
+/// parent or the text of its key.
 class CodingPath {
 public:
     CodingPath() = default; ///< The root.
@@ -16,13 +16,13 @@ public:
     CodingPath(const CodingPath &parent, std::size_t index)
         : parent_(&parent), index_(index), isIndex_(true) {}
 
-    /// The parts joined by ".", indexes as numbers from 0; empty for the root.
+    /// Returns the parts joined by ".", with indexes as numbers from 0; empty for the root.
     [[nodiscard]] std::string text() const;
 
-    /// The length of the text.
+    /// Returns the length of text() in bytes.
     [[nodiscard]] std::size_t length() const;
 
-    /// The innermost key, also from within its array; empty for the root.
+    /// Returns the innermost key, even for an element of its array; empty for the root.
     [[nodiscard]] std::string_view lastKey() const;
 
 private:

@@ -11,7 +11,7 @@ struct Decodable<ColorItem::Specification> {
     static std::optional<PropertyList> encode(const ColorItem::Specification &value) {
         return PropertyList(value.text());
     }
-    /// As people write it, in contrast to the encoding with its digits left out.
+    /// Returns the form with padded components, as an administrator writes it. encode() doesn't pad them.
     static PropertyList asWritten(const ColorItem::Specification &value);
     static std::string plistType() { return "string (#RRGGBB)"; }
     static ValueDescription describe(Descriptions & /*items*/) {

@@ -8,12 +8,11 @@
 
 namespace velmar {
 
-/// A colour with a form for the dark and one for the light appearance; it can be a model of the book
-/// "ColorStyles".
+/// A colour with a dark and a light variant. Can be a model of the book "ColorStyles".
 struct ColorItem {
     static constexpr std::string_view typeName = "ColorItem";
 
-    /// Components from 0 to 255. In the file "#RRGGBB" or, with the alpha, "#RRGGBBAA".
+    /// An RGB colour with optional alpha; components from 0 to 255. "#RRGGBB" or "#RRGGBBAA" in the file.
     struct Specification {
         int red = 0;
         int green = 0;
@@ -22,7 +21,7 @@ struct ColorItem {
 
         bool operator==(const Specification &) const = default;
 
-        /// "#" and the components in upper-case hexadecimal without padding.
+        /// Returns "#" and the components in upper-case hexadecimal without padding.
         [[nodiscard]] std::string text() const;
     };
 

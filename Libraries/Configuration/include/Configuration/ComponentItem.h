@@ -15,8 +15,8 @@
 
 namespace velmar {
 
-/// One piece of a container's content. Include this header to visit all alternatives. For one of them, the
-/// functions of ComponentItemProtocol.h suffice.
+/// A component of a container. Include this header to visit all alternatives. The functions of
+/// ComponentItemProtocol.h suffice to access one of them.
 struct ComponentItem {
     static constexpr std::string_view typeName = "ComponentItem";
     static constexpr std::string_view typeKey = "Type";
@@ -35,7 +35,7 @@ struct ComponentItem {
 
     std::variant<Text, Image, Web, Button, Spacer, AppMonitor, PDF, Video, Input> value;
 
-    /// The keys that every component has, of whichever it is.
+    /// Returns the keys common to all components.
     [[nodiscard]] const ComponentItemProtocol &common() const;
 };
 

@@ -12,7 +12,7 @@ struct BorderItem;
 struct ComponentItem;
 struct MarginsItem;
 
-/// The kinds of components. They stand outside of ComponentItem because its variant needs them complete.
+/// Types of components. Declared outside ComponentItem, because its variant needs complete alternatives.
 namespace ComponentItems {
 
 enum class TypeIdentifier { text, image, button, web, spacer, appMonitor, pdf, video, input };
@@ -29,7 +29,7 @@ constexpr auto casesOf(TypeIdentifier) {
                                                     {TypeIdentifier::input, "Input"}});
 }
 
-/// The keys that every component begins with.
+/// The keys common to all components; the first member of each.
 struct ComponentItemProtocol {
     using IsKeyGroup = void;
 

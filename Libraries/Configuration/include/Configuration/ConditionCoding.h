@@ -6,7 +6,8 @@
 
 namespace velmar {
 
-/// One line of text. What it uses is recorded, names of conditions like those of variables.
+/// A condition in one line of text. Records the names that it uses, both of variables and of other
+/// conditions.
 template <>
 struct Decodable<Expression> {
     static Expression decode(const Decoding &decoding);

@@ -12,9 +12,8 @@ class Expression;
 
 using expressions::Expression;
 
-/// Holds a condition, absent where none is given. No holder of its own: a condition is read, recorded and
-/// written by what its type means in the file, also where it stands in a book, and the name of a registered
-/// condition is an expression like any other, of one variable.
+/// Holds an optional condition. An alias suffices: Decodable<Expression> reads, records and writes conditions
+/// here and in books, and the name of a registered condition is an expression with one variable.
 using ConditionKeyWrapper = KeyWrapper<std::optional<Expression>>;
 
 } // namespace velmar

@@ -37,8 +37,8 @@ struct SlideItem;
 struct TriggeredActionSetItem;
 struct WindowSection;
 
-/// The root of a configuration file. Its keys are decoded in the order of the members: the first fault is the
-/// one that is reported. A source that reads a key includes the header of its section.
+/// The root of a configuration file. The keys are decoded in the order of the members, and the first fault is
+/// reported. A source that reads a key includes the header of its section.
 struct Configuration {
     static constexpr std::string_view typeName = "Configuration";
 
@@ -58,38 +58,38 @@ struct Configuration {
     KeyWrapper<APIRequestsSection> _apiRequests{"APIRequests", optional};
     KeyWrapper<std::vector<TriggeredActionSetItem>> _actionSets{"ActionSets", optional};
 
-    VariableNames declaredVariables; ///< What keys of the file brought into being, beside General.Variables.
+    VariableNames declaredVariables; ///< Declared by keys of the file; without General.Variables.
 
     [[nodiscard]] bool slidesWereSpecified() const { return _slides.wasGivenValueWhileDecoding(); }
     [[nodiscard]] bool menuBarSlideWasSpecified() const {
         return _menuBarSlideSection.wasGivenValueWhileDecoding();
     }
 
-    /// Decodes a file, settles its references and checks its variables; the result never changes. Throws
-    /// ConfigurationError, or ExpressionError where a text or condition uses what nobody defines. `notes`,
-    /// where given, takes what the decoding passes over in silence and the place of its failure.
+    /// Decodes a file, settles its references and checks its variables. The result never changes. `notes`, if
+    /// not null, receives the skipped parts of the file and the place of a failure. Throws
+    /// ConfigurationError, or ExpressionError if a text or condition uses an undefined variable.
     [[nodiscard]] static std::shared_ptr<const Configuration> decode(const PropertyListValue &file,
                                                                      DecodingNotes *notes = nullptr);
     [[nodiscard]] static std::shared_ptr<const Configuration> decode(const PropertyList &file,
                                                                      DecodingNotes *notes = nullptr);
 
-    /// The mirror of decoding: what was given, set by code or is required.
+    /// Encodes the keys that were given, set in code, or are required.
     [[nodiscard]] PropertyList encode() const;
 
-    /// Visits every value that `file` gives, from the root down, each before those within it and the keys of
-    /// an item in the order of declaration. `file` must be what this was decoded from.
+    /// Visits every value that `file` gives, from the root down: each value before the values within it, and
+    /// keys in the order of declaration. The configuration must have been decoded from `file`.
     void visitValues(const PropertyListValue &file, ValueVisitor &visitor) const;
 
-    /// All that a file may hold, from the root "Configuration" down.
+    /// Describes the format of the file, from the root "Configuration" down.
     [[nodiscard]] static Descriptions describe();
 
-    /// There is something to show in the mode of the window. Throws ConfigurationError.
+    /// Checks that the mode of the window has slides to show. Throws ConfigurationError.
     void validate(const CodingPath &path) const;
 
-    /// There is something to show in that mode. Throws ConfigurationError.
+    /// Checks that `mode` has slides to show. Throws ConfigurationError.
     void requireSlidesFor(OnScreen mode) const;
 
-    /// Whether the section of the window says the same, but for the size of the popover.
+    /// Whether the window sections are equal, apart from the size of the popover.
     [[nodiscard]] bool hasSameWindow(const Configuration &other) const;
 };
 

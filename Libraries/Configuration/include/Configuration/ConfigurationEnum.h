@@ -16,8 +16,7 @@ struct EnumCase {
     std::string_view rawString;
 };
 
-/// An enumeration of the file. Beside its declaration stands its one table, which decoding, encoding and
-/// messages use:
+/// An enumeration of the file. Decoding, encoding and messages use its table `casesOf`, declared beside it:
 ///
 ///     enum class Edge { top, bottom };
 ///     friend constexpr auto casesOf(Edge) {
@@ -42,7 +41,7 @@ template <ConfigurationEnum E>
     return std::ranges::find(enumCases<E>, value, &EnumCase<E>::value)->rawString;
 }
 
-/// The texts of all cases, in the order of declaration.
+/// Returns the texts of all cases, in the order of the table.
 template <ConfigurationEnum E>
 [[nodiscard]] std::span<const std::string_view> rawStringList() {
     static const auto texts = [] {

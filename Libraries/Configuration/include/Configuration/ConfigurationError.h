@@ -8,7 +8,7 @@
 
 namespace velmar {
 
-/// A requirement among the keys of one item that the file breaks.
+/// A requirement between the keys of an item that the file doesn't meet.
 class KeyValidationError final : public LocalizedError {
 public:
     explicit KeyValidationError(std::string description) : LocalizedError(std::move(description)) {}
@@ -73,7 +73,7 @@ struct UnexpectedError {
     [[nodiscard]] std::string errorDescription() const;
 };
 struct ColorSpecification {
-    std::optional<std::string> string; ///< Absent where the file's value is no text.
+    std::optional<std::string> string; ///< Absent if the value in the file isn't a string.
     std::string path;
     [[nodiscard]] std::string errorDescription() const;
 };
@@ -85,7 +85,7 @@ struct Custom {
 
 } // namespace ConfigurationErrors
 
-/// Why a configuration is refused. Paths are those of CodingPath::text().
+/// The reason why a configuration is refused. Paths have the form of CodingPath::text().
 class ConfigurationError final
     : public ErrorOfCases<ConfigurationErrors::MissingValue, ConfigurationErrors::MissingValueWithPath,
                           ConfigurationErrors::WrongValue, ConfigurationErrors::WrongValueInRange,

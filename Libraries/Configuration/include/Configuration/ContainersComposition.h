@@ -8,7 +8,7 @@
 
 namespace velmar {
 
-/// How the containers share the width of the slide.
+/// The widths of the containers of a slide.
 struct SlideItem::ContainersComposition {
     /// Equal widths.
     struct NotSpecified {

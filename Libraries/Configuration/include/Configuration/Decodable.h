@@ -21,7 +21,7 @@
 
 namespace velmar {
 
-/// One of several items, told apart by a key of its dictionary. It has
+/// One of several alternative items, selected by a key of the dictionary. Its members are
 ///     static constexpr std::string_view typeKey;                            such as "Type"
 ///     enum class TypeIdentifier                                             with its table
 ///     std::variant<...> value                                               each with a constant
@@ -41,7 +41,7 @@ concept KeysCodableItem = std::is_aggregate_v<T> && !TaggedItem<T> && requires {
 
 template <class T>
 struct EnumCoding;
-// In ItemCodingTemplates.h.
+// Defined in ItemCodingTemplates.h.
 template <class T>
 struct ItemCoding;
 template <class T>
@@ -63,26 +63,26 @@ consteval auto codingOf() {
 
 } // namespace detail
 
-/// What a value type means in the file: of enumerations and items by the one coding of each sort, of all else
-/// by a specialisation. It has
+/// The coding of a value type. All enumerations share one coding, and so do all items; any other type has a
+/// specialisation. Its members are
 ///     static T decode(const Decoding &);                           throws ConfigurationError
-///     static std::optional<PropertyList> encode(const T &);        none where there is nothing to write
+///     static std::optional<PropertyList> encode(const T &);        std::nullopt if there is nothing to write
 ///     static std::string plistType();                              the type as an administrator reads it
 ///     static ValueDescription describe(Descriptions &);            the type as data, for tools
-/// The sorts are base classes and no constrained specialisations, because GCC 12 makes the instances of those
-/// local to each object file, so that no two share them.
+/// Enumerations and items use base classes instead of constrained specialisations, because GCC 12 makes the
+/// instances of the latter local to each object file.
 template <class T>
 struct Decodable : decltype(detail::codingOf<T>())::type {};
 
-/// Throws the ConfigurationError of a value that is not of the expected type.
+/// Throws the ConfigurationError for a value that isn't of the expected type.
 [[noreturn]] void throwWrongType(const Decoding &decoding, const std::string &expectedType);
 [[noreturn]] void throwWrongType(const Decoding &decoding, const std::string &description,
                                  const std::string &expectedType);
 
-/// Throws the ConfigurationError of a value that is no dictionary where an item must be.
+/// Throws the ConfigurationError for a value that should be an item but isn't a dictionary.
 [[noreturn]] void throwNoItem(const Decoding &decoding, const std::string &expectedType);
 
-/// Keeps a text that has references to variables, to be checked when all of the file is decoded.
+/// Records a text that refers to variables. It is checked after the whole file is decoded.
 void recordVariables(const Decoding &decoding);
 
 template <>
@@ -105,7 +105,7 @@ struct Decodable<std::int64_t> {
     }
 };
 
-/// Finite numbers only.
+/// Accepts finite numbers only.
 template <>
 struct Decodable<double> {
     static double decode(const Decoding &decoding);
@@ -149,7 +149,7 @@ struct EnumCoding {
     }
 };
 
-/// An optional is absent where its key is; a value that is there must be right.
+/// Empty if the key is absent. A value that is present must be valid.
 template <class T>
 struct Decodable<std::optional<T>> {
     static std::optional<T> decode(const Decoding &decoding) {
@@ -235,7 +235,7 @@ struct Decodable<std::map<std::string, T>> {
     }
 };
 
-/// The types whose keys can have a range.
+/// The types of keys that can have a range.
 template <class T>
 concept HasRange = std::is_same_v<T, double> || std::is_same_v<T, std::optional<double>> ||
     std::is_same_v<T, std::int64_t> || std::is_same_v<T, std::optional<std::int64_t>>;
@@ -254,12 +254,12 @@ void checkRange(const T &value, const ClosedRange &range, const Decoding &decodi
     }
 }
 
-/// The types whose keys can have an array coding strategy.
+/// The types of keys that can have an array coding strategy.
 template <class T>
 concept CanBeDecodedAsTexts =
     std::is_same_v<T, std::vector<std::string>> || std::is_same_v<T, std::optional<std::vector<std::string>>>;
 
-/// An array all of texts, all of integers or all of numbers, each as its text. Throws
+/// Decodes an array of strings, of integers or of reals, each converted to text. Throws
 /// ArrayCodingStrategyFailed.
 [[nodiscard]] std::vector<std::string> decodeTexts(const Decoding &decoding);
 
