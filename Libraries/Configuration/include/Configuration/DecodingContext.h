@@ -20,63 +20,64 @@ namespace velmar {
 
 struct Library;
 
-/// ASCII letters in upper and lower case count as the same.
+/// Compares two texts, ignoring the case of ASCII letters.
 [[nodiscard]] bool equalButForCase(std::string_view left, std::string_view right);
 
-/// The path of a value in its file, by a search. A path is only asked for once, when a decoding fails; to
-/// keep it with each of thousands of places would cost more.
+/// Searches `file` for a value and returns its path. A path is needed only once, when a decoding fails;
+/// storing it with each of thousands of values would cost more.
 [[nodiscard]] std::string pathOf(const PropertyListValue &value, const PropertyListValue &file);
 
-/// The surroundings of one decoding, from its root to the settling of the references. Used by one thread.
+/// The state of one decoding, from the root until the references are settled. Not thread-safe.
 class DecodingContext {
 public:
     explicit DecodingContext(DecodingNotes *notes = nullptr) : notes_(notes) {}
 
-    /// Where to note what is passed over; null when nobody asked.
+    /// Returns the receiver of notes on the file, or nullptr if none are wanted. Not owned.
     [[nodiscard]] DecodingNotes *notes() const { return notes_; }
 
-    /// Keeps a reference to another part of the file until all of the file is decoded. `value` is where it
-    /// stands in the file.
+    /// Stores a reference to another part of the file until the whole file is decoded. `value` is the place
+    /// of the reference.
     void addReference(const PropertyListValue &value, std::function<void(const Library &)> settle);
 
-    /// Settles the references in the order in which they were met; what fails throws ConfigurationError with
-    /// the path of the reference in `file`, the root of what was decoded.
+    /// Settles the references in the order in which they were added. `file` is the root of the decoded file.
+    /// Throws ConfigurationError with the path of the reference that fails.
     void settleReferences(const Library &library, const PropertyListValue &file);
 
-    /// Slot of a cache shared by all keys naming the same model (type, name). Null until first filled. The
-    /// name is a text of the file.
+    /// Slot of a cache shared by all keys naming the same model (type, name). nullptr until first filled.
+    /// `name` must be a text of the file, since the cache doesn't copy it.
     [[nodiscard]] SharedValuePointer &valueOfName(std::string_view typeName, std::string_view name);
 
-    /// The parsed form of a text of the file, which equal ones share. Throws what parsing throws.
+    /// Returns the parsed form of a text of the file, which equal texts share. Throws the errors of the
+    /// parser.
     [[nodiscard]] const expressions::Expression &expression(std::string_view line);
     [[nodiscard]] const RegularExpression &regularExpression(std::string_view pattern);
 
     /// A place that uses variables.
     struct VariablesUse {
         const PropertyListValue *text;
-        const expressions::Expression *condition; ///< Null for a text with references.
+        const expressions::Expression *condition; ///< nullptr for a text with references.
     };
 
-    /// Keeps a place that uses variables, to be checked when all of the file is decoded. Like the
-    /// declarations it throws ConfigurationError where the names and the paths of all of them are beyond 64
-    /// MiB: one long key above many values would take the memory of a machine to explain.
+    /// Records a place that uses variables; it is checked after the whole file is decoded. Throws
+    /// ConfigurationError, as declareVariable() does, if the recorded names and paths exceed 64 MiB: a long
+    /// key above many values would exhaust the memory.
     void addVariablesRecord(const CodingPath &path, const PropertyListValue &text,
                             const expressions::Expression *condition = nullptr);
     void declareVariable(std::string name);
-    /// Keeps a text of the file whose populated form tells the names that it declares, until the variables
-    /// are known.
+    /// Records a text of the file that declares variables by its populated form. The names are determined
+    /// after the whole file is decoded.
     void declareByPopulatedText(std::string_view text,
                                 std::vector<std::string> (*names)(const std::string &)) {
         declaringTexts_.emplace_back(text, names);
     }
-    /// Declares what the kept texts do with the values that the variables start with; those that cannot be
-    /// populated declare nothing.
+    /// Declares the names of the recorded texts, populated with the initial values of the variables. A text
+    /// that can't be populated declares nothing.
     void declareByPopulatedTexts(const std::map<std::string, std::string> &initialValues);
     [[nodiscard]] const std::vector<VariablesUse> &variablesUses() const { return uses_; }
     [[nodiscard]] const VariableNames &declaredVariables() const { return declaredVariables_; }
     [[nodiscard]] VariableNames takeDeclaredVariables() { return std::move(declaredVariables_); }
 
-    /// The first one counts, which is the innermost.
+    /// Notes the place of a failure. Only the first call has an effect, because it has the innermost place.
     void noteFailure(const std::string &keyPath, std::uint32_t offset);
     void noteFailure(const CodingPath &keyPath, std::uint32_t offset);
     void noteUnknownKey(const CodingPath &item, std::string_view key, std::uint32_t offset,
@@ -93,9 +94,9 @@ private:
     void spend(std::size_t bytes);
 
     DecodingNotes *notes_;
-    std::size_t bytesSpent_ = 0; ///< On names and paths that are kept.
+    std::size_t bytesSpent_ = 0; ///< Size of the recorded names and paths.
     std::vector<Reference> references_;
-    // The keys are texts of the file. Sorted and not hashed: nobody can choose texts that make it slow.
+    // The keys refer to texts of the file. Ordered, because crafted texts can degrade a hash table.
     std::map<std::pair<std::string_view, std::string_view>, SharedValuePointer> valuesOfNames_;
     std::map<std::string_view, expressions::Expression> expressions_;
     std::map<std::string_view, RegularExpression> regularExpressions_;
@@ -105,13 +106,13 @@ private:
         declaringTexts_;
 };
 
-/// A key that an enclosing item has read from the dictionary of an item: a known one.
+/// A key of the item's dictionary that is already read, and therefore known. `before` is the next such key.
 struct KeyReadBefore {
     PropertyListKey key;
     const KeyReadBefore *before = nullptr;
 };
 
-/// One value about to be decoded, and where it stands.
+/// A value to decode, its place and the context.
 struct Decoding {
     const PropertyListValue &value;
     const CodingPath &path;

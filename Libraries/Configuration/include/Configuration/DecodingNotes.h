@@ -9,20 +9,19 @@
 
 namespace velmar {
 
-/// What a decoding passed over in silence, the place where it failed, and which places use which variables:
-/// for a tool that explains a file to its author. A decoding fills it where it is given one; the offsets are
-/// those of PropertyListValue::offset().
+/// Diagnostics of a decoding, for tools that explain a file to its author: skipped parts, the place of the
+/// failure, and the places that use variables. Offsets are those of PropertyListValue::offset().
 struct DecodingNotes {
     enum class Kind {
-        unknownKey,      ///< A key of the file that no item names.
-        enumerationCase, ///< A value that is one of the possible ones but for the case of its letters.
+        unknownKey,      ///< A key that the item doesn't declare.
+        enumerationCase, ///< A value that differs from a possible one only in case.
     };
 
     struct Note {
         Kind kind = Kind::unknownKey;
         std::string keyPath;
         std::uint32_t offset = 0;
-        std::string message; ///< Empty, like the path, for those beyond the first thousand.
+        std::string message; ///< Empty, like the path, for unknown keys after 1000 notes.
     };
 
     struct Failure {

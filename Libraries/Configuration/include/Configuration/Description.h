@@ -13,7 +13,7 @@
 
 namespace velmar {
 
-/// What a value of the file may be.
+/// The values that a key of the file accepts.
 struct ValueDescription {
     enum class Kind {
         boolean,
@@ -21,15 +21,15 @@ struct ValueDescription {
         real,
         text,
         enumeration, ///< One of `rawStrings`.
-        list,        ///< Of the one in `parts`.
-        dictionary,  ///< From any text to the one in `parts`.
-        item,        ///< The item that is described under `name`.
+        list,        ///< Elements as described in `parts`.
+        dictionary,  ///< Any key, values as described in `parts`.
+        item,        ///< The item described under `name`.
         anyOf,       ///< One of `parts`.
     };
 
     Kind kind = Kind::text;
-    std::string name; ///< Of an item its type's; of a text what it holds, such as "URL", empty for any text.
-    std::string pattern; ///< That a text must match from end to end; empty for none.
+    std::string name;    ///< Type name of an item, or content of a text such as "URL"; empty for any text.
+    std::string pattern; ///< Regular expression for the whole text; empty for none.
     std::vector<std::string> rawStrings;
     std::vector<ValueDescription> parts;
 
@@ -44,29 +44,30 @@ struct ValueDescription {
     }
 };
 
-/// What an item says of one of its keys.
+/// The declaration of a key of an item.
 struct KeyDescription {
     std::string_view name;
     ValueDescription value;
-    std::optional<PropertyList> defaultValue; ///< Absent where an absent key leaves no value.
+    std::optional<PropertyList> defaultValue; ///< Absent if an absent key has no value.
     Requirement requirement;
     std::optional<ClosedRange> range;
 };
 
-/// An item: its keys, or, of one of several kinds, the kinds, or the value that it stands for.
+/// The declaration of an item: its keys, its kinds if it is of several kinds, or the value that it wraps.
 struct ItemDescription {
     std::vector<KeyDescription> keys; ///< In the order of declaration.
 
-    std::string_view typeKey; ///< The key that tells the kinds apart; empty for an item of one kind.
-    std::vector<std::pair<std::string, std::string>> kinds; ///< Value of that key and name of the type.
+    std::string_view typeKey; ///< The key that selects the kind; empty for an item of one kind.
+    std::vector<std::pair<std::string, std::string>> kinds; ///< Value of `typeKey`, type name.
 
     std::optional<ValueDescription> value;
 };
 
-/// The items of the file by the names of their types, each once, however they refer to each other.
+/// The items of the file by type name. Each is described once, even if several items refer to it.
 class Descriptions {
 public:
-    /// The place of an item that has none yet, or null. The place stays where it is.
+    /// Adds an empty description and returns it, or returns nullptr if the item has one. The pointer stays
+    /// valid as long as this object.
     ItemDescription *add(std::string_view typeName) {
         const auto [place, isNew] = items_.try_emplace(std::string(typeName));
         if (isNew) {
@@ -76,7 +77,7 @@ public:
     }
 
     [[nodiscard]] const std::map<std::string, ItemDescription> &items() const { return items_; }
-    /// The names, each before those that it is the first to refer to.
+    /// Returns the type names in the order of add(): each before the items that it is the first to refer to.
     [[nodiscard]] const std::vector<std::string> &order() const { return order_; }
 
 private:

@@ -6,7 +6,7 @@
 
 namespace velmar {
 
-/// A side of something on screen.
+/// A side of an item on screen.
 enum class EdgeItem { top, right, bottom, left };
 
 constexpr auto casesOf(EdgeItem) {

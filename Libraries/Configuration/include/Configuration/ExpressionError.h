@@ -8,7 +8,7 @@
 
 namespace velmar {
 
-/// Faults of variables and of what uses them.
+/// Errors of variables, and of the texts and conditions that use them.
 namespace ExpressionErrors {
 
 struct OwnDefinition {
@@ -16,8 +16,8 @@ struct OwnDefinition {
     [[nodiscard]] std::string errorDescription() const;
 };
 struct CircularReference {
-    std::string name;                    ///< The one that came up again.
-    std::vector<std::string> originPath; ///< The names followed up to there, the first one first.
+    std::string name;                    ///< The name that recurs.
+    std::vector<std::string> originPath; ///< The names followed before it recurs, outermost first.
     [[nodiscard]] std::string errorDescription() const;
 };
 struct UndefinedVariable {
@@ -27,7 +27,7 @@ struct UndefinedVariable {
 };
 struct UndefinedVariableAtPath {
     std::string codingPath;
-    std::string description; ///< Of the UndefinedVariable.
+    std::string description; ///< errorDescription() of the UndefinedVariable.
     [[nodiscard]] std::string errorDescription() const;
 };
 struct Undefined {
@@ -35,7 +35,7 @@ struct Undefined {
     std::string codingPath;
     [[nodiscard]] std::string errorDescription() const;
 };
-/// A text that would grow beyond the limits of `populated`.
+/// A text that would exceed the limits of populated().
 struct TooLarge {
     std::string limit; ///< Such as "16 MiB".
     [[nodiscard]] std::string errorDescription() const;
@@ -43,8 +43,8 @@ struct TooLarge {
 
 } // namespace ExpressionErrors
 
-/// Why variables can't be put in their places: of a configuration that is refused, or of a text that is shown
-/// as it stands. The errors of the language of conditions itself are those of the namespace expressions.
+/// The reason why variables can't be substituted. A configuration with such an error is refused; a text with
+/// one is shown unchanged. Errors of the condition language are those of the namespace expressions.
 class ExpressionError final
     : public ErrorOfCases<ExpressionErrors::OwnDefinition, ExpressionErrors::CircularReference,
                           ExpressionErrors::UndefinedVariable, ExpressionErrors::UndefinedVariableAtPath,

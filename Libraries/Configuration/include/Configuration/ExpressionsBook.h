@@ -6,8 +6,8 @@
 
 namespace velmar {
 
-/// Named texts or conditions, which may refer to variables. In the file a dictionary. What its values use is
-/// checked with all else that uses variables, when the whole file is decoded; see VariablesRecords.
+/// Named texts or conditions, which may refer to variables; a dictionary in the file. The variables that they
+/// use are checked after the whole file is decoded.
 template <class T>
 class ExpressionsBook {
 public:
@@ -16,7 +16,7 @@ public:
     ExpressionsBook() = default;
     explicit ExpressionsBook(Models models) : models_(std::move(models)) {}
 
-    /// The values by name, as the file has them.
+    /// Returns the values by name, with variables not substituted.
     [[nodiscard]] const Models &models() const { return models_; }
 
 private:

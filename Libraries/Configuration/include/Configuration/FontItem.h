@@ -13,7 +13,7 @@ namespace velmar {
 
 struct ColorItem;
 
-/// How a text looks; it can be a model of the book "FontStyles".
+/// The font, colour and alignment of a text. Can be a model of the book "FontStyles".
 struct FontItem {
     static constexpr std::string_view typeName = "FontItem";
 
@@ -39,7 +39,7 @@ struct FontItem {
     KeyWrapper<std::optional<double>> _size{"Size", optional}; ///< In points.
     InheritableKeyWrapper<std::optional<ColorItem>> _color{"Color", optional, &Library::colorStyles};
     KeyWrapper<std::optional<std::string>> _name{"Name",
-                                                 optional}; ///< A family; absent is the system's font.
+                                                 optional}; ///< Font family; absent: the system's font.
     KeyWrapper<std::optional<SystemFontWeight>> _systemFontWeight{"SystemFontWeight", optional};
 };
 

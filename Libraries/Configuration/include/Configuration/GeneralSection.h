@@ -11,7 +11,7 @@ namespace velmar {
 template <class T>
 class ExpressionsBook;
 
-/// The variables of the file with the values that they start with.
+/// The variables of the file and their initial values.
 struct GeneralSection {
     static constexpr std::string_view typeName = "GeneralSection";
 

@@ -25,7 +25,7 @@ struct KeyCoding<InheritableKeyWrapper<std::optional<Model>>> : KeyCoding<KeyWra
         });
     }
 
-    /// Writes a reference by name alone as it was given.
+    /// Encodes a reference given as a name in the same form.
     static void encode(const Key &key, PropertyList::Dictionary &item) {
         const std::optional<Model> &model = key.rawValue();
         if (model && Base::mustBeEncoded(key) && isNameOnly(*model)) {
@@ -47,8 +47,8 @@ private:
     using Base = KeyCoding<KeyWrapper<std::optional<Model>>>;
     using typename Base::Node;
 
-    /// Returns the item that all keys with this name share, since it never changes once its parent is
-    /// applied. Items with an identity are not shared.
+    /// Returns the item shared by all keys with this model name. Sharing is safe, since the item never
+    /// changes once its parent is applied. Items with an `id` are not shared.
     static SharedValuePointer valueOfName(const Key &key, std::string_view modelName,
                                           const Decoding &decoding) {
         if constexpr (requires(Model model) { model.id; }) {

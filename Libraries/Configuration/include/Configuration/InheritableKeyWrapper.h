@@ -7,8 +7,9 @@
 
 namespace velmar {
 
-/// Holds a key that takes an item or the name of a model of a book. Its parent is applied when the references
-/// of the file are settled; from then on reading writes nothing. InheritableKeyCoding.h has its coding.
+/// Holds a key whose value is an item or the name of a model in a book. The parent is applied when the
+/// references of the file are settled; the value doesn't change afterwards. InheritableKeyCoding.h contains
+/// the coding.
 template <class T>
 class InheritableKeyWrapper;
 

@@ -4,7 +4,7 @@
 
 namespace velmar::ComponentItems::Inputs {
 
-/// How the label and the field of an input share its width.
+/// Distribution of the width of an input between its label and its field.
 enum class Distribution { fit, center };
 
 constexpr auto casesOf(Distribution) {

@@ -10,7 +10,7 @@
 
 namespace velmar {
 
-/// The file of what the user entered.
+/// The file that stores the inputs of the user.
 struct InputSection {
     static constexpr std::string_view typeName = "InputSection";
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// The coding of items, and the items whose coding one source instantiates. Included by these sources and by
-// tests, never by the headers of items. A source that instantiates the coding of an item includes the
+// The coding of items, and the items whose coding is instantiated in one source. Included by these sources
+// and by tests, never by the headers of items. A source that instantiates the coding of an item includes the
 // complete types of the values of its keys.
 
 #include <Configuration/ItemCodingTemplates.h>

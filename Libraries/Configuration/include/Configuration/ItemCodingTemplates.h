@@ -1,7 +1,7 @@
 #pragma once
 
-// The shared routines of all items, by reflection over their members. Include ItemCoding.h instead, which
-// declares the instantiations of other sources.
+// The shared routines of all items, based on reflection over their members. Include ItemCoding.h instead,
+// which declares the instantiations in other sources.
 
 #include <Configuration/BookCoding.h>
 #include <Configuration/CodableKey.h>
@@ -24,33 +24,33 @@
 
 namespace velmar {
 
-/// An item that checks itself once all its keys are in; its `validate` throws ConfigurationError.
+/// An item with a check after all its keys are decoded. `validate` throws ConfigurationError.
 template <class T>
 concept PostDecodingValidatable = requires(const T &item, const CodingPath &path) {
     item.validate(path);
 };
 
-/// An item that refers to parts of the file other than models; checked when all of the file is decoded.
-/// `validateReferences` throws a LocalizedError, which is told with the path of the item.
+/// An item that refers to parts of the file other than models. `validateReferences` runs after the whole file
+/// is decoded and throws a LocalizedError, which is reported with the path of the item.
 template <class T>
 concept ReferencesValidatable = requires(const T &item, const Library &library) {
     item.validateReferences(library);
 };
 
-/// An item that declares variables by several of its keys together.
+/// An item that declares variables based on several of its keys.
 template <class T>
 concept VariablesDeclaring = requires(const T &item, const std::function<void(std::string)> &declare) {
     item.declareVariables(declare);
 };
 
-/// Holders that several items have in common, nested in each as its first member.
+/// Key holders common to several items, nested as the first member of each.
 template <class T>
 concept KeyGroup = std::is_aggregate_v<T> && requires {
     typename T::IsKeyGroup;
 };
 
-/// Adds the keys of an item, or of a group of them within it. The one place that reflects on items: what the
-/// routines do with the keys is compiled once for all of them.
+/// Appends the keys of an item, or of a group within the item. The only function that reflects on items: the
+/// other routines on keys are compiled once for all items.
 template <class T>
 void appendKeys(const void *item, const T &group, std::vector<CodableKey> &keys) {
     boost::pfr::for_each_field(group, [&](const auto &member) {
@@ -63,8 +63,8 @@ void appendKeys(const void *item, const T &group, std::vector<CodableKey> &keys)
     });
 }
 
-/// The default instance of the items of a type and its keys. Never destroyed, because other threads may read
-/// items while the process ends.
+/// The default instance of an item type and its keys. Never destroyed, because other threads may read items
+/// during process exit.
 template <class T>
 struct ItemPrototype {
     T defaults{};
@@ -94,8 +94,8 @@ void validateItem(const T &item, const Decoding &decoding) {
 
 } // namespace detail
 
-// The members of the codings are not inline: the compiler would compile an inline one in each source that
-// uses it, whatever source instantiates it.
+// Members are not inline: each source that uses an inline member compiles it, even if another source
+// instantiates it.
 
 /// The coding of an aggregate of key holders.
 template <class T>
@@ -120,7 +120,7 @@ template <class T>
     return Decodable<T>::prototype().keys;
 }
 
-/// A new item at its defaults.
+/// Returns a new item with every key at its default.
 template <class T>
 T makeDefault() {
     return Decodable<T>::prototype().defaults;
@@ -172,7 +172,7 @@ void ItemCoding<T>::visitWithin(const T &item, const ValuePlace &place, ValueVis
     visitKeys(&item, keysOf<T>(), place, visitor);
 }
 
-/// The coding of an item of several kinds.
+/// The coding of an item with several alternatives.
 template <class T>
 struct TaggedItemCoding {
     static T decode(const Decoding &decoding);
@@ -185,7 +185,7 @@ struct TaggedItemCoding {
 
 namespace detail {
 
-/// The part of the coding of an item of several kinds that needs the complete item.
+/// The part of the coding of an item with several alternatives that needs the complete item.
 template <class T>
 struct Alternatives {
     using Value = decltype(T::value);
@@ -232,7 +232,7 @@ struct Alternatives {
                         Decodable<typename T::TypeIdentifier>::plistType())});
     }
 
-    /// Which keys are known depends on the type; without it only a slip in the type's own key can be told.
+    /// Notes a key that differs from the type key only in case. The type determines the other known keys.
     static void noteNearMissOfType(const Decoding &decoding) {
         constexpr std::array<std::string_view, 1> known{T::typeKey};
         for (const auto &entry : decoding.value.entries()) {
@@ -317,7 +317,7 @@ VariableNames usedVariables(const Item &item) {
     return Decodable<Item>::usedVariables(item);
 }
 
-/// A model takes what it does not give itself from its parent, whose own values are settled.
+/// Copies the keys that the model doesn't give from its parent. The parent's own parent must be applied.
 template <class T>
 void inheritKeys(T &model, const T &parent) {
     for (const CodableKey &key : keysOf<T>()) {
@@ -328,7 +328,7 @@ void inheritKeys(T &model, const T &parent) {
     model.isParentStyleApplied = true;
 }
 
-/// What a model says of itself in messages.
+/// Returns the text that shows a model in messages.
 template <class T>
 std::string modelText(const T &model) {
     return Decodable<T>::encode(model)->text();

@@ -16,14 +16,14 @@
 
 namespace velmar {
 
-/// The variables that the texts of a value use: of an item those of all its keys, nested items included.
+/// Returns the variables used in the texts of a value; for an item, in those of all its keys, including
+/// nested items.
 template <class T>
 VariableNames namesUsedBy(const T &value);
 
-/// Decodes, encodes and describes a key: the operations that CodableKey needs of each kind of holder.
-/// `decode` throws ConfigurationError.
+/// The operations on a key that CodableKey needs for each type of holder. `decode` throws ConfigurationError.
 ///     static void decode(Key &, const PropertyListValue &, const CodingPath &itemPath, DecodingContext &);
-///     static void encode(const Key &, PropertyList::Dictionary &item);   where it is required or was set
+///     static void encode(const Key &, PropertyList::Dictionary &item);   if it is required or was set
 ///     static KeyDescription describe(const Key &, Descriptions &items);  adds the items of the value
 ///     static VariableNames usedVariables(const Key &);
 template <class Key>
@@ -43,7 +43,7 @@ protected:
     using Held = typename Key::Held;
     using Node = typename Key::Node;
 
-    /// Decodes a key of any kind; `read` returns the value as it is held.
+    /// Decodes a key of any type. `read` returns the value in the form in which the holder stores it.
     template <class ReadValue>
     static void decodeWith(Key &key, const PropertyListValue &value, const CodingPath &itemPath,
                            DecodingContext &context, ReadValue read) {
@@ -120,7 +120,7 @@ T KeyCoding<KeyWrapper<T>>::decodeValue(const Key &key, const Decoding &decoding
     return value;
 }
 
-/// Declares the names of variables as well.
+/// Also declares the names of variables.
 template <class T>
 struct KeyCoding<VariableKeyWrapper<T>> : KeyCoding<KeyWrapper<T>> {
     static void decode(VariableKeyWrapper<T> &key, const PropertyListValue &value, const CodingPath &itemPath,

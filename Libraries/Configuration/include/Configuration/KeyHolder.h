@@ -12,12 +12,13 @@
 
 namespace velmar {
 
-/// How an array of texts may be given.
+/// The accepted forms of an array of texts.
 enum class ArrayCodingStrategy {
-    customStringConvertible, ///< All as texts, all as integers or all as reals; read as text.
+    customStringConvertible, ///< All strings, all integers or all reals; converted to text.
 };
 
-/// A value that copies of a holder share. Copying and destroying a holder doesn't need the type of the value.
+/// A value shared by the copies of a holder. Copying and destroying a holder doesn't need the type of the
+/// value.
 class SharedValue : public boost::intrusive_ref_counter<SharedValue> {
 public:
     virtual ~SharedValue() = default;
@@ -71,7 +72,7 @@ private:
     bool valueWasSet_ = false;
 };
 
-/// A holder with what it keeps in itself: a small value, or a pointer to a SharedValue.
+/// A holder and its stored value: a small value, or a pointer to a SharedValue.
 template <class Held>
 class KeyHolderOf : public KeyHolder {
 protected:
@@ -82,7 +83,7 @@ protected:
         return static_cast<const Declaration &>(declaration()).defaultValue;
     }
 
-    Held value_; ///< A null pointer stands for a value that is empty by default.
+    Held value_; ///< nullptr: a value that is empty by default.
 
 private:
     struct Declaration final : KeyDeclaration {

@@ -9,17 +9,17 @@
 
 namespace velmar {
 
-// In KeyCoding.h.
+// Defined in KeyCoding.h.
 template <class Key>
 struct KeyCoding;
 
-/// Whether a holder keeps a value in itself. Other values stand beside their holders.
+/// Whether a holder stores values of T in itself. Other values are stored in a separate node.
 template <class T>
 struct IsHeldInPlace : std::bool_constant<std::is_arithmetic_v<T> || std::is_enum_v<T>> {};
 template <class T>
 struct IsHeldInPlace<std::optional<T>> : IsHeldInPlace<T> {};
 
-/// Holds one key of an item: its declaration and the value that the file gives.
+/// Holds one key of an item: its declaration and its value.
 ///
 ///     struct SizeItem {
 ///         static constexpr std::string_view typeName = "SizeItem";
@@ -28,12 +28,12 @@ struct IsHeldInPlace<std::optional<T>> : IsHeldInPlace<T> {};
 ///     };
 ///
 /// All copies of a default instance share its declarations (default, name, requirement, range). An instance
-/// has its value and two flags. A number or an enumeration stands in the holder. Any other value stands
-/// beside it, shared between copies until one is set. Such a type may be incomplete where the item is
-/// declared, copied and destroyed; reading and setting the key need the complete type. A holder is called to
-/// read it: `size._height()`.
+/// has its value and two flags. A number or an enumeration is stored in the holder. Any other value is stored
+/// in a separate node, shared between copies until one is set. Such a type may be incomplete where the item
+/// is declared, copied and destroyed; reading and setting the key need the complete type. Calling a holder
+/// reads it: `size._height()`.
 ///
-/// Any thread may read a decoded holder. Only the owner of an item that has no other readers may set a key.
+/// Any thread may read a decoded holder. Only the owner of an item without other readers may set a key.
 ///
 /// KeyCoding.h decodes, encodes and describes a key. The sources that instantiate the coding of an item
 /// include it; the headers of items don't.
@@ -47,7 +47,8 @@ class KeyWrapper : public KeyHolderOf<std::conditional_t<IsHeldInPlace<T>::value
 public:
     using Value = T;
 
-    /// The result of reading: texts pass through the plugins and are new values, all else is as it is held.
+    /// The result of reading: a new value for types with texts, which pass through the plugins; otherwise a
+    /// reference to the stored value.
     using Read = std::conditional_t<Populatable<T>, T, const T &>;
 
     KeyWrapper(T defaultValue, ConfigCodingKey name, const Requirement &requirement)
@@ -57,10 +58,10 @@ public:
     KeyWrapper(T defaultValue, ConfigCodingKey name, const Requirement &requirement,
                ArrayCodingStrategy strategy)
         : Holder(held(std::move(defaultValue)), name, requirement, {}, strategy) {}
-    /// With the default T{}: absent, empty, or the default item.
+    /// Declares the default T{}: absent, empty, or the default item.
     KeyWrapper(ConfigCodingKey name, const Requirement &requirement) : Holder(Held{}, name, requirement) {}
 
-    /// The value for its reader.
+    /// Returns the value, after all plugins if its type can contain texts.
     Read operator()() const { return wrappedValue(); }
     [[nodiscard]] Read wrappedValue() const {
         if constexpr (Populatable<T>) {
@@ -70,13 +71,13 @@ public:
         }
     }
 
-    /// The value after all plugins.
+    /// Returns the value after all plugins.
     [[nodiscard]] T pluggedValue() const { return plugged(rawValue()); }
 
-    /// The value as the file has it.
+    /// Returns the value without plugins, as given in the file or set in code.
     [[nodiscard]] const T &rawValue() const { return valueOf(value_); }
 
-    /// Assigns by code.
+    /// Sets the value in code.
     void set(T value) {
         value_ = held(std::move(value));
         this->noteSet(true);
@@ -96,11 +97,11 @@ public:
         this->noteSet(true);
     }
 
-    /// Takes the value of another holder of the same key, for a model that inherits it. It does not count as
-    /// set, so that the model is written as it was given.
+    /// Takes the value of the same key of a parent model. The key doesn't count as set, so that encoding
+    /// writes the model as it was given.
     void inherit(const KeyWrapper &parent) { value_ = parent.value_; }
 
-    /// Back to the default. Whether the file gave the key stays known.
+    /// Restores the default. wasGivenValueWhileDecoding() stays unchanged.
     void reset() {
         value_ = this->defaultHeld();
         this->noteSet(false);
@@ -135,8 +136,8 @@ private:
         }
     }
 
-    /// The default of all keys of this type that declare none. Never destroyed, because other threads may
-    /// read it while the process ends.
+    /// Returns the default of all keys of this type that declare none. Never destroyed, because other threads
+    /// may read it during process exit.
     static const T &emptyValue() {
         static const T &value = *new T{};
         return value;

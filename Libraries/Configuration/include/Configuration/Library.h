@@ -11,8 +11,8 @@ struct ColorItem;
 struct FontItem;
 struct SlideItem;
 
-/// What references of the file whose references are being settled lead to. It owns nothing: all belongs to
-/// the configuration that is being made, so that one that fails replaces nothing.
+/// The targets of references, for settling those of one file. Owns nothing: the targets belong to the
+/// configuration under construction, so that a failure replaces nothing.
 struct Library {
     const Book<FontItem> *fontStyles = nullptr;
     const Book<ColorItem> *colorStyles = nullptr;

@@ -7,7 +7,7 @@
 
 namespace velmar {
 
-/// Empty space around something, in points; an absent side is the reader's to choose.
+/// Margins in points. The reader of an absent side chooses its size.
 struct MarginsItem {
     static constexpr std::string_view typeName = "MarginsItem";
 
