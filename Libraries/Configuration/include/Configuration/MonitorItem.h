@@ -9,11 +9,11 @@
 
 namespace velmar {
 
-/// Something to watch.
+/// A monitor of an application or a file.
 struct MonitorItem {
     static constexpr std::string_view typeName = "MonitorItem";
     static constexpr std::string_view typeKey = "Type";
-    /// A type that is missing and one that is wrong are told in one sentence.
+    /// A missing type and a wrong type are reported in the same sentence.
     static constexpr bool tellsTypeFaultsAlike = true;
 
     using TypeIdentifier = MonitorItems::TypeIdentifier;

@@ -11,7 +11,7 @@ namespace velmar {
 
 struct MonitorItem;
 
-/// The logs of the management agents, and what is heard when all is installed.
+/// The logs of the management agents, the sound of the completed installation, and the monitors.
 struct MonitoringSection {
     static constexpr std::string_view typeName = "MonitoringSection";
 

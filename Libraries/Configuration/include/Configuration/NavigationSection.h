@@ -10,7 +10,7 @@ namespace velmar {
 
 struct ColorItem;
 
-/// The buttons that lead through the slides, and what is said when they can't.
+/// The navigation buttons, and the texts shown when the user can't quit yet.
 struct NavigationSection {
     static constexpr std::string_view typeName = "NavigationSection";
 

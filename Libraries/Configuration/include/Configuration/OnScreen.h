@@ -6,7 +6,7 @@
 
 namespace velmar {
 
-/// How the session stands on the desktop.
+/// The presentation of the session on the desktop.
 enum class OnScreen { simple, blurredBackground, fullScreen, menuBar };
 
 constexpr auto casesOf(OnScreen) {

@@ -6,7 +6,7 @@
 
 namespace velmar {
 
-/// The variables that the program itself keeps; their raw strings are the names. They are always defined.
+/// The variables maintained by the application; their raw strings are the names. They are always defined.
 enum class Placeholders {
     velmarDirectory,
     userName,

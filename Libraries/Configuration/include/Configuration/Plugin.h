@@ -6,21 +6,22 @@
 
 namespace velmar {
 
-/// The application's filter of the values that holders hand out: it may, for instance, replace the variables
-/// in a text. It sees values when they are read and never while a file is decoded, checked or encoded.
+/// A filter for values read from holders, such as one that replaces the variables in a text. Filters don't
+/// apply while a file is decoded, checked or encoded.
 class Plugin {
 public:
     virtual ~Plugin() = default;
 
-    /// Replaces the texts of one value, all or none of them, so that they belong together. Any thread; must
-    /// not throw.
+    /// Replaces all texts of one value or none of them, so that they stay consistent. Called on any thread.
+    /// Must not throw.
     virtual void filter(std::span<std::string *const> texts) const = 0;
 };
 
-/// The plugins of the process, in the order of registration: each receives the value of the one before it.
+/// The plugins of the process in the order of registration. Each receives the result of the previous one.
+/// Thread-safe.
 class Plugins {
 public:
-    /// Ends the registration of one plugin when it is destroyed.
+    /// Unregisters a plugin on destruction.
     class [[nodiscard]] Registration {
     public:
         explicit Registration(std::shared_ptr<const Plugin> plugin) : plugin_(std::move(plugin)) {}

@@ -8,24 +8,24 @@
 
 namespace velmar {
 
-// A text may refer to variables: `${NAME}`, from "${" to the next "}". What stands between them is the name,
-// blanks and line ends included; "${" without a "}" after it is plain text.
+// A text may refer to variables: `${NAME}`, from "${" to the next "}". The name is everything between them,
+// including blanks and line ends. "${" without a "}" after it is plain text.
 
-/// The names of the variables that a text uses. One scan.
+/// Returns the names of the variables that a text uses, after one scan.
 [[nodiscard]] VariableNames usedVariables(std::string_view text);
 
-/// The names on which the populated form of a text depends: those that it uses and, through the values that
-/// these have, all others; names without a value are among them. Circles end; of a text beyond the limits of
-/// `populated`, which is shown as it stands, the names may be incomplete.
+/// Returns the names that the populated form of a text depends on: those in the text and, recursively, those
+/// in the values of variables, including names without a value. Circular references are permitted. The result
+/// may be incomplete for a text beyond the limits of populated().
 [[nodiscard]] VariableNames involvedVariables(std::string_view text, const Variables &variables);
 
-/// The text with each reference replaced by the populated value of its variable. Throws ExpressionError:
-/// UndefinedVariable with the very text whose reference leads nowhere, CircularReference where a name comes
-/// up again on its own path (updates can bring that about), TooLarge beyond 16 MiB of text or of names, or a
-/// million references: thirty variables are enough for a text that never ends.
+/// Returns the text with each reference replaced by the populated value of its variable. Throws
+/// ExpressionError: UndefinedVariable with the text that contains the reference, CircularReference if a
+/// variable depends on itself (updates can cause that), or TooLarge beyond 16 MiB of text or of names, or a
+/// million references. The limits are necessary because thirty variables suffice for a text of 2^30 parts.
 [[nodiscard]] std::string populated(std::string_view text, const Variables &variables);
 
-/// The name of a variable that is given bare or as `${NAME}`: without the "${" before and the "}" after it.
+/// Returns the name of a variable given bare or as `${NAME}`, without a leading "${" and a trailing "}".
 [[nodiscard]] std::string_view bareVariableName(std::string_view name) noexcept;
 
 } // namespace velmar

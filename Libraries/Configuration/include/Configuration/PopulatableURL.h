@@ -8,7 +8,8 @@ namespace velmar {
 template <>
 struct IsPopulatable<URL> : std::true_type {};
 
-/// The plugins see the text of the URL. Their result is ignored where it is no URL.
+/// Returns the URL after the plugins, which receive its text. Returns it unchanged if their result isn't a
+/// URL.
 [[nodiscard]] URL plugged(const URL &url);
 [[nodiscard]] inline std::optional<URL> plugged(const std::optional<URL> &url) {
     return url ? std::optional(plugged(*url)) : std::nullopt;

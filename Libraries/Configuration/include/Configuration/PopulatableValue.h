@@ -10,8 +10,8 @@
 
 namespace velmar {
 
-/// Whether values of a type can hold references to variables: texts, types made of texts and collections of
-/// these do.
+/// Whether values of T can contain references to variables. True for texts, types made of texts and
+/// collections of these.
 template <class T>
 struct IsPopulatable : std::false_type {};
 template <>
@@ -26,9 +26,8 @@ struct IsPopulatable<std::map<std::string, T>> : IsPopulatable<T> {};
 template <class T>
 concept Populatable = IsPopulatable<std::remove_cv_t<T>>::value;
 
-/// Calls `function` with every text of a value, in their order; the keys of a dictionary are excluded. A type
-/// of its own passes its texts through a member `visitTexts`, or its only one, which is read-only, through a
-/// member `text`.
+/// Calls `function` with every text of a value, in order; the keys of a dictionary are excluded. A class type
+/// passes its texts through a member `visitTexts`, or a single read-only text through a member `text`.
 template <Populatable T, class Function>
 void visitTexts(T &value, Function &&function) {
     if constexpr (std::is_same_v<std::remove_cv_t<T>, std::string>) {
@@ -55,7 +54,7 @@ void visitTexts(T &value, Function &&function) {
 /// Passes the texts of one value through the plugins of the process (Plugin.h), in place.
 void applyPlugins(std::span<std::string *const> texts);
 
-/// Returns a value with its texts as the plugins of the process change them.
+/// Returns a value after its texts have passed through the plugins of the process.
 template <Populatable T>
 [[nodiscard]] T plugged(T value) {
     if constexpr (std::is_same_v<T, std::string>) {

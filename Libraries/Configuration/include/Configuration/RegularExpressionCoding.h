@@ -5,10 +5,11 @@
 
 namespace velmar {
 
-/// The pattern of a value that is being decoded, compiled. Throws ConfigurationError (InvalidRegex).
+/// Returns the compiled pattern of a value that is being decoded. Throws ConfigurationError (InvalidRegex).
 [[nodiscard]] RegularExpression compiled(std::string_view pattern, const Decoding &decoding);
 
-/// A pattern. One that doesn't compile is the error InvalidRegex.
+/// A regular expression, given as its pattern. Decoding throws ConfigurationError (InvalidRegex) if it
+/// doesn't compile.
 template <>
 struct Decodable<RegularExpression> {
     static RegularExpression decode(const Decoding &decoding);

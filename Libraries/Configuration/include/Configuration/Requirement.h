@@ -7,7 +7,7 @@
 
 namespace velmar {
 
-/// The name of a key. The text is that of a literal, or otherwise outlives the key.
+/// The name of a key. The text must outlive the key, as that of a literal does.
 struct ConfigCodingKey {
     std::string_view stringValue;
     std::optional<int> intValue;
@@ -23,11 +23,11 @@ enum class RequirementType {
     requiredIfNotSpecified, ///< Must be given when at least one listed key is missing.
     exclude,                ///< Must not be given together with a listed key.
     requiredExcluding,      ///< Exactly one of this key and the listed keys must be given.
-    optional,               ///< May be absent; the default then stands.
+    optional,               ///< May be absent; the default then applies.
     required,               ///< Must be given.
 };
 
-/// What a key asks of itself and of its siblings in the same item.
+/// The requirement of a key, which may depend on its siblings in the same item.
 struct Requirement {
     RequirementType type = RequirementType::optional;
     std::vector<ConfigCodingKey> keys;
@@ -49,8 +49,8 @@ inline Requirement requiredExcluding(std::vector<ConfigCodingKey> keys) {
     return {RequirementType::requiredExcluding, std::move(keys)};
 }
 
-/// Checks what a key asks of its siblings: whether it was given itself, and how many of those that the
-/// requirement lists were. Throws ConfigurationError: a KeyValidationError with the broken rule.
+/// Checks the requirement of a key. `givenOfListed` is the number of listed keys that were given. Throws
+/// ConfigurationError (ValidationError) with the broken rule.
 void validate(std::string_view key, bool wasGiven, std::size_t givenOfListed, const Requirement &requirement);
 
 } // namespace velmar

@@ -8,7 +8,7 @@ namespace velmar {
 
 struct ContainerItem;
 
-/// A container that stands beside all slides.
+/// A container shown beside all slides.
 struct SideContainerSection {
     static constexpr std::string_view typeName = "SideContainerSection";
 

@@ -12,7 +12,7 @@ class CodingPath;
 struct ColorItem;
 struct ContainerItem;
 
-/// One page: containers side by side.
+/// A page with containers side by side.
 struct SlideItem {
     static constexpr std::string_view typeName = "SlideItem";
 
@@ -25,7 +25,7 @@ struct SlideItem {
     /// Defined in ContainersComposition.h.
     struct ContainersComposition;
 
-    /// The composition of a slide that passed `validate`.
+    /// Returns the widths of the containers. The slide must have passed validate().
     [[nodiscard]] ContainersComposition containersComposition() const;
 
     /// Checks the widths of the containers against each other. Throws ConfigurationError for the key

@@ -10,15 +10,15 @@
 
 namespace velmar {
 
-// Pieces of messages.
+// Parts of messages.
 
-/// What the file has in place of what was expected: "'abc'", "the integer 5", "an array".
+/// Returns a description of an unexpected value, such as "'abc'", "the integer 5" or "an array".
 [[nodiscard]] std::string foundText(const PropertyListValue &value);
 
-/// "string | Possible values: 'Top', 'Bottom'"
+/// Returns a text such as "string | Possible values: 'Top', 'Bottom'".
 [[nodiscard]] std::string possibleValuesText(std::span<const std::string_view> rawStrings);
 
-/// `["A", "B"]`
+/// Returns a text such as `["A", "B"]`.
 [[nodiscard]] std::string listText(const std::vector<std::string_view> &texts);
 
 } // namespace velmar

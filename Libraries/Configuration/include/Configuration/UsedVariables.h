@@ -4,7 +4,7 @@
 
 namespace velmar {
 
-/// The variables that the texts of an item use, those of its nested items included. A condition is no text.
+/// Returns the variables used in the texts of an item and of its nested items. Conditions are excluded.
 /// Available for ComponentItem and its alternatives.
 template <class Item>
 requires requires {

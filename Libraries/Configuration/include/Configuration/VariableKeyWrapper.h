@@ -10,11 +10,11 @@
 
 namespace velmar {
 
-/// The bare name of the variable that a key names. Such a key is read by rawValue(), because the plugins
-/// would replace `${NAME}` by the value of the variable.
+/// Returns the bare name of the variable that a key names. Such a key must be read by rawValue(), because the
+/// plugins would replace `${NAME}` by the value of the variable.
 [[nodiscard]] std::vector<std::string> nameOfVariable(const std::string &text);
 [[nodiscard]] std::vector<std::string> nameOfVariable(const std::optional<std::string> &text);
-/// The bare keys of a dictionary by names of variables.
+/// Returns the bare keys of a dictionary whose keys are names of variables.
 [[nodiscard]] std::vector<std::string>
 namesOfVariables(const std::optional<std::map<std::string, std::string>> &values);
 
@@ -41,7 +41,7 @@ public:
                        DeclaredNames names = nullptr)
         : Base(std::move(defaultValue), name, requirement), declaredNames_(names) {}
 
-    /// nullptr for a key that declares nothing.
+    /// Returns nullptr for a key that declares nothing.
     [[nodiscard]] DeclaredNames declaredNames() const { return declaredNames_; }
     [[nodiscard]] DeclaringForm declaringForm() const { return form_; }
 

@@ -10,15 +10,14 @@
 
 namespace velmar {
 
-/// Which place of a file uses which variables, in the order in which it is decoded: every text with a
-/// reference and every condition that names a variable, those of the books among them. For a tool; a decoding
-/// keeps only the places.
+/// The places of a file that use variables, in decoding order: every text with a reference and every
+/// condition that names a variable, including those of the books. Recorded for tools only.
 struct VariablesRecords {
     struct Record {
         VariableNames variables; ///< Never empty.
         std::string codingPath;
         std::uint32_t offset = 0; ///< As PropertyListValue::offset().
-        /// Absent for a text. The names that a condition uses may be those of other conditions as well.
+        /// Absent for a text. The names in a condition may also be those of other conditions.
         std::optional<expressions::Expression> condition;
     };
 

@@ -13,7 +13,7 @@
 
 namespace velmar {
 
-/// An item whose coding visits the values of its keys, or the item of its kind.
+/// An item whose coding can visit the values within it.
 template <class T>
 concept VisitableItem = (KeysCodableItem<T> || TaggedItem<T>)&&requires(const T &item,
                                                                         const ValuePlace &place,
@@ -35,9 +35,9 @@ inline constexpr bool isDictionary<std::map<std::string, T>> = true;
 
 } // namespace detail
 
-/// Visits a value that the file gives at `place`, then every value within it: the elements of a list, the
-/// entries of a dictionary or book, what a variant holds, and the values of an item's keys. As deep as the
-/// file, whose depth the property list limits.
+/// Visits the value at `place`, then every value within it: the elements of a list, the entries of a
+/// dictionary or book, the alternative of a variant, and the values of an item's keys. The property list
+/// limits the depth of the recursion.
 template <class T>
 void visitValues(const T &value, const ValuePlace &place, ValueVisitor &visitor) {
     if constexpr (requires { value.has_value(); }) {

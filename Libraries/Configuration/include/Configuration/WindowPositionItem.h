@@ -8,7 +8,8 @@
 
 namespace velmar {
 
-/// Where a window opens on its screen; the padding, in points, counts from an edge and not in a centred axis.
+/// The position of a window on its screen. The padding, in points, applies at an edge and not on a centred
+/// axis.
 struct WindowPositionItem {
     static constexpr std::string_view typeName = "WindowPositionItem";
 

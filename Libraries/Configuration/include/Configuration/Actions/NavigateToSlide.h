@@ -17,13 +17,13 @@ struct NavigateToSlide {
     static constexpr std::string_view typeName = "ActionItem.NavigateToSlide";
     static constexpr TypeIdentifier typeIdentifier = TypeIdentifier::navigateToSlide;
 
-    /// Where to go.
+    /// The target of the navigation.
     struct Jump {
         struct Index {
-            std::int64_t index = 0; ///< Of a slide, from 0.
+            std::int64_t index = 0; ///< Index of a slide, from 0.
         };
         struct Offset {
-            std::int64_t offset = 0; ///< From the slide on show.
+            std::int64_t offset = 0; ///< Relative to the current slide.
         };
         std::variant<Index, Offset> value;
     };
@@ -34,7 +34,7 @@ struct NavigateToSlide {
 
     [[nodiscard]] Jump jump() const;
 
-    /// There is a slide of that index. Throws ConfigurationError.
+    /// Checks that the slide of an index exists. Throws ConfigurationError.
     void validateReferences(const Library &library) const;
 };
 

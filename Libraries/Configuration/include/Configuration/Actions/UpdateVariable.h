@@ -20,7 +20,7 @@ struct UpdateVariable {
     VariableKeyWrapper<std::string> _variable{"Variable", required, &nameOfVariable};
     KeyWrapper<std::string> _newValue{"NewValue", required};
 
-    /// The system's own variables are not an action's to change. Throws ConfigurationError.
+    /// Checks that the variable isn't one of Placeholders. Throws ConfigurationError.
     void validate(const CodingPath &path) const;
 };
 

@@ -28,7 +28,7 @@ struct Button {
         return std::to_array<EnumCase<Style>>({{Style::simple, "Simple"}, {Style::info, "Info"}});
     }
 
-    /// What opens beside the button, from its own text or from that of a file.
+    /// A popover of the button, with a text of its own or that of a file.
     struct Popover {
         static constexpr std::string_view typeName = "ComponentItem.Button.Popover";
 

@@ -9,7 +9,7 @@
 
 namespace velmar::ComponentItems {
 
-/// What the user types or chooses.
+/// A text field, a list or checkboxes for the user's input.
 struct Input {
     static constexpr std::string_view typeName = "ComponentItem.Input";
     static constexpr ComponentItems::TypeIdentifier typeIdentifier = ComponentItems::TypeIdentifier::input;

@@ -12,7 +12,8 @@ struct Spacer {
     static constexpr TypeIdentifier typeIdentifier = TypeIdentifier::spacer;
 
     ComponentItemProtocol common;
-    KeyWrapper<std::optional<double>> _height{"Height", optional}; ///< In points; absent takes what is left.
+    KeyWrapper<std::optional<double>> _height{"Height",
+                                              optional}; ///< In points; absent: the remaining height.
 };
 
 } // namespace velmar::ComponentItems

@@ -25,7 +25,7 @@ struct Checkboxes {
     KeyWrapper<std::vector<std::string>> _items{"Items", required};
     KeyWrapper<std::optional<ValidationItem>> _validation{"Validation", optional};
 
-    /// Tells the variable of each box: that of the input, "-" and the index from 0.
+    /// Declares the variable of each box: the variable of the input, "-" and the index from 0.
     void declareVariables(const std::function<void(std::string)> &declare) const;
 };
 

@@ -16,7 +16,7 @@ struct FontItem;
 
 namespace velmar::ComponentItems::Inputs {
 
-/// The kinds of inputs; the names to use are those within ComponentItem::Input.
+/// Types of inputs. Code uses the aliases in ComponentItem::Input.
 enum class InputTypeIdentifier { text, list, checkboxes };
 
 constexpr auto casesOf(InputTypeIdentifier) {
@@ -25,7 +25,7 @@ constexpr auto casesOf(InputTypeIdentifier) {
                                                          {InputTypeIdentifier::checkboxes, "Checkboxes"}});
 }
 
-/// The keys that every input has behind those of every component.
+/// The keys common to all inputs, after those common to all components.
 struct InputComponentItemProtocol {
     using IsKeyGroup = void;
 
@@ -37,7 +37,7 @@ struct InputComponentItemProtocol {
     KeyWrapper<std::optional<double>> _percentWidth{std::nullopt, "PercentWidth", optional, {0, 1}};
 };
 
-/// The keys that every validation begins with.
+/// The keys common to all validations; the first member of each.
 struct ValidationItemProtocol {
     using IsKeyGroup = void;
 

@@ -11,12 +11,12 @@
 
 namespace velmar::MonitorItems {
 
-/// An application whose installation is followed.
+/// An application whose installation is monitored.
 struct App {
     static constexpr std::string_view typeName = "MonitorItem.App";
     static constexpr TypeIdentifier typeIdentifier = TypeIdentifier::application;
 
-    /// Where its state comes from.
+    /// The source of the installation state.
     enum class Installer { system, jamf, airwatch, managed };
     friend constexpr auto casesOf(Installer) {
         return std::to_array<EnumCase<Installer>>({{Installer::system, "System"},
@@ -25,7 +25,7 @@ struct App {
                                                    {Installer::managed, "Managed"}});
     }
 
-    /// The variable that holds the state of the application of that name: "MY_APP_INSTALLATION_STATE" of
+    /// Returns the name of the variable that holds the installation state: "MY_APP_INSTALLATION_STATE" for
     /// "My App".
     [[nodiscard]] static std::string stateVariableName(std::string_view name);
 

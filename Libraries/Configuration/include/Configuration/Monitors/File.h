@@ -7,7 +7,7 @@
 
 namespace velmar::MonitorItems {
 
-/// A file whose presence is followed.
+/// A file whose presence is monitored.
 struct File {
     static constexpr std::string_view typeName = "MonitorItem.File";
     static constexpr TypeIdentifier typeIdentifier = TypeIdentifier::file;

@@ -7,7 +7,7 @@
 
 namespace velmar::MonitorItems {
 
-/// The kinds of monitors; the names to use are those within MonitorItem.
+/// Types of monitors. Code uses the aliases in MonitorItem.
 enum class TypeIdentifier { application, file };
 
 constexpr auto casesOf(TypeIdentifier) {
@@ -15,7 +15,7 @@ constexpr auto casesOf(TypeIdentifier) {
         {{TypeIdentifier::application, "Application"}, {TypeIdentifier::file, "File"}});
 }
 
-/// The key that every monitor begins with.
+/// The key common to all monitors; the first member of each.
 struct MonitorItemProtocol {
     using IsKeyGroup = void;
 
