@@ -1,5 +1,4 @@
-// What every item declares of every one of its keys, checked from outside: on files made out of the
-// declarations.
+// The declarations of every key of every item, tested on files generated from the declarations.
 #include "Support.h"
 
 #include <Configuration/VisitedValue.h>
@@ -19,7 +18,7 @@ namespace {
 
 using Kind = ValueDescription::Kind;
 
-/// One step from an item down to another: the key (or the kind) and what lies between.
+/// A step from an item to another: the key (or the kind) and the containers between them.
 struct Step {
     std::string from;
     std::string key;  ///< Empty where `to` is a kind of `from`.
@@ -27,7 +26,7 @@ struct Step {
     std::vector<Kind> within;
 };
 
-/// Every item of the file, put into a file of least size.
+/// Places every item of the file format in a minimal file.
 class Places {
 public:
     Places() {
@@ -53,7 +52,7 @@ public:
         std::string path;
     };
 
-    /// A file whose only item of the type, as far as the way there allows, is the one given.
+    /// Returns a file with the given item as the only one of its type, if the path to it allows.
     [[nodiscard]] Place with(const std::string &typeName, PropertyList item) {
         std::string path;
         std::string type = typeName;
@@ -110,12 +109,12 @@ private:
     std::map<std::string, Step> ways_;
 };
 
-/// A value that no key of the kind takes.
+/// Returns a value that no key of the kind accepts.
 PropertyList wrongFor(const ValueDescription &value) {
     return value.kind == Kind::boolean ? PropertyList("no boolean") : PropertyList(PropertyList::Date{0});
 }
 
-/// Calls `check` with every key of every item, the item with what it requires and this key, and the places.
+/// Calls `check` with the places, the type, each key, and an item with its required keys and this key.
 template <class Check>
 void forEveryKey(Check check) {
     Places places;
@@ -138,7 +137,7 @@ TEST(Declarations, EveryKeyIsTakenAndWrittenBack) {
     forEveryKey(
         [](Places &places, const std::string &typeName, const KeyDescription &key, PropertyList item) {
             if (key.name == "IsLarge" || key.name == "WidthRatio") {
-                return; // What a slide makes of its containers' widths has a test of its own.
+                return; // A separate test checks the widths of containers.
             }
             const PropertyList file = places.with(typeName, std::move(item)).file;
             ASSERT_EQ(outcomeOf(file), "decoded") << file.text();
@@ -160,7 +159,7 @@ TEST(Declarations, EveryKeyIsVisitedAtItsPlace) {
     forEveryKey(
         [](Places &places, const std::string &typeName, const KeyDescription &key, PropertyList item) {
             if (key.name == "IsLarge" || key.name == "WidthRatio") {
-                return; // As above.
+                return; // A separate test checks the widths of containers.
             }
             const Places::Place place = places.with(typeName, std::move(item));
             const PropertyListDocument document = PropertyListDocument::of(place.file);
@@ -261,7 +260,7 @@ TEST(Declarations, EveryRangeHoldsItsBoundsAndNoMore) {
         for (const double outside : {key.range->lower - 0.001, key.range->upper + 0.001}) {
             EXPECT_THAT(outcome(outside), testing::HasSubstr("in allowed range 0.0...1.0 at ")) << outside;
         }
-        // What the other keys of the item make of the bound is not this key's range.
+        // Other keys of the item may refuse the bound, but the range must not.
         EXPECT_THAT(outcome(key.range->lower), testing::Not(testing::HasSubstr("allowed range")));
         EXPECT_THAT(outcome(key.range->upper), testing::Not(testing::HasSubstr("allowed range")));
     });
@@ -279,7 +278,7 @@ TEST(Declarations, EveryRuleBetweenKeysIsKept) {
             const auto sibling = std::ranges::find(keys, name, &KeyDescription::name);
             to.set(name, places.generator().value(typeName, *sibling));
         };
-        // Both this key and the listed ones, then neither, then only the others.
+        // Three files: this key and the listed ones, none of them, only the listed ones.
         PropertyList::Dictionary both = *item.dictionary();
         PropertyList::Dictionary none;
         PropertyList::Dictionary others;
@@ -432,7 +431,7 @@ TEST(Declarations, BodiesKeepTheirKindsAndGrow) {
     } catch (const ConfigurationError &error) {
         EXPECT_EQ(error.errorDescription(), "Trying to add value to the body which is not a(n) dictionary");
     }
-    // Two actions that name one request are two requests.
+    // Actions that name the same request have separate requests.
     const auto &actions = configuration->_actionSets().front().set._actions();
     const auto requestOf = [](const ActionItem &action) {
         return std::get<ActionItem::SendRequest>(action.value)._request();

@@ -75,7 +75,8 @@ TEST(Populatable, GoesAsDeepAsTheVariablesLead) {
                 testing::StartsWith("Circular reference involving V5000. Traceback: 'V0 → V1"));
 }
 
-// Each variable names the one before it twice, so that the last of thirty stands for 2^30 of the first.
+// Each variable refers to the previous one twice, so that the last of thirty expands to 2^30 copies of the
+// first.
 TEST(Populatable, EndsWithinItsLimits) {
     const auto doubling = [](std::string first, std::string name) {
         Variables variables = {{name + "0", std::move(first)}};

@@ -27,7 +27,7 @@ TEST(ColorItem, ReadsHexadecimalSpecifications) {
         {"#112233", {0x11, 0x22, 0x33, std::nullopt}},
         {"#11223344", {0x11, 0x22, 0x33, 0x44}},
         {"#fFaA00", {0xFF, 0xAA, 0x00, std::nullopt}},
-        // A number begins, and what follows it within the six characters is not looked at.
+        // Characters after the leading number are ignored.
         {"#12ZZZZ", {0x00, 0x00, 0x12, std::nullopt}},
         {"#0x12AB", {0x00, 0x12, 0xAB, std::nullopt}},
     };
@@ -68,7 +68,7 @@ TEST(Styles, FailWithTheirTexts) {
     }
 }
 
-// Grandparent, parent and child, given in an order that is none of inheritance.
+// Grandparent, parent and child, not in the order of inheritance.
 constexpr const char *family = R"(
     <key>ColorStyles</key><dict>
         <key>Child</key><dict><key>Style</key><string>Parent</string><key>AlphaLight</key><real>0.25</real></dict>

@@ -66,7 +66,7 @@ TEST(Variables, MakeChainsOfAnyLength) {
     for (int index = 0; index < length; ++index) {
         content += fmt::format("<key>V{}</key><string>${{V{}}}</string>", index, index + 1);
     }
-    // The values lead to the last one and from there into the middle.
+    // The chain of values ends in a reference to its middle.
     const auto file =
         validFileWith(fmt::format("<key>General</key><dict><key>Variables</key><dict>{}<key>V{}</key>"
                                   "<string>${{V5000}}</string></dict></dict>",

@@ -19,8 +19,8 @@ constexpr std::array<std::string_view, 7> forms{
     "Launch",           "Termination",         "NextButtonClick", "PreviousButtonClick",
     "Update(Variable)", "AppLaunch(BundleID)", "Custom(Name)"};
 
-/// Where the line ends that a position of a text is in: at a line feed, a vertical tab, a form feed, a
-/// carriage return, or NEL, LS and PS.
+/// Returns the end of the line that contains a position. A line ends at a line feed, vertical tab, form feed,
+/// carriage return, NEL, LS or PS.
 std::size_t endOfLine(std::string_view text, std::size_t position) {
     std::size_t end = text.find_first_of("\n\v\f\r", position);
     for (const std::string_view separator : {"\xC2\x85", "\xE2\x80\xA8", "\xE2\x80\xA9"}) {
@@ -29,8 +29,8 @@ std::size_t endOfLine(std::string_view text, std::size_t position) {
     return std::min(end, text.size());
 }
 
-/// What stands between the first opening bracket behind a word and the last closing one of the same line;
-/// none where nothing does. The meaning of `(?<=WORD\().+(?=\))`, which takes quadratic time on long texts.
+/// Returns the text between the first opening bracket after a word and the last closing one of the same line,
+/// if there is any. Equivalent to `(?<=WORD\().+(?=\))`, which takes quadratic time on long texts.
 std::optional<std::string_view> payload(std::string_view text, std::string_view opening) {
     for (std::size_t found = text.find(opening); found != std::string_view::npos;) {
         const std::size_t begin = found + opening.size();
@@ -39,7 +39,7 @@ std::optional<std::string_view> payload(std::string_view text, std::string_view 
         if (closing != std::string_view::npos && closing > begin) {
             return text.substr(begin, closing - begin);
         }
-        // The same bracket closes what is opened later in the line, so there is less between them there.
+        // A later opening in this line has the same last bracket, so it encloses nothing either.
         found = text.find(opening, end);
     }
     return std::nullopt;

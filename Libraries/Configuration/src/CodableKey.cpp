@@ -69,7 +69,7 @@ std::uint32_t offsetWithin(const Decoding &item, std::string_view path) {
 
 KeyList::KeyList(std::vector<CodableKey> keys) : keys_(std::move(keys)) {
     for (const CodableKey &key : keys_) {
-        // The other two are seen to while decoding.
+        // `optional` and `required` are handled while decoding.
         const Requirement &requirement = key.requirement();
         if (requirement.type == RequirementType::optional || requirement.type == RequirementType::required) {
             continue;
@@ -90,7 +90,7 @@ void decodeKeys(void *item, const KeyList &keys, std::string_view typeName, cons
     if (!decoding.value.isDictionary()) {
         throwNoItem(decoding, itemTypeText(typeName));
     }
-    // First, because the key that is missed may be there with a slip.
+    // Noted first: a missing key may be present with a misspelled name.
     if (decoding.context.notes() != nullptr) {
         noteUnknownKeys(keys, decoding);
     }

@@ -12,7 +12,7 @@ void CodingPath::appendTo(std::string &text) const {
     if (parent_ == nullptr) {
         return;
     }
-    parent_->appendTo(text); // No deeper than a property list may be.
+    parent_->appendTo(text); // The property list limits the depth.
     if (!text.empty()) {
         text += '.';
     }

@@ -11,8 +11,8 @@ namespace velmar {
 
 namespace {
 
-/// The number that the text begins with, as the scanners of numbers read it: "0x" may precede it, and what
-/// follows the last digit is not looked at. None where no digit stands at the beginning.
+/// Returns the number at the beginning of the text, optionally after "0x". Text after the last digit is
+/// ignored. Returns std::nullopt without a leading digit.
 std::optional<std::uint64_t> scanHexadecimal(std::string_view text) {
     const auto digit = [](char letter) -> std::optional<unsigned> {
         if (letter >= '0' && letter <= '9') {

@@ -36,7 +36,7 @@ namespace velmar {
 
 namespace {
 
-/// The key within its book of the model that an error is about; empty for none.
+/// Returns the key of the faulty model in its book; empty for none.
 std::string modelOf(const BookError &error) {
     return std::visit(
         [](const auto &fault) -> std::string {
@@ -49,7 +49,7 @@ std::string modelOf(const BookError &error) {
         error.value());
 }
 
-/// Applies the parents of the models in a book that stands in a dictionary of the file.
+/// Applies the parents of the models in the book that `dictionary` contains.
 template <class Model>
 void resolve(KeyWrapper<Book<Model>> &holder, const PropertyListValue &dictionary, const CodingPath &path,
              DecodingContext &context) {

@@ -42,7 +42,7 @@ std::int64_t Decodable<std::int64_t>::decode(const Decoding &decoding) {
         return *value;
     }
     if (const auto value = decoding.value.real()) {
-        constexpr double limit = 9223372036854775808.0; // 2^63, the first whole number beyond
+        constexpr double limit = 9223372036854775808.0; // 2^63, the first integer out of range
         if (*value >= -limit && *value < limit && std::trunc(*value) == *value) {
             return static_cast<std::int64_t>(*value);
         }
@@ -62,7 +62,7 @@ double Decodable<double>::decode(const Decoding &decoding) {
         return static_cast<double>(*value);
     }
     if (const auto value = decoding.value.real()) {
-        // No key of the file has a use for an infinite size, and "nan" passes every range.
+        // No key has a use for infinity or NaN, and not every key has a range.
         if (!std::isfinite(*value)) {
             throw ConfigurationError(
                 ConfigurationErrors::WrongValue{std::string(decoding.path.lastKey()), decoding.path.text()});

@@ -14,22 +14,21 @@ namespace velmar {
 
 namespace {
 
-/// No key of any item is nearly as long, and a comparison takes the product of the lengths.
+/// Longer than any declared key; a comparison takes the product of the lengths.
 constexpr std::size_t longestCompared = 80;
 
-/// More than anybody reads; a file can have a million.
+/// Limits the size of the notes, since a file can have a million.
 constexpr std::size_t mostNotesWithText = 1000;
 
-/// A path beyond this is told by its last key.
+/// A longer path is noted by its last key.
 constexpr std::size_t longestPathNoted = 4096;
 
 char lowered(char letter) {
     return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
 }
 
-/// The number of letters to insert, delete, replace or swap with their neighbour (the optimal string
-/// alignment distance), the case of letters left aside.
-/// Both are at most longestCompared long.
+/// Returns the optimal string alignment distance, ignoring case: the number of letters to insert, delete,
+/// replace or swap with a neighbour. Both texts must have at most longestCompared bytes.
 std::size_t distance(std::string_view from, std::string_view to) {
     std::array<std::array<std::size_t, longestCompared + 1>, 3> rows{};
     auto *beforeLast = &rows[0];
@@ -54,7 +53,7 @@ std::size_t distance(std::string_view from, std::string_view to) {
     return (*row)[to.size()];
 }
 
-/// The known text that was most likely meant, if any comes near.
+/// Returns the most similar known text, or std::nullopt if none is similar enough.
 std::optional<std::string_view> nearest(std::string_view given, std::span<const std::string_view> known) {
     if (given.size() > longestCompared) {
         return std::nullopt;
@@ -143,7 +142,7 @@ void DecodingContext::declareByPopulatedTexts(const std::map<std::string, std::s
         return;
     }
     const Variables variables(initialValues.begin(), initialValues.end());
-    std::set<std::string_view> done; // The same text declares the same.
+    std::set<std::string_view> done; // Equal texts declare equal names.
     for (const auto &[text, names] : declaringTexts_) {
         if (!done.insert(text).second) {
             continue;
@@ -152,7 +151,7 @@ void DecodingContext::declareByPopulatedTexts(const std::map<std::string, std::s
         try {
             form = populated(text, variables);
         } catch (const ExpressionError &) {
-            // The fault of the text or of the variable is told where the variables are checked.
+            // checkVariables() reports the fault.
             continue;
         }
         for (std::string &name : names(form)) {
@@ -193,7 +192,7 @@ void DecodingContext::noteFailure(const std::string &keyPath, std::uint32_t offs
 }
 
 void DecodingContext::noteFailure(const CodingPath &keyPath, std::uint32_t offset) {
-    // Every level on the way out notes it; the text of a path can be as long as the file.
+    // Every level of the unwinding calls this, and the text of a path can be as long as the file.
     if (notes_ != nullptr && !notes_->failure) {
         noteFailure(keyPath.text(), offset);
     }

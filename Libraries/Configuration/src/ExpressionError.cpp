@@ -12,7 +12,7 @@ std::string OwnDefinition::errorDescription() const {
 }
 
 std::string CircularReference::errorDescription() const {
-    // A text is told of at every reading: the two ends of a long way must do.
+    // Reported at each read, so long traces are cut in the middle.
     constexpr std::ptrdiff_t shownAtEachEnd = 10;
     if (std::ssize(originPath) <= 2 * shownAtEachEnd) {
         return fmt::format("Circular reference involving {}. Traceback: '{}'.", name,

@@ -15,7 +15,7 @@ using PluginList = std::vector<std::shared_ptr<const Plugin>>;
 struct State {
     std::mutex mutex;
     std::shared_ptr<const PluginList> plugins = std::make_shared<const PluginList>();
-    std::atomic<bool> isEmpty{true}; // The usual case of a decoding takes no lock.
+    std::atomic<bool> isEmpty{true}; // Lets reads skip the lock while there are no plugins.
 
     template <class Change>
     void change(Change change) {

@@ -15,7 +15,7 @@ namespace {
 constexpr std::size_t mostBytes = std::size_t{16} << 20U;
 constexpr std::size_t mostReferences = 1'000'000;
 
-/// One population. It keeps its own stack: the variables decide how deep they lead.
+/// A population of one text. Iterative, because the variables decide the depth of nesting.
 class Population {
 public:
     explicit Population(const Variables &variables) : variables_(variables) {}
@@ -38,7 +38,7 @@ public:
 
 private:
     struct Level {
-        const Variables::value_type *variable; ///< Null for the text itself.
+        const Variables::value_type *variable; ///< nullptr for the text itself.
         std::string_view text;
         VariableReferences references;
     };
@@ -67,7 +67,7 @@ private:
         levels_.push_back({&*variable, value, VariableReferences(value)});
     }
 
-    /// Names count as well: they are read, and may be long where their values are empty.
+    /// Counts names as well, since they may be long even if their values are empty.
     void count(std::string_view name) {
         bytesOfNames_ += name.size();
         if (bytesOfNames_ > mostBytes) {
@@ -118,7 +118,7 @@ VariableNames involvedVariables(std::string_view text, const Variables &variable
     VariableNames names;
     std::size_t bytes = 0;
     std::vector<std::string_view> open{text};
-    // Of a variable that is written in several ways, too, the value is read once.
+    // Read each value once, even if its name occurs in different normal forms.
     boost::unordered_flat_set<const Variables::value_type *> read;
     while (!open.empty()) {
         VariableReferences references(open.back());
@@ -126,7 +126,7 @@ VariableNames involvedVariables(std::string_view text, const Variables &variable
         while (const auto reference = references.next()) {
             bytes += reference->name.size();
             if (bytes > mostBytes || names.size() > mostReferences) {
-                return names; // Nothing that long is populated either.
+                return names; // populated() refuses such a text too.
             }
             if (names.contains(reference->name)) {
                 continue;

@@ -21,7 +21,7 @@ bool givesRatio(const ContainerItem &container) {
     return container._widthRatio.wasGivenValueWhileDecoding();
 }
 
-/// The sum in the order of the array: the texts show it, and it is compared exactly.
+/// Returns the sum in array order, since it is compared exactly and shown in messages.
 double sumOfRatios(const std::vector<ContainerItem> &containers) {
     double sum = 0;
     for (const ContainerItem &container : containers) {

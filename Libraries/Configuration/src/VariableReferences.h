@@ -5,17 +5,18 @@
 
 namespace velmar {
 
-/// The references to variables in a text, from left to right. The text outlives it.
+/// Iterates over the references to variables in a text, from left to right. The text must outlive this
+/// object.
 class VariableReferences {
 public:
     struct Reference {
-        std::string_view before; ///< What stands between the reference before and this one.
+        std::string_view before; ///< The text since the previous reference.
         std::string_view name;
     };
 
     explicit VariableReferences(std::string_view text) : rest_(text) {}
 
-    /// None after the last one.
+    /// Returns std::nullopt after the last reference.
     [[nodiscard]] std::optional<Reference> next() {
         const std::size_t begin = rest_.find("${");
         if (begin == std::string_view::npos) {
@@ -30,7 +31,7 @@ public:
         return reference;
     }
 
-    /// What stands behind the references so far.
+    /// Returns the text after the references read so far.
     [[nodiscard]] std::string_view rest() const { return rest_; }
 
 private:

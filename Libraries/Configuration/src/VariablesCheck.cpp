@@ -25,20 +25,21 @@ namespace {
 
 using Names = boost::unordered_flat_set<std::string_view, VariableNameHash, VariableNameEqual>;
 
-/// Follows the references among General.Variables: each variable once, so that a file of any size is checked
-/// in one pass, and without recursion, because the file decides how long a chain is.
+/// Follows the references among General.Variables. Each variable is followed once, so that one pass checks a
+/// file of any size. Iterative, because the file decides the length of a chain.
 class BookCheck {
 public:
-    /// What the values may use beside the variables of the book.
+    /// `others` are the defined names besides the variables of the book. They must outlive this object.
     BookCheck(const ExpressionsBook<std::string>::Models &models, const Names &others) : others_(others) {
         variables_.reserve(models.size());
         for (const auto &[name, value] : models) {
-            byName_.insert_or_assign(bareVariableName(name), variables_.size()); // As the store has it.
+            byName_.insert_or_assign(bareVariableName(name),
+                                     variables_.size()); // The store uses bare names too.
             variables_.push_back({name, value});
         }
     }
 
-    /// A fault with the name of the variable to correct.
+    /// A fault and the name of the variable to correct.
     struct Fault {
         std::string name;
         ExpressionError error;
@@ -60,7 +61,7 @@ private:
         enum class State { untouched, open, done } state = State::untouched;
     };
 
-    /// A variable on the way, and what is still to be followed of its value.
+    /// A variable being followed, and the rest of the references in its value.
     struct Step {
         Variable *variable;
         VariableReferences references;
@@ -144,7 +145,7 @@ void checkBook(const Configuration &configuration, const Names &others, const Pr
     throw ConfigurationError(ConfigurationErrors::Custom{path, fault->error.errorDescription()});
 }
 
-/// The names that a place of the file uses.
+/// Visits the names that a place of the file uses.
 template <class Visit>
 void visitNames(const DecodingContext::VariablesUse &use, Visit visit) {
     if (use.condition != nullptr) {

@@ -6,9 +6,9 @@ class DecodingContext;
 class PropertyListValue;
 struct Configuration;
 
-/// Checks that what the variables and all else of a decoded file use is defined, and that no variable's value
-/// leads back to itself. Throws ConfigurationError for a fault of General.Variables, with its path, and
-/// ExpressionError for one elsewhere.
+/// Checks that all variables used in a decoded file are defined, and that no value of a variable refers back
+/// to that variable. Throws ConfigurationError with the path for a fault in General.Variables, and
+/// ExpressionError for a fault elsewhere.
 void checkVariables(const Configuration &configuration, const PropertyListValue &file,
                     DecodingContext &context);
 
