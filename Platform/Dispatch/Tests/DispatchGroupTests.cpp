@@ -19,7 +19,7 @@ using testing::ElementsAre;
 TEST(DispatchGroup, TellsWhenEverythingHasLeft) {
     const DispatchQueue queue("group");
     const DispatchGroup group;
-    std::vector<int> told; // touched on the queue, read after waiting for it
+    std::vector<int> told; // Written on the queue, read after waiting for it.
     group.enter();
     group.enter();
     group.notify(queue, [&] { told.push_back(1); });
@@ -31,9 +31,9 @@ TEST(DispatchGroup, TellsWhenEverythingHasLeft) {
     ASSERT_TRUE(queue.waitUntilIdle(30s));
     EXPECT_THAT(told, ElementsAre(1, 2));
 
-    group.notify(queue, [&] { told.push_back(3); }); // nothing is under way
+    group.notify(queue, [&] { told.push_back(3); }); // No operation is in progress.
     group.enter();
-    group.leave(); // tells nothing twice
+    group.leave(); // Must not notify a second time.
     ASSERT_TRUE(queue.waitUntilIdle(30s));
     EXPECT_THAT(told, ElementsAre(1, 2, 3));
 }
@@ -53,8 +53,8 @@ TEST(DispatchGroupDeathTest, LetsGoOfRefusedFunctionsOutsideOfItsLock) {
     testing::FLAGS_gtest_death_test_style = "threadsafe";
     EXPECT_EXIT(
         {
-            alarm(10);      // in place of a deadlock
-            struct Caller { // its end calls back into the group
+            alarm(10);      // Ends the process instead of a deadlock.
+            struct Caller { // The destructor calls the group.
                 DispatchGroup group;
                 ~Caller() {
                     group.enter();

@@ -20,7 +20,7 @@ TEST(DispatchQueue, RunsInOrderAndOneAtATimeForEachPoster) {
     const DispatchQueue queue("order");
     constexpr int posters = 4;
     constexpr int each = 2000;
-    std::vector<std::vector<int>> seen(posters); // written by the queue alone, without a lock
+    std::vector<std::vector<int>> seen(posters); // Written only on the queue, without a lock.
     std::vector<std::thread> threads;
     for (int poster = 0; poster < posters; ++poster) {
         threads.emplace_back([&, poster] {
@@ -97,7 +97,7 @@ TEST(DispatchQueue, ReportsWhatAFunctionThrowsAndGoesOn) {
     std::vector<std::string> reports;
     setUncaughtHandler([&](std::string_view label, const std::exception_ptr &exception) {
         reports.push_back(std::string(label) + ": " + std::string(textOf(exception)));
-        throw std::runtime_error("from the handler"); // is dropped
+        throw std::runtime_error("from the handler"); // Is dropped.
     });
     const DispatchQueue queue("faulty");
     queue.async([] { throw std::runtime_error("out of paper"); });
@@ -108,8 +108,7 @@ TEST(DispatchQueue, ReportsWhatAFunctionThrowsAndGoesOn) {
                                                  "faulty: an object that is no std::exception"}));
 }
 
-// The end of a process is tried in processes of their own; "threadsafe" starts them from the program's
-// beginning.
+// Tests of process exit run in child processes; "threadsafe" starts them from the beginning of the program.
 class DispatchQueueDeathTest : public testing::Test {
 protected:
     void SetUp() override { testing::FLAGS_gtest_death_test_style = "threadsafe"; }
@@ -118,8 +117,8 @@ protected:
 TEST_F(DispatchQueueDeathTest, ShutdownIsBoundedAlsoWhereAFunctionThatNeverRanHangs) {
     EXPECT_EXIT(
         {
-            // Dropped by a thread of the pool: a strand takes what waits in one go, so this one stands right
-            // behind the one that runs.
+            // Dropped by a pool thread: a strand takes all pending functions at once, so this one is queued
+            // directly behind the running one.
             struct Hanging {
                 ~Hanging() {
                     std::fputs("dropped", stderr);

@@ -19,7 +19,7 @@ TEST(MainThreadQueue, RunsFunctionsOfAllThreadsOnItsOwnInTheirOrder) {
     MainThreadQueue queue;
     constexpr int posters = 4;
     constexpr int each = 2000;
-    std::vector<std::vector<int>> seen(posters); // Written by the loop alone, without a lock.
+    std::vector<std::vector<int>> seen(posters); // Written only by the loop, without a lock.
     bool wasAlwaysCurrent = true;
     std::thread starter([&] {
         std::vector<std::thread> threads;

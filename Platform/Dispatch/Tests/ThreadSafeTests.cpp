@@ -29,7 +29,7 @@ TEST(ThreadSafe, ChangesAsOneStep) {
 }
 
 TEST(ThreadSafe, DropsTheFormerValueOutsideOfItsLock) {
-    // A destructor that reads the value would otherwise wait for itself.
+    // A destructor that reads the value would deadlock under the lock.
     struct Reader {
         ThreadSafe<std::shared_ptr<Reader>> *owner;
         ~Reader() { EXPECT_EQ(owner->value(), nullptr); }

@@ -19,7 +19,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Its tests run once for each kind of queue. They wait on the main queue, which a timer's function wakes.
+/// Runs its tests once for each kind of queue. They wait on the main queue, which the timer's function wakes.
 class DispatchTimers : public testing::TestWithParam<const char *> {
 protected:
     [[nodiscard]] AnyQueue queue() {
@@ -30,7 +30,7 @@ protected:
         return kind == "serial" ? serial : DispatchQueue::global();
     }
 
-    /// A function that counts.
+    /// Returns a function that increments the count and wakes the main queue.
     [[nodiscard]] std::function<void()> counting(std::atomic<int> &count) {
         return [this, &count] {
             ++count;
@@ -43,20 +43,20 @@ protected:
         return main.runUntil([&] { return count >= least; }, 30s);
     }
 
-    /// Runs what all queues hold.
+    /// Runs the pending functions of all queues.
     [[nodiscard]] bool settle() {
         const bool areIdle = serial.waitUntilIdle(30s) && DispatchQueue::global().waitUntilIdle(30s);
         main.runUntilEmpty();
         return areIdle;
     }
 
-    /// Stops the timer, so that its function may lose what it refers to.
+    /// Stops the timer and waits for its run, so that objects referenced by its function may be destroyed.
     [[nodiscard]] bool end(std::unique_ptr<Timer> &timer) {
         timer.reset();
         return settle();
     }
 
-    /// Lets ticks of another timer pass, among which a wrong one would come.
+    /// Waits for several ticks of another timer, during which an unexpected tick would arrive.
     void letTicksPass() {
         std::atomic<int> ticks = 0;
         auto timer = scheduler.repeating(queue(), 1ms, counting(ticks));
@@ -64,7 +64,7 @@ protected:
         EXPECT_TRUE(end(timer));
     }
 
-    /// Runs the function on the queue, and returns after its end and that of what it posts.
+    /// Runs the function on the queue. Returns after the function and the functions it posts have ended.
     void runOnQueue(const std::function<void()> &function) {
         std::atomic<int> ends = 0;
         queue().async([&, ended = counting(ends)] {
@@ -129,7 +129,7 @@ TEST_P(DispatchTimers, TickOnTheirQueueOnceOrAgainAndAgain) {
 
 TEST_P(DispatchTimers, FireBesideTheirScheduleWhateverIsThrown) {
     std::mutex mutex;
-    std::vector<std::string> reports; // Under the mutex.
+    std::vector<std::string> reports; // Guarded by mutex.
     setUncaughtHandler([&](std::string_view label, const std::exception_ptr &exception) {
         const std::lock_guard lock(mutex);
         reports.push_back(std::string(label) + ": " + std::string(textOf(exception)));
@@ -162,7 +162,7 @@ TEST_P(SerialDispatchTimers, MayEndThemselvesInTheirFunction) {
             });
             if (isFired) {
                 timer->fire();
-                timer->fire(); // Finds the timer gone.
+                timer->fire(); // This run finds no timer.
             }
         });
         EXPECT_TRUE(waitFor(count, 1));
@@ -194,7 +194,7 @@ TEST_P(PoolDispatchTimers, DestroyedOnAnotherThreadLetTheRunThatIsUnderWayEnd) {
         }
     });
     started.get_future().wait();
-    timer.reset(); // Would never return if it waited.
+    timer.reset(); // Would deadlock if it waited.
     EXPECT_EQ(held.use_count(), 2);
     release.set_value();
     EXPECT_TRUE(settle());

@@ -40,7 +40,7 @@ void DescriptorWatch::whenReadable(std::function<void()> function) const {
         static_cast<void>(DispatchPool::shared().run([&] {
             runReportingUncaught(state->label, [&] {
                 work();
-                work = nullptr; // whoever is told by it finds its captures gone, too
+                work = nullptr; // Releases the captures as part of the run.
             });
         }));
     };

@@ -27,7 +27,8 @@ void DispatchGroup::enter() const {
 }
 
 void DispatchGroup::leave() const {
-    // What a queue refuses dies after the lock: the end of its captures may call back.
+    // Functions refused by a queue are destroyed after the lock is released: their captures may use the
+    // group.
     std::vector<State::Notification> told;
     const std::lock_guard lock(state_->mutex);
     if (state_->underWay == 0) {
@@ -36,7 +37,7 @@ void DispatchGroup::leave() const {
     if (--state_->underWay > 0) {
         return;
     }
-    // Under the lock, so that what another thread asks for later is posted later.
+    // Posted under the lock, so that later notifications of other threads are posted later.
     told.swap(state_->notifications);
     for (auto &[queue, function] : told) {
         static_cast<void>(queue.post(function));
@@ -46,7 +47,7 @@ void DispatchGroup::leave() const {
 void DispatchGroup::notify(DispatchQueue queue, std::function<void()> function) const {
     const std::lock_guard lock(state_->mutex);
     if (state_->underWay == 0) {
-        static_cast<void>(queue.post(function)); // a refused one dies with the parameter, after the lock
+        static_cast<void>(queue.post(function)); // If refused, destroyed after the lock.
     } else {
         state_->notifications.push_back({std::move(queue), std::move(function)});
     }

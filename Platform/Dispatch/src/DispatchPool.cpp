@@ -27,8 +27,8 @@ DispatchPool &DispatchPool::shared() {
         const SignalsBlocked blocked;
         auto *made = new DispatchPool;
         startedPool = made;
-        // For a process that leaves by `exit` without a shutdown of its own. It runs before the destructors
-        // of static objects made before the pool, and after those of objects made later: see the header.
+        // For a process that calls `exit` without `shutdown`. Runs before the destructors of static objects
+        // made before the pool, and after those of objects made later; see DispatchQueue::shutdown.
         std::atexit([] { static_cast<void>(shutdown(exitTimeout)); });
         return *made;
     }();
@@ -45,7 +45,7 @@ bool DispatchPool::isOnPoolThread() noexcept {
 
 bool DispatchPool::begin() noexcept {
     isPoolThread = true;
-    // Counted first, so that `shutdown` either sees this one running or keeps it from beginning.
+    // Counted first, so that `shutdown` either waits for this function or prevents it from running.
     ++running_;
     return !isEnded;
 }
@@ -67,7 +67,7 @@ bool DispatchPool::shutdown(std::chrono::milliseconds timeout) {
 bool DispatchPool::stop(std::chrono::milliseconds timeout) {
     const auto deadline = std::chrono::steady_clock::now() + timeout;
     threads_.stop();
-    // A function that ends the process would wait for itself.
+    // A function that calls `shutdown` must not wait for itself.
     const std::size_t own = isPoolThread ? 1 : 0;
     std::unique_lock lock(mutex_);
     if (!ended_.wait_until(lock, deadline, [&] { return running_ <= own; })) {
@@ -82,8 +82,8 @@ bool DispatchPool::stop(std::chrono::milliseconds timeout) {
     return ended_.wait_until(lock, deadline, [&] { return hasJoined_; });
 }
 
-// A thread may still let go of a function that never ran, whose captures may do anything: joining has no
-// bound of its own.
+// On its own thread, because joining has no timeout: a pool thread may still be destroying a function that
+// never ran.
 void DispatchPool::startJoining() {
     const SignalsBlocked blocked;
     std::thread([this] {

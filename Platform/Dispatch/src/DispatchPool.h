@@ -10,8 +10,8 @@
 
 namespace velmar {
 
-/// The threads of all queues, started at the first use. It is never destroyed, so that a queue of a static
-/// object works until the process ends; its threads end in `shutdown`.
+/// The threads of all queues, started at first use. Never destroyed, so that a queue of a static object works
+/// until the process ends; `shutdown` ends its threads.
 class DispatchPool {
 public:
     [[nodiscard]] static DispatchPool &shared();
@@ -23,8 +23,8 @@ public:
 
     [[nodiscard]] asio::thread_pool::executor_type executor() noexcept { return threads_.get_executor(); }
 
-    /// Runs a function, which doesn't throw, on the pool's thread that it is called on, unless the pool is
-    /// shut down. False if so.
+    /// Runs a function on the current pool thread. Returns false, without running it, if the pool is shut
+    /// down. The function must not throw.
     template <class Function>
     bool run(const Function &function) {
         const bool mayRun = begin();
@@ -46,7 +46,7 @@ private:
     std::atomic<std::size_t> running_{0};
     std::mutex mutex_;
     std::condition_variable ended_;
-    bool isJoining_ = false; // both under the mutex
+    bool isJoining_ = false; // Both guarded by mutex_.
     bool hasJoined_ = false;
 };
 

@@ -18,7 +18,7 @@ struct DispatchQueue::State {
 
     std::string label;
     bool isSerial = true;
-    // Made at the first use: a queue that nothing is posted to starts no threads.
+    // Made at first use: a queue without posted functions starts no threads.
     std::once_flag strandMade;
     std::optional<asio::strand<asio::thread_pool::executor_type>> strand;
 
@@ -66,7 +66,8 @@ bool DispatchQueue::post(std::function<void()> &function) const {
         const bool hasRun = pool.run([&] {
             runReportingUncaught(state->label, [&] {
                 work();
-                // What it holds goes with it: whoever has waited for the queue finds the captures gone, too.
+                // Destroyed before the function counts as done, so that the captures are gone when
+                // `waitUntilIdle` returns.
                 work = nullptr;
             });
         });
@@ -86,7 +87,7 @@ bool DispatchQueue::post(std::function<void()> &function) const {
 bool DispatchQueue::waitUntilIdle(std::chrono::milliseconds timeout) const {
     State &state = *state_;
     const std::uint64_t target = state.posted;
-    // A serial queue ends its functions in the order of posting, so a count tells which have run.
+    // A serial queue completes functions in the order of posting, so the count identifies the ones that ran.
     const auto isIdle = [&] { return state.done >= (state.isSerial ? target : state.posted.load()); };
     if (isIdle()) {
         return true;

@@ -46,7 +46,7 @@ private:
         if (!function_.postTick() || interval_.count() == 0) {
             return;
         }
-        // Ticks keep their places on the clock; missed ones are left out.
+        // The next tick stays on the grid of the interval; missed ticks are skipped.
         const auto late = std::chrono::steady_clock::now() - timer_.expiry();
         timer_.expires_at(timer_.expiry() + interval_ * (1 + late / interval_));
         wait();
@@ -55,7 +55,7 @@ private:
     const TimerFunction function_;
     const std::chrono::milliseconds interval_;
     std::mutex mutex_;
-    asio::steady_timer timer_; // Under the mutex.
+    asio::steady_timer timer_; // Guarded by mutex_.
 };
 
 class ClockTimer final : public Timer {

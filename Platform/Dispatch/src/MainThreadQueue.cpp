@@ -13,7 +13,7 @@ namespace velmar {
 
 struct MainThreadQueue::Loop {
     asio::io_context context;
-    // Keeps the context from stopping when nothing waits.
+    // Keeps the context from stopping when nothing is pending.
     asio::executor_work_guard<asio::io_context::executor_type> work{context.get_executor()};
 };
 

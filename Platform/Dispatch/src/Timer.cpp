@@ -7,7 +7,7 @@ namespace velmar {
 
 namespace {
 
-// A clock may count in milliseconds of 31 bits.
+// An implementation's clock may count milliseconds in 31 bits.
 constexpr std::chrono::days longest(24);
 
 } // namespace

@@ -12,7 +12,7 @@ struct TimerFunction::State {
         : queue(std::move(of)), function(std::make_shared<const std::function<void()>>(std::move(run))) {}
 
     const AnyQueue queue;
-    // Held while posting, too, so that nothing uses the queue after `cancel`.
+    // Also held while posting, so that nothing uses the queue after `cancel`.
     std::mutex mutex;
     std::shared_ptr<const std::function<void()>> function; // Null when cancelled.
     bool isTickPosted = false;
@@ -60,7 +60,7 @@ void TimerFunction::run() const {
 }
 
 void TimerFunction::cancel() const {
-    // The captures are destroyed after the lock: their destructors may do anything.
+    // Destroyed after the lock is released: the destructors of the captures may use the timer.
     std::shared_ptr<const std::function<void()>> function;
     const std::lock_guard lock(state_->mutex);
     function.swap(state_->function);

@@ -29,7 +29,7 @@ void writeToStandardError(std::string_view label, const std::exception_ptr &exce
 
 void setUncaughtHandler(UncaughtHandler handler) {
     auto exchanged = handler ? std::make_shared<const UncaughtHandler>(std::move(handler)) : nullptr;
-    // Swapped, so that the former one dies after the lock.
+    // Swapped, so that the old handler is destroyed after the lock is released.
     const std::lock_guard lock(installed().mutex);
     installed().handler.swap(exchanged);
 }

@@ -9,18 +9,18 @@
 
 namespace velmar {
 
-/// A main queue or a dispatch queue, for code that only posts. Both convert to it. A main queue is referred
-/// to and must outlive the value; of a dispatch queue it is another handle. Any thread.
+/// A main queue or a dispatch queue, for code that only posts. Both convert to it. A main queue is not owned
+/// and must outlive the value; a dispatch queue is held by a handle. Thread-safe.
 class AnyQueue {
 public:
     AnyQueue(MainQueue &queue) : queue_(&queue) {}
     AnyQueue(DispatchQueue queue) : queue_(std::move(queue)) {}
 
-    /// Runs the function later, by the contract of the queue.
+    /// Runs the function later, under the contract of the queue.
     void async(std::function<void()> function) const;
 
-    /// True on the main thread if this is a main queue. Always false for a dispatch queue, which has no
-    /// thread of its own.
+    /// Returns true on the main thread if this is a main queue. Always false for a dispatch queue, which has
+    /// no thread of its own.
     [[nodiscard]] bool isCurrent() const;
 
 private:

@@ -6,21 +6,22 @@
 
 namespace velmar {
 
-/// A descriptor of the operating system that the pool watches, so that no thread waits for it. A handle:
-/// copies are the same watch, and the descriptor is closed with the last one. Any thread, one at a time.
+/// A file descriptor watched by the pool, so that no thread blocks on it. A handle: copies share the watch,
+/// and the last one closes the descriptor. Any thread, one at a time.
 class DescriptorWatch {
 public:
-    /// Takes over an open descriptor of something that can be waited for: a pipe, a socket, a process. The
-    /// label names it in reports. Throws std::system_error, with the descriptor closed, where the system has
-    /// no room for one more.
+    /// Takes ownership of an open descriptor that can be polled: a pipe, a socket or a process. The label
+    /// names the watch in reports. Throws std::system_error, and closes the descriptor, if the system cannot
+    /// watch another one.
     DescriptorWatch(int descriptor, std::string label);
 
     [[nodiscard]] int number() const;
 
-    /// Runs the function once on a thread of the pool, when there is something to read or nothing will come
-    /// any more; for a process, when it has ended. Never at once, and at no time after
-    /// DispatchQueue::shutdown; seldom too early, so that whoever finds nothing asks again. The next call
-    /// comes after this function has begun. The watch lives until then; what the function throws is reported.
+    /// Runs the function once on a pool thread when the descriptor is readable or at its end; for a process,
+    /// when it has ended. The function never runs before this call returns, nor after
+    /// DispatchQueue::shutdown. Spurious wake-ups are possible but rare: if there is nothing to read, call
+    /// again. Call again only after the function has begun. The watch lives until then. Exceptions of the
+    /// function are reported.
     void whenReadable(std::function<void()> function) const;
 
 private:

@@ -7,18 +7,18 @@
 
 namespace velmar {
 
-/// Counts what is under way and tells when nothing is. A handle: copies are the same group. A group may go
-/// while things are still under way: what was to be told is then forgotten with the last handle. Any thread.
+/// Counts operations in progress and notifies when there are none. A handle: copies share the group. When the
+/// last handle is destroyed, pending notifications are dropped. Thread-safe.
 class DispatchGroup {
 public:
     DispatchGroup();
 
     void enter() const;
-    /// Once for each `enter`; throws std::logic_error for one too many.
+    /// Balances one `enter`. Throws std::logic_error if there was none.
     void leave() const;
 
-    /// Posts the function to the queue when everything that entered has left; at once if nothing is under
-    /// way. Functions are posted in the order of `notify`, each once.
+    /// Posts the function to the queue once every `enter` has been balanced; immediately if no operation is
+    /// in progress. Functions are posted in the order of `notify`, each once.
     void notify(DispatchQueue queue, std::function<void()> function) const;
 
 private:

@@ -7,11 +7,11 @@
 
 namespace velmar {
 
-/// Timers on the steady clock, watched by the process-wide pool: they need no event loop, and a blocked main
-/// thread delays only the functions of its own queue. The clock stands still while the computer sleeps. After
-/// DispatchQueue::shutdown no timer ticks. Any thread.
+/// Makes timers on the steady clock, driven by the process-wide pool. They need no event loop; a blocked main
+/// thread delays only the functions of its own queue. The clock doesn't advance while the computer sleeps. No
+/// timer ticks after DispatchQueue::shutdown. Thread-safe.
 ///
-/// Making a timer throws std::system_error where the system has no descriptors left for the clock.
+/// Making a timer throws std::system_error if the system has no descriptors left for the clock.
 class DispatchTimerScheduler final : public TimerScheduler {
     [[nodiscard]] std::unique_ptr<Timer> start(TimerFunction function, std::chrono::milliseconds delay,
                                                std::chrono::milliseconds interval) override;

@@ -4,8 +4,8 @@
 
 namespace velmar {
 
-/// While it lives, the thread takes no signals but those of its own faults. A thread that is started
-/// meanwhile inherits that: the signals that others send stay with the main thread.
+/// Blocks all signals on the current thread, except those of its own faults, during its lifetime. A thread
+/// started meanwhile inherits the mask, so that signals from outside go to the main thread.
 class SignalsBlocked {
 public:
     SignalsBlocked() noexcept {

@@ -6,12 +6,12 @@
 
 namespace velmar {
 
-/// A value that several threads read and write, one at a time. Each access is one short call on the caller's
-/// thread; a function given to it must not call out (no observers, no other ThreadSafe, no waiting).
+/// A value that several threads read and write, one at a time. Each access is a short call on the caller's
+/// thread. A function passed in must not call out: no observers, no other ThreadSafe, no waiting.
 template <class T>
 class ThreadSafe {
 public:
-    /// The label says in a debugger whose value this is.
+    /// The label identifies the value in a debugger.
     ThreadSafe(T value, std::string label) : value_(std::move(value)), label_(std::move(label)) {}
 
     ThreadSafe(const ThreadSafe &) = delete;
@@ -23,19 +23,19 @@ public:
     }
 
     void set(T value) {
-        // The former value dies after the lock is gone: its destructor may do anything.
+        // The old value is destroyed after the lock is released: its destructor may read this value.
         const std::lock_guard lock(mutex_);
         std::swap(value_, value);
     }
 
-    /// Gives what the function makes of the value; never a reference into it.
+    /// Returns the function's result for the value; never a reference into the value.
     template <class Function>
     auto withValue(Function &&function) const {
         const std::lock_guard lock(mutex_);
         return std::forward<Function>(function)(value_);
     }
 
-    /// Changes the value in place, as one step for all other threads; gives what the function gives.
+    /// Changes the value in place, atomically for other threads, and returns the function's result.
     template <class Function>
     auto mutate(Function &&function) {
         const std::lock_guard lock(mutex_);

@@ -7,8 +7,8 @@
 
 namespace velmar {
 
-/// The function of a timer and the queue on which it runs: the part of a timer that doesn't depend on its
-/// clock, for implementations of TimerScheduler. A handle: copies are the same function. Any thread.
+/// The function of a timer and the queue on which it runs, independent of the timer's clock. For
+/// implementations of TimerScheduler. A handle: copies share the function. Thread-safe.
 class TimerFunction {
 public:
     TimerFunction(AnyQueue queue, std::function<void()> function);
@@ -18,16 +18,16 @@ public:
     /// Posts a run to the queue.
     void post() const;
 
-    /// Posts the run of a clock's tick, unless that of an earlier tick still waits or runs. False if
-    /// cancelled: the clock can stop.
+    /// Posts the run of a clock tick, unless the run of an earlier tick is still pending or in progress.
+    /// Returns false if cancelled: the clock can stop.
     bool postTick() const;
 
-    /// Runs the function on the calling thread, which must be the queue's, unless it is cancelled. What it
-    /// throws is reported.
+    /// Runs the function on the calling thread, which must be the queue's. Does nothing if cancelled.
+    /// Exceptions of the function are reported.
     void run() const;
 
-    /// Ends the function: no run begins any more, and the queue isn't used again. The captures are destroyed
-    /// here, or by the run that is under way when that ends. Doesn't wait for it.
+    /// Cancels the function: no further run begins, and the queue is not used again. Destroys the captures;
+    /// if a run is in progress, that run destroys them when it ends. Doesn't wait for the run.
     void cancel() const;
 
 private:

@@ -7,19 +7,19 @@
 
 namespace velmar {
 
-/// Is told of an exception that left a function of a queue, a timer or another entry point, on the thread
-/// where that happened. `label` names the queue or entry point.
+/// Receives an exception that left a function of a queue, a timer or another entry point. Called on the
+/// thread of that function. `label` names the queue or entry point.
 using UncaughtHandler = std::function<void(std::string_view label, std::exception_ptr exception)>;
 
-/// Replaces the handler of the process; an empty one restores the first, which writes a line to standard
-/// error.
+/// Replaces the handler of the process. An empty handler restores the default, which writes a line to
+/// standard error. Thread-safe.
 void setUncaughtHandler(UncaughtHandler handler);
 
-/// Hands an exception to the handler. What the handler throws is dropped.
+/// Passes an exception to the handler. Exceptions of the handler itself are dropped. Thread-safe.
 void reportUncaught(std::string_view label, std::exception_ptr exception) noexcept;
 
-/// Runs the function; what it throws is reported. For every place where another thread, a loop or a library
-/// of the system calls into the program.
+/// Runs the function and reports its exceptions. Use it wherever another thread, a loop or a system library
+/// calls into the program.
 template <class Function>
 void runReportingUncaught(std::string_view label, Function &&function) noexcept {
     try {
@@ -29,7 +29,7 @@ void runReportingUncaught(std::string_view label, Function &&function) noexcept 
     }
 }
 
-/// The text of an exception for a message: what() of what derives from std::exception.
+/// Returns the text of an exception: what() if it derives from std::exception, otherwise a fixed text.
 [[nodiscard]] std::string_view textOf(const std::exception_ptr &exception);
 
 } // namespace velmar
