@@ -8,9 +8,9 @@
 
 namespace velmar {
 
-/// What the program is to render, and how.
+/// The parsed command line: the file to render, the folder for the pictures, and their form.
 struct RenderOptions {
-    /// Points.
+    /// A size in points.
     struct Size {
         int width = 0;
         int height = 0;
@@ -20,11 +20,12 @@ struct RenderOptions {
     std::string directory;
     bool isDark = false;
     std::optional<Size> size;
-    double scale = 1; ///< Pixels a point.
+    double scale = 1; ///< Pixels per point.
     std::optional<std::string> language;
     std::vector<std::pair<std::string, std::string>> variables; ///< Names and values.
 
-    /// Of the arguments without the program's name. Throws std::invalid_argument with a sentence.
+    /// Parses the arguments without the program's name. Throws std::invalid_argument with a sentence for the
+    /// user.
     [[nodiscard]] static RenderOptions parse(std::span<const std::string> arguments);
 };
 

@@ -56,7 +56,7 @@ std::size_t SlidePictures::count() {
 }
 
 QImage SlidePictures::picture(std::size_t index) {
-    // What the slide before wants hidden or filled in is no matter of this one.
+    // The previous slide's hidden buttons and missing mandatory input must not affect this slide.
     center_.post(NavigationNotifications::evaluateButtonsHide);
     center_.post(NavigationNotifications::allMandatoryElementsInSlideAreValid);
     SlidesActionManager::shared()->navigateToIndex(static_cast<std::int64_t>(index));

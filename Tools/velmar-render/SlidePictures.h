@@ -17,22 +17,23 @@ namespace velmar {
 
 class DesktopAppearance;
 
-/// Pictures of what the window shows, slide by slide, by the views of the application and with their own
-/// fonts, theme and texts. It shows the configuration of the shared AppManager and needs an application with
-/// its theme. No set of actions runs and nothing is asked for. Main thread.
+/// Renders the window's content slide by slide, with the application's views, fonts, theme and texts. Shows
+/// the configuration of the shared AppManager. Requires a QApplication with the theme installed. Runs no
+/// action sets and asks for no input. Main thread.
 class SlidePictures {
 public:
-    /// The appearance must outlive the pictures.
+    /// The appearance must outlive this object.
     SlidePictures(QSize size, const DesktopAppearance &appearance);
 
-    /// The size in which the window opens, in points; a window over the whole screen is one of 1280x800.
+    /// Returns the initial size of the window in points; 1280x800 for a full-screen window.
     [[nodiscard]] static QSize sizeOfWindow();
 
-    /// The slides of the configuration's mode; with "MenuBar" the one below the menu bar.
+    /// Returns the number of slides in the configuration's mode; 1 for "MenuBar", whose only slide is below
+    /// the menu bar.
     [[nodiscard]] static std::size_t count();
 
-    /// The slide at an index below `count()`, as if the user had come to it by the buttons; mandatory
-    /// elements hold nobody back. Null if there is no memory for a picture of that size.
+    /// Returns the slide at an index below `count()`, as reached by the navigation buttons. Mandatory
+    /// elements don't prevent the navigation. Null if there is not enough memory for the picture.
     [[nodiscard]] QImage picture(std::size_t index);
 
 private:
@@ -47,7 +48,7 @@ private:
     NoTermination termination_;
     std::istringstream input_; // Empty.
     TerminalServices services_;
-    std::unique_ptr<VelmarViewController> view_; // Before what it uses goes.
+    std::unique_ptr<VelmarViewController> view_; // Last: destroyed before the objects it uses.
 };
 
 } // namespace velmar

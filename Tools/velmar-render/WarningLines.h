@@ -11,8 +11,8 @@
 
 namespace velmar {
 
-/// Prints what the application would log as a warning or worse on standard error, each text once, in lines as
-/// those of `velmarctl check`.
+/// Prints the application's log records from warning upwards on standard error, each text once, in the format
+/// of `velmarctl check`.
 class WarningLines final : public BaseDestination {
 public:
     explicit WarningLines(std::string file)

@@ -1,8 +1,8 @@
 // velmar-render FILE DIRECTORY [--dark] [--size WxH] [--scale N] [--language CODE] [--var NAME=VALUE]...
 //
-// Makes the pictures of `velmarctl render`, which has checked the file, and ends with it. It prints the name
-// of each picture on standard output once it is in the directory, and complaints on standard error; it ends
-// with 0 if all were made.
+// Makes the pictures for `velmarctl render`, which checks the file first, and ends when velmarctl ends.
+// Prints the name of each picture on standard output once the picture is in the directory, and errors on
+// standard error. The exit status is 0 if all pictures were made.
 
 #include "RenderOptions.h"
 #include "SlidePictures.h"
@@ -43,7 +43,7 @@ namespace {
 
 constexpr qint64 mostPixels = 100'000'000;
 
-/// The display is none, and nothing of the user's desktop has a say but its fonts.
+/// Selects rendering without a display, and clears the Qt settings of the user's desktop.
 void prepareEnvironment(double scale) {
     for (const char *name : {"QT_FONT_DPI", "QT_QPA_PLATFORMTHEME", "QT_SCREEN_SCALE_FACTORS",
                              "QT_SCALE_FACTOR_ROUNDING_POLICY", "QT_STYLE_OVERRIDE", "QT_USE_PHYSICAL_DPI"}) {
@@ -114,10 +114,10 @@ int run(int argumentCount, char **arguments) {
         const RenderOptions options = RenderOptions::parse(texts);
         const ScopedDestinations log({std::make_shared<WarningLines>(options.file)});
         prepareEnvironment(options.scale);
-        DesktopAppearance appearance; // The style of the application uses it to the end.
+        DesktopAppearance appearance; // Outlives the application, whose style uses it.
         appearance.setPrefersDark(options.isDark);
         appearance.setAnimated(false);
-        int ownArguments = std::min(argumentCount, 1); // The toolkit knows options of the same names.
+        int ownArguments = std::min(argumentCount, 1); // Qt has options of the same names.
         const QApplication application(ownArguments, arguments);
         Theme::install(appearance);
         Localization::install(localeOf(options));
@@ -134,8 +134,8 @@ int run(int argumentCount, char **arguments) {
 } // namespace velmar
 
 int main(int argumentCount, char **arguments) {
-    // The tool's process group is not ours: an interrupt of the user reaches the tool alone. It is the end of
-    // the thread that has launched us that counts, one of the tool's workers, which live as long as the tool.
+    // velmarctl runs in another process group, so an interrupt by the user reaches only velmarctl. The signal
+    // is sent when the launching thread ends: a worker thread that lives as long as velmarctl.
     ::prctl(PR_SET_PDEATHSIG, SIGTERM);
     return velmar::run(argumentCount, arguments);
 }

@@ -7,7 +7,7 @@
 
 namespace velmar {
 
-/// "velmarctl check": says what the application would do with files as its configuration.
+/// "velmarctl check": reports how the application would treat files as its configuration.
 class CheckCommand final : public Command {
 public:
     explicit CheckCommand(CLI::App &commandLine);

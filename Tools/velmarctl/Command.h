@@ -11,11 +11,11 @@ namespace velmar {
 
 class IdentityAuthority;
 
-/// What the program ends with.
+/// The exit status of the program.
 enum class ExitStatus {
     succeeded = 0,
     refused = 1, ///< The application would refuse a file, or an expression has no value.
-    failed = 2,  ///< Used wrongly, or the output could not be written.
+    failed = 2,  ///< Wrong usage, or the output could not be written.
 };
 
 /// The environment that a command runs in.
@@ -23,21 +23,21 @@ struct CommandEnvironment {
     const IdentityAuthority &authority;
     std::istream &in;
     std::ostream &out; ///< Results.
-    std::ostream &err; ///< Complaints.
+    std::ostream &err; ///< Errors and warnings.
 };
 
-/// One of the program's commands. It declares itself on the command line that it is made with, whose parser
-/// fills its options: both stay where they are until it has run.
+/// A command of the program. The constructor adds the command to the given command line, whose parser fills
+/// the command's options: neither may be moved or destroyed before the command has run.
 class Command {
 public:
     Command(const Command &) = delete;
     Command &operator=(const Command &) = delete;
     virtual ~Command() = default;
 
-    /// Whether the command line, once parsed, names this command.
+    /// Returns whether the parsed command line names this command.
     [[nodiscard]] bool isNamed() const;
 
-    /// Never throws for what a file or an input holds.
+    /// Runs the command. Doesn't throw because of file or input content.
     [[nodiscard]] virtual ExitStatus run(const CommandEnvironment &environment) const = 0;
 
 protected:

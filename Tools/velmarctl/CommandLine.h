@@ -7,8 +7,7 @@
 
 namespace velmar {
 
-/// Carries out a command line, which is given without the program's name. Complaints about the command line
-/// itself and about the output go to `err`, too.
+/// Runs a command line, given without the program's name. Errors of usage and of output go to `err` too.
 [[nodiscard]] ExitStatus runCommandLine(std::vector<std::string> arguments,
                                         const CommandEnvironment &environment);
 

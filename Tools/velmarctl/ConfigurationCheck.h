@@ -11,27 +11,27 @@ namespace velmar {
 struct Configuration;
 class IdentityAuthority;
 
-/// Says what the application would do with a file as its configuration, by the application's own admission
+/// Reports how the application would treat a file as its configuration, using the application's own admission
 /// and decoding.
 class ConfigurationCheck {
 public:
     struct Options {
-        bool admission = true; ///< Whether owner and permissions count.
-        bool strict = false;   ///< Whether warnings are errors.
+        bool admission = true; ///< Whether owner and permissions are checked.
+        bool strict = false;   ///< Whether warnings are reported as errors.
     };
 
     struct Report {
-        /// What there is to say, in the order of the lines.
+        /// In the order of the lines.
         std::vector<Diagnostic> diagnostics;
-        /// Null if the application would refuse the file, for which there is an error then.
+        /// Null if the application would refuse the file. `diagnostics` then holds an error.
         std::shared_ptr<const Configuration> configuration;
     };
 
-    /// The authority must outlive the check.
+    /// The authority must outlive this object.
     ConfigurationCheck(Options options, const IdentityAuthority &authority);
 
-    /// Of very many warnings the first 1000 stand for all. The process's log is turned to the diagnostics
-    /// meanwhile.
+    /// Checks a file. Keeps at most the first 1000 warnings. The process's log is redirected to the
+    /// diagnostics during the call.
     [[nodiscard]] Report check(const std::string &file) const;
 
 private:

@@ -4,7 +4,7 @@
 
 namespace velmar {
 
-/// Writes the keys of a configuration as Markdown: a table for each item, made from the declarations.
+/// Writes the keys of a configuration as Markdown, one table per item, generated from the declarations.
 void writeReference(std::ostream &out);
 
 } // namespace velmar

@@ -4,9 +4,9 @@
 
 namespace velmar {
 
-/// The JSON Schema (draft 2020-12) of a configuration, made from the declarations of its keys. It describes
-/// the file as the JSON of the same structure. What an item checks across its keys' values, such as the sum
-/// of the ratios of a slide, and references between the parts of the file are beyond it.
+/// Writes the JSON Schema (draft 2020-12) of a configuration, generated from the declarations of its keys. It
+/// describes the file as JSON of the same structure. It doesn't cover checks across the values of an item,
+/// such as the sum of a slide's ratios, or references between parts of the file.
 void writeSchema(std::ostream &out);
 
 } // namespace velmar

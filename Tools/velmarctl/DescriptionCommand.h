@@ -7,7 +7,7 @@
 
 namespace velmar {
 
-/// A command that prints what a configuration may hold, in one form: "velmarctl schema", "velmarctl
+/// A command that prints a description of the configuration format: "velmarctl schema" or "velmarctl
 /// reference".
 class DescriptionCommand final : public Command {
 public:

@@ -10,7 +10,7 @@ namespace velmar {
 
 class EvaluationContext;
 
-/// "velmarctl eval": says what a condition gives, and why.
+/// "velmarctl eval": prints the value of a condition and, on request, how it was reached.
 class EvalCommand final : public Command {
 public:
     explicit EvalCommand(CLI::App &commandLine);

@@ -7,18 +7,19 @@
 
 namespace velmar {
 
-/// Reads a stream line by line as it comes, and never holds more of it than the longest line allowed.
+/// Reads a stream line by line as it arrives. Its memory is bounded by the maximum line length.
 class LineReader {
 public:
     /// The stream must outlive the reader.
     LineReader(std::istream &in, std::size_t longestLine);
 
-    /// Reads the next line; false at the end of the stream, and then the line is not to be used.
+    /// Reads the next line. Returns false at the end of the stream; `line` and `isTooLong` are then
+    /// meaningless.
     [[nodiscard]] bool next();
 
-    /// Without its line feed; empty if it is too long.
+    /// The line without its line feed; empty if it is too long.
     [[nodiscard]] const std::string &line() const { return line_; }
-    /// Whether the line was passed over because it has more bytes than allowed.
+    /// Whether the line was skipped because it exceeds the maximum length.
     [[nodiscard]] bool isTooLong() const { return isTooLong_; }
 
 private:

@@ -7,8 +7,8 @@
 
 namespace velmar {
 
-/// "velmarctl render": makes a picture of each slide, by the application's own views in a process of their
-/// own.
+/// "velmarctl render": makes a picture of each slide, using the application's own views in a separate
+/// process.
 class RenderCommand final : public Command {
 public:
     explicit RenderCommand(CLI::App &commandLine);

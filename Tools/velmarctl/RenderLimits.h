@@ -2,14 +2,14 @@
 
 #include <string>
 
-/// What pictures may be made, for the command and for the program that makes them. Each gives a sentence
-/// about what is wrong with a text, or nothing.
+/// Limits for pictures, shared by the command and the renderer. Each function returns a sentence about the
+/// fault of a text, or an empty text.
 namespace velmar::RenderLimits {
 
-/// A size is WxH in points.
+/// Checks a size, WxH in points.
 [[nodiscard]] std::string sizeProblem(const std::string &text);
 
-/// A scale is the number of pixels a point.
+/// Checks a scale, in pixels per point.
 [[nodiscard]] std::string scaleProblem(const std::string &text);
 
 } // namespace velmar::RenderLimits

@@ -8,7 +8,7 @@
 
 namespace velmar {
 
-/// "velmarctl run-set": runs one set of actions of a configuration, to be tried.
+/// "velmarctl run-set": runs one set of actions of a configuration on trial.
 class RunSetCommand final : public Command {
 public:
     explicit RunSetCommand(CLI::App &commandLine);
