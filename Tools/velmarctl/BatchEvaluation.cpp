@@ -20,7 +20,7 @@ namespace {
 
 using simdjson::dom::element;
 
-// Why a line is none that can be answered with a value.
+// The reason why a line is not a valid request.
 class LineError final : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
@@ -81,7 +81,7 @@ Request requestOf(element root, const EvaluationContext &context) {
 
 std::string errorAnswer(const std::string &text) {
     using nlohmann::json;
-    // As plain characters: the answers may be looked at on a terminal.
+    // ASCII only: the answers may be printed on a terminal.
     return fmt::format(R"({{"error": {}}})", json(text).dump(-1, ' ', true, json::error_handler_t::replace));
 }
 
@@ -92,7 +92,7 @@ std::string answer(simdjson::dom::parser &parser, const std::string &line, const
         return evaluation.value ? fmt::format(R"({{"value": {}}})", *evaluation.value)
                                 : errorAnswer(evaluation.failure);
     } catch (const std::exception &error) {
-        return errorAnswer(error.what()); // One line's trouble is no other's.
+        return errorAnswer(error.what()); // An error in a line must not affect the others.
     }
 }
 

@@ -28,7 +28,7 @@ std::unique_ptr<Command> make(CLI::App &commandLine) {
     return std::make_unique<Made>(commandLine);
 }
 
-// In the order of the help.
+// In the order of the help text.
 constexpr MakeCommand allCommands[] = {
     &make<CheckCommand>,
     &make<EvalCommand>,
@@ -55,13 +55,13 @@ ExitStatus run(std::vector<std::string> arguments, const CommandEnvironment &env
     }
 
     try {
-        std::ranges::reverse(arguments); // CLI11 takes them from the back.
+        std::ranges::reverse(arguments); // CLI11 takes the arguments from the back.
         app.parse(std::move(arguments));
     } catch (const CLI::ParseError &error) {
         return app.exit(error, environment.out, environment.err) == 0 ? ExitStatus::succeeded
                                                                       : ExitStatus::failed;
     }
-    // The parser requires one.
+    // The parser requires exactly one command.
     return (*std::ranges::find_if(commands, [](const auto &command) { return command->isNamed(); }))
         ->run(environment);
 }

@@ -28,10 +28,10 @@ namespace {
 
 using Severity = Diagnostic::Severity;
 
-// More warnings say no more.
+// Further warnings are only counted.
 constexpr std::size_t mostWarnings = 1000;
 
-// What the application would log beside refusing the file, such as the owner that it found.
+// Collects log records beside the error, such as the owner found.
 class RecordingDestination final : public BaseDestination {
 public:
     RecordingDestination()
@@ -49,7 +49,7 @@ public:
 
 void admit(const ConfigurationFile &file, const std::string &path, const ConfigurationCheck::Options &options,
            const IdentityAuthority &authority) {
-    // The application doesn't find such a file in the first place, and so never judges it.
+    // The application doesn't find such a file and therefore doesn't check it.
     if (!FileManager::defaultManager().fileExists(path)) {
         throw VelmarError(VelmarError::MissingConfigurationFile{URL::file(path).absoluteString()});
     }
@@ -65,7 +65,7 @@ Diagnostic makeDiagnostic(Severity severity, std::string message) {
     return diagnostic;
 }
 
-// Null if the file is refused.
+// Returns null if the file is refused.
 std::shared_ptr<const Configuration> decode(const ConfigurationFile &file, const IdentityAuthority &authority,
                                             std::vector<Diagnostic> &diagnostics) {
     const std::string bytes = file.content();
@@ -123,7 +123,7 @@ std::shared_ptr<const Configuration> decode(const ConfigurationFile &file, const
     return configuration;
 }
 
-// Leaves the first warnings, and every error.
+// Keeps all errors and the first warnings.
 void limitWarnings(std::vector<Diagnostic> &diagnostics) {
     std::size_t warnings = 0;
     const std::size_t more = std::erase_if(diagnostics, [&](const Diagnostic &diagnostic) {
@@ -153,7 +153,7 @@ ConfigurationCheck::Report ConfigurationCheck::check(const std::string &file) co
             report.configuration = decode(configurationFile, authority_, diagnostics);
         } catch (const VelmarError &error) {
             diagnostics.push_back(makeDiagnostic(Severity::error, error.errorDescription()));
-            diagnostics.back().notes.swap(log->lines); // One fault, whose reason is in the log.
+            diagnostics.back().notes.swap(log->lines); // The log gives the reason for this error.
         }
     }
     for (std::string &line : log->lines) {

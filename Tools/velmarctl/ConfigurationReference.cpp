@@ -19,7 +19,7 @@ namespace {
 
 using Kind = ValueDescription::Kind;
 
-/// The heading's anchor, as the usual renderings of Markdown make it.
+/// Returns the anchor of a heading, as common Markdown renderers generate it.
 std::string anchorOf(std::string_view typeName) {
     std::string anchor;
     for (const char letter : typeName) {

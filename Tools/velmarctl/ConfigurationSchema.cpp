@@ -62,7 +62,7 @@ ordered_json given(std::string_view key) {
     return {{"required", ordered_json::array({key})}};
 }
 
-/// At least one of the keys.
+/// Requires at least one of the keys.
 ordered_json anyGiven(const std::vector<ConfigCodingKey> &keys) {
     ordered_json alternatives = ordered_json::array();
     for (const ConfigCodingKey &key : keys) {
@@ -79,7 +79,7 @@ ordered_json allGiven(const std::vector<ConfigCodingKey> &keys) {
     return {{"required", std::move(names)}};
 }
 
-/// What a key asks of its siblings; null where it asks nothing.
+/// Returns the constraint of a key on its siblings; null if there is none.
 ordered_json ruleOf(std::string_view key, const Requirement &requirement) {
     switch (requirement.type) {
     case RequirementType::requiredIfSpecified:

@@ -47,7 +47,7 @@ void writeJSON(std::ostream &out, std::span<const Diagnostic> diagnostics) {
             {"notes", diagnostic.notes},
         });
     }
-    // A file's name need not be UTF-8; and this list, too, may be looked at on a terminal.
+    // A file name need not be UTF-8. ASCII only, because the list may be printed on a terminal.
     out << list.dump(2, ' ', true, ordered_json::error_handler_t::replace) << '\n';
 }
 

@@ -78,7 +78,7 @@ ExitStatus EvalCommand::evaluate(const EvaluationContext &context,
     } catch (const LocalizedError &error) {
         failure = error.errorDescription();
     }
-    environment.out.flush(); // What was explained stands before its end.
+    environment.out.flush(); // The explanation comes before the error.
     environment.err << printable(failure, "\n    ") << '\n';
     return ExitStatus::refused;
 }

@@ -15,47 +15,46 @@ namespace velmar {
 
 struct Configuration;
 
-/// A named condition and its value; none where its evaluation failed.
+/// A named condition and its value; absent if its evaluation failed.
 struct NamedValue {
     std::string name;
-    const expressions::Expression *condition; ///< Of the configuration of the context.
+    const expressions::Expression *condition; ///< Owned by the context's configuration.
     std::optional<bool> value;
     std::string failure;
 };
 
-/// How the evaluation of an expression went.
+/// The outcome of evaluating an expression.
 struct Evaluation {
-    std::vector<NamedValue> conditions; ///< Every named condition that is not replaced, by name.
-    /// As Expression::evaluate() tells them; none where a named condition failed.
+    std::vector<NamedValue> conditions; ///< All named conditions that are not overridden, by name.
+    /// The steps reported by Expression::evaluate(). Empty if a named condition failed.
     std::vector<expressions::Step> steps;
-    std::optional<bool> value; ///< None where the evaluation failed.
-    std::string failure;       ///< The language's own text, behind the condition's key path if one failed.
+    std::optional<bool> value; ///< Absent if the evaluation failed.
+    std::string failure;       ///< The evaluator's error, after the key path of the failed condition if any.
 };
 
-/// What an expression is evaluated over: the variables with which the application would begin, the named
-/// conditions, and what the administrator gives in their place.
+/// The input of an evaluation: the variables of the application at start, the named conditions, and the
+/// values that override them.
 ///
-/// Values are compared as they stand, "${NAME}" in them included: they are populated where they are shown,
-/// not where they are kept.
+/// Values are compared literally, including any "${NAME}": the application populates values where they are
+/// displayed, not where they are stored.
 class EvaluationContext {
 public:
     EvaluationContext() = default;
-    /// With the variables of the configuration, the names that its keys declare (empty at first), and its
-    /// named conditions.
+    /// Takes the variables of the configuration, the variables declared by its keys (initially empty), and
+    /// its named conditions. The configuration must not be null.
     explicit EvaluationContext(std::shared_ptr<const Configuration> configuration);
 
-    /// Gives a variable, named bare or as `${NAME}`, its value, in place of any variable or named condition
-    /// of that name.
+    /// Sets a variable, named bare or as `${NAME}`. Overrides a variable or named condition of that name.
     void set(std::string_view name, std::string value);
 
     [[nodiscard]] const Variables &variables() const { return variables_; }
 
-    /// As the application would: a named condition that fails fails every evaluation, and named conditions
-    /// don't see each other.
+    /// Evaluates the expression as the application does: a failed named condition fails every evaluation, and
+    /// named conditions don't see each other.
     [[nodiscard]] Evaluation evaluate(const expressions::Expression &expression) const;
 
 private:
-    std::shared_ptr<const Configuration> configuration_; // Null without.
+    std::shared_ptr<const Configuration> configuration_; // Null if default-constructed.
     Variables variables_;
     boost::unordered_flat_set<std::string, VariableNameHash, VariableNameEqual> given_;
 };

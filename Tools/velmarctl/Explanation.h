@@ -6,10 +6,10 @@
 
 namespace velmar {
 
-/// Prints what led to the value of an expression, in aligned columns, and an empty line: each named condition
-/// with its value, its text, the values of its variables and its failure; then the parts of the expression,
-/// one a line and indented by brackets, with the value of each ("failed" where the evaluation ended, "-"
-/// where it did not come to) and with the values of its variables. Long texts are cut.
+/// Prints how the value of an expression was reached, in aligned columns, followed by an empty line. First
+/// each named condition with its value, its text, the values of its variables and its error. Then the parts
+/// of the expression, one per line and indented by brackets, with the value of each part ("failed" if the
+/// evaluation ended there, "-" if it was not reached) and the values of its variables. Long texts are cut.
 void writeExplanation(std::ostream &out, const expressions::Expression &expression,
                       const Evaluation &evaluation, const EvaluationContext &context);
 

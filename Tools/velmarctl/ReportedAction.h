@@ -12,29 +12,29 @@
 
 namespace velmar {
 
-/// What is shared by all that goes on while a set of actions is tried: it lives as long as the last of it.
-/// Any thread.
+/// State shared by everything that takes part in a rehearsal of an action set; lives as long as its last
+/// user. Thread-safe.
 class RehearsalRecord {
 public:
-    /// The stream must live until the rehearsal is over.
+    /// The stream must outlive the object or the call of `close`, whichever comes first.
     explicit RehearsalRecord(std::ostream &out) : out_(out) {}
 
-    /// Prints a line, whole and at once.
+    /// Prints a line in one piece and flushes it.
     void line(std::string_view text);
-    /// Prints what belongs to an action.
+    /// Prints an indented line about an action.
     void detail(std::string_view text);
 
-    /// Takes no more lines: whoever has the stream goes on.
+    /// Ignores all further lines. The stream is not used after this call.
     void close();
 
     std::atomic<int> madeActions{0};
     std::atomic<int> runningActions{0};
-    std::atomic<bool> hasFailed{false};    ///< An action.
-    std::atomic<bool> isOver{false};       ///< Nobody holds the completion handler any more.
+    std::atomic<bool> hasFailed{false};    ///< An action failed.
+    std::atomic<bool> isOver{false};       ///< The completion handler was released.
     std::atomic<bool> hasCompleted{false}; ///< The completion handler was called.
-    MainThreadQueue mainQueue;             ///< Of the thread that runs the rehearsal.
+    MainThreadQueue mainQueue;             ///< Belongs to the thread that runs the rehearsal.
 
-    /// Has the main thread look again at where things stand.
+    /// Wakes the main thread to re-evaluate whether the set is over.
     void changed() {
         mainQueue.async([] {});
     }
@@ -45,7 +45,7 @@ private:
     bool isClosed_ = false;
 };
 
-/// An action that says when it starts, how it has ended and how long it took.
+/// An action that reports its start, its outcome and its duration.
 class ReportedAction final : public Dispatchable {
 public:
     ReportedAction(std::shared_ptr<Dispatchable> action, std::string name,

@@ -11,21 +11,21 @@ namespace velmar {
 
 struct Configuration;
 
-/// Runs one set of actions of a configuration without the interface, by the application's own dispatcher and
-/// actions, and prints what happens as it happens: each action with its start, outcome and time, and the
-/// lines of the log. What needs the interface is said and not done; alerts are put to the terminal.
+/// Runs an action set of a configuration without the interface, using the application's own dispatcher and
+/// actions. Prints each action's start, outcome and duration, and the log lines, as they occur. Actions that
+/// need the interface are reported but not done; alerts are presented on the terminal.
 class SetRehearsal {
 public:
-    /// The streams must outlive the rehearsal. The set must exist.
+    /// The streams must outlive this object. `set` must be the index of an existing set.
     SetRehearsal(std::shared_ptr<const Configuration> configuration, std::size_t set, std::istream &in,
                  std::ostream &out);
     ~SetRehearsal();
 
-    /// In place of what the configuration gives the variable at the start.
+    /// Sets a variable, overriding its initial value in the configuration.
     void setVariable(std::string_view name, std::string value);
 
-    /// Once. Returns when nothing of the set can happen any more; true if it ran to its end and no action of
-    /// it failed. Whatever the set changes on this computer stays changed.
+    /// Runs the set and returns when nothing of it can run any more; true if it ran to its end and no action
+    /// failed. Must be called once only. Changes that the set makes to the computer are permanent.
     [[nodiscard]] bool run();
 
 private:

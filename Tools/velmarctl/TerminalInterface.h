@@ -16,17 +16,17 @@
 
 namespace velmar {
 
-/// Where a line about what an action does goes. Any thread.
+/// Receives a line about the effect of an action. Thread-safe.
 using SayLine = std::function<void(const std::string &line)>;
 
-/// Puts alerts to whoever sits at the terminal: a line of the input is the number of a button, counted from
-/// 1; anything else, the end of the input included, stands for the first button.
+/// Presents alerts on the terminal. An input line is the number of a button, counted from 1. Any other input,
+/// including its end, selects the first button.
 class TerminalAlertPresenter final : public AlertPresenter {
 public:
     /// The queue and the input must outlive the presenter.
     TerminalAlertPresenter(MainQueue &mainQueue, std::istream &in, SayLine say);
 
-    /// Any file that can be read.
+    /// Accepts any readable regular file.
     [[nodiscard]] std::shared_ptr<const AlertIcon> icon(const std::string &path) const override;
     void present(Alert alert, Completion completion) override;
     std::size_t runModal(const Alert &alert) override;
@@ -37,7 +37,7 @@ private:
     SayLine say_;
 };
 
-/// Says what would be copied.
+/// Reports the text instead of copying it.
 class TerminalPasteboard final : public SimplePasteboard {
 public:
     explicit TerminalPasteboard(SayLine say) : say_(std::move(say)) {}
@@ -47,7 +47,8 @@ private:
     SayLine say_;
 };
 
-/// Says what would be played. Files are looked for, names are all taken as known.
+/// Reports the sound instead of playing it. Sound files must be readable; every name without a slash is
+/// accepted.
 class TerminalSoundPlayer final : public SoundPlayer {
 public:
     /// The queue must outlive the player.
@@ -61,7 +62,7 @@ private:
     SayLine say_;
 };
 
-/// Says which window would be opened.
+/// Reports the windows instead of opening and closing them.
 class TerminalWindows final : public SlideWindowPresenter {
 public:
     explicit TerminalWindows(SayLine say) : say_(std::move(say)) {}
@@ -72,10 +73,10 @@ private:
     SayLine say_;
 };
 
-/// Says what would be shown. Nobody answers.
+/// Reports the notification instead of showing it. The delegate is never called.
 class TerminalUserNotifications final : public UserNotifications {
 public:
-    /// The queue must outlive it.
+    /// The queue must outlive this object.
     TerminalUserNotifications(MainQueue &mainQueue, SayLine say)
         : mainQueue_(mainQueue), say_(std::move(say)) {}
     void setDelegate(std::weak_ptr<UserNotificationsDelegate> /*delegate*/) override {}
@@ -94,7 +95,7 @@ public:
     }
 };
 
-/// Says which slide would be shown.
+/// Reports the target slide instead of showing it.
 class TerminalSlides final : public SlideNavigationObserver {
 public:
     explicit TerminalSlides(SayLine say) : say_(std::move(say)) {}

@@ -11,8 +11,7 @@
 
 namespace velmar {
 
-/// The services of a process without the interface. A request to the desktop becomes a line that says so
-/// instead.
+/// The services of a process without an interface. A request to the desktop is reported as a line instead.
 class TerminalServices {
 public:
     /// The queue and the input must outlive the services.

@@ -9,7 +9,7 @@
 
 namespace velmar {
 
-/// Adds "--var NAME=VALUE", any number of times, to a command's options.
+/// Adds the repeatable option "--var NAME=VALUE" to a command's options.
 inline void addVariableOption(CLI::App &options, std::vector<std::string> &variables) {
     options.add_option("--var", variables, "Give a variable a value; wins over the configuration")
         ->type_name("NAME=VALUE")
@@ -21,7 +21,7 @@ inline void addVariableOption(CLI::App &options, std::vector<std::string> &varia
         });
 }
 
-/// The name and the value that a text of the option gives.
+/// Splits a value of the option into name and value.
 [[nodiscard]] inline std::pair<std::string_view, std::string_view> assignmentOf(std::string_view text) {
     const std::size_t end = text.find('=');
     return {text.substr(0, end), text.substr(end + 1)};
