@@ -30,8 +30,8 @@ public:
     /// The authority must outlive this object.
     ConfigurationCheck(Options options, const IdentityAuthority &authority);
 
-    /// Checks a file. Keeps at most the first 1000 warnings. The process's log is redirected to the
-    /// diagnostics during the call.
+    /// Checks a file. Reports at most 1000 warnings; a note counts the omitted ones. The process's log is
+    /// redirected to the diagnostics during the call.
     [[nodiscard]] Report check(const std::string &file) const;
 
 private:

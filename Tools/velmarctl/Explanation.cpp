@@ -24,18 +24,18 @@ using expressions::Expression;
 using expressions::ExpressionElement;
 using expressions::Operand;
 
-// In columns of a terminal.
+// Widths in columns of a terminal.
 constexpr std::size_t longestPart = 60;
 constexpr std::size_t longestValue = 40;
 constexpr std::size_t longestFailure = 120;
 
-constexpr std::size_t deepestLevel = 16; // Further brackets are not indented.
+constexpr std::size_t deepestLevel = 16; // Deeper brackets are not indented further.
 
 constexpr std::string_view failed = "failed";
 constexpr std::string_view notReached = "-";
 
 struct Row {
-    std::size_t level = 0; // Of indentation.
+    std::size_t level = 0; // Indentation level.
     std::string part;
     std::string_view value;
     std::string details;
@@ -79,8 +79,8 @@ private:
     std::vector<Row> rows_;
 };
 
-// The values that the variables among elements have, each once, behind a separator each. `conditions` are
-// those that the elements see.
+// Returns the values of the variables among the elements, each variable once, joined by the separator.
+// `conditions` are the named conditions visible to the elements.
 std::string valuesText(std::span<const ExpressionElement> elements, std::span<const NamedValue> conditions,
                        const EvaluationContext &context, std::string_view separator) {
     std::string values;

@@ -8,8 +8,8 @@
 
 namespace velmar {
 
-/// Number of leading elements that form one operand: up to 3 for a comparison, otherwise 1. `elements` must
-/// not be empty.
+/// Returns the number of leading elements that are evaluated together: up to 3 for a comparison, otherwise 1.
+/// `elements` must not be empty.
 [[nodiscard]] inline std::size_t partLength(std::span<const expressions::ExpressionElement> elements) {
     const bool isComparison = std::holds_alternative<expressions::Operand>(elements[0]) &&
                               elements.size() > 1 &&

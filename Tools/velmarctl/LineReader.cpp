@@ -24,10 +24,10 @@ bool LineReader::next() {
             return hasRead;
         }
         if (!in_.fail()) {
-            append(count - 1); // The line feed counts, too.
+            append(count - 1); // The count includes the line feed.
             return true;
         }
-        in_.clear(); // The block is full, and the line goes on.
+        in_.clear(); // The block is full before the end of the line.
         append(count);
     }
 }

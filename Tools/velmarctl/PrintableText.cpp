@@ -11,7 +11,7 @@ namespace velmar {
 
 namespace {
 
-// The length of the character that a text begins with; 0 if the text doesn't begin with one.
+// Returns the length in bytes of the first character; 0 if the text is empty or starts with invalid UTF-8.
 std::size_t characterLength(std::string_view text) {
     for (std::size_t length = 1; length <= std::min<std::size_t>(text.size(), 4); ++length) {
         if (UnicodeText::isValidUtf8(text.substr(0, length))) {
@@ -26,14 +26,14 @@ std::uint32_t codePoint(std::string_view character) {
     if (character.size() == 1) {
         return first;
     }
-    std::uint32_t value = first & (0xFFU >> (character.size() + 1)); // Without the mark of the length.
+    std::uint32_t value = first & (0xFFU >> (character.size() + 1)); // Without the length bits.
     for (const char byte : character.substr(1)) {
         value = value << 6U | (static_cast<unsigned char>(byte) & 0x3FU);
     }
     return value;
 }
 
-// Controls, separators of lines, and what changes the direction of writing.
+// Returns whether a character is a control, a line separator or a bidirectional control.
 bool steersTerminals(std::uint32_t codePoint) noexcept {
     const auto isBetween = [codePoint](std::uint32_t first, std::uint32_t last) {
         return first <= codePoint && codePoint <= last;
@@ -42,7 +42,7 @@ bool steersTerminals(std::uint32_t codePoint) noexcept {
            isBetween(0x2028, 0x202E) || isBetween(0x2066, 0x2069);
 }
 
-// The first character of a text, which is taken from it, in its printable form.
+// Removes the first character from the text and returns its printable form.
 std::string takePrintable(std::string_view &text, std::string_view lineFeed) {
     const std::size_t length = characterLength(text);
     const std::string_view character = text.substr(0, std::max<std::size_t>(length, 1));
@@ -68,7 +68,7 @@ std::string printable(std::string_view text, std::string_view lineFeed) {
 }
 
 std::string shortened(std::string_view text, std::size_t columns) {
-    const std::size_t mostBytes = 16 * columns; // Marks that combine take no columns.
+    const std::size_t mostBytes = 16 * columns; // Bounds the number of combining marks, which have no width.
     std::string result;
     std::size_t width = 0;
     while (!text.empty()) {

@@ -23,7 +23,7 @@ std::string folderProblem(const std::string &path) {
     std::error_code ignored;
     const auto kind = std::filesystem::status(path, ignored).type();
     using enum std::filesystem::file_type;
-    // What cannot be looked at the renderer cannot write to, and says so.
+    // If the status is unknown, the renderer reports why it cannot write there.
     const bool maybeFolder = kind == directory || kind == not_found || kind == none;
     return maybeFolder ? std::string() : fmt::format("'{}' already exists and is not a folder.", path);
 }
@@ -74,7 +74,7 @@ ExitStatus RenderCommand::run(const CommandEnvironment &environment) const {
         writeText(environment.out, diagnostics);
         return ExitStatus::refused;
     }
-    environment.out.flush(); // The renderer's complaints come in between.
+    environment.out.flush(); // The renderer's errors are printed after this output.
     std::promise<Result<std::string>> names;
     CommandLineService::execute(rendererPath(), argumentsOfRenderer(),
                                 [&](Result<std::string> result) { names.set_value(std::move(result)); });
@@ -88,12 +88,12 @@ ExitStatus RenderCommand::run(const CommandEnvironment &environment) const {
     for (std::string name; std::getline(lines, name); ++count) {
         environment.out << (std::filesystem::path(directory_) / name).string() << '\n';
     }
-    // Why there are fewer the renderer has said.
+    // The renderer has reported why pictures are missing.
     return count == slidesCount(*configuration) ? ExitStatus::succeeded : ExitStatus::failed;
 }
 
 std::vector<std::string> RenderCommand::argumentsOfRenderer() const {
-    // What begins with a dash is told from an option by its place.
+    // Positional arguments, so that a leading dash is not taken for an option.
     std::vector<std::string> arguments{file_, directory_};
     const auto add = [&](const char *name, const std::string &value) {
         arguments.insert(arguments.end(), {name, value});

@@ -11,7 +11,7 @@ namespace velmar::RenderLimits {
 
 namespace {
 
-constexpr int longestSide = 8192; // Points.
+constexpr int longestSide = 8192; // In points.
 constexpr double smallestScale = 0.5;
 constexpr double largestScale = 4;
 

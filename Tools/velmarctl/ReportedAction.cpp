@@ -12,7 +12,8 @@ namespace velmar {
 void RehearsalRecord::line(std::string_view text) {
     const std::lock_guard lock(mutex_);
     if (!isClosed_) {
-        out_ << printable(text, "\n      ") << std::endl; // An action may take its time.
+        out_ << printable(text, "\n      ")
+             << std::endl; // Flushed, because the next line may be long in coming.
     }
 }
 
@@ -25,7 +26,7 @@ void RehearsalRecord::close() {
     isClosed_ = true;
 }
 
-/// Ends with its action: one that goes without having told anything has not been run.
+/// Lives as long as its action. An action that ends without calling its block has not been run.
 class ReportedAction::Report {
 public:
     Report(std::string name, SuccessCompletionBlock block, std::shared_ptr<RehearsalRecord> record)
@@ -40,7 +41,8 @@ public:
         if (!hasTold_) {
             record_->line(fmt::format("{}: not run, for its condition", name_));
         }
-        // Not before what comes after the action has begun: without a running action a chain has stopped.
+        // Decremented last, after the next action of a chain has started: a chain without a running action
+        // has stopped.
         --record_->runningActions;
         record_->changed();
     }

@@ -18,7 +18,7 @@ RunSetCommand::RunSetCommand(CLI::App &commandLine)
 }
 
 ExitStatus RunSetCommand::run(const CommandEnvironment &environment) const {
-    // Always admitted: what it holds is run.
+    // Admission is always checked, because the file's actions are run.
     const ConfigurationCheck check({}, environment.authority);
     const auto [diagnostics, configuration] = check.check(configuration_);
     if (!configuration) {

@@ -24,7 +24,7 @@ namespace velmar {
 
 namespace {
 
-/// Prints what the application would log.
+/// Prints the application's log records.
 class LogLines final : public BaseDestination {
 public:
     explicit LogLines(std::shared_ptr<RehearsalRecord> record)
@@ -78,8 +78,8 @@ public:
 private:
     static constexpr std::chrono::hours forever{24 * 365};
 
-    // A parallel set lets go of its handler in the end, and so does a chain that isn't run. One that has
-    // stopped keeps it: nothing runs then, and nothing waits to.
+    // A parallel set releases its handler at the end, and so does a chain that isn't run. A stopped chain
+    // keeps its handler, but has neither running actions nor pending functions.
     [[nodiscard]] bool isOver() const {
         const bool isChained = set_.item->_type() == ActionItems::ExecutionType::chained;
         return record_->isOver ||

@@ -7,7 +7,7 @@
 #include <iostream>
 
 int main(int argumentCount, char **arguments) {
-    // Buffers of their own: what a pipe has is read at once, and nothing waits for more than there is.
+    // Unsynchronised streams: a read returns what the pipe holds instead of waiting for a full buffer.
     std::ios::sync_with_stdio(false);
     try {
         const auto status = velmar::runCommandLine(

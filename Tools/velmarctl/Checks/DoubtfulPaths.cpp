@@ -12,7 +12,7 @@ namespace velmar {
 
 namespace {
 
-// The path to judge, if any.
+// Returns the path to judge; absent if it contains "${".
 std::optional<std::string> pathOf(const std::string &path) {
     return path.find("${") == std::string::npos ? std::optional(path) : std::nullopt;
 }

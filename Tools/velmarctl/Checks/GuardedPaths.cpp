@@ -20,9 +20,9 @@ namespace {
 
 using Kind = FileAttributes::Kind;
 
-constexpr int mostLinks = 40; // As the kernel.
+constexpr int mostLinks = 40; // As in the kernel.
 
-// The steps that remain, the next one last.
+// The remaining path components, the next one last.
 using Steps = std::vector<std::filesystem::path>;
 
 void goThrough(const std::filesystem::path &path, Steps &ahead) {

@@ -16,7 +16,7 @@ namespace velmar {
 
 namespace {
 
-// The names are compared like those of variables.
+// Collects the names of custom triggers, compared like variable names.
 struct CustomTriggers final : ValueVisitor {
     void visit(const VisitedValue &value) override {
         if (const auto *const custom = value.as<ActionTrigger::Custom>()) {

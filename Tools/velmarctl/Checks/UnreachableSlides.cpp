@@ -14,7 +14,7 @@ namespace velmar {
 
 namespace {
 
-// The slides that the actions of a file lead to.
+// Collects the slides that the actions of a file navigate to, and whether an action ends the session.
 struct Jumps final : ValueVisitor {
     std::set<std::size_t> targets;
     bool areAnywhere = false;

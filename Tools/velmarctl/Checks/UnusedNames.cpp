@@ -65,7 +65,7 @@ private:
         names_.insert(names.begin(), names.end());
     }
 
-    // The use is unknown: adds the whole text, its words, and the words up to a "-".
+    // For a text of unknown use: adds the whole text and its words, both split and not split at "-".
     void addBareNames(std::string_view text) {
         names_.emplace(text);
         addWords(text, "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_");

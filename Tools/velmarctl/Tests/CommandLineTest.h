@@ -14,10 +14,10 @@
 
 namespace velmar {
 
-/// Runs command lines over files of a directory of its own.
+/// Runs command lines on files in a temporary directory.
 class CommandLineTest : public testing::Test {
 protected:
-    // The output without the directory's path, wherever it stands; the complaints are in complaints_.
+    // Returns the output, with the directory's path removed everywhere. The errors are in complaints_.
     std::string run(std::vector<std::string> arguments, ExitStatus expected, const std::string &input = {}) {
         std::istringstream in(input);
         std::ostringstream out;
@@ -35,7 +35,8 @@ protected:
 
     std::string write(std::string_view content) const { return directory_.write("x.plist", content); }
 
-    // A good file, but for the keys; `component` are further keys of its one component.
+    // Returns a configuration that is valid except for the given keys. `component` holds further keys of its
+    // only component.
     static std::string document(std::string_view keys, std::string_view component = {}) {
         return fmt::format("<plist version=\"1.0\"><dict>\n{}<key>Slides</key>\n"
                            "<array><dict><key>Containers</key><array><dict>\n"

@@ -26,7 +26,7 @@ TEST_F(CommandLineTest, SaysNothingAboutAGoodFile) {
 TEST_F(CommandLineTest, NamesTheLineAndTheKey) {
     const struct {
         std::string content;
-        const char *text; // A pattern.
+        const char *text; // A regular expression.
     } refused[] = {
         {document("<key>Window</key>\n<dict>\n<key>Title</key><string>T</string>\n</dict>\n"),
          "x.plist:3: error: Window: Missing required key 'OnScreen' at 'Window'\n"},

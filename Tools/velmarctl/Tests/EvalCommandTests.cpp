@@ -11,7 +11,7 @@ using testing::StartsWith;
 
 class EvalCommandTest : public CommandLineTest {
 protected:
-    // The output, or else the complaint.
+    // Returns the output followed by the errors.
     std::string eval(std::vector<std::string> arguments, ExitStatus expected = ExitStatus::succeeded,
                      const std::string &input = {}) {
         arguments.insert(arguments.begin(), "eval");
@@ -19,7 +19,7 @@ protected:
         return complaints_.empty() ? output : output + complaints_;
     }
 
-    // A file with variables, each given as NAME=VALUE, and conditions.
+    // Returns a file with variables, each given as NAME=VALUE, and conditions.
     std::string configuration(std::vector<std::string> variables, std::vector<std::string> conditions = {}) {
         return write(document(fmt::format("<key>General</key><dict><key>Variables</key><dict>{}</dict></dict>"
                                           "<key>Conditions</key><dict>{}</dict>",
@@ -66,7 +66,7 @@ TEST_F(EvalCommandTest, TakesVariablesAndConditionsOfAConfiguration) {
         const char *output;
     } cases[] = {
         {{"COUNT == 5 && MANY"}, "true\n"},
-        {{"RAW == true"}, "true\n"}, // Values are compared as they stand.
+        {{"RAW == true"}, "true\n"}, // Values are compared literally.
         {{"MANY", "--var", "COUNT=2"}, "false\n"},
         {{"MANY", "--var", "MANY=true", "--var", "COUNT=none"}, "true\n"},
     };
@@ -144,7 +144,8 @@ TEST_F(EvalCommandTest, AnswersEveryLine) {
         std::string line, answer;
     } rows[] = {
         {R"({"expression": "AB == \"1\"", "variables": {"AB": "1"}})", R"({"value": true})"},
-        {R"({"expression": "AB == \"1\""})", R"({"value": false})"}, // The former line's are gone.
+        {R"({"expression": "AB == \"1\""})",
+         R"({"value": false})"}, // The previous line's variables are gone.
         {"{\"expression\": \"FILE && VAR\"}\r", R"({"value": true})"},
         {R"({"expression": "FILE", "variables": {"FILE": "false", "": "", "\u0000": "\u001b"}})",
          R"({"value": false})"},

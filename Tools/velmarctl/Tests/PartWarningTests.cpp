@@ -36,12 +36,12 @@ std::string window(std::string_view slide) {
 class PartWarningTest : public CommandLineTest {
 protected:
     PartWarningTest() {
-        // Whoever runs the tests is an administrator for them.
+        // Makes the user of the test run an administrator.
         const auto account = UserAccount::numbered(geteuid());
         authority_.users[account ? account->name : ""].groups = {"admin"};
     }
 
-    // What is said about the file with these slides and further keys; the first slide begins on line 2.
+    // Returns the warnings of a file with these slides and further keys. The first slide begins on line 2.
     std::string warnings(const std::string &slides, const std::string &keys = {}) {
         return check("<plist version=\"1.0\"><dict>\n" + list("Slides", slides) + "\n" + keys +
                          "</dict></plist>",
@@ -49,7 +49,7 @@ protected:
     }
 };
 
-// One walk serves all warnings: these keys stand at every place where items are.
+// All warnings come from one walk over the file, so the keys are tested at every place where items may occur.
 TEST_F(PartWarningTest, NamesEveryKeyWithoutItsFile) {
     const std::string script = item(entry("Type", "ExecuteScript") + entry("ScriptPath", "/no/1"));
     const std::string alert =
@@ -114,7 +114,7 @@ TEST_F(PartWarningTest, DoubtsFilesThatOthersMayWrite) {
     };
     const std::string everyone = "may be written by everyone";
     struct Case {
-        std::string path, fault; // Empty for a good one.
+        std::string path, fault; // No fault if the path is good.
     };
     std::vector<Case> cases{
         {at + "good", ""},
@@ -151,7 +151,7 @@ TEST_F(PartWarningTest, DoubtsFilesThatOthersMayWrite) {
     }
 }
 
-// AB has no use but the trigger.
+// The variable AB is used only by the trigger.
 TEST_F(PartWarningTest, NamesPartsThatDoNothing) {
     const auto trigger = [](std::string_view name) {
         return item(entry("Type", "Button") + entry("Style", "Info") + entry("Trigger", name));
@@ -210,7 +210,7 @@ TEST_F(PartWarningTest, FollowsTheWaysBetweenSlides) {
         "<key>Window</key>" + item(entry("OnScreen", "MenuBar")) + "<key>MenuBarSlide</key>" + slide("");
     const struct {
         std::vector<std::string> slides;
-        std::string keys, expected; // What the warnings say that nothing leads to.
+        std::string keys, expected; // The expected fault of each unreachable slide.
     } cases[] = {
         {{slide("")}, bar, ""},
         {{slide(""), slide(""), slide("", next)}, "", ""},

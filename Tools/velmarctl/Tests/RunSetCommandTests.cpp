@@ -9,7 +9,7 @@ namespace {
 
 class RunSetCommandTest : public CommandLineTest {
 protected:
-    // The output of a set, without the times.
+    // Returns the output of a set, without the durations.
     std::string runSet(std::string_view type, std::string_view actions, ExitStatus expected,
                        const std::string &input = {}, std::string_view further = {}) {
         const std::string file = write(document(fmt::format(

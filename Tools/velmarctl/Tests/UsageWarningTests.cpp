@@ -5,8 +5,8 @@ namespace {
 
 class UsageWarningTest : public CommandLineTest {
 protected:
-    // The warnings of a file whose variables and conditions are dictionaries of these entries; both begin on
-    // line 2, the component's keys on the last one.
+    // Returns the warnings of a file whose variables and conditions are dictionaries of these entries. Both
+    // begin on line 2, and the component's keys are on the last line.
     std::string warnings(std::string_view variables, std::string_view conditions,
                          std::string_view component = {}, std::string_view keys = {}) {
         return check(document(fmt::format("<key>General</key><dict><key>Variables</key><dict>{}</dict></dict>"
@@ -53,7 +53,7 @@ TEST_F(UsageWarningTest, DoubtsConditionsThatFail) {
     const std::string variables =
         entry("TEXT", "some") + entry("COUNT", "0x1F") + entry("FLAG", "false") + entry("OTHER", "${COUNT}");
     const struct {
-        const char *condition, *message; // Of the component; none for a good one.
+        const char *condition, *message; // The component's condition; no message if it is good.
     } conditions[] = {
         {"COUNT &gt; 3 &amp;&amp; FLAG &amp;&amp; FLAG == true &amp;&amp; READY == false || READY", nullptr},
         {"TEXT == \"3\" || TEXT == COUNT || 3 == COUNT || OTHER ~= \"$\"", nullptr},

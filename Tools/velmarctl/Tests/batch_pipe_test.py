@@ -31,7 +31,7 @@ def main(program):
 
         for count in range(4):
             assert ask(line(count)) == {"value": count > 1}
-        # An answer is not held back by half a line behind it.
+        # An incomplete line must not delay the answer to the previous line.
         assert ask(line(5) + line(1)[:9]) == {"value": True}
         assert ask(line(1)[9:]) == {"value": False}
         assert ask(b"\n").keys() == {"error"}

@@ -11,7 +11,7 @@ import time
 import unittest
 
 VELMARCTL, EXAMPLES = sys.argv[1], pathlib.Path(sys.argv[2])
-# Neither a display nor a bus; the languages are those of a session.
+# No display and no bus. Tests of languages set the variables of a session.
 ENVIRONMENT = {"PATH": os.environ["PATH"], "LANG": "C.UTF-8", "DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent"}
 
 
@@ -31,7 +31,7 @@ class Render(unittest.TestCase):
         self.out = self.folder / "some" / "out"
 
     def render(self, configuration, *options, status=0, languages="", out=None):
-        """The names of the pictures that the program says it has made, and its complaints."""
+        """Returns the names of the pictures reported by the program, and its errors."""
         path = configuration
         if isinstance(configuration, dict):
             path = self.folder / "x.plist"
@@ -54,14 +54,15 @@ class Render(unittest.TestCase):
         return int.from_bytes(picture[16:20], "big"), int.from_bytes(picture[20:24], "big")
 
     def mean(self, number=1):
-        """How light the picture is, from 0 to 1."""
+        """Returns the mean lightness of the picture, from 0 to 1."""
         return float(subprocess.check_output(["convert", self.out / f"slide-{number:02}.png", "-colorspace", "Gray",
                                               "-format", "%[fx:mean]", "info:"]))
 
     def test_each_example_is_clean_and_gives_a_picture_a_slide(self):
         for path in sorted(EXAMPLES.glob("*.plist")):
             with self.subTest(example=path.name):
-                # The one with items of every kind names files of a company's own.
+                # The example with items of every kind names files that exist only on an organisation's
+                # computers.
                 if path.name != "complete.plist":
                     subprocess.run([VELMARCTL, "check", "--strict", "--no-admission", path], check=True)
                 count = len(plistlib.loads(path.read_bytes())["Slides"])
@@ -89,7 +90,8 @@ class Render(unittest.TestCase):
         self.assertEqual(first, self.picture(configuration))
         self.assertGreater(self.mean(), 0.8)
         self.assertNotEqual(first, self.picture(configuration, "--var", "NAME=Bob"))
-        # The text beside the slides makes the second one darker, which is otherwise the first with one button more.
+        # The text beside the slides makes the second picture darker, although its slide differs only by one
+        # more button.
         self.render(configuration)
         self.assertLess(self.mean(2), self.mean())
         self.picture(configuration, "--dark")
@@ -156,11 +158,11 @@ class Render(unittest.TestCase):
         at_work = []
         while not at_work and time.monotonic() < deadline:
             children = subprocess.run(["pgrep", "-P", str(render.pid)], capture_output=True, text=True).stdout.split()
-            # It is well under way when it has loaded what stands for a display.
+            # A renderer that has loaded the offscreen plugin is well under way.
             at_work = [child for child in children if "libqoffscreen" in pathlib.Path(f"/proc/{child}/maps").read_text()]
         render.send_signal(signal.SIGINT)
         render.wait()
-        # One that has ended and was not reaped has no command line.
+        # A process that has ended but was not reaped has an empty command line.
         command_line = pathlib.Path(f"/proc/{at_work[0]}/cmdline")
         while command_line.exists() and command_line.read_bytes() and time.monotonic() < deadline:
             time.sleep(0.01)

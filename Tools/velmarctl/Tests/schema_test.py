@@ -21,7 +21,7 @@ failures = []
 
 
 def with_change(file, path, value):
-    """A copy of the file with the value at the path, or without it where the value is None."""
+    """Returns a copy of the file with the value at the path, or without that path if the value is None."""
     changed = copy.deepcopy(file)
     place = changed
     for step in path[:-1]:
@@ -34,14 +34,15 @@ def with_change(file, path, value):
 
 
 def paths(value, path=()):
-    """Where each part of a file stands, the file itself left out."""
+    """Yields the path of each part of a file, except the file itself."""
     steps = value.items() if isinstance(value, dict) else enumerate(value) if isinstance(value, list) else ()
     for step, part in steps:
         yield path + (step,)
         yield from paths(part, path + (step,))
 
 
-# What only the program sees: parts that refer to each other, rules over several items, and the language of conditions.
+# Faults that only the program detects: references between parts, rules over several items, and the language
+# of conditions.
 BEYOND_SCHEMA = re.compile("has an undefined parent|[Uu]ndefined variable|boolean expression|'Slides' configuration array|"
                            "sum (for containers|of widths)|lesser than the slides count")
 FAULTS = [None, "x", "", "1", "#12", "Simple", "${A}", 0, -1, 1.5, 1.0, 1e300, 2**63, True, [], {}, [1], ["a", 1],
