@@ -43,7 +43,7 @@ namespace {
 
 constexpr qint64 mostPixels = 100'000'000;
 
-/// Selects rendering without a display, and clears the Qt settings of the user's desktop.
+/// Selects the offscreen platform and the scale, clears the desktop's Qt settings and silences Qt's messages.
 void prepareEnvironment(double scale) {
     for (const char *name : {"QT_FONT_DPI", "QT_QPA_PLATFORMTHEME", "QT_SCREEN_SCALE_FACTORS",
                              "QT_SCALE_FACTOR_ROUNDING_POLICY", "QT_STYLE_OVERRIDE", "QT_USE_PHYSICAL_DPI"}) {

@@ -16,7 +16,7 @@ namespace velmar {
 /// user. Thread-safe.
 class RehearsalRecord {
 public:
-    /// The stream must outlive the object or the call of `close`, whichever comes first.
+    /// The stream must stay valid until `close` returns.
     explicit RehearsalRecord(std::ostream &out) : out_(out) {}
 
     /// Prints a line in one piece and flushes it.

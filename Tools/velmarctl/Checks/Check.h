@@ -23,7 +23,7 @@ struct CheckedFile {
 
 /// One of the checks of `velmarctl check` that an admitted file goes through.
 struct Check {
-    std::string_view name; ///< For people: the things it warns of, in the plural.
+    std::string_view name; ///< Subject of the warnings, for display; in the plural.
     std::vector<UsageWarning> (*warnings)(const CheckedFile &file);
 };
 

@@ -210,7 +210,7 @@ TEST_F(PartWarningTest, FollowsTheWaysBetweenSlides) {
         "<key>Window</key>" + item(entry("OnScreen", "MenuBar")) + "<key>MenuBarSlide</key>" + slide("");
     const struct {
         std::vector<std::string> slides;
-        std::string keys, expected; // The expected fault of each unreachable slide.
+        std::string keys, expected; // The reported directions and slides.
     } cases[] = {
         {{slide("")}, bar, ""},
         {{slide(""), slide(""), slide("", next)}, "", ""},
