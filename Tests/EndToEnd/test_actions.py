@@ -111,7 +111,7 @@ class Actions(Scenario):
         self.addCleanup(program.unlink)
         process, screen = self.start(action_set("AppLaunch(e2e-calc)", log("calculator")))
         screen.wait_for_text("At start")
-        started = subprocess.Popen([program, "60"])
+        started = subprocess.Popen([program, "600"])
         self.addCleanup(started.wait)
         self.addCleanup(started.kill)
         self.wait_for_message("calculator")

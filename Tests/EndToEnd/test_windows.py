@@ -1,6 +1,7 @@
 """The four window modes: covered screens, other applications, changes of the screens and the panel."""
 
 import contextlib
+import itertools
 import re
 import socket
 import subprocess
@@ -52,13 +53,17 @@ def stacking():
     return [int(number, 16) for number in re.findall("0x[0-9a-f]+", root_property("_NET_CLIENT_LIST_STACKING"))]
 
 
+applications = itertools.count(1)
+
+
 @contextlib.contextmanager
 def another_application():
-    """Opens a window of another application and yields its number, after the window manager manages it."""
-    process = subprocess.Popen(["xev", "-name", "Another", "-geometry", "300x200+40+40"],
+    """A window of another application, as the number of the X server. The window manager has it when this returns."""
+    name = f"Another {next(applications)}"
+    process = subprocess.Popen(["xev", "-name", name, "-geometry", "300x200+40+40"],
                                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     try:
-        window = int(until("another application", lambda: xdotool("search", "--onlyvisible", "--name", "Another")))
+        window = int(until("another application", lambda: xdotool("search", "--onlyvisible", "--name", f"^{name}$")))
         until("the window manager", lambda: window in stacking())
         yield window
     finally:
