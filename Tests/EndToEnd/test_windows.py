@@ -58,7 +58,7 @@ applications = itertools.count(1)
 
 @contextlib.contextmanager
 def another_application():
-    """A window of another application, as the number of the X server. The window manager has it when this returns."""
+    """Opens a window of another application and yields its number, after the window manager manages it."""
     name = f"Another {next(applications)}"
     process = subprocess.Popen(["xev", "-name", name, "-geometry", "300x200+40+40"],
                                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
