@@ -12,8 +12,7 @@ namespace velmar {
 void RehearsalRecord::line(std::string_view text) {
     const std::lock_guard lock(mutex_);
     if (!isClosed_) {
-        out_ << printable(text, "\n      ")
-             << std::endl; // Flushed, because the next line may be long in coming.
+        out_ << printable(text, "\n      ") << std::endl; // The next line may come much later.
     }
 }
 

@@ -144,8 +144,7 @@ TEST_F(EvalCommandTest, AnswersEveryLine) {
         std::string line, answer;
     } rows[] = {
         {R"({"expression": "AB == \"1\"", "variables": {"AB": "1"}})", R"({"value": true})"},
-        {R"({"expression": "AB == \"1\""})",
-         R"({"value": false})"}, // The previous line's variables are gone.
+        {R"({"expression": "AB == \"1\""})", R"({"value": false})"}, // The variable is unset again.
         {"{\"expression\": \"FILE && VAR\"}\r", R"({"value": true})"},
         {R"({"expression": "FILE", "variables": {"FILE": "false", "": "", "\u0000": "\u001b"}})",
          R"({"value": false})"},
