@@ -33,8 +33,7 @@ public:
     BookCheck(const ExpressionsBook<std::string>::Models &models, const Names &others) : others_(others) {
         variables_.reserve(models.size());
         for (const auto &[name, value] : models) {
-            byName_.insert_or_assign(bareVariableName(name),
-                                     variables_.size()); // The store uses bare names too.
+            byName_.insert_or_assign(bareVariableName(name), variables_.size()); // As in the store.
             variables_.push_back({name, value});
         }
     }

@@ -8,8 +8,8 @@ namespace velmar {
 template <>
 struct IsPopulatable<URL> : std::true_type {};
 
-/// Returns the URL after the plugins, which receive its text. Returns it unchanged if their result isn't a
-/// URL.
+/// Returns a URL with placeholders after the plugins, which receive its text. Returns any other URL, and one
+/// for which their result isn't a URL, unchanged.
 [[nodiscard]] URL plugged(const URL &url);
 [[nodiscard]] inline std::optional<URL> plugged(const std::optional<URL> &url) {
     return url ? std::optional(plugged(*url)) : std::nullopt;

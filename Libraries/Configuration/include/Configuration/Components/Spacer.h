@@ -12,8 +12,7 @@ struct Spacer {
     static constexpr TypeIdentifier typeIdentifier = TypeIdentifier::spacer;
 
     ComponentItemProtocol common;
-    KeyWrapper<std::optional<double>> _height{"Height",
-                                              optional}; ///< In points; absent: the remaining height.
+    KeyWrapper<std::optional<double>> _height{"Height", optional}; ///< In points; absent: all that remains.
 };
 
 } // namespace velmar::ComponentItems
